@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The table of the four games.
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+/// 0 Generals, 1 Zero Hour, 2 The Battle for Middle-earth, 3 The Battle for Middle-earth II.
+using GameIndex = int;
+
+inline constexpr int GameCount = 4;
+
+struct GameEntry {
+    QString InstallPath;  ///< as the registry has it, with its own trailing backslash; empty: not installed
+    QString ReplayPath;   ///< ends in a backslash
+    QString MapPath;      ///< ends in a backslash
+    QString GameBigFiles; ///< the game's own archives, each between slashes
+};
+
+/// Filled once at start-up.
+extern std::array<GameEntry, GameCount> Game;
+
+/// Prefix of a game's settings keys: Gen, ZH, BFME, BFME2.
+QString SettingsPrefix(GameIndex game);

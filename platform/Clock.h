@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The time of day.
+#pragma once
+
+#include <QString>
+
+namespace Clock {
+
+/// The current date and time as the system formats them for the user, on one line.
+QString Now();
+
+/// Seconds since midnight, with their fraction.
+double SecondsOfDay();
+
+} // namespace Clock

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Files and folders by inside path. What fails raises a RuntimeError that names the path, where nothing else is said.
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace Files {
+
+/// True when asking for the file's length succeeds: a file of zero bytes exists, a folder does not.
+bool FileExists(const QString& path);
+
+/// Length in bytes. Raises 53 when there is no such file.
+qint64 FileLength(const QString& path);
+
+bool FolderExists(const QString& path);
+
+/// Raises 75 when the folder (or a file of that name) exists already, 76 when its parent does not. A trailing backslash
+/// is allowed.
+void MakeFolder(const QString& path);
+
+/// Makes the folder and those above it; a folder that stands already is fine.
+void MakeFolders(const QString& path);
+
+/// Removes an empty folder. Raises 76 when missing, 75 when it can't be removed.
+void RemoveFolder(const QString& path);
+
+/// Deletes every file that `pattern` names ('*' and '?' in its last part). Raises 53 when there is none.
+void Delete(const QString& pattern);
+
+/// Deletes one file, a write-protected one too. Raises 53 when missing, 70 when refused.
+void DeleteForced(const QString& path);
+
+/// Copies a file over whatever stands at the target. Raises 53, 70, 75, 76, 61.
+void Copy(const QString& from, const QString& to);
+
+/// Renames or moves. Raises 53 when missing, 58 when the target exists, 75 when refused.
+void Rename(const QString& from, const QString& to);
+
+/// Renames over whatever file stands at the target, in one step.
+void Replace(const QString& from, const QString& to);
+
+/// The names in a folder that fit the pattern, in the directory's order, without "." and "..". The last part of
+/// `pattern` holds '*' and '?' (without regard to case; "*.*" and an empty last part mean everything); a pattern whose
+/// last part is plain names that one entry. Folders are left out unless `withFolders`. Empty when nothing fits.
+QStringList ListFolder(const QString& pattern, bool withFolders = false);
+
+struct FoundFile {
+    QString Path; ///< inside path, absolute
+    qint64 Size;  ///< bytes
+};
+
+/// The files of a folder, with those of all its subfolders when `recursive`; failures are ignored. A link to a folder
+/// is followed once, never around in a circle.
+std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive);
+
+/// When the file was last written. Raises 53.
+QDateTime ModifiedTime(const QString& path);
+
+/// True when both paths name one and the same existing file, however they are spelt.
+bool SameFile(const QString& first, const QString& second);
+
+} // namespace Files

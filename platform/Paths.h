@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Where a path of the program meets the system.
+///
+/// Inside, a path is a text with backslashes, joined by concatenation. On Windows the two conversions change nothing.
+/// On Linux they swap the separators, follow drive letters through the Wine prefixes, and find each existing component
+/// without regard to case. Bytes of a file name that are no UTF-8 travel as the surrogates U+DC80 to U+DCFF, and a
+/// backslash inside a file name as U+F05C, so that every name on disk has a path and comes back.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace Paths {
+
+/// The system's path for an inside path. A component that does not exist keeps the case given.
+QString ToNative(const QString& path);
+
+/// The inside path for a system path. A path that is not absolute stays relative.
+QString FromNative(const QString& path);
+
+/// The bytes to hand to the system for a native path (POSIX), and back.
+QByteArray EncodeNative(const QString& nativePath);
+QString DecodeNative(const QByteArray& bytes);
+
+/// The absolute inside path of a system path as a person typed it: relative to the current folder, "." and ".." gone,
+/// links followed as far as the path exists.
+QString Absolute(const QString& nativePath);
+
+/// Folders below `folder` (an inside path with a drive letter) belong to the Wine prefix `prefix` (a native folder).
+/// The longest folder that fits decides; the first prefix named serves every other path. Does nothing on Windows.
+void UsePrefix(const QString& folder, const QString& prefix);
+
+/// Forgets every prefix.
+void ForgetPrefixes();
+
+/// The program's folder, an inside path without a trailing backslash: BRINDOCK_PROGRAM_FOLDER, else the executable's.
+QString ProgramFolder();
+
+/// The running executable, an inside path.
+QString Executable();
+
+} // namespace Paths

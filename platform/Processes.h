@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Other programs: started by a command text, or by the file that they open.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace Processes {
+
+/// A process that was started; 0 is none.
+using Handle = quintptr;
+
+/// Starts a command text: a program, quoted or up to the first blank, and its arguments, which reach it unchanged.
+/// On Linux the program is a Windows one and runs through `wine` in the prefix that its path belongs to; the path is
+/// looked up without regard to case. Does not wait. Raises 53 when the program can't be started.
+void StartCommand(const QString& command);
+
+/// The program and arguments that StartCommand would run on this system, for show.
+QStringList CommandFor(const QString& command);
+
+struct Opened {
+    Handle Process = 0; ///< to be waited for, 0 when there is none
+    int InstApp = 33;   ///< the shell's answer: above 32 for success, else its error value (2, 3, 5, 8, 26 to 32)
+};
+
+/// Hands a file to the program that the system associates with it.
+Opened OpenWithAssociation(const QString& path, quintptr owner);
+
+/// Lets the user choose a program for a file. Raises 53 where the system has no such chooser.
+void ChooseProgramFor(const QString& path);
+
+/// The exit code once the process has ended; nothing while it runs.
+std::optional<int> ExitCode(Handle process);
+
+/// Gives the handle back; the process runs on.
+void Close(Handle process);
+
+/// The command line of this process without the executable's name, as it was typed where the system keeps that,
+/// otherwise its arguments joined by single blanks.
+QString CommandLine(int argc, char** argv);
+
+/// Ends this process at once, without any further work.
+[[noreturn]] void End(int exitCode);
+
+} // namespace Processes
