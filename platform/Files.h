@@ -59,6 +59,9 @@ struct FoundFile {
 /// is followed once, never around in a circle.
 std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive);
 
+/// A path in the same folder that nothing stands at, for a file to be written aside and then put in place.
+QString TemporaryBeside(const QString& path);
+
 /// When the file was last written. Raises 53.
 QDateTime ModifiedTime(const QString& path);
 

@@ -20,6 +20,10 @@ QString ToNative(const QString& path);
 /// The inside path for a system path. A path that is not absolute stays relative.
 QString FromNative(const QString& path);
 
+/// The system's form of one name, and back; nothing is looked up.
+QString NameToNative(const QString& name);
+QString NameFromNative(const QString& name);
+
 /// The bytes to hand to the system for a native path (POSIX), and back.
 QByteArray EncodeNative(const QString& nativePath);
 QString DecodeNative(const QByteArray& bytes);
@@ -31,6 +35,9 @@ QString Absolute(const QString& nativePath);
 /// Folders below `folder` (an inside path with a drive letter) belong to the Wine prefix `prefix` (a native folder).
 /// The longest folder that fits decides; the first prefix named serves every other path. Does nothing on Windows.
 void UsePrefix(const QString& folder, const QString& prefix);
+
+/// The Wine prefix (native folder) that a path belongs to; empty when there is none. Always empty on Windows.
+QString PrefixFor(const QString& path);
 
 /// Forgets every prefix.
 void ForgetPrefixes();

@@ -1,2 +1,224 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Files.h"
+
+#include "platform/FolderEntries.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+#include "platform/posix/Errors.h"
+#include "platform/posix/Transfer.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+namespace {
+
+/// A path with both forms that the system calls and the messages need.
+struct Native {
+    explicit Native(const QString& path) : Text(Paths::ToNative(path)), Bytes(Paths::EncodeNative(Text)) {}
+
+    [[noreturn]] void Raise(int error) const { RaiseErrno(error, Text); }
+
+    [[nodiscard]] const char* Path() const { return Bytes.constData(); }
+
+    QString Text;
+    QByteArray Bytes;
+};
+
+std::optional<struct stat> Status(const QString& path) {
+    struct stat status {};
+
+    if (::stat(Native(path).Path(), &status) != 0)
+        return std::nullopt;
+    return status;
+}
+
+/// A folder path without its trailing backslash; the root keeps it.
+QString FolderPath(const QString& path) {
+    return path.size() > 1 && path.endsWith(u'\\') ? path.chopped(1) : path;
+}
+
+bool ParentExists(const QString& path) {
+    const qsizetype split = path.lastIndexOf(u'\\');
+    return split <= 0 || Files::FolderExists(path.first(split));
+}
+
+/// A directory that is closed with its scope.
+class Listing {
+public:
+    explicit Listing(const Native& folder) : directory_(::opendir(folder.Path()), &::closedir) {
+        if (!directory_)
+            throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(folder.Text));
+    }
+
+    const dirent* Next() { return ::readdir(directory_.get()); }
+
+    [[nodiscard]] int Descriptor() const { return ::dirfd(directory_.get()); }
+
+private:
+    std::unique_ptr<DIR, int (*)(DIR*)> directory_;
+};
+
+} // namespace
+
+std::vector<FolderEntry> FolderEntries(const QString& folder) {
+    Listing listing{Native(folder.isEmpty() ? QStringLiteral(".") : folder)};
+    std::vector<FolderEntry> entries;
+    while (const dirent* entry = listing.Next()) {
+        const QByteArray name(static_cast<const char*>(entry->d_name));
+        if (name == "." || name == "..")
+            continue;
+
+        struct stat status {};
+
+        const bool known = ::fstatat(listing.Descriptor(), name.constData(), &status, 0) == 0;
+        const bool isFolder = known && S_ISDIR(status.st_mode);
+        entries.push_back({Paths::NameFromNative(Paths::DecodeNative(name)), isFolder ? 0 : status.st_size, isFolder});
+    }
+    return entries;
+}
+
+QByteArray FolderIdentity(const QString& folder) {
+    const auto status = Status(folder.isEmpty() ? QStringLiteral(".") : folder);
+    if (!status || !S_ISDIR(status->st_mode))
+        return {};
+    return QByteArray::number(static_cast<qulonglong>(status->st_dev)) + ':' +
+           QByteArray::number(static_cast<qulonglong>(status->st_ino));
+}
+
+namespace Files {
+
+bool FileExists(const QString& path) {
+    const auto status = Status(path);
+    return status && !S_ISDIR(status->st_mode);
+}
+
+qint64 FileLength(const QString& path) {
+    const auto status = Status(path);
+    if (!status || S_ISDIR(status->st_mode))
+        Native(path).Raise(ENOENT);
+    return status->st_size;
+}
+
+bool FolderExists(const QString& path) {
+    const auto status = Status(path);
+    return status && S_ISDIR(status->st_mode);
+}
+
+void MakeFolder(const QString& path) {
+    const QString folder = FolderPath(path);
+    const Native native(folder);
+    if (::mkdir(native.Path(), 0777) == 0)
+        return;
+    const int error = errno;
+    if (error == EEXIST)
+        throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: exists already").arg(native.Text));
+    if (error == ENOENT)
+        throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(native.Text));
+    native.Raise(error);
+}
+
+void RemoveFolder(const QString& path) {
+    const Native native(FolderPath(path));
+    if (::rmdir(native.Path()) == 0)
+        return;
+    const int error = errno;
+    native.Raise(error == ENOENT ? ENOTDIR : error);
+}
+
+void DeleteForced(const QString& path) {
+    const Native native(path);
+    if (FolderExists(path))
+        native.Raise(ENOENT);
+    if (::unlink(native.Path()) != 0)
+        native.Raise(errno);
+}
+
+void Copy(const QString& from, const QString& to) {
+    const Native source(from);
+    const Native target(to);
+    const Descriptor reading(::open(source.Path(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+
+    struct stat status {};
+
+    if (!reading.Valid() || ::fstat(reading.Number(), &status) != 0)
+        source.Raise(errno);
+    if (!S_ISREG(status.st_mode))
+        source.Raise(EISDIR);
+    if (::access(target.Path(), F_OK) == 0 && ::access(target.Path(), W_OK) != 0)
+        target.Raise(EACCES);
+    const QString aside = TemporaryBeside(to);
+    try {
+        const Native writing(aside);
+        Descriptor written(::open(writing.Path(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (!written.Valid())
+            target.Raise(errno == ENOENT ? ENOTDIR : errno);
+        TransferBytes(written.Number(), 0, reading.Number(), 0, status.st_size, target.Text);
+        Replace(aside, to);
+    } catch (const RuntimeError&) {
+        Ignoring([&] { DeleteForced(aside); });
+        throw;
+    }
+}
+
+QString TemporaryBeside(const QString& path) {
+    static int counter = 0;
+    const QString folder = path.first(path.lastIndexOf(u'\\') + 1);
+    QString free;
+    do {
+        free = folder + QStringLiteral("~brindock-%1-%2").arg(::getpid()).arg(++counter);
+    } while (::access(Native(free).Path(), F_OK) == 0);
+    return free;
+}
+
+void Rename(const QString& from, const QString& to) {
+    const Native source(from);
+    const Native target(to);
+
+    struct stat status {};
+
+    if (::lstat(source.Path(), &status) != 0)
+        source.Raise(errno);
+    if (::lstat(target.Path(), &status) == 0 && !SameFile(from, to))
+        target.Raise(EEXIST);
+    // The target gets the case that was asked for, also where only the case changes.
+    const QString name = Paths::NameToNative(to.sliced(to.lastIndexOf(u'\\') + 1));
+    const QString folder = target.Text.first(target.Text.lastIndexOf(u'/') + 1);
+    if (::rename(source.Path(), Paths::EncodeNative(folder + name).constData()) != 0)
+        source.Raise(errno);
+}
+
+void Replace(const QString& from, const QString& to) {
+    const Native source(from);
+    if (FolderExists(to))
+        Native(to).Raise(EISDIR);
+    if (::rename(source.Path(), Native(to).Path()) != 0) {
+        const int error = errno;
+        if (error == ENOENT && !ParentExists(to))
+            throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(to));
+        source.Raise(error);
+    }
+}
+
+QDateTime ModifiedTime(const QString& path) {
+    const auto status = Status(path);
+    if (!status)
+        Native(path).Raise(ENOENT);
+    return QDateTime::fromMSecsSinceEpoch(qint64{status->st_mtim.tv_sec} * 1000 + status->st_mtim.tv_nsec / 1'000'000);
+}
+
+bool SameFile(const QString& first, const QString& second) {
+    const auto one = Status(first);
+    const auto other = Status(second);
+    return one && other && one->st_dev == other->st_dev && one->st_ino == other->st_ino;
+}
+
+} // namespace Files

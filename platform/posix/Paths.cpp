@@ -1,2 +1,199 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Paths.h"
+
+#include <QStringList>
+
+#include <dirent.h>
+#include <unistd.h>
+
+#include <climits>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr char16_t BackslashInName = 0xF05C;
+constexpr char16_t FirstRawByte = 0xDC80;
+constexpr char16_t LastRawByte = 0xDCFF;
+
+struct PrefixRule {
+    QString Folder;
+    QString Prefix;
+};
+
+std::vector<PrefixRule>& Rules() {
+    static std::vector<PrefixRule> rules;
+    return rules;
+}
+
+bool HasDrive(QStringView path) {
+    return path.size() >= 2 && path[1] == u':' && path[0].isLetter() && path[0].unicode() < 128;
+}
+
+/// The native folder that a drive letter stands for. A drive that nobody knows leads to a place that can't exist.
+QString DriveFolder(const QString& path) {
+    const QString prefix = Paths::PrefixFor(path);
+    const QChar letter = path[0].toLower();
+    if (!prefix.isEmpty()) {
+        const QString device = prefix + QStringLiteral("/dosdevices/") + letter + u':';
+        if (::access(Paths::EncodeNative(device).constData(), F_OK) == 0)
+            return device;
+        if (letter == u'c')
+            return prefix + QStringLiteral("/drive_c");
+    }
+    if (letter == u'z')
+        return {};
+    return QStringLiteral("/dev/null/") + path.first(2);
+}
+
+bool Exists(const QString& nativePath) {
+    return ::access(Paths::EncodeNative(nativePath).constData(), F_OK) == 0;
+}
+
+/// The name in the folder that equals `name` but for case; `name` itself when there is none.
+QString FindWithoutCase(const QString& folder, const QString& name) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(
+        ::opendir(Paths::EncodeNative(folder.isEmpty() ? QStringLiteral(".") : folder).constData()), &::closedir);
+    if (!listing)
+        return name;
+    while (const dirent* entry = ::readdir(listing.get())) {
+        const QString found = Paths::DecodeNative(static_cast<const char*>(entry->d_name));
+        if (found.compare(name, Qt::CaseInsensitive) == 0)
+            return found;
+    }
+    return name;
+}
+
+/// Corrects the case of the components that exist.
+QString ResolveCase(const QString& nativePath) {
+    const QStringList parts = nativePath.split(u'/');
+    QString resolved = parts.first();
+    bool known = true;
+    for (const QString& part : parts.sliced(1)) {
+        const QString given = resolved + u'/' + part;
+        if (!known || part.isEmpty() || Exists(given)) {
+            resolved = given;
+            continue;
+        }
+        const QString found = FindWithoutCase(resolved + u'/', part);
+        known = found != part;
+        resolved += u'/' + found;
+    }
+    return resolved;
+}
+
+/// Bytes that are no UTF-8, one by one as surrogates.
+QString DecodeWithRawBytes(const QByteArray& bytes) {
+    QString text;
+    for (qsizetype at = 0; at < bytes.size();) {
+        const auto lead = static_cast<unsigned char>(bytes[at]);
+        const qsizetype length = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+        const QString character = QString::fromUtf8(bytes.sliced(at, qMin(length, bytes.size() - at)));
+        if (lead >= 0x80 && (character.contains(QChar::ReplacementCharacter) || character.isEmpty())) {
+            text += QChar(static_cast<char16_t>(0xDC00 + lead));
+            ++at;
+        } else {
+            text += character;
+            at += length;
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+namespace Paths {
+
+QString ToNative(const QString& path) {
+    QString native = HasDrive(path) ? DriveFolder(path) + path.sliced(2) : path;
+    native = NameToNative(native.replace(u'\\', u'/'));
+    if (native.isEmpty() || Exists(native))
+        return native;
+    return ResolveCase(native);
+}
+
+QString FromNative(const QString& path) {
+    return NameFromNative(path).replace(u'/', u'\\');
+}
+
+QString NameToNative(const QString& name) {
+    return QString(name).replace(QChar(BackslashInName), u'\\');
+}
+
+QString NameFromNative(const QString& name) {
+    return QString(name).replace(u'\\', QChar(BackslashInName));
+}
+
+QByteArray EncodeNative(const QString& nativePath) {
+    const auto isRaw = [](QChar unit) { return unit.unicode() >= FirstRawByte && unit.unicode() <= LastRawByte; };
+    QByteArray bytes;
+    qsizetype from = 0;
+    for (qsizetype at = 0; at < nativePath.size(); ++at) {
+        const bool paired = at > 0 && nativePath[at - 1].isHighSurrogate();
+        if (!isRaw(nativePath[at]) || paired)
+            continue;
+        bytes += QStringView(nativePath).sliced(from, at - from).toUtf8();
+        bytes += static_cast<char>(nativePath[at].unicode() - 0xDC00);
+        from = at + 1;
+    }
+    return bytes + QStringView(nativePath).sliced(from).toUtf8();
+}
+
+QString DecodeNative(const QByteArray& bytes) {
+    const QString text = QString::fromUtf8(bytes);
+    return text.contains(QChar::ReplacementCharacter) ? DecodeWithRawBytes(bytes) : text;
+}
+
+QString Absolute(const QString& nativePath) {
+    const std::filesystem::path given(EncodeNative(nativePath).toStdString());
+    std::error_code error;
+    std::filesystem::path resolved = std::filesystem::weakly_canonical(std::filesystem::absolute(given, error), error);
+    if (error)
+        resolved = std::filesystem::absolute(given, error).lexically_normal();
+    return FromNative(DecodeNative(QByteArray::fromStdString(resolved.string())));
+}
+
+void UsePrefix(const QString& folder, const QString& prefix) {
+    if (!prefix.isEmpty())
+        Rules().push_back({folder, prefix});
+}
+
+void ForgetPrefixes() {
+    Rules().clear();
+}
+
+QString PrefixFor(const QString& path) {
+    const PrefixRule* best = nullptr;
+    for (const PrefixRule& rule : Rules()) {
+        const bool fits = path.startsWith(rule.Folder, Qt::CaseInsensitive);
+        if (fits && (best == nullptr || rule.Folder.size() > best->Folder.size()))
+            best = &rule;
+    }
+    if (best == nullptr && !Rules().empty() && HasDrive(path))
+        best = &Rules().front();
+    return best == nullptr ? QString() : best->Prefix;
+}
+
+QString Executable() {
+    std::error_code error;
+    const std::filesystem::path link = std::filesystem::read_symlink("/proc/self/exe", error);
+    return FromNative(DecodeNative(QByteArray::fromStdString(link.string())));
+}
+
+QString ProgramFolder() {
+    const char* named = std::getenv("BRINDOCK_PROGRAM_FOLDER");
+    QString folder;
+    if (named != nullptr && *named != '\0') {
+        folder = Absolute(DecodeNative(named));
+    } else {
+        const QString executable = Executable();
+        folder = executable.first(qMax<qsizetype>(executable.lastIndexOf(u'\\'), 0));
+    }
+    return folder.endsWith(u'\\') ? folder.chopped(1) : folder;
+}
+
+} // namespace Paths

@@ -1,2 +1,65 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Paths.h"
+
+#include "platform/windows/System.h"
+
+#include <vector>
+
+namespace Paths {
+
+QString ToNative(const QString& path) {
+    return path;
+}
+
+QString FromNative(const QString& path) {
+    return path;
+}
+
+QString NameToNative(const QString& name) {
+    return name;
+}
+
+QString NameFromNative(const QString& name) {
+    return name;
+}
+
+QByteArray EncodeNative(const QString& nativePath) {
+    return nativePath.toUtf8();
+}
+
+QString DecodeNative(const QByteArray& bytes) {
+    return QString::fromUtf8(bytes);
+}
+
+QString Absolute(const QString& nativePath) {
+    QString given = nativePath;
+    const std::wstring wide = given.replace(u'/', u'\\').toStdWString();
+    std::vector<wchar_t> full(GetFullPathNameW(wide.c_str(), 0, nullptr, nullptr) + 1);
+    const DWORD length = GetFullPathNameW(wide.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+    return QString::fromWCharArray(full.data(), static_cast<int>(length));
+}
+
+void UsePrefix(const QString& /*folder*/, const QString& /*prefix*/) {}
+
+QString PrefixFor(const QString& /*path*/) {
+    return {};
+}
+
+void ForgetPrefixes() {}
+
+QString Executable() {
+    std::vector<wchar_t> path(32768);
+    const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    return QString::fromWCharArray(path.data(), static_cast<int>(length));
+}
+
+QString ProgramFolder() {
+    const QString named = qEnvironmentVariable("BRINDOCK_PROGRAM_FOLDER");
+    const QString executable = Executable();
+    const QString folder = named.isEmpty() ? executable.first(executable.lastIndexOf(u'\\')) : Absolute(named);
+    return folder.endsWith(u'\\') ? folder.chopped(1) : folder;
+}
+
+} // namespace Paths

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Files.h"
+
+#include "platform/FolderEntries.h"
+#include "platform/RuntimeError.h"
+#include "platform/Wildcards.h"
+
+#include <QSet>
+
+namespace {
+
+/// Walks one folder for ListFolderFiles. Each folder is entered once, so that links can't lead around in a circle.
+class Walk {
+public:
+    explicit Walk(bool recursive) : recursive_(recursive) {}
+
+    void Enter(const QString& folder) {
+        const QByteArray identity = FolderIdentity(folder);
+        if (identity.isEmpty() || entered_.contains(identity))
+            return;
+        entered_.insert(identity);
+        std::vector<QString> below;
+        Ignoring([&] {
+            for (const FolderEntry& entry : FolderEntries(folder)) {
+                const QString path = folder + u'\\' + entry.Name;
+                if (entry.IsFolder)
+                    below.push_back(path);
+                else
+                    found_.push_back({path, entry.Size});
+            }
+        });
+        if (recursive_) {
+            for (const QString& path : below)
+                Enter(path);
+        }
+    }
+
+    std::vector<Files::FoundFile> Found() && { return std::move(found_); }
+
+private:
+    bool recursive_;
+    QSet<QByteArray> entered_;
+    std::vector<Files::FoundFile> found_;
+};
+
+QString WithoutTrailingBackslash(const QString& path) {
+    return path.endsWith(u'\\') ? path.chopped(1) : path;
+}
+
+} // namespace
+
+namespace Files {
+
+QStringList ListFolder(const QString& pattern, bool withFolders) {
+    const qsizetype split = pattern.lastIndexOf(u'\\') + 1;
+    const QString last = pattern.sliced(split);
+    QStringList names;
+    Ignoring([&] {
+        for (const FolderEntry& entry : FolderEntries(pattern.first(split))) {
+            if ((withFolders || !entry.IsFolder) && FitsPattern(entry.Name, last))
+                names.append(entry.Name);
+        }
+    });
+    return names;
+}
+
+std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive) {
+    Walk walk(recursive);
+    walk.Enter(WithoutTrailingBackslash(folder));
+    return std::move(walk).Found();
+}
+
+void Delete(const QString& pattern) {
+    const qsizetype split = pattern.lastIndexOf(u'\\') + 1;
+    if (!IsPattern(QStringView(pattern).sliced(split)) && split < pattern.size()) {
+        DeleteForced(pattern);
+        return;
+    }
+    const QStringList names = ListFolder(pattern);
+    if (names.isEmpty())
+        throw RuntimeError(ErrorNumber::FileNotFound, QStringLiteral("%1: no such file").arg(pattern));
+    for (const QString& name : names)
+        DeleteForced(pattern.first(split) + name);
+}
+
+void MakeFolders(const QString& path) {
+    const QString folder = WithoutTrailingBackslash(path);
+    if (folder.isEmpty() || FolderExists(folder))
+        return;
+    const qsizetype split = folder.lastIndexOf(u'\\');
+    if (split > 0)
+        MakeFolders(folder.first(split));
+    MakeFolder(folder);
+}
+
+} // namespace Files

@@ -1,2 +1,0 @@
-// SPDX-FileCopyrightText: 2026 The Brindock authors
-// SPDX-License-Identifier: GPL-3.0-or-later
