@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 namespace NumberedFiles {
@@ -18,6 +19,9 @@ enum class Access {
 
 /// Raises 55 when the number is taken, 53, 70, 75 or 76 when the file can't be opened (75 for a folder).
 void Open(int number, const QString& path, Access access);
+
+/// The same for a path whose case is known to be right: nothing is looked up.
+void OpenAsGiven(int number, const QString& path, Access access);
 
 bool IsOpen(int number);
 
@@ -33,8 +37,11 @@ qint64 Length(int number);
 /// Up to `count` bytes from `offset` on; fewer at the end of the file.
 QByteArray Read(int number, qint64 offset, qint64 count);
 
+/// The same into memory of the caller's; returns how many bytes there were.
+qint64 ReadInto(int number, qint64 offset, char* bytes, qint64 count);
+
 /// Writes all bytes or raises 61 (full), 57 or 70.
-void Write(int number, qint64 offset, const QByteArray& bytes);
+void Write(int number, qint64 offset, QByteArrayView bytes);
 
 /// Copies `count` bytes from one open file into another, within the system where it can. Returns how many there were:
 /// fewer where the source ends.

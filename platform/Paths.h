@@ -17,6 +17,9 @@ namespace Paths {
 /// The system's path for an inside path. A component that does not exist keeps the case given.
 QString ToNative(const QString& path);
 
+/// The same without looking names up: the case stays as given.
+QString ToNativeAsGiven(const QString& path);
+
 /// The inside path for a system path. A path that is not absolute stays relative.
 QString FromNative(const QString& path);
 
@@ -31,6 +34,9 @@ QString DecodeNative(const QByteArray& bytes);
 /// The absolute inside path of a system path as a person typed it: relative to the current folder, "." and ".." gone,
 /// links followed as far as the path exists.
 QString Absolute(const QString& nativePath);
+
+/// The inside path that an existing file or folder really has, all links followed; empty when there is none.
+QString Real(const QString& path);
 
 /// Folders below `folder` (an inside path with a drive letter) belong to the Wine prefix `prefix` (a native folder).
 /// The longest folder that fits decides; the first prefix named serves every other path. Does nothing on Windows.

@@ -47,25 +47,32 @@ int Flags(NumberedFiles::Access access) {
     return O_RDONLY;
 }
 
-} // namespace
-
-namespace NumberedFiles {
-
-void Open(int number, const QString& path, Access access) {
-    if (IsOpen(number))
+void OpenNative(int number, const QString& name, NumberedFiles::Access access) {
+    if (NumberedFiles::IsOpen(number))
         throw RuntimeError(ErrorNumber::FileAlreadyOpen, QStringLiteral("file number %1 is open already").arg(number));
-    const QString name = Paths::ToNative(path);
     // A pipe must not make the program wait for its other end.
     const int flags = Flags(access) | O_CLOEXEC | O_NONBLOCK;
     Descriptor file(::open(Paths::EncodeNative(name).constData(), flags, 0666));
     if (!file.Valid())
-        RaiseErrno(errno == ENOENT && access != Access::Read ? ENOTDIR : errno, name);
+        RaiseErrno(errno == ENOENT && access != NumberedFiles::Access::Read ? ENOTDIR : errno, name);
 
     struct stat status {};
 
     if (::fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
         throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name));
     Table()[number] = {std::move(file), name};
+}
+
+} // namespace
+
+namespace NumberedFiles {
+
+void Open(int number, const QString& path, Access access) {
+    OpenNative(number, Paths::ToNative(path), access);
+}
+
+void OpenAsGiven(int number, const QString& path, Access access) {
+    OpenNative(number, Paths::ToNativeAsGiven(path), access);
 }
 
 bool IsOpen(int number) {
@@ -104,9 +111,14 @@ QByteArray Read(int number, qint64 offset, qint64 count) {
     return bytes;
 }
 
-void Write(int number, qint64 offset, const QByteArray& bytes) {
-    Numbered& file = Find(number);
-    WriteFully(file.File.Number(), offset, bytes.constData(), bytes.size(), file.Name);
+qint64 ReadInto(int number, qint64 offset, char* bytes, qint64 count) {
+    const Numbered& file = Find(number);
+    return ReadFully(file.File.Number(), offset, bytes, count, file.Name);
+}
+
+void Write(int number, qint64 offset, QByteArrayView bytes) {
+    const Numbered& file = Find(number);
+    WriteFully(file.File.Number(), offset, bytes.data(), bytes.size(), file.Name);
 }
 
 qint64 Copy(int to, qint64 toOffset, int from, qint64 fromOffset, qint64 count) {

@@ -108,9 +108,13 @@ QString DecodeWithRawBytes(const QByteArray& bytes) {
 
 namespace Paths {
 
-QString ToNative(const QString& path) {
+QString ToNativeAsGiven(const QString& path) {
     QString native = HasDrive(path) ? DriveFolder(path) + path.sliced(2) : path;
-    native = NameToNative(native.replace(u'\\', u'/'));
+    return NameToNative(native.replace(u'\\', u'/'));
+}
+
+QString ToNative(const QString& path) {
+    QString native = ToNativeAsGiven(path);
     if (native.isEmpty() || Exists(native))
         return native;
     return ResolveCase(native);
@@ -155,6 +159,12 @@ QString Absolute(const QString& nativePath) {
     if (error)
         resolved = std::filesystem::absolute(given, error).lexically_normal();
     return FromNative(DecodeNative(QByteArray::fromStdString(resolved.string())));
+}
+
+QString Real(const QString& path) {
+    const std::unique_ptr<char, void (*)(void*)> found(::realpath(EncodeNative(ToNative(path)).constData(), nullptr),
+                                                       &std::free);
+    return found ? FromNative(DecodeNative(found.get())) : QString();
 }
 
 void UsePrefix(const QString& folder, const QString& prefix) {

@@ -70,6 +70,10 @@ void Open(int number, const QString& path, Access access) {
     Table()[number] = {file, path};
 }
 
+void OpenAsGiven(int number, const QString& path, Access access) {
+    Open(number, path, access);
+}
+
 bool IsOpen(int number) {
     return Table().contains(number);
 }
@@ -99,32 +103,35 @@ qint64 Length(int number) {
 }
 
 QByteArray Read(int number, qint64 offset, qint64 count) {
+    QByteArray bytes(std::clamp<qint64>(Length(number) - offset, 0, count), Qt::Uninitialized);
+    bytes.truncate(ReadInto(number, offset, bytes.data(), bytes.size()));
+    return bytes;
+}
+
+qint64 ReadInto(int number, qint64 offset, char* bytes, qint64 count) {
     const Numbered& file = Find(number);
-    const qint64 there = std::clamp<qint64>(Length(number) - offset, 0, count);
-    QByteArray bytes(there, Qt::Uninitialized);
     qint64 done = 0;
-    while (done < there) {
+    while (done < count) {
         OVERLAPPED position = At(offset + done);
         DWORD had = 0;
-        const auto wanted = static_cast<DWORD>(std::min(there - done, BlockSize));
-        if (ReadFile(file.File, bytes.data() + done, wanted, &had, &position) == 0)
+        const auto wanted = static_cast<DWORD>(std::min(count - done, BlockSize));
+        if (ReadFile(file.File, bytes + done, wanted, &had, &position) == 0 && GetLastError() != ERROR_HANDLE_EOF)
             RaiseLastError(GetLastError(), file.Name);
         if (had == 0)
             break;
         done += had;
     }
-    bytes.truncate(done);
-    return bytes;
+    return done;
 }
 
-void Write(int number, qint64 offset, const QByteArray& bytes) {
+void Write(int number, qint64 offset, QByteArrayView bytes) {
     const Numbered& file = Find(number);
     qint64 done = 0;
     while (done < bytes.size()) {
         OVERLAPPED position = At(offset + done);
         DWORD written = 0;
         const auto wanted = static_cast<DWORD>(std::min<qint64>(bytes.size() - done, BlockSize));
-        if (WriteFile(file.File, bytes.constData() + done, wanted, &written, &position) == 0)
+        if (WriteFile(file.File, bytes.data() + done, wanted, &written, &position) == 0)
             RaiseLastError(GetLastError(), file.Name);
         done += written;
     }

@@ -13,6 +13,10 @@ QString ToNative(const QString& path) {
     return path;
 }
 
+QString ToNativeAsGiven(const QString& path) {
+    return path;
+}
+
 QString FromNative(const QString& path) {
     return path;
 }
@@ -39,6 +43,19 @@ QString Absolute(const QString& nativePath) {
     std::vector<wchar_t> full(GetFullPathNameW(wide.c_str(), 0, nullptr, nullptr) + 1);
     const DWORD length = GetFullPathNameW(wide.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
     return QString::fromWCharArray(full.data(), static_cast<int>(length));
+}
+
+QString Real(const QString& path) {
+    const HANDLE handle =
+        CreateFileW(path.toStdWString().c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return {};
+    std::vector<wchar_t> full(32768);
+    const DWORD length = GetFinalPathNameByHandleW(handle, full.data(), static_cast<DWORD>(full.size()), 0);
+    CloseHandle(handle);
+    const QString real = QString::fromWCharArray(full.data(), static_cast<int>(length));
+    return real.startsWith(u"\\\\?\\") ? real.sliced(4) : real;
 }
 
 void UsePrefix(const QString& /*folder*/, const QString& /*prefix*/) {}
