@@ -1,2 +1,208 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/mBIG.h"
+
+#include "platform/AnsiCodec.h"
+#include "platform/Files.h"
+#include "platform/NumberedFiles.h"
+#include "platform/RuntimeError.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <array>
+
+using NumberedFiles::Access;
+
+namespace {
+
+constexpr int ArchiveNumber = 1;
+constexpr int ExtractTargetNumber = 3;
+constexpr int ExtractArchiveNumber = 4;
+
+constexpr qint64 CountOffset = 8;
+constexpr qint64 DirectoryOffset = 16;
+
+/// Reads an open file from front to back. Behind its end come zeros.
+class Scanner {
+public:
+    Scanner(int number, qint64 offset) : number_(number), windowStart_(offset) {}
+
+    quint32 BigEndian() {
+        Need(sizeof(quint32));
+        std::array<char, sizeof(quint32)> bytes{};
+        const qsizetype there = std::min<qsizetype>(window_.size() - at_, sizeof(quint32));
+        std::copy_n(window_.constData() + at_, there, bytes.begin());
+        at_ += there;
+        return qFromBigEndian<quint32>(bytes.data());
+    }
+
+    /// The bytes before the next NUL or the end of the file; the NUL is passed.
+    QByteArray Name() {
+        qsizetype end = window_.indexOf('\0', at_);
+        while (end < 0 && Refill(at_))
+            end = window_.indexOf('\0', at_);
+        const qsizetype stop = end < 0 ? window_.size() : end;
+        const QByteArray name = window_.sliced(at_, stop - at_);
+        at_ = end < 0 ? stop : stop + 1;
+        return name;
+    }
+
+private:
+    static constexpr qint64 Step = qint64{256} * 1024;
+
+    void Need(qsizetype count) {
+        if (window_.size() - at_ < count)
+            Refill(at_);
+    }
+
+    /// Drops what stands before `keepFrom` and reads on. False at the end of the file.
+    bool Refill(qsizetype keepFrom) {
+        const qint64 readFrom = windowStart_ + window_.size();
+        const QByteArray more = NumberedFiles::Read(number_, readFrom, Step);
+        windowStart_ += keepFrom;
+        window_.remove(0, keepFrom);
+        window_ += more;
+        at_ = 0;
+        return !more.isEmpty();
+    }
+
+    int number_;
+    qint64 windowStart_;
+    QByteArray window_;
+    qsizetype at_ = 0;
+};
+
+/// A directory number as the format's readers take it: zero is no number, and a value of 0x80000000 or more loses its
+/// top hexadecimal digit. This is meant.
+std::optional<qint32> DirectoryNumber(quint32 value) {
+    const quint32 kept = value < 0x80000000U ? value : value & 0x0FFFFFFFU;
+    if (kept == 0)
+        return std::nullopt;
+    return static_cast<qint32>(kept);
+}
+
+[[noreturn]] void Refuse() {
+    throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("not a number"));
+}
+
+/// Raises until the first entry's offset is known to be good; everything behind it reads as far as it makes sense.
+void ReadDirectory() {
+    const QByteArray magic = NumberedFiles::Read(ArchiveNumber, 0, 4);
+    if (magic != "BIGF" && magic != "BIG4")
+        Refuse();
+    const auto count = DirectoryNumber(Scanner(ArchiveNumber, CountOffset).BigEndian());
+    if (!count || *count > mBIG::MaximumEntries)
+        Refuse();
+    Scanner scanner(ArchiveNumber, DirectoryOffset);
+    mBIG::BigEntries.assign(static_cast<std::size_t>(*count), BigEntry{});
+    bool first = true;
+    for (BigEntry& entry : mBIG::BigEntries) {
+        const auto offset = DirectoryNumber(scanner.BigEndian());
+        if (first && !offset)
+            Refuse();
+        first = false;
+        entry.Offset = offset.value_or(0);
+        entry.Size = DirectoryNumber(scanner.BigEndian()).value_or(0);
+        entry.Name = AnsiCodec::Decode(scanner.Name());
+    }
+    switch (scanner.BigEndian()) {
+    case 0x4C323235: // "L225"
+        mBIG::BigVersion = 0;
+        break;
+    case 0x4C323331: // "L231"
+        mBIG::BigVersion = 1;
+        break;
+    case 0x4C323139: // "L219"
+        mBIG::BigVersion = 2;
+        break;
+    case 0x4C323533: // "L253"
+        mBIG::BigVersion = 3;
+        break;
+    default: // an unknown mark keeps the earlier variant, and the read still succeeds
+        break;
+    }
+}
+
+/// Fills the target with zeros from `from` to `to`, without writing behind its end more than its length.
+void ZeroTail(int number, qint64 from, qint64 to) {
+    constexpr qint64 step = 65536;
+    const qint64 length = NumberedFiles::Length(number);
+    const QByteArray zeros(step, '\0');
+    for (qint64 at = from; at < std::min(to, length); at += step)
+        NumberedFiles::Write(number, at, QByteArrayView(zeros).first(std::min(step, std::min(to, length) - at)));
+    if (length < to)
+        NumberedFiles::SetLength(number, to);
+}
+
+void ExtractFromArchive(const BigEntry& entry, const QString& archivePath, const QString& targetPath) {
+    NumberedFiles::Open(ExtractArchiveNumber, archivePath, Access::Read);
+    try {
+        NumberedFiles::Open(ExtractTargetNumber, targetPath, Access::ReadWrite);
+    } catch (const RuntimeError&) {
+        NumberedFiles::Close(ExtractArchiveNumber);
+        throw;
+    }
+    // Without a byte to size the buffer to, the routine ends here with both files open. This is meant.
+    if (entry.Size == 0)
+        throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("%1: nothing to extract").arg(entry.Name));
+    try {
+        const qint64 there =
+            NumberedFiles::Copy(ExtractTargetNumber, 0, ExtractArchiveNumber, entry.Offset, entry.Size);
+        ZeroTail(ExtractTargetNumber, there, entry.Size);
+    } catch (const RuntimeError&) {
+        Ignoring([] { NumberedFiles::Close(ExtractTargetNumber); });
+        NumberedFiles::Close(ExtractArchiveNumber);
+        throw;
+    }
+    NumberedFiles::Close(ExtractArchiveNumber);
+    NumberedFiles::Close(ExtractTargetNumber);
+}
+
+} // namespace
+
+namespace mBIG {
+
+std::vector<BigEntry> BigEntries;
+qint32 BigVersion = 0;
+QString BigFileName;
+
+bool ReadBigFile(const QString& path) {
+    if (!Ignoring([&] { NumberedFiles::Open(ArchiveNumber, path, Access::Read); }))
+        return false;
+    const bool read = Ignoring(ReadDirectory);
+    Ignoring([] { NumberedFiles::Close(ArchiveNumber); });
+    return read;
+}
+
+void ExtractEntry(int index, const QString& archivePath, const QString& targetPath) {
+    const BigEntry entry = BigEntries.at(static_cast<std::size_t>(index));
+    if (entry.IsNew)
+        Files::Copy(entry.SourcePath, targetPath);
+    else
+        ExtractFromArchive(entry, archivePath, targetPath);
+}
+
+int FindEntry(const QString& name) {
+    const auto found = std::ranges::find_if(BigEntries, [&](const BigEntry& entry) {
+        return entry.Name.size() == name.size() && entry.Name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return found == BigEntries.end() ? -1 : static_cast<int>(found - BigEntries.begin());
+}
+
+QByteArray StringToBytes(const QString& text) {
+    return AnsiCodec::Encode(text);
+}
+
+QByteArray LongToBytes(qint32 value) {
+    QByteArray bytes(sizeof(value), Qt::Uninitialized);
+    qToBigEndian(value, bytes.data());
+    return bytes;
+}
+
+int HighestIndex() {
+    return BigEntries.empty() ? 0 : static_cast<int>(BigEntries.size()) - 1;
+}
+
+} // namespace mBIG

@@ -1,2 +1,236 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/mBIG.h"
+
+#include "big/ArchiveData.h"
+#include "core/Host.h"
+#include "core/mMain.h"
+#include "core/mTraduction.h"
+#include "platform/Files.h"
+#include "platform/NumberedFiles.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+using mTraduction::GetText;
+using NumberedFiles::Access;
+
+namespace {
+
+constexpr int TargetNumber = 1;
+constexpr int SourceNumber = 2;
+constexpr int OldArchiveNumber = 3;
+
+constexpr qint64 LengthOffset = 4;
+constexpr qint64 HeaderAndMark = 24;
+constexpr qint64 RecordOverhead = 9;
+
+struct Variant {
+    QByteArrayView Magic;
+    QByteArrayView Mark;
+    bool Aligned;
+};
+
+/// By BigVersion. Four blanks behind the magic hold the place of the length.
+constexpr std::array<Variant, 4> Variants{{
+    {"BIGF    ", "L225", true},
+    {"BIGF    ", "L231", true},
+    {"BIG4    ", "L219", false},
+    {"BIG4    ", "L253\x15\x05", true},
+}};
+
+QString lastFailure;
+
+qint64 LengthOfSource(const BigEntry& entry) {
+    if (!entry.IsNew)
+        return entry.Size;
+    qint64 length = 0;
+    Ignoring([&] { length = Files::FileLength(entry.SourcePath); });
+    return length;
+}
+
+/// One save: what is computed from the table, then written to a target that stands apart until it is whole.
+class Save {
+public:
+    Save() : variant_(Variants.at(static_cast<std::size_t>(std::clamp(mBIG::BigVersion, 0, 3)))) {
+        for (const BigEntry& entry : mBIG::BigEntries) {
+            if (entry.Deleted)
+                continue;
+            names_.push_back(mBIG::StringToBytes(entry.Name));
+            total_ += RecordOverhead + names_.back().size();
+            Host::Current().Yield();
+        }
+        total_ += HeaderAndMark;
+        if (mBIG::BigVersion == 3)
+            total_ = ArchiveData::RoundUp(total_) - 1;
+    }
+
+    /// Writes the archive into the open target, old entries out of the open old archive.
+    void Write() {
+        const QByteArray header = Header();
+        NumberedFiles::Write(TargetNumber, 0, header);
+        // One byte before the first-file field, and no other place. This is meant.
+        ArchiveData data(TargetNumber, OldArchiveNumber, SourceNumber, header.size(), total_ - 1);
+        WriteEntries(data);
+        const qint64 length = data.Finish();
+        QByteArray reversed = mBIG::LongToBytes(static_cast<qint32>(length));
+        std::ranges::reverse(reversed);
+        NumberedFiles::Write(TargetNumber, LengthOffset, reversed);
+    }
+
+private:
+    QByteArray Header() const {
+        QByteArray header;
+        header.reserve(static_cast<qsizetype>(total_));
+        header += variant_.Magic;
+        header += mBIG::LongToBytes(static_cast<qint32>(names_.size()));
+        header += mBIG::LongToBytes(static_cast<qint32>(total_));
+        qint64 cursor = total_;
+        auto name = names_.begin();
+        for (const BigEntry& entry : mBIG::BigEntries) {
+            if (entry.Deleted)
+                continue;
+            if (variant_.Aligned)
+                cursor = ArchiveData::RoundUp(cursor);
+            const qint64 size = LengthOfSource(entry);
+            header += mBIG::LongToBytes(static_cast<qint32>(cursor));
+            header += mBIG::LongToBytes(static_cast<qint32>(size));
+            header += *name++;
+            header += '\0';
+            // The cursor is a signed 32-bit number: a sum beyond it is not stored.
+            if (cursor + size <= std::numeric_limits<qint32>::max())
+                cursor += size;
+            Host::Current().Yield();
+        }
+        return header += variant_.Mark;
+    }
+
+    void WriteEntries(ArchiveData& data) {
+        const QString writing = GetText(u"WritingFiles"_s) + u"\r\n"_s;
+        const auto steps = static_cast<qint64>(names_.size()) - 1;
+        for (std::size_t index = 0; index < mBIG::BigEntries.size(); ++index) {
+            const BigEntry& entry = mBIG::BigEntries[index];
+            if (entry.Deleted)
+                continue;
+            Host::Current().SetProgressText(writing + entry.Name);
+            data.Load(entry);
+            if (variant_.Aligned)
+                data.Align();
+            data.Put();
+            // Deleted records count in the index and not in the steps, so that the value can pass 100 and is then not
+            // shown; a single record shows none. This is meant.
+            if (const qint64 percent = steps == 0 ? 101 : static_cast<qint64>(index) * 100 / steps; percent <= 100)
+                Host::Current().SetProgressValue(static_cast<int>(percent));
+            Host::Current().Yield();
+        }
+    }
+
+    const Variant& variant_;
+    std::vector<QByteArray> names_;
+    qint64 total_ = 0;
+};
+
+void CloseNumbers() {
+    for (const int number : {TargetNumber, SourceNumber, OldArchiveNumber})
+        Ignoring([number] { NumberedFiles::Close(number); });
+}
+
+/// Writes to `aside`, reading old entries from `oldArchive`. On failure `aside` is gone again.
+void WriteTo(const QString& aside, const QString& oldArchive, bool toDisk) {
+    CloseNumbers();
+    try {
+        NumberedFiles::OpenAsGiven(TargetNumber, aside, Access::Replace);
+        Ignoring([&] { NumberedFiles::Open(OldArchiveNumber, oldArchive, Access::Read); });
+        Save().Write();
+        if (toDisk)
+            NumberedFiles::Flush(TargetNumber);
+        NumberedFiles::Close(TargetNumber);
+    } catch (const RuntimeError&) {
+        CloseNumbers();
+        Ignoring([&] { Files::DeleteForced(aside); });
+        throw;
+    }
+    CloseNumbers();
+}
+
+/// Raises when something stands at the target that can't be written over.
+void CheckTarget(const QString& target) {
+    if (!Files::FileExists(target) && !Files::FolderExists(target))
+        return;
+    NumberedFiles::Close(TargetNumber);
+    NumberedFiles::Open(TargetNumber, target, Access::ReadWrite);
+    NumberedFiles::Close(TargetNumber);
+}
+
+/// The old archive steps aside as ".tmp" and comes back when the save fails.
+void SaveOverOpenArchive(const QString& target) {
+    const QString old = target + u".tmp"_s;
+    Files::Replace(target, old);
+    try {
+        WriteTo(target, old, true);
+    } catch (const RuntimeError&) {
+        Files::Replace(old, target);
+        throw;
+    }
+    Ignoring([&] { Files::DeleteForced(old); });
+}
+
+void SaveElsewhere(const QString& target) {
+    const QString aside = Files::TemporaryBeside(target);
+    WriteTo(aside, mBIG::BigFileName, false);
+    try {
+        Files::Replace(aside, target);
+    } catch (const RuntimeError&) {
+        Ignoring([&] { Files::DeleteForced(aside); });
+        throw;
+    }
+}
+
+void SaveTo(const QString& path) {
+    const QString native = Paths::ToNative(path);
+    const QString target = Paths::Absolute(native);
+    if (mBIG::BigEntries.size() > mBIG::MaximumEntries)
+        throw RuntimeError(ErrorNumber::Overflow, u"%1: more than %2 entries"_s.arg(native).arg(mBIG::MaximumEntries));
+    CheckTarget(target);
+    if (Files::SameFile(target, mBIG::BigFileName))
+        SaveOverOpenArchive(target);
+    else
+        SaveElsewhere(target);
+    for (BigEntry& entry : mBIG::BigEntries)
+        entry.IsNew = entry.IsNew && entry.Deleted;
+}
+
+} // namespace
+
+namespace mBIG {
+
+bool WriteBigFile(const QString& path) {
+    Host& host = Host::Current();
+    host.ShowProgress();
+    const QString fileName = path.sliced(path.lastIndexOf(u'\\') + 1);
+    host.SetProgressText(GetText(u"CreatingFile"_s) + u" '"_s + fileName + u"'\r\n"_s + GetText(u"WritingHeader"_s));
+    lastFailure.clear();
+    // A table of one record counts as empty. The progress window stays on the screen. This is meant.
+    if (HighestIndex() == 0)
+        return false;
+    try {
+        SaveTo(path);
+    } catch (const RuntimeError& error) {
+        lastFailure = error.Description();
+        return false;
+    }
+    Ignoring([] { Files::Delete(mMain::ProgramFolder + u"\\Temp\\*.*"_s); });
+    host.UnloadProgress();
+    return true;
+}
+
+QString LastFailure() {
+    return lastFailure;
+}
+
+} // namespace mBIG

@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/ArchiveData.h"
+
+#include "platform/NumberedFiles.h"
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+namespace {
+
+constexpr qsizetype BlockSize = qsizetype{512} * 1024;
+
+} // namespace
+
+ArchiveData::ArchiveData(int target, int oldArchive, int source, qint64 length, qint64 position)
+    : target_(target),
+      oldArchive_(oldArchive),
+      source_(source),
+      length_(length),
+      position_(position),
+      block_(BlockSize, Qt::Uninitialized),
+      blockStart_(length) {
+    Ignoring([&] { oldLength_ = NumberedFiles::Length(oldArchive_); });
+}
+
+void ArchiveData::Load(const BigEntry& entry) {
+    if (entry.IsNew)
+        LoadNew(entry);
+    else
+        LoadOld(entry);
+}
+
+void ArchiveData::LoadOld(const BigEntry& entry) {
+    if (entry.Size > 0) {
+        const qint64 there = std::clamp<qint64>(oldLength_ - entry.Offset, 0, entry.Size);
+        buffer_ = {{Piece::Place::OldArchive, {}, entry.Offset, there},
+                   {Piece::Place::Zeros, {}, 0, entry.Size - there}};
+        return;
+    }
+    // An entry of no bytes leaves the buffer as it was, and reads its beginning again from its own place. This is
+    // meant.
+    qint64 size = 0;
+    for (const Piece& piece : buffer_)
+        size += piece.Length;
+    qint64 skipped = std::clamp<qint64>(oldLength_ - entry.Offset, 0, size);
+    std::vector<Piece> refreshed{{Piece::Place::OldArchive, {}, entry.Offset, skipped}};
+    for (const Piece& piece : buffer_) {
+        const qint64 cut = std::min(skipped, piece.Length);
+        skipped -= cut;
+        if (cut < piece.Length)
+            refreshed.push_back({piece.From, piece.Path, piece.Offset + cut, piece.Length - cut});
+    }
+    buffer_ = std::move(refreshed);
+}
+
+void ArchiveData::LoadNew(const BigEntry& entry) {
+    qint64 length = 0;
+    const bool opened = Ignoring([&] {
+        OpenSource(entry.SourcePath);
+        length = NumberedFiles::Length(source_);
+    });
+    if (!opened)
+        buffer_.clear();
+    else if (length > 0) // an empty file leaves the buffer as it was, and that is meant
+        buffer_ = {{Piece::Place::NewFile, entry.SourcePath, 0, length}};
+}
+
+void ArchiveData::OpenSource(const QString& path) {
+    if (path == openSource_)
+        return;
+    openSource_.clear();
+    NumberedFiles::Close(source_);
+    NumberedFiles::Open(source_, path, NumberedFiles::Access::Read);
+    openSource_ = path;
+}
+
+void ArchiveData::Put() {
+    qint64 size = 0;
+    for (const Piece& piece : buffer_)
+        size += piece.Length;
+    // Positions in the format are signed 32-bit numbers; what would pass them can't be put.
+    if (size == 0 || position_ + size > std::numeric_limits<qint32>::max())
+        return;
+    if (const qint64 gap = position_ - (blockStart_ + filled_); gap > 0)
+        PutZeros(gap);
+    for (const Piece& piece : buffer_) {
+        switch (piece.From) {
+        case Piece::Place::OldArchive:
+            PutFrom(oldArchive_, piece.Offset, piece.Length);
+            break;
+        case Piece::Place::NewFile:
+            Ignoring([&] { OpenSource(piece.Path); });
+            PutFrom(source_, piece.Offset, piece.Length);
+            break;
+        case Piece::Place::Zeros:
+            PutZeros(piece.Length);
+            break;
+        }
+    }
+    position_ += size;
+    length_ = position_;
+}
+
+void ArchiveData::PutFrom(int number, qint64 offset, qint64 length) {
+    for (qint64 done = 0; done < length;) {
+        if (filled_ == block_.size())
+            Flush();
+        const qint64 wanted = std::min<qint64>(length - done, block_.size() - filled_);
+        qint64 had = 0;
+        char* place = block_.data() + filled_;
+        Ignoring([&] { had = NumberedFiles::ReadInto(number, offset + done, place, wanted); });
+        std::memset(place + had, 0, static_cast<std::size_t>(wanted - had));
+        filled_ += wanted;
+        done += wanted;
+    }
+}
+
+void ArchiveData::PutZeros(qint64 length) {
+    if (length > block_.size() - filled_)
+        Flush();
+    if (length > block_.size()) { // left to the file system, which reads it as zeros
+        blockStart_ += length;
+        return;
+    }
+    std::memset(block_.data() + filled_, 0, static_cast<std::size_t>(length));
+    filled_ += length;
+}
+
+void ArchiveData::Flush() {
+    if (filled_ > 0)
+        NumberedFiles::Write(target_, blockStart_, QByteArrayView(block_).first(filled_));
+    blockStart_ += filled_;
+    filled_ = 0;
+}
+
+qint64 ArchiveData::Finish() {
+    Flush();
+    NumberedFiles::SetLength(target_, length_);
+    return length_;
+}

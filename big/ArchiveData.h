@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The data part of an archive being written: entries are loaded into a copy buffer and put at the current position.
+#pragma once
+
+#include "big/mBIG.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+/// The copy buffer keeps its content from one entry to the next, as an entry of no bytes is written from what stands in
+/// it. It is kept as a list of places to read from, not as bytes, and the output goes through one block of memory, so
+/// that no size in a file decides how much memory is used. Failures to write raise; what can't be read is zeros.
+class ArchiveData {
+public:
+    /// Numbers of open files; `source` is a free number for the files of new entries. `length` is the target's length
+    /// so far, `position` where the data begins.
+    ArchiveData(int target, int oldArchive, int source, qint64 length, qint64 position);
+
+    /// The next multiple of 4.
+    static constexpr qint64 RoundUp(qint64 value) { return (value + 3) / 4 * 4; }
+
+    /// Sizes the copy buffer to the entry's data and fills it. Without a byte the buffer keeps its size; its beginning
+    /// is read again from the entry's place. A new entry whose file is gone empties the buffer.
+    void Load(const BigEntry& entry);
+
+    /// Moves forward to a multiple of 4.
+    void Align() { position_ = RoundUp(position_); }
+
+    /// Writes the buffer and moves behind it.
+    void Put();
+
+    /// Writes what is waiting. Returns the target's length.
+    qint64 Finish();
+
+private:
+    /// A stretch of the buffer: from the old archive, from a new entry's file, or zeros.
+    struct Piece {
+        enum class Place { OldArchive, NewFile, Zeros } From;
+        QString Path; ///< of the new entry's file
+        qint64 Offset;
+        qint64 Length;
+    };
+
+    void LoadOld(const BigEntry& entry);
+    void LoadNew(const BigEntry& entry);
+    void PutFrom(int number, qint64 offset, qint64 length);
+    void PutZeros(qint64 length);
+    void OpenSource(const QString& path);
+    void Flush();
+
+    int target_;
+    int oldArchive_;
+    int source_;
+    qint64 oldLength_ = 0;
+    qint64 length_;
+    qint64 position_;
+    std::vector<Piece> buffer_;
+    QString openSource_;
+    QByteArray block_;
+    qsizetype filled_ = 0;
+    qint64 blockStart_;
+};
