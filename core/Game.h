@@ -23,5 +23,5 @@ struct GameEntry {
 /// Filled once at start-up.
 extern std::array<GameEntry, GameCount> Game;
 
-/// Prefix of a game's settings keys: Gen, ZH, BFME, BFME2.
+/// Prefix of a game's settings keys: Gen, ZH, BFME, BFME2. `game` is 0 to 3.
 QString SettingsPrefix(GameIndex game);

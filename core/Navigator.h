@@ -39,5 +39,7 @@ public:
 
     /// The one in use; asking for a missing one raises 91.
     static Navigator& Current();
+    /// False before the application has wired one: a game is launched without.
+    static bool IsInUse();
     static void Use(Navigator* navigator);
 };

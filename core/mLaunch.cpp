@@ -1,2 +1,39 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/mLaunch.h"
+
+#include "core/Settings.h"
+#include "platform/Processes.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString ExecutableName(GameIndex game) {
+    static const std::array<QString, GameCount> names{u"generals.exe"_s, u"generals.exe"_s, u"lotrbfme.exe"_s,
+                                                      u"lotrbfme2.exe"_s};
+    return names.at(static_cast<std::size_t>(game));
+}
+
+} // namespace
+
+QString mLaunch::LaunchCommand(GameIndex game) {
+    if (game < 0 || game >= GameCount)
+        return {};
+    // The options carry their own leading blank; a mod's name is not quoted. Both are meant.
+    QString options = ReadSetting(SettingsPrefix(game) + u"StartupOptions"_s);
+    const QString mod = ReadSetting(SettingsPrefix(game) + u"LoadMod"_s);
+    if (!mod.isEmpty())
+        options += u" -mod "_s + mod;
+    const QString& installPath = Game.at(static_cast<std::size_t>(game)).InstallPath;
+    return u'"' + installPath + ExecutableName(game) + u"\" "_s + options;
+}
+
+void mLaunch::LaunchGame(GameIndex game) {
+    const QString command = LaunchCommand(game);
+    if (!command.isEmpty())
+        Processes::StartCommand(command);
+}

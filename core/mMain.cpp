@@ -1,2 +1,138 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/mMain.h"
+
+#include "core/Host.h"
+#include "core/Navigator.h"
+#include "core/Settings.h"
+#include "core/mLaunch.h"
+#include "core/mTraduction.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <cmath>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+QString mMain::CommandLine;
+QString mMain::CommandFileArgument;
+bool mMain::AddFileRequested = false;
+bool mMain::RestartRequested = false;
+bool mMain::CsfOpenedByHost = false;
+QString mMain::LanguageFileName;
+QString mMain::ProgramFolder;
+
+namespace {
+
+std::unique_ptr<RegistryRuntime> registry;
+std::unique_ptr<INIRuntime> ini;
+
+void CheckForUpdatesIfWanted() {
+    if (mMain::AutomaticCheckWanted())
+        Navigator::Current().CheckForUpdates(true);
+}
+
+void Launch(GameIndex game) {
+    Ignoring([&] {
+        if (Navigator::IsInUse())
+            Navigator::Current().ActivateShellMap(game);
+    });
+    Ignoring([&] { mLaunch::LaunchGame(game); });
+}
+
+void ShowToolsMenu() {
+    Ignoring([] { Navigator::Current().ShowToolsMenu(); });
+    if (mMain::NoGameOfFirstThree())
+        Ignoring([] { Host::Current().Message(mTraduction::GetText(u"NoGameDetected"_s), Host::Icon::Critical); });
+}
+
+void ShowTool(const mMain::Dispatched& dispatched) {
+    using Action = mMain::Dispatched::Action;
+    Navigator& navigator = Navigator::Current();
+    switch (dispatched.What) {
+    case Action::OpenBigFile:
+        return navigator.OpenBigFile(dispatched.Path);
+    case Action::ShowBigEditor:
+        return navigator.ShowBigEditor();
+    case Action::ExtractBigFile:
+        return navigator.ExtractBigFile(dispatched.Path);
+    case Action::OpenCSFFile:
+        return navigator.OpenCSFFile(dispatched.Path);
+    case Action::ShowCSFEditor:
+        return navigator.ShowCSFEditor();
+    case Action::ShowPersonalFiles:
+        return navigator.ShowPersonalFiles();
+    case Action::ShowAddFiles:
+        mMain::AddFileRequested = true;
+        return navigator.ShowAddFiles();
+    case Action::LaunchGame:
+    case Action::NormalStart:
+        return;
+    }
+}
+
+} // namespace
+
+void mMain::UseRuntimes() {
+    ini = std::make_unique<INIRuntime>();
+    registry = std::make_unique<RegistryRuntime>();
+    ProgramFolder = Paths::ProgramFolder();
+}
+
+RegistryRuntime& mMain::Registry() {
+    if (registry == nullptr)
+        throw RuntimeError(ErrorNumber::ObjectNotSet, u"The registry is not in use yet."_s);
+    return *registry;
+}
+
+INIRuntime& mMain::INI() {
+    if (ini == nullptr)
+        throw RuntimeError(ErrorNumber::ObjectNotSet, u"INI files are not in use yet."_s);
+    return *ini;
+}
+
+bool mMain::AutomaticCheckWanted() {
+    bool isNumber = false;
+    const double number = ReadSetting(u"AutoCheckForUpdates"_s).toDouble(&isNumber);
+    // A text that is no number counts as yes, the empty text of a first run above all. Meant.
+    return !isNumber || !std::isfinite(number) || std::trunc(number) == 1.0;
+}
+
+bool mMain::NoGameOfFirstThree() {
+    return Game[0].InstallPath.isEmpty() && Game[1].InstallPath.isEmpty() && Game[2].InstallPath.isEmpty();
+}
+
+mMain::Dispatched mMain::Prepare(const QString& commandLine) {
+    const Dispatched normalStart{.UpdateChecks = 1};
+    const bool detected = Ignoring([] {
+        UseRuntimes();
+        LanguageFileName = ReadSetting(u"TradFileName"_s);
+        DetectGames();
+    });
+    if (!detected)
+        return normalStart;
+    Ignoring([] { MakeUserFolders(); });
+    CommandLine = commandLine;
+    if (CommandLine.isEmpty())
+        return normalStart;
+    CommandFileArgument = FileArgument(CommandLine);
+    Dispatched dispatched = Dispatch(CommandLine);
+    if (dispatched.What == Dispatched::Action::LaunchGame)
+        Launch(dispatched.Launched);
+    return dispatched;
+}
+
+void mMain::Show(const Dispatched& dispatched) {
+    for (int check = 0; check < dispatched.UpdateChecks; ++check)
+        Ignoring(CheckForUpdatesIfWanted);
+    if (dispatched.What == Dispatched::Action::NormalStart)
+        ShowToolsMenu();
+    else
+        Ignoring([&] { ShowTool(dispatched); });
+}
+
+QString mMain::VersionText() {
+    return u"%1.%2.%3"_s.arg(BRINDOCK_VERSION_MAJOR).arg(BRINDOCK_VERSION_MINOR).arg(BRINDOCK_VERSION_REVISION);
+}

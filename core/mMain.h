@@ -60,7 +60,7 @@ struct Dispatched {
     };
     Action What = Action::NormalStart;
     GameIndex Launched = -1;
-    QString Path;
+    QString Path = {};
     int UpdateChecks = 0; ///< how often the automatic update check is tested on the way
 };
 

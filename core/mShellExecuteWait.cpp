@@ -1,2 +1,90 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/mShellExecuteWait.h"
+
+#include "core/Host.h"
+#include "core/Navigator.h"
+#include "core/mMain.h"
+#include "platform/RuntimeError.h"
+
+#include <QThread>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int NoAssociation = 31;
+constexpr int IncompleteAssociation = 27;
+constexpr unsigned long PauseMilliseconds = 10;
+
+void Tell(int instApp) {
+    const QString text = mShellExecuteWait::RefusalText(instApp);
+    if (!text.isEmpty())
+        Host::Current().Message(text, Host::Icon::Exclamation);
+}
+
+void LetTheUserChoose(const QString& path) {
+    // A system without a chooser says at least why nothing opens.
+    if (!Ignoring([&] { Processes::ChooseProgramFor(path); }))
+        Tell(IncompleteAssociation);
+}
+
+} // namespace
+
+QString mShellExecuteWait::RefusalText(int instApp) {
+    struct Refusal {
+        int InstApp;
+        QString Text;
+    };
+
+    // Fixed texts, in French whatever the language. Meant.
+    static const std::array<Refusal, 9> refusals{{
+        {3, u"Le chemin du fichier à ouvrir est incorrect."_s},
+        {5, u"Accès au fichier refusé."_s},
+        {8, u"Mémoire insuffisante."_s},
+        {26, u"Le fichier est déjà ouvert."_s},
+        {IncompleteAssociation, u"Information d'association du fichier incomplète."_s},
+        {28, u"Opération DDE dépassée."_s},
+        {29, u"Opération DDE echouée."_s},
+        {30, u"Opération DDE occupée."_s},
+        {32, u"Dynamic-link library non trouvé."_s},
+    }};
+    for (const Refusal& refusal : refusals) {
+        if (refusal.InstApp == instApp)
+            return refusal.Text;
+    }
+    return {};
+}
+
+void mShellExecuteWait::ReactTo(int instApp, const QString& path) {
+    if (instApp == NoAssociation)
+        LetTheUserChoose(path);
+    else
+        Tell(instApp);
+}
+
+void mShellExecuteWait::WaitFor(Processes::Handle process) {
+    // Ends with the program, whatever its exit code.
+    while (!Processes::ExitCode(process)) {
+        Host::Current().Yield();
+        QThread::msleep(PauseMilliseconds);
+    }
+    Processes::Close(process);
+}
+
+Processes::Handle mShellExecuteWait::OpenWithShell(const QString& path, quintptr owner, bool wait) {
+    // Capitals go to the system. Meant.
+    if (path.endsWith(u"csf"_s)) {
+        mMain::CsfOpenedByHost = true;
+        Navigator::Current().OpenCSFFile(path);
+        return 0;
+    }
+    const Processes::Opened opened = Processes::OpenWithAssociation(path, owner);
+    ReactTo(opened.InstApp, path);
+    if (wait && opened.Process != 0)
+        WaitFor(opened.Process);
+    return opened.Process;
+}

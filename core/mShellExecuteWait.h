@@ -15,4 +15,14 @@ namespace mShellExecuteWait {
 /// `owner` is the calling window's handle. Returns the process handle or 0.
 Processes::Handle OpenWithShell(const QString& path, quintptr owner, bool wait);
 
+/// The fixed text that tells an answer of the shell; empty for one that is passed over (success, file not found) or
+/// that has another reaction.
+QString RefusalText(int instApp);
+
+/// Does what an answer of the shell to opening `path` asks for: a message, the choice of a program, or nothing.
+void ReactTo(int instApp, const QString& path);
+
+/// Returns when the process has ended, whatever its exit code, keeping the event loop turning; gives the handle back.
+void WaitFor(Processes::Handle process);
+
 } // namespace mShellExecuteWait

@@ -1,2 +1,58 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/mTraduction.h"
+
+#include "core/mMain.h"
+#include "platform/AnsiCodec.h"
+#include "platform/Clock.h"
+#include "platform/NumberedFiles.h"
+#include "platform/RuntimeError.h"
+
+#include <QtEndian>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Apart from the numbers that archives, tables and replays are read under: a text may be asked for while one is open.
+constexpr int LogFileNumber = 250;
+constexpr quint16 StringTag = 8;
+
+void AppendLittleEndian(QByteArray& bytes, quint16 value) {
+    const quint16 stored = qToLittleEndian(value);
+    bytes.append(reinterpret_cast<const char*>(&stored), sizeof stored);
+}
+
+QByteArray Record(const QString& key) {
+    const QByteArray text = AnsiCodec::Encode(Clock::Now() + u" - ID="_s + key + u", TradFileName="_s +
+                                              mMain::LanguageFileName + u"\r\n"_s);
+    QByteArray record;
+    AppendLittleEndian(record, StringTag);
+    AppendLittleEndian(record, static_cast<quint16>(text.size()));
+    return record + text;
+}
+
+void LogMiss(const QString& key) {
+    NumberedFiles::Open(LogFileNumber, mMain::ProgramFolder + u"\\localization.log"_s,
+                        NumberedFiles::Access::ReadWrite);
+    Ignoring([&] {
+        // The position is the length counted from 1, so a record overwrites the line feed of the one before. Meant.
+        const qint64 length = NumberedFiles::Length(LogFileNumber);
+        NumberedFiles::Write(LogFileNumber, length > 0 ? length - 1 : 0, Record(key));
+    });
+    NumberedFiles::Close(LogFileNumber);
+}
+
+} // namespace
+
+QString mTraduction::GetText(const QString& key) {
+    QString text;
+    Ignoring(
+        [&] { text = mMain::INI().ReadINI(u"LNG"_s, key, mMain::ProgramFolder + u'\\' + mMain::LanguageFileName); });
+    text.replace(u"\\n"_s, u"\r\n"_s);
+    if (!text.isEmpty())
+        return text;
+    Ignoring([&] { LogMiss(key); });
+    return key;
+}

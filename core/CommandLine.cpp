@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// What the command line asks for.
+
+#include "core/mMain.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+
+#include <optional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Action = mMain::Dispatched::Action;
+
+constexpr qsizetype PathStart = 6;
+
+/// The system's own absolute paths may begin with "/" too: true when the whole rest of the line is one that exists.
+/// Never where a path stands as it is written.
+bool IsPathOfTheSystem(const QString& rest) {
+    const QString path = Paths::FromNative(rest);
+    return path != rest && Files::FileExists(path);
+}
+
+/// The game that "/launch" names. The longer of two switches is tested first.
+std::optional<GameIndex> LaunchedGame(const QString& commandLine) {
+    struct GameSwitch {
+        QString Switch;
+        GameIndex Game;
+    };
+
+    static const std::vector<GameSwitch> switches{{u"/zh"_s, 1}, {u"/gen"_s, 0}, {u"/bfme2"_s, 3}, {u"/bfme"_s, 2}};
+    for (const GameSwitch& one : switches) {
+        if (commandLine.contains(one.Switch))
+            return one.Game;
+    }
+    return std::nullopt;
+}
+
+struct ToolSwitch {
+    QString Switch;
+    Action WithFile;
+    Action Empty;
+};
+
+/// In the order in which they are tested. A tool that takes no path has the same action twice.
+const std::vector<ToolSwitch>& ToolSwitches() {
+    static const std::vector<ToolSwitch> switches{
+        {u"/tbig"_s, Action::OpenBigFile, Action::ShowBigEditor},
+        {u"/bige"_s, Action::ExtractBigFile, Action::ShowBigEditor},
+        {u"/tcsf"_s, Action::OpenCSFFile, Action::ShowCSFEditor},
+        {u"/tpfiles"_s, Action::ShowPersonalFiles, Action::ShowPersonalFiles},
+        {u"/addfile"_s, Action::ShowAddFiles, Action::ShowAddFiles},
+    };
+    return switches;
+}
+
+mMain::Dispatched Tool(const ToolSwitch& tool, const QString& commandLine) {
+    mMain::Dispatched result{.What = tool.Empty, .UpdateChecks = 1};
+    if (tool.WithFile == tool.Empty || commandLine.size() <= PathStart)
+        return result;
+    // Always what stands behind the first six characters, wherever the switch was found. Quotes stay.
+    const QString path = Paths::FromNative(commandLine.mid(PathStart));
+    if (Files::FileExists(path)) {
+        result.What = tool.WithFile;
+        result.Path = path;
+    }
+    return result;
+}
+
+} // namespace
+
+QString mMain::FileArgument(const QString& commandLine) {
+    qsizetype count = 0;
+    for (const QString& piece : commandLine.split(u' ')) {
+        if (!piece.startsWith(u'/') || IsPathOfTheSystem(commandLine.mid(count)))
+            break;
+        count += piece.size() + 1;
+    }
+    // Behind nothing but switches the count is past the end, and there is no argument.
+    return count > commandLine.size() ? QString() : Paths::FromNative(commandLine.mid(count));
+}
+
+mMain::Dispatched mMain::Dispatch(const QString& commandLine) {
+    // Every switch is looked for anywhere in the line, with regard to case. Meant.
+    if (commandLine.contains(u"/launch"_s)) {
+        if (const auto game = LaunchedGame(commandLine))
+            return {.What = Action::LaunchGame, .Launched = *game};
+        return {.UpdateChecks = 1};
+    }
+    for (const ToolSwitch& tool : ToolSwitches()) {
+        if (commandLine.contains(tool.Switch))
+            return Tool(tool, commandLine);
+    }
+    // An unknown line passes the check once by itself and once in the normal start. Meant.
+    return {.UpdateChecks = commandLine.isEmpty() ? 1 : 2};
+}

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// The games: where they are, and the folders of the user's own files.
+
+#include "core/mMain.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr GameIndex Generals = 0;
+constexpr GameIndex ZeroHour = 1;
+constexpr GameIndex BattleForMiddleEarth = 2;
+
+QString GameKey(GameIndex game) {
+    static const std::array<QString, GameCount> keys{
+        u"SOFTWARE\\Electronic Arts\\EA Games\\Generals"_s,
+        u"SOFTWARE\\Electronic Arts\\EA Games\\Command and Conquer Generals Zero Hour"_s,
+        u"SOFTWARE\\Electronic Arts\\EA Games\\The Battle for Middle-Earth"_s,
+        // The last game registers itself under the doubled name.
+        u"SOFTWARE\\Electronic Arts\\Electronic Arts\\The Battle for Middle-Earth II"_s,
+    };
+    return keys.at(static_cast<std::size_t>(game));
+}
+
+// The duplicates and the odd capitals are part of the lists.
+QString OwnBigFiles(GameIndex game) {
+    static const std::array<QString, GameCount> lists{
+        u"/Audio.big//AudioFrench.big//AudioEnglish.big//French.big//English.big//gensec.big//INI.big//Maps.big/"
+        "/Music.big//shaders.big//Speech.big//SpeechFrench.big//Patch.big//Terrain.big//Textures.big//W3D.big/"
+        "/Window.big//Gensec.big/"_s,
+        u"/AudioZH.big//AudioFrenchZH.big//AudioEnglishZH.big//FrenchZH.big//EnglishZH.big//INIZH.big//MapsZH.big/"
+        "/Music.big//MusicZH.big//PatchZH.big//W3DFrenchZH.big//shadersZH.big//SpeechZH.big//SpeechFrenchZH.big/"
+        "/TerrainZH.big//TexturesZH.big//W3DZH.big//WindowZH.big//GensecZH.big/"_s,
+        u"/AmbientStreams.big//Audio.big//Bases.big//Data.big//EnglishAudio.big//FrenchAudio.big//French.big/"
+        "/English.big//INI.big//Libraries.big//lotrsec.big//Maps.big//Music.big//Patch.big//Shaders.big/"
+        "/Terrain.big//Textures.big//W3D.big//Window.big/"_s,
+        u"/AmbientStreams.big//Audio.big//Bases.big//Data1.big//INI.big//Libraries.big//lotrsec.big//Maps.big/"
+        "/Music.big//Patch.big//Shaders.big//Terrain.big//Textures0.big//Textures1.big//Textures2.big/"
+        "/Textures3.big//Textures4.big//W3D.big//Window.big/"_s,
+    };
+    return lists.at(static_cast<std::size_t>(game));
+}
+
+QString ShellFolders() {
+    return u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders"_s;
+}
+
+// The two older games keep their data with the documents, the two later ones with the application data.
+QString ShellFolderName(GameIndex game) {
+    return game <= ZeroHour ? u"Personal"_s : u"AppData"_s;
+}
+
+QString InstallPathName() {
+    return u"InstallPath"_s;
+}
+
+QString PrefixOfGame(GameIndex game) {
+    return mMain::Registry().PrefixOf(RootKey::LocalMachine, GameKey(game), InstallPathName());
+}
+
+/// While it lives, reads look first in the Wine prefix that the game was found in: the user's folders are that
+/// prefix's own.
+class ReadingBesideGame {
+public:
+    explicit ReadingBesideGame(GameIndex game) { mMain::Registry().LookFirstIn(PrefixOfGame(game)); }
+
+    ~ReadingBesideGame() { mMain::Registry().LookFirstIn({}); }
+
+    ReadingBesideGame(const ReadingBesideGame&) = delete;
+    ReadingBesideGame& operator=(const ReadingBesideGame&) = delete;
+};
+
+/// The folder of the game's user files, no trailing backslash. A missing value leaves its place empty.
+QString UserDataFolder(GameIndex game) {
+    const ReadingBesideGame reading(game);
+    const RegistryRuntime& registry = mMain::Registry();
+    const QString base = registry.GetString(RootKey::CurrentUser, ShellFolders(), ShellFolderName(game));
+    const QString leaf = game == Generals
+                             ? u"Command and Conquer Generals Data"_s
+                             : registry.GetString(RootKey::LocalMachine, GameKey(game), u"UserDataLeafName"_s);
+    return base + u'\\' + leaf;
+}
+
+/// Lets the game's folders be looked for in the Wine prefixes that the registry names them in.
+void FollowPrefixes(GameIndex game) {
+    const GameEntry& entry = Game.at(static_cast<std::size_t>(game));
+    const QString ofGame = PrefixOfGame(game);
+    if (!ofGame.isEmpty())
+        Paths::UsePrefix(entry.InstallPath, ofGame);
+    const ReadingBesideGame reading(game);
+    const QString named = mMain::Registry().PrefixOf(RootKey::CurrentUser, ShellFolders(), ShellFolderName(game));
+    const QString ofUser = named.isEmpty() ? ofGame : named;
+    if (ofUser.isEmpty())
+        return;
+    for (const QString& folder : {UserDataFolder(game), entry.ReplayPath, entry.MapPath})
+        Paths::UsePrefix(folder, ofUser);
+}
+
+} // namespace
+
+void mMain::DetectGames() {
+    Paths::ForgetPrefixes();
+    for (const GameIndex game : {ZeroHour, Generals, BattleForMiddleEarth, GameCount - 1})
+        Game.at(static_cast<std::size_t>(game)).InstallPath =
+            Registry().GetString(RootKey::LocalMachine, GameKey(game), InstallPathName());
+    for (GameIndex game = 0; game < GameCount; ++game) {
+        GameEntry& entry = Game.at(static_cast<std::size_t>(game));
+        entry.ReplayPath = UserDataFolder(game) + u"\\Replays\\"_s;
+        entry.MapPath = UserDataFolder(game) + u"\\Maps\\"_s;
+        FollowPrefixes(game);
+    }
+    for (GameIndex game = 0; game < GameCount; ++game)
+        Game.at(static_cast<std::size_t>(game)).GameBigFiles = OwnBigFiles(game);
+}
+
+QString mMain::InstallPathFoundIn(GameIndex game) {
+    return Registry().FoundIn(RootKey::LocalMachine, GameKey(game), InstallPathName());
+}
+
+void mMain::MakeUserFolders() {
+    const auto make = [](const QString& folder) { Ignoring([&] { Files::MakeFolder(folder); }); };
+    if (const GameEntry& entry = Game[Generals]; !entry.InstallPath.isEmpty()) {
+        make(UserDataFolder(Generals) + u'\\');
+        make(entry.ReplayPath);
+        make(entry.MapPath);
+    }
+    // The Battle for Middle-earth II gets none: its folders are used only if the game made them. Meant.
+    for (const GameIndex game : {ZeroHour, BattleForMiddleEarth}) {
+        const GameEntry& entry = Game.at(static_cast<std::size_t>(game));
+        if (entry.InstallPath.isEmpty())
+            continue;
+        make(UserDataFolder(game));
+        make(entry.MapPath);
+        make(entry.ReplayPath);
+    }
+}
