@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/big/Archives.h"
+
+#include "platform/Files.h"
+
+#include <QtEndian>
+
+namespace {
+
+QByteArray BigEndian(quint32 value) {
+    QByteArray bytes(4, Qt::Uninitialized);
+    qToBigEndian(value, bytes.data());
+    return bytes;
+}
+
+} // namespace
+
+QByteArray Record(quint32 offset, quint32 size, const QByteArray& name) {
+    return BigEndian(offset) + BigEndian(size) + name + '\0';
+}
+
+QByteArray HeaderOf(const QByteArray& magic, quint32 count, quint32 firstFile) {
+    return magic + QByteArray(4, '\0') + BigEndian(count) + BigEndian(firstFile);
+}
+
+ArchiveTest::ArchiveTest() {
+    world_.Start();
+    mBIG::BigEntries.clear();
+    mBIG::BigVersion = 0;
+    mBIG::BigFileName.clear();
+}
+
+ArchiveTest::~ArchiveTest() {
+    NumberedFiles::CloseAll();
+}
+
+void ArchiveTest::AddNew(const QString& name, const QByteArray& bytes) {
+    const QString source = Put(QStringLiteral("source%1").arg(++sources_), bytes);
+    mBIG::BigEntries.push_back({name, 0, static_cast<qint32>(bytes.size()), true, false, source});
+}
+
+QByteArray ArchiveTest::SavedAs(int version) {
+    mBIG::BigVersion = version;
+    const QString target = At(QStringLiteral("out.big"));
+    EXPECT_TRUE(mBIG::WriteBigFile(target)) << mBIG::LastFailure().toStdString();
+    return World::ReadFile(target);
+}

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Archives written out byte by byte for the tests, and a world in which to read and write them.
+#pragma once
+
+#include "big/mBIG.h"
+#include "platform/NumberedFiles.h"
+#include "tests/support/ScriptedHost.h"
+#include "tests/support/World.h"
+
+#include <gtest/gtest.h>
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+/// The bytes of a literal, its zeros included.
+template <std::size_t Size>
+QByteArray Bytes(const char (&literal)[Size]) {
+    return QByteArray(literal, static_cast<qsizetype>(Size) - 1);
+}
+
+/// A directory record.
+QByteArray Record(quint32 offset, quint32 size, const QByteArray& name);
+
+/// A header of 16 bytes with a length of zero.
+QByteArray HeaderOf(const QByteArray& magic, quint32 count, quint32 firstFile);
+
+class ArchiveTest : public testing::Test {
+protected:
+    ArchiveTest();
+    ~ArchiveTest() override;
+
+    /// Makes a file in the world; returns its inside path.
+    QString Put(const QString& name, const QByteArray& bytes) { return world_.WriteFile(name, bytes); }
+
+    [[nodiscard]] QString At(const QString& name) const { return world_.Root() + u'\\' + name; }
+
+    /// Adds a new record whose data is in a file of its own.
+    void AddNew(const QString& name, const QByteArray& bytes);
+
+    /// Saves the table to "out.big" as a variant and returns the bytes.
+    QByteArray SavedAs(int version);
+
+    World world_;
+    ScriptedHost host_;
+
+private:
+    int sources_ = 0;
+};
