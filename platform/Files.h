@@ -24,6 +24,12 @@ bool FolderExists(const QString& path);
 /// is allowed.
 void MakeFolder(const QString& path);
 
+/// The same for a path whose case is known to be right: nothing is looked up.
+void MakeFolderAsGiven(const QString& path);
+
+/// True for a symbolic link, wherever it leads.
+bool IsLink(const QString& path);
+
 /// Makes the folder and those above it; a folder that stands already is fine.
 void MakeFolders(const QString& path);
 

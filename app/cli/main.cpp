@@ -1,5 +1,43 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-int main() {
+
+/// brindock-cli: the suite's file logic for scripts and build pipelines.
+#include "app/cli/BigCommands.h"
+#include "app/cli/GameCommands.h"
+#include "app/cli/Output.h"
+#include "app/cli/ScriptHost.h"
+
+#include "core/mMain.h"
+#include "platform/Arguments.h"
+#include "platform/RuntimeError.h"
+
+#include <CLI/CLI.hpp>
+
+namespace {
+
+constexpr int WrongUsage = 2;
+
+int Run(CLI::App& commands, const std::vector<std::string>& arguments) {
+    try {
+        commands.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        Flush();
+    } catch (const CLI::ParseError& error) {
+        return commands.exit(error) == 0 ? 0 : WrongUsage;
+    } catch (const RuntimeError& error) {
+        return Report(error);
+    }
     return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    ScriptHost host;
+    mMain::UseRuntimes();
+    CLI::App commands("Brindock 2005 for scripts: the games' archives, settings and texts.", "brindock-cli");
+    commands.require_subcommand(1);
+    commands.set_version_flag("--version", mMain::VersionText().toStdString());
+    AddGameCommands(commands);
+    AddBigCommands(commands);
+    return Run(commands, ProcessArguments(argc, argv));
 }

@@ -67,6 +67,17 @@ private:
     std::unique_ptr<DIR, int (*)(DIR*)> directory_;
 };
 
+void MakeNative(const QString& native) {
+    if (::mkdir(Paths::EncodeNative(native).constData(), 0777) == 0)
+        return;
+    const int error = errno;
+    if (error == EEXIST)
+        throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: exists already").arg(native));
+    if (error == ENOENT)
+        throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(native));
+    RaiseErrno(error, native);
+}
+
 } // namespace
 
 std::vector<FolderEntry> FolderEntries(const QString& folder) {
@@ -114,16 +125,17 @@ bool FolderExists(const QString& path) {
 }
 
 void MakeFolder(const QString& path) {
-    const QString folder = FolderPath(path);
-    const Native native(folder);
-    if (::mkdir(native.Path(), 0777) == 0)
-        return;
-    const int error = errno;
-    if (error == EEXIST)
-        throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: exists already").arg(native.Text));
-    if (error == ENOENT)
-        throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(native.Text));
-    native.Raise(error);
+    MakeNative(Paths::ToNative(FolderPath(path)));
+}
+
+void MakeFolderAsGiven(const QString& path) {
+    MakeNative(Paths::ToNativeAsGiven(FolderPath(path)));
+}
+
+bool IsLink(const QString& path) {
+    struct stat status {};
+
+    return ::lstat(Native(path).Path(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
 void RemoveFolder(const QString& path) {

@@ -112,6 +112,15 @@ void MakeFolder(const QString& path) {
     RaiseLastError(error, path);
 }
 
+void MakeFolderAsGiven(const QString& path) {
+    MakeFolder(path);
+}
+
+bool IsLink(const QString& path) {
+    const DWORD attributes = GetFileAttributesW(WidePath(FolderPath(path)).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
 void RemoveFolder(const QString& path) {
     if (RemoveDirectoryW(WidePath(FolderPath(path)).c_str()) != 0)
         return;

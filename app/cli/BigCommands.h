@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The commands for BIG archives.
+#pragma once
+
+namespace CLI {
+class App;
+}
+
+/// Adds "big" with list, extract, save and create.
+void AddBigCommands(CLI::App& commands);
