@@ -18,11 +18,10 @@ using Action = mMain::Dispatched::Action;
 
 constexpr qsizetype PathStart = 6;
 
-/// The system's own absolute paths may begin with "/" too: true when the whole rest of the line is one that exists.
-/// Never where a path stands as it is written.
-bool IsPathOfTheSystem(const QString& rest) {
-    const QString path = Paths::FromNative(rest);
-    return path != rest && Files::FileExists(path);
+/// The path that a person gave: as their system writes it, or else as the games' files do.
+QString GivenPath(const QString& text) {
+    const QString path = Paths::FromNative(text);
+    return Files::FileExists(path) ? path : text;
 }
 
 /// The game that "/launch" names. The longer of two switches is tested first.
@@ -63,7 +62,7 @@ mMain::Dispatched Tool(const ToolSwitch& tool, const QString& commandLine) {
     if (tool.WithFile == tool.Empty || commandLine.size() <= PathStart)
         return result;
     // Always what stands behind the first six characters, wherever the switch was found. Quotes stay.
-    const QString path = Paths::FromNative(commandLine.mid(PathStart));
+    const QString path = GivenPath(commandLine.mid(PathStart));
     if (Files::FileExists(path)) {
         result.What = tool.WithFile;
         result.Path = path;
@@ -76,12 +75,14 @@ mMain::Dispatched Tool(const ToolSwitch& tool, const QString& commandLine) {
 QString mMain::FileArgument(const QString& commandLine) {
     qsizetype count = 0;
     for (const QString& piece : commandLine.split(u' ')) {
-        if (!piece.startsWith(u'/') || IsPathOfTheSystem(commandLine.mid(count)))
+        // A path of the system may begin with a slash too; it differs from the same path inside the program.
+        const QString rest = commandLine.mid(count);
+        if (!piece.startsWith(u'/') || GivenPath(rest) != rest)
             break;
         count += piece.size() + 1;
     }
     // Behind nothing but switches the count is past the end, and there is no argument.
-    return count > commandLine.size() ? QString() : Paths::FromNative(commandLine.mid(count));
+    return count > commandLine.size() ? QString() : GivenPath(commandLine.mid(count));
 }
 
 mMain::Dispatched mMain::Dispatch(const QString& commandLine) {

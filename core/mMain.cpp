@@ -105,7 +105,7 @@ bool mMain::NoGameOfFirstThree() {
 }
 
 mMain::Dispatched mMain::Prepare(const QString& commandLine) {
-    const Dispatched normalStart{.UpdateChecks = 1};
+    Dispatched normalStart{.UpdateChecks = 1};
     const bool detected = Ignoring([] {
         UseRuntimes();
         LanguageFileName = ReadSetting(u"TradFileName"_s);

@@ -66,8 +66,8 @@ void List(const Options& options) {
     Print(u"version %1"_s.arg(mBIG::BigVersion));
     int index = 0;
     for (const BigEntry& entry : mBIG::BigEntries) {
-        Print(QString::number(index++) + u'\t' + QString::number(entry.Offset) + u'\t' +
-                      QString::number(entry.Size) + u'\t' + entry.Name);
+        Print(QString::number(index++) + u'\t' + QString::number(entry.Offset) + u'\t' + QString::number(entry.Size) +
+              u'\t' + entry.Name);
     }
 }
 
@@ -120,7 +120,8 @@ void Extract(const Options& options) {
     if (failures == 1)
         throw RuntimeError(ErrorNumber::PathFileAccess, firstFailure);
     if (failures > 1)
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"%1 (and %2 more not extracted)"_s.arg(firstFailure).arg(failures - 1));
+        throw RuntimeError(ErrorNumber::PathFileAccess,
+                           u"%1 (and %2 more not extracted)"_s.arg(firstFailure).arg(failures - 1));
 }
 
 void DeleteEntry(const QString& archive, const QString& name) {

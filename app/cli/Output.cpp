@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/cli/Output.h"
+
+#include "platform/Console.h"
+#include "platform/Paths.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype GatheredBytes = 65536;
+
+QByteArray& Gathered() {
+    static QByteArray bytes;
+    return bytes;
+}
+
+} // namespace
+
+void Print(const QString& line) {
+    QByteArray& bytes = Gathered();
+    bytes += Paths::EncodeNative(line);
+    bytes += '\n';
+    if (bytes.size() >= GatheredBytes)
+        Flush();
+}
+
+void Flush() {
+    const QByteArray bytes = std::exchange(Gathered(), {});
+    Console::Write(bytes);
+}
+
+void Fail(const QString& file, const QString& reason) {
+    throw RuntimeError(ErrorNumber::PathFileAccess, file + u": "_s + reason);
+}
+
+int Report(const RuntimeError& error) {
+    QString line = u"brindock-cli: "_s + error.Description();
+    line.replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ');
+    Console::WriteError(Paths::EncodeNative(line) + '\n');
+    return 1;
+}
+
+QString ArgumentText(const std::string& argument) {
+    return Paths::DecodeNative(QByteArray::fromStdString(argument));
+}
+
+QString ArgumentPath(const std::string& argument) {
+    return Paths::Absolute(ArgumentText(argument));
+}

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// What the commands of brindock-cli print, and how they fail.
+#pragma once
+
+#include "platform/RuntimeError.h"
+
+#include <QString>
+
+#include <string>
+
+/// Prints one line on standard output, in UTF-8; a name that is no text comes out with the bytes that it has. Lines are
+/// gathered: Flush hands over the last ones.
+void Print(const QString& line);
+
+/// Raises when standard output takes no more.
+void Flush();
+
+/// Ends the command: `file` and the reason stand on standard error, and the exit code is 1.
+[[noreturn]] void Fail(const QString& file, const QString& reason);
+
+/// Tells a failure in one line on standard error and returns the exit code 1.
+int Report(const RuntimeError& error);
+
+/// The text of an argument of the command line.
+QString ArgumentText(const std::string& argument);
+
+/// The inside path of a file or folder that an argument names.
+QString ArgumentPath(const std::string& argument);
