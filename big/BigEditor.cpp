@@ -50,7 +50,7 @@ BigEditor::BigEditor(EditorView& view) : view_(view) {
 }
 
 void BigEditor::OpenBigFile(const QString& path) {
-    if (!Files::FileExists(path))
+    if (!Files::FileExists(path) || Locked())
         return;
     view_.ShowWindow();
     if (LoadBig(path))
@@ -135,8 +135,9 @@ void BigEditor::ClickRow(int place) {
     state_.FocusPane = FocusedPane::List;
     ClearPreview();
     // The table may have been replaced by that of a refused archive.
-    if (!row.IsFolder && row.Index <= mBIG::HighestIndex()) {
-        const BigEntry& entry = mBIG::BigEntries[static_cast<std::size_t>(row.Index)];
+    const auto index = static_cast<std::size_t>(row.Index);
+    if (!row.IsFolder && index < mBIG::BigEntries.size()) {
+        const BigEntry& entry = mBIG::BigEntries[index];
         state_.StatusText = entry.Name;
         state_.DetailsName = list_.Text(place);
         state_.DetailsSize = KiloBytes(CurrentSize(entry));
