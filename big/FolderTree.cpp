@@ -1,2 +1,76 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/FolderTree.h"
+
+#include "platform/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+
+QString LastPart(const QString& path) {
+    return path.sliced(path.lastIndexOf(u'\\') + 1);
+}
+
+void FolderTree::Reset(const QString& rootText) {
+    nodes_.clear();
+    knownFolders_.clear();
+    nodes_.push_back({.Key = {}, .Text = rootText, .Parent = None, .Row = 0, .Children = {}});
+    knownFolders_.insert({}, Root);
+}
+
+void FolderTree::CreateDirs(const QString& rootText, const std::vector<BigEntry>& entries) {
+    Reset(rootText);
+    QStringView previous;
+    for (const BigEntry& entry : entries) {
+        if (entry.Deleted)
+            continue;
+        const QStringView path = QStringView(entry.Name).first(entry.Name.lastIndexOf(u'\\') + 1);
+        // Neighbours in an archive mostly share their folder.
+        if (path.isEmpty() || path == previous)
+            continue;
+        previous = path;
+        AddFolders(path.toString().toLower());
+    }
+}
+
+void FolderTree::AddFolders(const QString& path) {
+    int parent = Root;
+    qsizetype begin = 0;
+    while (begin < path.size()) {
+        const qsizetype end = path.indexOf(u'\\', begin);
+        const QString key = path.first(end + 1);
+        const int known = knownFolders_.value(key, None);
+        parent = known != None ? known : Add(parent, key, path.sliced(begin, end - begin));
+        begin = end + 1;
+    }
+}
+
+int FolderTree::Add(int parent, const QString& key, const QString& text) {
+    Require(parent);
+    const int index = Count() + 1;
+    auto& siblings = nodes_[static_cast<std::size_t>(parent) - 1].Children;
+    const int row = static_cast<int>(siblings.size());
+    siblings.push_back(index);
+    nodes_.push_back({.Key = key, .Text = text, .Parent = parent, .Row = row, .Children = {}});
+    knownFolders_.insert(key, index);
+    return index;
+}
+
+int FolderTree::Find(const QString& key) const {
+    return knownFolders_.value(key, None);
+}
+
+const FolderNode& FolderTree::Node(int index) const {
+    Require(index);
+    return nodes_[static_cast<std::size_t>(index) - 1];
+}
+
+void FolderTree::SetRootText(const QString& text) {
+    Require(Root);
+    nodes_.front().Text = text;
+}
+
+void FolderTree::Require(int index) const {
+    if (!Has(index))
+        throw RuntimeError(ErrorNumber::ObjectNotSet, u"The folder tree has no node %1."_s.arg(index));
+}

@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The document of the BIG Editor and its commands, without any control: the folder tree and the file list of the open
+/// archive, what counts as a change, and what of the window is shown and enabled.
+#pragma once
+
+#include "big/FileList.h"
+#include "big/FolderTree.h"
+
+#include <QString>
+
+/// What the document asks of its window.
+class EditorView {
+public:
+    EditorView() = default;
+    EditorView(const EditorView&) = delete;
+    EditorView& operator=(const EditorView&) = delete;
+    virtual ~EditorView() = default;
+
+    virtual void ShowWindow() = 0;
+    /// The tree was made anew; every node is shown expanded.
+    virtual void TreeChanged() = 0;
+    /// The list was made anew.
+    virtual void ListChanged() = 0;
+    /// Something in EditorState or the root's text is different.
+    virtual void StateChanged() = 0;
+    /// Shows `frmVersion` and returns when it is closed.
+    virtual void ShowVersion() = 0;
+    /// The busy pointer, on and off again; pairs nest.
+    virtual void ShowBusy(bool busy) = 0;
+};
+
+enum class FocusedPane { Tree, List };
+
+/// The values of the setting `BigView`.
+enum class ViewMode { LargeIcons, Details, SmallIcons, List };
+
+struct EditorState {
+    bool ArchiveOpen = false;    ///< mnuActions shown; six links, four menus and lvFiles enabled
+    bool DetailsVisible = false; ///< the group mnuDetails
+    bool ModifyEnabled = false;  ///< mnuModify
+    bool FileIcons = false;      ///< rows carry system icons
+    bool Modified = false;       ///< unsaved changes exist
+    int SelectedNode = FolderTree::None;
+    FocusedPane FocusPane = FocusedPane::Tree;
+    qint16 NewFolderNumber = 1;
+    QString PreviewSoundFile; ///< inside path of the sound preview's temporary file; empty when there is none
+    QString StatusText;
+    QString DetailsName; ///< lblFName
+    QString DetailsSize; ///< lblFSize
+};
+
+class BigEditor {
+public:
+    /// The view outlives the editor.
+    explicit BigEditor(EditorView& view);
+
+    [[nodiscard]] const EditorState& State() const { return state_; }
+
+    [[nodiscard]] const FolderTree& Tree() const { return tree_; }
+
+    [[nodiscard]] FileList& List() { return list_; }
+
+    /// Opens an archive from outside; a file that doesn't exist is ignored, a refused one beeps.
+    void OpenBigFile(const QString& path);
+
+    /// Reads an archive whose path ends in "big" and shows its root. False leaves the views as they are.
+    bool LoadBig(const QString& path);
+
+    /// Rebuilds the tree from the table and shows the root.
+    void CreateDirs();
+
+    /// Fills the list with a folder; the empty key is the root. Never fails.
+    void ShowFolder(const QString& folderKey);
+
+    void New();
+    void Open();
+    void Save();
+    void SaveAs();
+    void Add();
+    void FileVersion();
+
+    /// The question about unsaved changes; false when the window has to stay.
+    bool MayClose();
+
+    /// A click on a node of the tree.
+    void ClickNode(int node);
+    /// A click on a row of the list, or its selection by a key.
+    void ClickRow(int place);
+    /// A double click on a row, or the Enter key: a folder row opens its folder.
+    void ActivateRow(int place);
+
+    [[nodiscard]] static ViewMode View();
+    /// Stores the view mode at once.
+    static void SetView(ViewMode mode);
+
+private:
+    /// How a save ended.
+    enum class Saved { Yes, NothingToSave, Cancelled, Failed };
+
+    /// True, with a beep, while a save is under way: it yields to the event loop, and the table has to stay until then.
+    [[nodiscard]] bool Locked() const;
+    bool GoOnWithoutChanges();
+    void ResetAfterOpen();
+    void ArchiveOpened();
+    void ClearPreview();
+    bool WriteLocked(const QString& path);
+    Saved SaveTo(const QString& path);
+    Saved SaveUnderName();
+    void ShowWritten(const QString& path);
+    void AddFile(const QString& path);
+    [[nodiscard]] QString SelectedKey() const;
+
+    EditorView& view_;
+    EditorState state_;
+    FolderTree tree_;
+    FileList list_;
+    bool saving_ = false;
+};

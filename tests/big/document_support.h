@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// What the tests of the editor's document share: archives made of names and bytes, and a view that counts.
+#pragma once
+
+#include "big/BigEditor.h"
+#include "platform/AnsiCodec.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QtEndian>
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+using NamedBytes = std::pair<QString, QByteArray>;
+
+inline QByteArray BigEndianBytes(qsizetype value) {
+    QByteArray bytes(4, '\0');
+    qToBigEndian(static_cast<quint32>(value), bytes.data());
+    return bytes;
+}
+
+/// An archive with the data right behind the mark; the reader trusts the directory alone.
+inline QByteArray ArchiveOf(const std::vector<NamedBytes>& entries, const QByteArray& mark = "L225") {
+    qsizetype dataOffset = 16 + mark.size();
+    for (const auto& [name, data] : entries)
+        dataOffset += 9 + name.size();
+    QByteArray directory;
+    QByteArray content;
+    for (const auto& [name, data] : entries) {
+        directory += BigEndianBytes(dataOffset + content.size()) + BigEndianBytes(data.size());
+        directory += AnsiCodec::Encode(name) + '\0';
+        content += data;
+    }
+    return QByteArray("BIGF") + QByteArray(4, '\0') + BigEndianBytes(static_cast<qsizetype>(entries.size())) +
+           BigEndianBytes(dataOffset) + directory + mark + content;
+}
+
+inline BigEntry EntryOf(const QString& name, qint32 size = 0) {
+    BigEntry entry;
+    entry.Name = name;
+    entry.Size = size;
+    return entry;
+}
+
+/// Records of a table by their names.
+inline std::vector<BigEntry> TableOf(const QStringList& names) {
+    std::vector<BigEntry> table;
+    for (const QString& name : names)
+        table.push_back(EntryOf(name));
+    return table;
+}
+
+/// The texts of the shown rows, in their order.
+inline QStringList Texts(const FileList& list) {
+    QStringList texts;
+    for (int place = 0; place < list.Count(); ++place)
+        texts += list.Text(place);
+    return texts;
+}
+
+class CountingView : public EditorView {
+public:
+    int Shown = 0;
+    int Versions = 0;
+    int Busy = 0;
+    std::function<void()> OnVersion;
+
+    void ShowWindow() override { ++Shown; }
+
+    void TreeChanged() override {}
+
+    void ListChanged() override {}
+
+    void StateChanged() override {}
+
+    void ShowVersion() override {
+        ++Versions;
+        if (OnVersion)
+            OnVersion();
+    }
+
+    void ShowBusy(bool busy) override { Busy += busy ? 1 : -1; }
+};
