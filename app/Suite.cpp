@@ -1,2 +1,87 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/Suite.h"
+
+#include "core/frmAbout.h"
+#include "core/frmToolsMenu.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace {
+
+QWidget* WidgetOf(QObject* owner) {
+    return qobject_cast<QWidget*>(owner);
+}
+
+// Shows a main window in the middle of the screen. It lives until it is closed.
+template <typename Window>
+Window* Open() {
+    auto* const window = new Window;
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    QRect place = window->geometry();
+    place.moveCenter(window->screen()->availableGeometry().center());
+    window->move(place.topLeft());
+    window->show();
+    return window;
+}
+
+// A program without a window could not be left: the tools menu stands in for a tool that is not built.
+void StayInMenu() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    if (std::none_of(windows.begin(), windows.end(), [](const QWidget* window) { return window->isVisible(); }))
+        Open<frmToolsMenu>();
+}
+
+} // namespace
+
+void Suite::ShowToolsMenu() {
+    Open<frmToolsMenu>();
+}
+
+void Suite::ShowBigEditor() {
+    StayInMenu();
+}
+
+void Suite::OpenBigFile(const QString& /*path*/) {
+    StayInMenu();
+}
+
+void Suite::ExtractBigFile(const QString& /*path*/) {
+    StayInMenu();
+}
+
+void Suite::ShowCSFEditor() {
+    StayInMenu();
+}
+
+void Suite::OpenCSFFile(const QString& /*path*/) {
+    StayInMenu();
+}
+
+void Suite::ShowPersonalFiles() {
+    StayInMenu();
+}
+
+void Suite::ShowAddFiles() {
+    StayInMenu();
+}
+
+void Suite::ShowOptions(QObject* /*owner*/) {
+    StayInMenu();
+}
+
+void Suite::ShowAbout(QObject* owner) {
+    frmAbout(WidgetOf(owner)).exec();
+}
+
+void Suite::CheckForUpdates(bool /*automatic*/) {}
+
+void Suite::ActivateShellMap(GameIndex /*game*/) {}
+
+bool Suite::IsBuilt(Tool /*tool*/) const {
+    return false;
+}

@@ -1,5 +1,30 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-int main() {
-    return 0;
+
+#include "app/Application.h"
+#include "app/Suite.h"
+#include "core/mMain.h"
+#include "platform/Processes.h"
+#include "ui/Style.h"
+#include "ui/WindowHost.h"
+
+int main(int argc, char** argv) {
+    Suite suite;
+    Navigator::Use(&suite);
+    // A game is launched without a window, so also where there is no display.
+    const mMain::Dispatched dispatched = mMain::Prepare(Processes::CommandLine(argc, argv));
+    if (dispatched.What == mMain::Dispatched::Action::LaunchGame)
+        return 0;
+
+    Application application(argc, argv);
+    Application::setApplicationName(QStringLiteral("Brindock 2005"));
+    Style::Apply(application);
+    WindowHost host(nullptr);
+    Host::Use(&host);
+    try {
+        mMain::Show(dispatched);
+        return Application::exec();
+    } catch (const RuntimeError& error) {
+        Application::Fail(error);
+    }
 }

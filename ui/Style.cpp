@@ -1,2 +1,82 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/Style.h"
+
+#include "ui/Picture.h"
+
+#include <QApplication>
+#include <QPalette>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Only what the palette can't say: borders, hover and focus of the controls that take part in the theme. Exact class
+// names (with a dot) keep controls that draw themselves out of it.
+constexpr auto sheet = R"(
+.QPushButton {
+    min-width: 64px; padding: 4px 12px; color: black;
+    border: 1px solid #003273; border-radius: 3px;
+    background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #f7f7f7, stop:1 #efebe7);
+}
+.QPushButton:focus { border: 2px solid #6b82ef; padding: 3px 11px; }
+.QPushButton:hover { border: 2px solid #ffb231; padding: 3px 11px; }
+.QPushButton:pressed { background: #e0dcd6; }
+.QPushButton:disabled { color: #a5a294; border: 1px solid #cec7bd; background: #f7f7ef; }
+QToolTip { color: black; background: #ffffe7; border: 1px solid #003273; }
+QProgressBar { border: 1px solid #003273; border-radius: 3px; background: white; text-align: center; }
+QProgressBar::chunk { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #ffd88c, stop:1 #f28e00); }
+)"_L1;
+
+QFont FontOf(const QStringList& families, qreal points) {
+    QFont font;
+    font.setFamilies(families);
+    font.setPointSizeF(points);
+    return font;
+}
+
+QPalette FamilyPalette() {
+    using namespace Style;
+    QPalette palette(Colour::Face, Colour::FaceBright);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(243, 247, 253));
+    palette.setColor(QPalette::WindowText, Qt::black);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    palette.setColor(QPalette::PlaceholderText, Colour::DisabledText);
+    palette.setColor(QPalette::Highlight, Colour::Selection);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, Colour::Link);
+    palette.setColor(QPalette::LinkVisited, Colour::Link);
+    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 231));
+    palette.setColor(QPalette::ToolTipText, Qt::black);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, Colour::DisabledText);
+    return palette;
+}
+
+} // namespace
+
+QFont Style::HeadingFont(qreal points) {
+    return FontOf({u"Franklin Gothic Medium"_s, u"Libre Franklin"_s, u"DejaVu Sans Condensed"_s, u"sans-serif"_s},
+                  points);
+}
+
+QFont Style::TextFont(qreal points) {
+    return FontOf({u"Tahoma"_s, u"DejaVu Sans"_s, u"sans-serif"_s}, points);
+}
+
+QFont Style::LinkFont(bool underlined) {
+    QFont font = TextFont();
+    font.setUnderline(underlined);
+    return font;
+}
+
+void Style::Apply(QApplication& application) {
+    QApplication::setStyle(u"Fusion"_s);
+    QApplication::setPalette(FamilyPalette());
+    QApplication::setFont(TextFont());
+    QApplication::setWindowIcon(Picture::ProgramIcon());
+    application.setStyleSheet(sheet);
+}

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The event loop's top: a run-time error that nothing caught is shown, and the program ends.
+#pragma once
+
+#include "platform/RuntimeError.h"
+
+#include <QApplication>
+
+class Application : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override;
+
+    /// Shows number and description, then ends the program.
+    [[noreturn]] static void Fail(const RuntimeError& error);
+};

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The small box that names the version. A click anywhere, Esc or Enter closes it.
+#pragma once
+
+#include <QDialog>
+#include <QPixmap>
+
+#include <memory>
+
+namespace Ui {
+class frmAbout;
+}
+
+class frmAbout : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmAbout(QWidget* parent = nullptr);
+    ~frmAbout() override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    std::unique_ptr<Ui::frmAbout> ui_;
+    QPixmap picture_;
+};

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The look of the family of windows: colours, fonts, and what the toolkit's own controls are dressed in.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+class QApplication;
+
+namespace Style {
+
+namespace Colour {
+inline constexpr QColor Border{0, 50, 115};
+inline constexpr QColor DisabledBorder{206, 199, 189};
+inline constexpr QColor DisabledText{165, 162, 148};
+inline constexpr QColor Face{239, 235, 231};
+inline constexpr QColor FaceBright{247, 247, 247};
+inline constexpr QColor Hover{255, 178, 49};
+inline constexpr QColor Focus{140, 174, 231};
+inline constexpr QColor Selection{49, 106, 197};
+inline constexpr QColor Link{0, 34, 128};
+inline constexpr QColor SideMenuTop{227, 236, 250};
+inline constexpr QColor SideMenuBottom{168, 192, 232};
+
+// On the night-blue pictures.
+inline constexpr QColor EntryHover{242, 142, 0};
+inline constexpr QColor EntryPlain{255, 255, 255};
+inline constexpr QColor TextOnPicture{206, 222, 243};
+inline constexpr QColor ShadowOnPicture{0, 5, 18};
+inline constexpr QColor DisabledOnPicture{112, 132, 162};
+inline constexpr QColor FocusOnPicture{140, 174, 231, 210};
+inline constexpr QColor FocusOnPictureFill{140, 174, 231, 36};
+} // namespace Colour
+
+/// Franklin Gothic Medium, or the nearest face there is: headings and the entries of the tools menu.
+QFont HeadingFont(qreal points);
+
+/// Tahoma, or the nearest face there is: everything else.
+QFont TextFont(qreal points = 9);
+
+/// A link of a side menu: underlined while the pointer is over it.
+QFont LinkFont(bool underlined);
+
+/// Dresses the whole application. Called once, before the first window.
+void Apply(QApplication& application);
+
+} // namespace Style
