@@ -1,31 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// Archives written out byte by byte for the tests, and a world in which to read and write them.
+/// A world in which to read and write them.
 #pragma once
 
 #include "big/mBIG.h"
 #include "platform/NumberedFiles.h"
+#include "tests/support/ArchiveBytes.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
 
 #include <gtest/gtest.h>
-
-#include <string_view>
-#include <utility>
-#include <vector>
-
-/// The bytes of a literal, its zeros included.
-template <std::size_t Size>
-QByteArray Bytes(const char (&literal)[Size]) {
-    return QByteArray(literal, static_cast<qsizetype>(Size) - 1);
-}
-
-/// A directory record.
-QByteArray Record(quint32 offset, quint32 size, const QByteArray& name);
-
-/// A header of 16 bytes with a length of zero.
-QByteArray HeaderOf(const QByteArray& magic, quint32 count, quint32 firstFile);
 
 class ArchiveTest : public testing::Test {
 protected:
