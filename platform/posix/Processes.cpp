@@ -1,2 +1,157 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Processes.h"
+
+#include "platform/CommandText.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+#include "platform/posix/DesktopEntries.h"
+
+#include <QByteArrayList>
+
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Success = 33;
+constexpr int MissingFile = 2;
+constexpr int MissingPath = 3;
+constexpr int AccessDenied = 5;
+constexpr int NoAssociation = 31;
+
+/// Exit codes of processes that ended by a signal start here, as shells count them.
+constexpr int SignalBase = 128;
+
+std::vector<char*> Pointers(QByteArrayList& texts) {
+    std::vector<char*> pointers;
+    pointers.reserve(static_cast<std::size_t>(texts.size()) + 1);
+    for (QByteArray& text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+QByteArrayList EnvironmentWith(const QByteArray& prefix) {
+    QByteArrayList variables;
+    for (char** variable = environ; *variable != nullptr; ++variable)
+        variables << *variable;
+    if (prefix.isEmpty())
+        return variables;
+    variables.removeIf([](const QByteArray& variable) { return variable.startsWith("WINEPREFIX="); });
+    return variables << "WINEPREFIX=" + prefix;
+}
+
+/// Starts a program of the search path in a session of its own, so that it outlives us. 0 when it can't be started.
+pid_t Spawn(QByteArrayList command, QByteArrayList environment) {
+    posix_spawnattr_t attributes;
+    ::posix_spawnattr_init(&attributes);
+    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+    pid_t process = 0;
+    const int error = ::posix_spawnp(&process, command.first().constData(), nullptr, &attributes,
+                                     Pointers(command).data(), Pointers(environment).data());
+    ::posix_spawnattr_destroy(&attributes);
+    return error == 0 ? process : 0;
+}
+
+bool IsWindowsProgram(const QString& program) {
+    return program.endsWith(u".exe"_s, Qt::CaseInsensitive);
+}
+
+/// A program that is named with its folder must be there; a bare name is looked up by whoever starts it.
+bool IsMissing(const QString& nativeProgram) {
+    return nativeProgram.contains(u'/') && ::access(Paths::EncodeNative(nativeProgram).constData(), F_OK) != 0;
+}
+
+std::optional<int> Reap(pid_t process) {
+    int status = 0;
+    const pid_t answer = ::waitpid(process, &status, WNOHANG);
+    if (answer == 0 || (answer < 0 && errno == EINTR))
+        return std::nullopt;
+    if (answer < 0)
+        return 0;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : SignalBase + WTERMSIG(status);
+}
+
+/// Processes that nobody waits for any more; the system keeps a dead one's number until it is asked for.
+std::vector<pid_t>& Abandoned() {
+    static std::vector<pid_t> abandoned;
+    return abandoned;
+}
+
+/// The shell's error value for a file that can't be opened; Success otherwise.
+int CheckFile(const QByteArray& path) {
+    if (::access(path.constData(), R_OK) == 0)
+        return Success;
+    switch (errno) {
+    case ENOENT:
+        return MissingFile;
+    case ENOTDIR:
+        return MissingPath;
+    default:
+        return AccessDenied;
+    }
+}
+
+} // namespace
+
+QStringList Processes::CommandFor(const QString& command) {
+    const CommandText::Parts parts = CommandText::Split(command);
+    const QStringList words = QStringList(Paths::ToNative(parts.Program)) + CommandText::Arguments(parts.Rest);
+    return IsWindowsProgram(parts.Program) ? QStringList(u"wine"_s) + words : words;
+}
+
+void Processes::StartCommand(const QString& command) {
+    const QString program = CommandText::Split(command).Program;
+    QByteArrayList words;
+    for (const QString& word : CommandFor(command))
+        words << Paths::EncodeNative(word);
+    const QByteArray prefix = Paths::EncodeNative(Paths::PrefixFor(program));
+    if (IsMissing(Paths::ToNative(program)) || Spawn(words, EnvironmentWith(prefix)) == 0)
+        throw RuntimeError(ErrorNumber::FileNotFound, u"%1: can't be started"_s.arg(command));
+}
+
+Processes::Opened Processes::OpenWithAssociation(const QString& path, quintptr /*owner*/) {
+    std::erase_if(Abandoned(), [](pid_t process) { return Reap(process).has_value(); });
+    const QString native = Paths::ToNative(path);
+    if (const int refused = CheckFile(Paths::EncodeNative(native)); refused != Success)
+        return {0, refused};
+    for (const QByteArrayList& command : DesktopEntries::CommandsFor(native)) {
+        if (const pid_t process = Spawn(command, EnvironmentWith({})); process != 0)
+            return {static_cast<Handle>(process), Success};
+    }
+    return {0, NoAssociation};
+}
+
+void Processes::ChooseProgramFor(const QString& path) {
+    throw RuntimeError(ErrorNumber::FileNotFound, u"%1: there is no chooser for programs"_s.arg(path));
+}
+
+std::optional<int> Processes::ExitCode(Handle process) {
+    return Reap(static_cast<pid_t>(process));
+}
+
+void Processes::Close(Handle process) {
+    if (process != 0 && !Reap(static_cast<pid_t>(process)))
+        Abandoned().push_back(static_cast<pid_t>(process));
+}
+
+QString Processes::CommandLine(int argc, char** argv) {
+    QStringList words;
+    for (int at = 1; at < argc; ++at)
+        words << Paths::DecodeNative(argv[at]);
+    return words.join(u' ');
+}
+
+void Processes::End(int exitCode) {
+    std::_Exit(exitCode);
+}

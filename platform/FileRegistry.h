@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// A registry in a text file, as an export writes it: "REGEDIT4" in the ANSI code page, or version 5.00 in UTF-16 or
+/// UTF-8 with a byte order mark. What isn't understood stays in the file.
+///
+/// Every read sees the file as it is now. Every write puts the whole new text aside and renames it over the old one;
+/// one that fails changes nothing and says so by its result, without a failure raised.
+#pragma once
+
+#include "platform/RegistryRuntime.h"
+#include "platform/RegistryText.h"
+
+#include <QString>
+
+#include <memory>
+
+class FileRegistry {
+public:
+    /// `nativePath` as the system writes it. The file need not exist.
+    explicit FileRegistry(QString nativePath);
+    ~FileRegistry();
+    FileRegistry(const FileRegistry&) = delete;
+    FileRegistry& operator=(const FileRegistry&) = delete;
+
+    [[nodiscard]] const QString& Path() const { return path_; }
+
+    /// The value under the key; for machine-wide software also where an export of a 64-bit system keeps the 32-bit
+    /// programs' keys.
+    [[nodiscard]] RegistryValue Read(RootKey root, const QString& path, const QString& name) const;
+
+    /// Makes file, folder and key where they are missing.
+    bool Write(RootKey root, const QString& path, const QString& name, const RegistryValue& value);
+    bool AddKey(RootKey root, const QString& path);
+
+    /// A key with keys below it stays, and the result is false.
+    bool RemoveKey(RootKey root, const QString& path);
+    bool RemoveValue(RootKey root, const QString& path, const QString& name);
+
+private:
+    struct Document;
+
+    bool Load() const;
+    bool Store(const QString& text);
+
+    QString path_;
+    std::unique_ptr<Document> now_; ///< what the file held when it was last looked at
+};

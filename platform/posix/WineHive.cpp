@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/posix/WineHive.h"
+
+#include "platform/AnsiCodec.h"
+#include "platform/posix/Transfer.h"
+#include "platform/posix/WholeFile.h"
+
+#include <QByteArrayView>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <ctime>
+#include <utility>
+
+namespace {
+
+constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
+
+/// A file that was written this short a time ago may be written again under the same time stamp.
+constexpr qint64 SettlingNanoseconds = NanosecondsPerSecond;
+
+qint64 Nanoseconds(const timespec& time) {
+    return time.tv_sec * NanosecondsPerSecond + time.tv_nsec;
+}
+
+qint64 NowNanoseconds() {
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    return Nanoseconds(now);
+}
+
+char Folded(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
+}
+
+/// A hash without regard to case, over ASCII alone: letters beyond it are compared once the hash fits.
+class KeyHash {
+public:
+    void Add(char byte) { hash_ = (hash_ ^ static_cast<uchar>(Folded(byte))) * 0x100000001B3U; }
+
+    [[nodiscard]] std::size_t Result() const { return hash_; }
+
+private:
+    std::size_t hash_ = 0xCBF29CE484222325U;
+};
+
+std::size_t HashOfKey(const QString& key) {
+    KeyHash hash;
+    for (const QChar character : key) {
+        if (character.unicode() < 0x80)
+            hash.Add(static_cast<char>(character.unicode()));
+    }
+    return hash.Result();
+}
+
+/// The same hash for a key as a hive writes it. Nearly all escapes are doubled backslashes.
+std::size_t HashOfWritten(QByteArrayView key) {
+    KeyHash hash;
+    for (qsizetype at = 0; at < key.size(); ++at) {
+        if (key[at] == '\\' && at + 1 < key.size() && key[++at] != '\\')
+            return HashOfKey(RegistryText::UnescapedKey(AnsiCodec::Decode(key)));
+        if (static_cast<uchar>(key[at]) < 0x80)
+            hash.Add(key[at]);
+    }
+    return hash.Result();
+}
+
+/// Where the next key's bracket stands at the start of a line; the end of the bytes when there is none.
+qsizetype NextKey(const QByteArray& bytes, qsizetype from) {
+    const void* found = ::memmem(bytes.constData() + from, static_cast<std::size_t>(bytes.size() - from), "\n[", 2);
+    return found == nullptr ? bytes.size() : static_cast<const char*>(found) + 1 - bytes.constData();
+}
+
+} // namespace
+
+WineHive::WineHive(QByteArray path) : path_(std::move(path)) {}
+
+RegistryValue WineHive::Read(const QString& key, const QString& name) const {
+    if (!Refresh())
+        return {};
+    const std::size_t hash = HashOfKey(key);
+    for (const Section& section : sections_) {
+        if (section.KeyHash != hash)
+            continue;
+        const RegistryValue value = ReadSection(section, key, name);
+        if (value.Type != RegistryValue::Kind::Missing)
+            return value;
+    }
+    return {};
+}
+
+bool WineHive::Refresh() const {
+    struct stat status {};
+
+    if (::stat(path_.constData(), &status) != 0)
+        return false;
+    const qint64 changed = Nanoseconds(status.st_mtim);
+    const State found{status.st_size, static_cast<qint64>(status.st_ino), changed};
+    if (found == state_)
+        return true;
+    const auto bytes = WholeFile::Read(path_);
+    if (!bytes)
+        return false;
+    Index(*bytes);
+    state_ = NowNanoseconds() - changed > SettlingNanoseconds ? found : State();
+    return true;
+}
+
+void WineHive::Index(const QByteArray& bytes) const {
+    sections_.clear();
+    for (qsizetype at = bytes.startsWith('[') ? 0 : NextKey(bytes, 0); at < bytes.size();) {
+        const qsizetype end = NextKey(bytes, at);
+        const void* found = std::memchr(bytes.constData() + at, '\n', static_cast<std::size_t>(end - at));
+        const qsizetype lineEnd = found == nullptr ? end : static_cast<const char*>(found) - bytes.constData();
+        const QByteArrayView line = QByteArrayView(bytes).sliced(at, lineEnd - at);
+        const qsizetype close = line.lastIndexOf(']');
+        if (close > 0)
+            sections_.push_back({HashOfWritten(line.sliced(1, close - 1)), at, end});
+        at = end;
+    }
+}
+
+RegistryValue WineHive::ReadSection(const Section& section, const QString& key, const QString& name) const {
+    const Descriptor file(::open(path_.constData(), O_RDONLY | O_CLOEXEC));
+    QByteArray bytes(section.End - section.Start, Qt::Uninitialized);
+    const ssize_t count = ::pread(file.Number(), bytes.data(), static_cast<std::size_t>(bytes.size()), section.Start);
+    bytes.truncate(qMax<ssize_t>(count, 0));
+    const QString text = AnsiCodec::Decode(bytes);
+    for (const RegistryText::Line& line : RegistryText::Parse(text, RegistryText::Flavour::WineHive)) {
+        const bool ours =
+            line.Type == RegistryText::Line::Kind::Value && line.Key.compare(key, Qt::CaseInsensitive) == 0;
+        if (ours && line.Name.compare(name, Qt::CaseInsensitive) == 0)
+            return RegistryText::ValueOf(line, RegistryText::Flavour::WineHive);
+    }
+    return {};
+}

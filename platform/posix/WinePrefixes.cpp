@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/posix/WinePrefixes.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Collects the folders that are prefixes, each once however it is reached.
+class Prefixes {
+public:
+    void Add(const QString& folder) {
+        const QString real = QFileInfo(folder).canonicalFilePath();
+        if (real.isEmpty() || seen_.contains(real) || !QFileInfo(folder + u"/system.reg"_s).isFile())
+            return;
+        seen_ << real;
+        found_ << QDir::cleanPath(folder);
+    }
+
+    /// The folders in a folder, or in each of them the subfolder named.
+    void AddEach(const QString& folder, const QString& subfolder = {}) {
+        const QStringList names = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+        for (const QString& name : names)
+            Add(folder + u'/' + name + subfolder);
+    }
+
+    [[nodiscard]] const QStringList& Found() const { return found_; }
+
+private:
+    QStringList seen_;
+    QStringList found_;
+};
+
+/// What the pattern's first group catches in the file, line by line.
+QStringList Caught(const QString& fileName, const QString& pattern) {
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
+    const QString text = QString::fromUtf8(file.readAll());
+    QStringList caught;
+    for (auto matches = expression.globalMatch(text); matches.hasNext();)
+        caught << matches.next().captured(1);
+    return caught;
+}
+
+void AddSteam(Prefixes& prefixes, const QString& steam) {
+    // Newer lists name their libraries by "path", older ones by a number.
+    const QString libraryLine = u"^\\s*\"(?:path|\\d+)\"\\s+\"(/[^\"]*)\""_s;
+    QStringList libraries{steam};
+    for (const QString& list : {u"/steamapps/libraryfolders.vdf"_s, u"/config/libraryfolders.vdf"_s})
+        libraries << Caught(steam + list, libraryLine);
+    for (const QString& library : std::as_const(libraries))
+        prefixes.AddEach(library + u"/steamapps/compatdata"_s, u"/pfx"_s);
+}
+
+void AddLutris(Prefixes& prefixes, const QString& home) {
+    const QString prefixLine = u"^\\s*prefix:\\s*['\"]?([^'\"\\r\\n]+?)['\"]?\\s*$"_s;
+    for (const QString& data :
+         {u"/.local/share/lutris"_s, u"/.config/lutris"_s, u"/.var/app/net.lutris.Lutris/data/lutris"_s,
+          u"/.var/app/net.lutris.Lutris/config/lutris"_s}) {
+        const QDir games(home + data + u"/games"_s);
+        for (const QString& game : games.entryList({u"*.yml"_s}, QDir::Files, QDir::Name)) {
+            for (QString prefix : Caught(games.filePath(game), prefixLine))
+                prefixes.Add(prefix.startsWith(u"~/"_s) ? home + prefix.sliced(1) : prefix);
+        }
+    }
+    prefixes.AddEach(home + u"/Games"_s);
+}
+
+QStringList FindOnMachine() {
+    const QString home = qEnvironmentVariable("HOME");
+    Prefixes prefixes;
+    if (const QString named = qEnvironmentVariable("WINEPREFIX"); !named.isEmpty())
+        prefixes.Add(named);
+    prefixes.Add(home + u"/.wine"_s);
+    for (const QString& steam :
+         {u"/.steam/steam"_s, u"/.local/share/Steam"_s, u"/.var/app/com.valvesoftware.Steam/.local/share/Steam"_s,
+          u"/.var/app/com.valvesoftware.Steam/data/Steam"_s})
+        AddSteam(prefixes, home + steam);
+    AddLutris(prefixes, home);
+    prefixes.AddEach(home + u"/Games/Heroic/Prefixes"_s);
+    prefixes.AddEach(home + u"/Games/Heroic/Prefixes/default"_s);
+    prefixes.AddEach(home + u"/.local/share/bottles/bottles"_s);
+    prefixes.AddEach(home + u"/.var/app/com.usebottles.bottles/data/bottles/bottles"_s);
+    return prefixes.Found();
+}
+
+} // namespace
+
+QStringList WinePrefixes::Find() {
+    if (!qEnvironmentVariableIsSet("BRINDOCK_WINE_PREFIXES"))
+        return FindOnMachine();
+    Prefixes prefixes;
+    const QStringList named = qEnvironmentVariable("BRINDOCK_WINE_PREFIXES").split(u':', Qt::SkipEmptyParts);
+    for (const QString& folder : named)
+        prefixes.Add(folder);
+    return prefixes.Found();
+}
