@@ -104,12 +104,12 @@ bool mMain::NoGameOfFirstThree() {
     return Game[0].InstallPath.isEmpty() && Game[1].InstallPath.isEmpty() && Game[2].InstallPath.isEmpty();
 }
 
-mMain::Dispatched mMain::Prepare(const QString& commandLine) {
+mMain::Dispatched mMain::Prepare(const QString& commandLine, const std::function<void()>& detect) {
     Dispatched normalStart{.UpdateChecks = 1};
-    const bool detected = Ignoring([] {
+    const bool detected = Ignoring([&] {
         UseRuntimes();
         LanguageFileName = ReadSetting(u"TradFileName"_s);
-        DetectGames();
+        detect();
     });
     if (!detected)
         return normalStart;

@@ -10,6 +10,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace mMain {
 
 /// The raw command line without the executable's name.
@@ -73,8 +75,9 @@ bool AutomaticCheckWanted();
 bool NoGameOfFirstThree();
 
 /// Steps that need no window: shared objects, language, games, folders, dispatch. Launches a game when asked to, and
-/// then returns an action LaunchGame that is done already.
-Dispatched Prepare(const QString& commandLine);
+/// then returns an action LaunchGame that is done already. Where `detect` fails, the normal start follows with what it
+/// had filled in, and the command line is not looked at.
+Dispatched Prepare(const QString& commandLine, const std::function<void()>& detect = DetectGames);
 
 /// Shows what Prepare decided, through the Navigator, with the update checks before it.
 void Show(const Dispatched& dispatched);

@@ -85,6 +85,19 @@ TEST_F(Start, AddFileSetsItsFlagAndArgumentBeforeTheWizardOpens) {
     EXPECT_EQ(Run(u"/addfile C:\\my maps\\a.zip"_s), QStringList{u"ShowAddFiles"_s});
 }
 
+TEST_F(Start, AFailingDetectionGoesStraightToTheMenuWithWhatWasFilledIn) {
+    world_.InstallGame(0);
+    const auto detectHalf = [] {
+        Game[2].InstallPath = u"C:\\found\\"_s;
+        throw RuntimeError(ErrorNumber::InvalidCall, u"the registry broke"_s);
+    };
+    mMain::Show(mMain::Prepare(u"/tbig"_s, detectHalf));
+    EXPECT_EQ(navigator_.Calls, QStringList{u"ShowToolsMenu"_s});
+    EXPECT_TRUE(host_.Messages.empty());
+    EXPECT_EQ(mMain::CommandLine, QString());
+    EXPECT_EQ(Files::ListFolder(world_.Root() + u"\\user\\Documents\\*"_s, true), QStringList());
+}
+
 TEST_F(Start, TheCommandLineIsKeptAsItWasGiven) {
     mMain::Prepare(u"/tbig  \"two  blanks\" "_s);
     EXPECT_EQ(mMain::CommandLine, u"/tbig  \"two  blanks\" "_s);
@@ -138,6 +151,7 @@ TEST_F(Start, LaunchingPreparesTheShellMapAndShowsNothing) {
 }
 
 TEST_F(Start, LaunchingNeedsNoWindows) {
+    world_.InstallGame(0);
     Navigator::Use(nullptr);
     EXPECT_EQ(mMain::Prepare(u"/launch /gen"_s).What, Action::LaunchGame);
 }
@@ -147,6 +161,7 @@ TEST_F(Start, AFailingStepDoesNotStopTheNext) {
     navigator_.OnCall = [](const QString&) { throw RuntimeError(ErrorNumber::InvalidCall, u"refused"_s); };
     EXPECT_EQ(Run({}), (QStringList{u"CheckForUpdates automatic"_s, u"ShowToolsMenu"_s}));
     EXPECT_EQ(host_.Messages.size(), 1U);
+    world_.InstallGame(1);
     EXPECT_NO_THROW(mMain::Prepare(u"/launch /zh"_s));
 }
 

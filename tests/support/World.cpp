@@ -78,7 +78,7 @@ QString World::ProgramFolder() const {
     return Root() + u"\\program"_s;
 }
 
-void World::InstallGame(GameIndex game) {
+void World::InstallGame(GameIndex game) const {
     const GameKeys& keys = KeysOf(game);
     const QString shellFolders = u"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders"_s;
     const QString installFolder = Root() + u"\\games\\"_s + keys.Folder;
@@ -94,17 +94,17 @@ void World::InstallGame(GameIndex game) {
     registry.SaveString(RootKey::CurrentUser, shellFolders, u"AppData"_s, appData);
 }
 
-void World::WriteRegistry(const QByteArray& text) {
+void World::WriteRegistry(const QByteArray& text) const {
     WriteFile(u"registry.reg"_s, text);
 }
 
-void World::UseLanguage(const QByteArray& lngText, const QString& fileName) {
+void World::UseLanguage(const QByteArray& lngText, const QString& fileName) const {
     WriteFile(u"program\\"_s + fileName, lngText);
     RegistryRuntime().SaveString(RootKey::CurrentUser, QString::fromUtf16(SettingsKey), u"TradFileName"_s, fileName);
 }
 
-QString World::WriteFile(const QString& path, const QByteArray& bytes) {
-    const QString fullPath = Root() + u'\\' + path;
+QString World::WriteFile(const QString& path, const QByteArray& bytes) const {
+    QString fullPath = Root() + u'\\' + path;
     Files::MakeFolders(fullPath.first(fullPath.lastIndexOf(u'\\')));
     QFile file(Paths::ToNative(fullPath));
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size() || !file.flush())

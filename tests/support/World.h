@@ -23,16 +23,16 @@ public:
     [[nodiscard]] QString ProgramFolder() const;
 
     /// Registers a game's keys and makes its folders; "Personal" and "AppData" are set too.
-    void InstallGame(GameIndex game);
+    void InstallGame(GameIndex game) const;
 
     /// The registry file's text, REGEDIT4 in the ANSI code page.
-    void WriteRegistry(const QByteArray& text);
+    void WriteRegistry(const QByteArray& text) const;
 
     /// Puts the language file in place and names it in the settings.
-    void UseLanguage(const QByteArray& lngText, const QString& fileName = QStringLiteral("Test.lng"));
+    void UseLanguage(const QByteArray& lngText, const QString& fileName = QStringLiteral("Test.lng")) const;
 
     /// Makes the file with its folders; path relative to Root(), backslashes. Returns the full inside path.
-    QString WriteFile(const QString& path, const QByteArray& bytes);
+    QString WriteFile(const QString& path, const QByteArray& bytes) const;
     [[nodiscard]] static QByteArray ReadFile(const QString& fullPath);
 
     /// Makes the shared runtimes anew, as start-up does, so that what was written above is seen.

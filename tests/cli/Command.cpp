@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/cli/Command.h"
+
+#include <QProcess>
+
+Outcome RunCommand(const QStringList& arguments) {
+    QProcess process;
+    process.start(QStringLiteral(BRINDOCK_CLI), arguments);
+    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
+    return {.Code = ended ? process.exitCode() : -1,
+            .Output = process.readAllStandardOutput(),
+            .Error = process.readAllStandardError()};
+}

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Other programs that are really started: a game through a stand-in for wine, and an association of the desktop.
+
+#include "core/Settings.h"
+#include "core/mMain.h"
+#include "core/mShellExecuteWait.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "tests/support/Printing.h"
+#include "tests/support/ScriptedHost.h"
+#include "tests/support/ScriptedNavigator.h"
+#include "tests/support/World.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QThread>
+
+#include <map>
+
+using namespace Qt::StringLiterals;
+using mShellExecuteWait::OpenWithShell;
+
+namespace {
+
+class Programs : public testing::Test {
+protected:
+    World world_;
+    ScriptedHost host_;
+    ScriptedNavigator navigator_;
+
+    ~Programs() override {
+        for (const auto& [name, value] : before_)
+            qputenv(name.constData(), value);
+    }
+
+    void SetVariable(const QByteArray& name, const QByteArray& value) {
+        before_.try_emplace(name, qgetenv(name.constData()));
+        qputenv(name.constData(), value);
+    }
+
+    [[nodiscard]] QByteArray Native(const QString& path) const {
+        return Paths::EncodeNative(Paths::ToNative(world_.Root() + u'\\' + path));
+    }
+
+    void WriteScript(const QString& path, const QByteArray& text) const {
+        const QString script = world_.WriteFile(path, "#!/bin/sh\n" + text);
+        QFile::setPermissions(Paths::ToNative(script), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    /// What the other program wrote, as soon as it has renamed it into place.
+    [[nodiscard]] QByteArray WaitForFile(const QString& path) const {
+        const QString file = world_.Root() + u'\\' + path;
+        for (int round = 0; round < 500 && !Files::FileExists(file); ++round)
+            QThread::msleep(10);
+        return World::ReadFile(file);
+    }
+
+    /// Makes a script the one program for every file: what is of no other type is at least a row of bytes.
+    void Associate(const QByteArray& script) {
+        for (const char* name : {"XDG_DATA_HOME", "XDG_DATA_DIRS", "XDG_CONFIG_HOME", "XDG_CONFIG_DIRS"})
+            SetVariable(name, Native(u"desktop"_s));
+        SetVariable("XDG_CURRENT_DESKTOP", "");
+        WriteScript(u"open.sh"_s, script);
+        world_.WriteFile(u"desktop\\applications\\open.desktop"_s,
+                         "[Desktop Entry]\nType=Application\nExec=" + Native(u"open.sh"_s) + " %f\n");
+        world_.WriteFile(u"desktop\\mimeapps.list"_s,
+                         "[Default Applications]\napplication/octet-stream=open.desktop\n");
+    }
+
+private:
+    std::map<QByteArray, QByteArray> before_;
+};
+
+} // namespace
+
+TEST_F(Programs, LaunchPreparesTheShellMapAndThenStartsTheGameWithItsOptionsInOrder) {
+    WriteScript(u"bin\\wine"_s, "printf '%s\\n' \"$@\" > " + Native(u"started"_s) + ".part\nmv " +
+                                    Native(u"started"_s) + ".part " + Native(u"started"_s) + "\n");
+    SetVariable("PATH", Native(u"bin"_s) + ':' + qgetenv("PATH"));
+    world_.InstallGame(1);
+    world_.WriteFile(u"games\\Zero Hour\\Generals.exe"_s, "MZ");
+    WriteSetting(u"ZHStartupOptions"_s, u" -quickstart -noshaders"_s);
+    WriteSetting(u"ZHLoadMod"_s, u"Mod.big"_s);
+    bool started = false;
+    navigator_.OnCall = [&](const QString&) { started = Files::FileExists(world_.Root() + u"\\started"_s); };
+    mMain::Show(mMain::Prepare(u"/launch /zh"_s));
+    EXPECT_EQ(WaitForFile(u"started"_s),
+              Native(u"games\\Zero Hour\\Generals.exe"_s) + "\n-quickstart\n-noshaders\n-mod\nMod.big\n");
+    EXPECT_EQ(navigator_.Calls, QStringList{u"ActivateShellMap 1"_s});
+    EXPECT_FALSE(started) << "the game was started before its shell map was prepared";
+}
+
+TEST_F(Programs, OpeningWithWaitReturnsWhenTheProgramHasEndedWhateverItsExitCode) {
+    Associate("sleep 0.1\nprintf changed > \"$1\"\nexit 3\n");
+    const QString path = world_.WriteFile(u"read me.txt"_s, "before");
+    OpenWithShell(path, 0, true);
+    EXPECT_EQ(World::ReadFile(path), QByteArray("changed"));
+    EXPECT_GT(host_.Yields, 0);
+    EXPECT_TRUE(host_.Messages.empty());
+}
+
+TEST_F(Programs, OpeningWithoutWaitReturnsAtOnceWithTheProcess) {
+    Associate("while [ ! -e \"$1.go\" ]; do sleep 0.01; done\n");
+    const QString path = world_.WriteFile(u"a.txt"_s, "text");
+    const Processes::Handle process = OpenWithShell(path, 0, false);
+    ASSERT_NE(process, 0U);
+    EXPECT_EQ(Processes::ExitCode(process), std::nullopt);
+    EXPECT_EQ(host_.Yields, 0);
+    world_.WriteFile(u"a.txt.go"_s, {});
+    mShellExecuteWait::WaitFor(process);
+}
+
+TEST_F(Programs, AFileWithoutAProgramSaysSoWhereTheSystemHasNoChooser) {
+    Associate("exit 0\n");
+    world_.WriteFile(u"desktop\\mimeapps.list"_s, "");
+    EXPECT_EQ(OpenWithShell(world_.WriteFile(u"a.w3d"_s, QByteArray("\x01\x00\xFF\xFE", 4)), 0, true), 0U);
+    ASSERT_EQ(host_.Messages.size(), 1U);
+    EXPECT_EQ(host_.Messages.front().Text, u"Information d'association du fichier incomplète."_s);
+    EXPECT_EQ(host_.Messages.front().Sign, Host::Icon::Exclamation);
+}
