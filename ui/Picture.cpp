@@ -34,6 +34,13 @@ QPixmap Picture::Load(const QString& name, qreal ratio) {
     return QPixmap::fromImage(std::move(image));
 }
 
+QIcon Picture::Icon(const QString& name) {
+    QIcon icon;
+    for (const Rendering& rendering : renderings)
+        icon.addPixmap(Load(name, rendering.Scale));
+    return icon;
+}
+
 QIcon Picture::ProgramIcon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256})

@@ -14,6 +14,9 @@ namespace Picture {
 /// all the pixels needed, else the largest. Its own ratio is set, so that it is drawn at its size in points.
 QPixmap Load(const QString& name, qreal ratio);
 
+/// A small picture as an icon, with all its renderings.
+QIcon Icon(const QString& name);
+
 /// The compass of the program, 16 to 256 pixels.
 QIcon ProgramIcon();
 

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QProxyStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -56,6 +57,33 @@ QPalette FamilyPalette() {
     return palette;
 }
 
+// Message boxes carry the family's own signs, and buttons no pictures.
+class FamilyStyle : public QProxyStyle {
+public:
+    FamilyStyle() : QProxyStyle(u"Fusion"_s) {}
+
+    [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                                     const QWidget* widget) const override {
+        switch (which) {
+        case SP_MessageBoxCritical:
+            return Picture::Icon(u"critical"_s);
+        case SP_MessageBoxWarning:
+            return Picture::Icon(u"warning"_s);
+        case SP_MessageBoxQuestion:
+            return Picture::Icon(u"question"_s);
+        case SP_MessageBoxInformation:
+            return Picture::Icon(u"information"_s);
+        default:
+            return QProxyStyle::standardIcon(which, option, widget);
+        }
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* answer) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+};
+
 } // namespace
 
 QFont Style::HeadingFont(qreal points) {
@@ -74,7 +102,7 @@ QFont Style::LinkFont(bool underlined) {
 }
 
 void Style::Apply(QApplication& application) {
-    QApplication::setStyle(u"Fusion"_s);
+    QApplication::setStyle(new FamilyStyle);
     QApplication::setPalette(FamilyPalette());
     QApplication::setFont(TextFont());
     QApplication::setWindowIcon(Picture::ProgramIcon());

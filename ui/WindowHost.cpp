@@ -20,10 +20,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Boxes stand over the window that the user works in.
+// Boxes stand over the window that the user works in, or the one that has just come up.
 QWidget* Owner() {
-    QWidget* const modal = QApplication::activeModalWidget();
-    return modal != nullptr ? modal : QApplication::activeWindow();
+    if (QWidget* const modal = QApplication::activeModalWidget(); modal != nullptr)
+        return modal;
+    if (QWidget* const active = QApplication::activeWindow(); active != nullptr)
+        return active;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (window->isVisible())
+            return window;
+    }
+    return nullptr;
 }
 
 QMessageBox::Icon SignOf(Host::Icon icon) {

@@ -12,6 +12,7 @@ ucShadow::ucShadow(QWidget* parent) : QWidget(parent) {
 void ucShadow::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRegion(QRegion(rect()).subtracted(rect().adjusted(Reach, Reach, -Reach, -Reach)));
     painter.setPen(Qt::NoPen);
     // Faint layers of shrinking size add up to a soft edge; the light comes from above.
     painter.setBrush(QColor(0, 0, 0, 9));
