@@ -55,19 +55,18 @@ ArchiveEntry AnyEntry(const Stock& stock, int number, quint64 seed) {
         u"Heavy Armour\\"_s,        u"Éclaireurs\\"_s, u"coast/harbour\\"_s,   u"ÎLES DU SUD\\Forêt\\"_s,
         u"winter\\SNOW fields\\"_s, u"Übung\\"_s,      u"Old/2004/Unused\\"_s, u""_s,
         u"Señales\\Día y noche\\"_s};
-    const std::array<const std::vector<Asset>*, 5> kinds{&stock.Texts, &stock.Pictures, &stock.Effects, &stock.Models,
+    const std::array<const std::vector<Asset>*, 5> kinds{&stock.Texts, &stock.Icons, &stock.Clicks, &stock.Models,
                                                          &stock.Texts};
     const auto root = number % roots.size();
-    const QString folder = roots[root] + folders[number / roots.size() % folders.size()];
+    const auto round = number / roots.size();
     const QString unit = UnitName(seed + static_cast<quint64>(number));
+    const QString name = number % 7 == 0 ? unit.toUpper() : unit;
     const QString separator = number % 11 == 0 ? u"/"_s : u" "_s;
     const auto& assets = *kinds.at(static_cast<size_t>(root));
-    // Most files of the games are small; every eighth is as large as the stock has it.
-    const Asset& asset = assets[static_cast<size_t>(number) / 5 % assets.size()];
-    const bool whole = root == 3 || number % 8 == 0;
-    const QString name = number % 7 == 0 ? unit.toUpper() : unit;
-    return {folder + name + separator + QString::number(number) + (whole ? asset.Extension : u".ini"_s),
-            whole ? asset.Data : stock.Texts[static_cast<size_t>(number) % (stock.Texts.size() / 2)].Data};
+    const Asset& asset = assets[static_cast<size_t>(round) % assets.size()];
+    return {roots[root] + folders[round % folders.size()] + name + separator + QString::number(number) +
+                asset.Extension,
+            asset.Data};
 }
 
 ArchiveEntry MakeEntry(const Stock& stock, Content content, int number, quint64 seed) {

@@ -26,7 +26,9 @@ struct Asset {
 struct Stock {
     std::vector<Asset> Textures; ///< DDS in every format, TGA plain and run-length
     std::vector<Asset> Pictures; ///< BMP, PNG and, with an encoder, JPEG
+    std::vector<Asset> Icons;    ///< small textures
     std::vector<Asset> Effects;  ///< WAV as PCM and both kinds of ADPCM
+    std::vector<Asset> Clicks;   ///< very short effects
     std::vector<Asset> Music;    ///< MP3
     std::vector<Asset> Models;
     std::vector<Asset> Texts;

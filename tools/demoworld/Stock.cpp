@@ -90,6 +90,8 @@ Stock MakeStock(bool small, const JpegEncoder& encodeJpeg) {
     Stock stock;
     stock.Textures = many(small ? 12 : 84, [&](quint64 i) { return TextureOf(i % 9 == 4 ? side / 2 : side, i); });
     stock.Pictures = many(small ? 6 : 18, [&](quint64 i) { return PictureOf(side, i, encodeJpeg); });
+    stock.Icons = many(small ? 12 : 48, [&](quint64 i) { return TextureOf(small ? 16 : 64, i); });
+    stock.Clicks = many(small ? 4 : 16, [&](quint64 i) { return EffectOf(small ? 0.02 : 0.2, i); });
     stock.Effects = many(small ? 4 : 32,
                          [&](quint64 i) { return EffectOf(small ? 0.2 : 1.0 + static_cast<double>(i % 5) * 0.7, i); });
     stock.Music = many(small ? 1 : 6, [&](quint64 i) { return Asset{u".mp3"_s, Mp3(i, small ? 1 : 45)}; });
