@@ -24,7 +24,8 @@ public:
     double Unit();
 
     /// One item of a list.
-    template <typename List> const auto& Pick(const List& list) {
+    template <typename List>
+    const auto& Pick(const List& list) {
         return list[static_cast<decltype(list.size())>(Below(static_cast<int>(list.size())))];
     }
 
