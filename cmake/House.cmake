@@ -13,7 +13,7 @@ if(BRINDOCK_SANITIZE)
   target_link_options(house INTERFACE -fsanitize=address,undefined)
 endif()
 if(WIN32)
-  target_link_options(house INTERFACE -static)
+  target_link_options(house INTERFACE -static -s -Wl,--gc-sections)
 endif()
 
 # room_logic(name sources...): plain logic, Qt Core only.
@@ -26,4 +26,14 @@ endfunction()
 function(room_windows name)
   add_library(${name} STATIC ${ARGN})
   target_link_libraries(${name} PUBLIC house Qt6::Widgets)
+endfunction()
+
+# window_program(name [WIN32] sources...): a program with windows. A static Qt brings along only the system's own platform; tests
+# and pictures need the off-screen one too.
+function(window_program name)
+  qt_add_executable(${name} ${ARGN})
+  get_target_property(kind Qt6::Core TYPE)
+  if(kind STREQUAL "STATIC_LIBRARY")
+    qt_import_plugins(${name} INCLUDE Qt6::QOffscreenIntegrationPlugin)
+  endif()
 endfunction()

@@ -1,0 +1,11 @@
+# CLI11 is headers only, so a cross build takes this machine's: through a folder that holds nothing else of its headers.
+find_path(CLI11_HEADERS CLI/CLI.hpp PATHS /usr/include NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH NO_CACHE)
+include(FindPackageHandleStandardArgs)
+find_package_handle_standard_args(CLI11 REQUIRED_VARS CLI11_HEADERS)
+if(CLI11_FOUND AND NOT TARGET CLI11::CLI11)
+  set(copied ${PROJECT_BINARY_DIR}/headers)
+  file(MAKE_DIRECTORY ${copied})
+  file(CREATE_LINK ${CLI11_HEADERS}/CLI ${copied}/CLI SYMBOLIC)
+  add_library(CLI11::CLI11 INTERFACE IMPORTED)
+  target_include_directories(CLI11::CLI11 SYSTEM INTERFACE ${copied})
+endif()
