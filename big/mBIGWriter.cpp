@@ -140,11 +140,11 @@ void CloseNumbers() {
         Ignoring([number] { NumberedFiles::Close(number); });
 }
 
-/// Writes to `aside`, reading old entries from `oldArchive`. On failure `aside` is gone again.
-void WriteTo(const QString& aside, const QString& oldArchive, bool toDisk) {
+/// Writes to `path`, reading old entries from `oldArchive`. Raises with every number closed.
+void WriteTo(const QString& path, const QString& oldArchive, bool toDisk) {
     CloseNumbers();
     try {
-        NumberedFiles::OpenAsGiven(TargetNumber, aside, Access::Replace);
+        NumberedFiles::OpenAsGiven(TargetNumber, path, Access::Replace);
         Ignoring([&] { NumberedFiles::Open(OldArchiveNumber, oldArchive, Access::Read); });
         Save().Write();
         if (toDisk)
@@ -152,7 +152,6 @@ void WriteTo(const QString& aside, const QString& oldArchive, bool toDisk) {
         NumberedFiles::Close(TargetNumber);
     } catch (const RuntimeError&) {
         CloseNumbers();
-        Ignoring([&] { Files::DeleteForced(aside); });
         throw;
     }
     CloseNumbers();
@@ -182,12 +181,13 @@ void SaveOverOpenArchive(const QString& target) {
 
 void SaveElsewhere(const QString& target) {
     const QString aside = Files::TemporaryBeside(target);
-    WriteTo(aside, mBIG::BigFileName, false);
     try {
+        WriteTo(aside, mBIG::BigFileName, false);
         Files::Replace(aside, target);
-    } catch (const RuntimeError&) {
+    } catch (const RuntimeError& error) {
         Ignoring([&] { Files::DeleteForced(aside); });
-        throw;
+        QString told = error.Description();
+        throw RuntimeError(error.Number(), told.replace(Paths::ToNative(aside), Paths::ToNative(target)));
     }
 }
 

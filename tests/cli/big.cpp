@@ -24,7 +24,7 @@ protected:
     /// Two entries, the second in a folder, as variant 0.
     QString TwoEntries() {
         return world_.WriteFile(u"two.big"_s, HeaderOf("BIGF", 2, 55) + Record(56, 5, "a.ini") +
-                                                  Record(64, 2, "Data\\b.t") + Bytes("L225\0\0\0\0\0\0hello\0\0\0hi"));
+                                                  Record(64, 2, "Data\\b.t") + Bytes("L225\0\0\0\0\0hello\0\0\0hi"));
     }
 
     [[nodiscard]] QString At(const QString& name) const { return world_.Root() + u'\\' + name; }

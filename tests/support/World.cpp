@@ -61,8 +61,18 @@ World::World() {
     qputenv("BRINDOCK_REGISTRY", QDir::toNativeSeparators(folder_.filePath(u"registry.reg"_s)).toUtf8());
     qputenv("BRINDOCK_WINE_PREFIXES", "");
     Files::MakeFolder(ProgramFolder());
+    PutIdleWineFirst();
     ResetStartUpState();
     Start();
+}
+
+// A launch in a test must not start the machine's own Wine, which would set up a prefix in the user's home.
+void World::PutIdleWineFirst() const {
+    static const QByteArray path = qgetenv("PATH");
+    const QString wine = Paths::ToNative(WriteFile(u"bin\\wine"_s, "#!/bin/sh\nexit 0\n"));
+    QFile::setPermissions(wine, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const char separator = QDir::listSeparator().toLatin1();
+    qputenv("PATH", QDir::toNativeSeparators(folder_.filePath(u"bin"_s)).toUtf8() + separator + path);
 }
 
 // The environment goes on naming the folders that are gone: nothing may find the user's own after a test.

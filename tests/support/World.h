@@ -39,5 +39,7 @@ public:
     void Start();
 
 private:
+    void PutIdleWineFirst() const;
+
     QTemporaryDir folder_;
 };
