@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/Paths.h"
+#include "tests/support/Printing.h"
 
 #include <QByteArray>
 #include <QDir>
