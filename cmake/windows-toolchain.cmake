@@ -30,6 +30,3 @@ list(PREPEND CMAKE_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR}/windows)
 # moc, uic and rcc are this machine's own.
 set(QT_HOST_PATH /usr)
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake)
-
-# ctest runs the programs in the prefix that WINEPREFIX names.
-set(CMAKE_CROSSCOMPILING_EMULATOR /usr/lib/wine/wine64)
