@@ -67,6 +67,11 @@ QString FileList::Text(int place) const {
     return ColumnText(Row(place), Filename);
 }
 
+int FileList::TextLength(int place) const {
+    const FileRow& row = Row(place);
+    return static_cast<int>(row.IsFolder ? row.Name.size() : row.Name.size() - keyLength_);
+}
+
 QString FileList::Type(int place) const {
     return ColumnText(Row(place), Filetype);
 }

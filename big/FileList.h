@@ -47,6 +47,7 @@ public:
     [[nodiscard]] QString Key(int place) const;
     /// What the list shows: for a file its name without as many leading characters as the folder key has.
     [[nodiscard]] QString Text(int place) const;
+    [[nodiscard]] int TextLength(int place) const;
     /// The folder word, or what follows the last full stop of the whole name; the whole name when there is none.
     [[nodiscard]] QString Type(int place) const;
     /// Bytes in decimal; empty for a folder.

@@ -1,2 +1,47 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/frmProgress.h"
+
+#include "core/mMain.h"
+#include "ui/Localisation.h"
+#include "ui_frmProgress.h"
+
+#include <QShowEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int milliseconds = 500;
+} // namespace
+
+frmProgress::frmProgress(QWidget* parent) : QWidget(parent, Qt::Dialog), ui_(std::make_unique<Ui::frmProgress>()) {
+    ui_->setupUi(this);
+    mTraduction::ApplyLanguage(this);
+    ui_->Animation1->Load(mMain::ProgramFolder + u"\\anim.rsc"_s);
+    ui_->Animation1->setAccessibleName(windowTitle());
+    ui_->ProgressBar1->setAccessibleName(windowTitle());
+    timer_.setObjectName(u"Timer1"_s);
+    timer_.setParent(this);
+    connect(&timer_, &QTimer::timeout, this, &QWidget::raise);
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, [this] {
+        timer_.stop();
+        cancelled_ = true;
+    });
+}
+
+frmProgress::~frmProgress() = default;
+
+void frmProgress::SetText(const QString& text) {
+    ui_->Label1->setText(mTraduction::DisplayText(text));
+}
+
+void frmProgress::SetValue(int percent) {
+    ui_->ProgressBar1->setValue(percent);
+}
+
+void frmProgress::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!cancelled_)
+        timer_.start(milliseconds);
+}

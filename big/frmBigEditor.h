@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The BIG Editor: one archive as folder tree and file list, with its commands in menus and side links.
+#pragma once
+
+#include "big/BigEditor.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class FileListModel;
+class FolderTreeModel;
+class QLabel;
+class SideLink;
+
+namespace Ui {
+class frmBigEditor;
+}
+
+class frmBigEditor : public QMainWindow, private EditorView {
+    Q_OBJECT
+public:
+    explicit frmBigEditor(QWidget* parent = nullptr);
+    ~frmBigEditor() override;
+
+    /// Shows the window and opens an archive (inside path); a file that doesn't exist is ignored, and the window stays
+    /// as it is.
+    void OpenBigFile(const QString& path);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void ShowWindow() override;
+    void TreeChanged() override;
+    void ListChanged() override;
+    void StateChanged() override;
+    void ShowVersion() override;
+    void ShowBusy(bool busy) override;
+
+    /// A menu entry and the link that does the same, with their picture.
+    struct Command {
+        QAction* Action;
+        int Link; ///< index of Label2, or NoLink
+        QString Picture;
+        std::function<void()> Run; ///< empty for what is not built
+    };
+
+    static constexpr int NoLink = -1;
+
+    void Dress();
+    [[nodiscard]] QList<QAction*> NotBuilt() const;
+    std::vector<Command> Commands();
+    void ConnectCommands();
+    void ConnectViews();
+    void ShowOptions();
+    void SelectNode();
+    void ChooseView(ViewMode mode);
+    void UnderlineLink(const SideLink* link);
+
+    std::unique_ptr<Ui::frmBigEditor> ui_;
+    BigEditor editor_;
+    FolderTreeModel* treeModel_;
+    FileListModel* listModel_;
+    QLabel* status_; ///< the status bar's text
+    std::array<SideLink*, 8> links_;
+    bool following_ = false; ///< the views follow the document, not the other way round
+};

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Keys for the entries of menus whose texts come from a language file without them.
+#pragma once
+
+#include <QStringList>
+
+class QMenuBar;
+
+namespace Mnemonics {
+
+/// Each text with an "&" before a letter that none of the others has taken: the first letter of a word before any other
+/// letter. A text that has its own keeps it; one that finds no letter stays as it is.
+QStringList Spread(const QStringList& texts);
+
+/// Spreads keys over a menu bar and over each of its menus.
+void AddTo(QMenuBar& menuBar);
+
+} // namespace Mnemonics
