@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Clock.h"
+
+#include "tests/support/Printing.h"
+
+#include <QDate>
+#include <QTime>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+TEST(Clock, NowIsOneLineWithTheDateAndTheTime) {
+    const QString now = Clock::Now();
+    const QString year = QString::number(QDate::currentDate().year() % 100);
+    EXPECT_TRUE(now.contains(year)) << now.toStdString();
+    EXPECT_GE(now.count(u':') + now.count(u'.'), 2) << now.toStdString();
+    EXPECT_TRUE(now.contains(u' ')) << now.toStdString();
+    EXPECT_FALSE(now.contains(u'\n') || now.contains(u'\r')) << now.toStdString();
+}
+
+TEST(Clock, SecondsOfDayCountFromLocalMidnightWithAFraction) {
+    const double before = QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+    const double now = Clock::SecondsOfDay();
+    const double after = QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+    // At midnight the later of the readings is the smaller one.
+    EXPECT_TRUE(after < before || (now >= before - 0.1 && now <= after + 0.1)) << before << ' ' << now << ' ' << after;
+}
