@@ -5,8 +5,11 @@
 #include "app/Suite.h"
 #include "core/mMain.h"
 #include "platform/Processes.h"
+#include "ui/Picture.h"
 #include "ui/Style.h"
 #include "ui/WindowHost.h"
+
+#include <QTimer>
 
 int main(int argc, char** argv) {
     Suite suite;
@@ -18,7 +21,11 @@ int main(int argc, char** argv) {
 
     Application application(argc, argv);
     Application::setApplicationName(QStringLiteral("Brindock 2005"));
+    if (dispatched.What == mMain::Dispatched::Action::NormalStart)
+        Picture::ReadAhead(QStringLiteral("menu"), application.devicePixelRatio());
     Style::Apply(application);
+    // The icon's readers take longer than the first window: it may come up without it.
+    QTimer::singleShot(0, &application, [] { Application::setWindowIcon(Picture::ProgramIcon()); });
     WindowHost host(nullptr);
     Host::Use(&host);
     try {

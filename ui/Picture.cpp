@@ -3,7 +3,9 @@
 
 #include "ui/Picture.h"
 
+#include <algorithm>
 #include <array>
+#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -17,21 +19,33 @@ struct Rendering {
 constexpr std::array renderings{Rendering{1.0, ""_L1}, Rendering{1.5, "@1.5x"_L1}, Rendering{2.0, "@2x"_L1},
                                 Rendering{3.0, "@3x"_L1}};
 
+// The picture that is being read ahead.
+QString aheadFile;
+std::future<QImage> ahead;
+
+Rendering RenderingFor(qreal ratio) {
+    const auto* const found = std::find_if(renderings.begin(), renderings.end(),
+                                           [&](const Rendering& rendering) { return rendering.Scale >= ratio; });
+    return found != renderings.end() ? *found : renderings.back();
+}
+
+QString FileOf(const QString& name, const Rendering& rendering) {
+    return u":/art/%1%2.png"_s.arg(name, rendering.Suffix);
+}
+
 } // namespace
 
 QPixmap Picture::Load(const QString& name, qreal ratio) {
-    Rendering chosen = renderings.back();
-    for (const Rendering& rendering : renderings) {
-        if (rendering.Scale >= ratio) {
-            chosen = rendering;
-            break;
-        }
-    }
-    // Read as an image: a pixmap loaded by name would guess its ratio from an "@" in it.
-    QImage image;
-    image.load(u":/art/%1%2.png"_s.arg(name, chosen.Suffix));
-    image.setDevicePixelRatio(chosen.Scale);
+    const Rendering rendering = RenderingFor(ratio);
+    const QString file = FileOf(name, rendering);
+    QImage image = file == aheadFile && ahead.valid() ? ahead.get() : QImage(file);
+    image.setDevicePixelRatio(rendering.Scale);
     return QPixmap::fromImage(std::move(image));
+}
+
+void Picture::ReadAhead(const QString& name, qreal ratio) {
+    aheadFile = FileOf(name, RenderingFor(ratio));
+    ahead = std::async(std::launch::async, [file = aheadFile] { return QImage(file); });
 }
 
 QIcon Picture::Icon(const QString& name) {

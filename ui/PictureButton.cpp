@@ -30,6 +30,16 @@ QSize PictureButton::sizeHint() const {
     return {text.width() + 2 * sideRoom, text.height() + 4};
 }
 
+// A disabled button is part of the picture: the pointer acts on what lies behind it.
+bool PictureButton::event(QEvent* event) {
+    const bool ofPointer = event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress ||
+                           event->type() == QEvent::MouseButtonRelease;
+    if (isEnabled() || !ofPointer)
+        return QPushButton::event(event);
+    event->ignore();
+    return false;
+}
+
 void PictureButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -105,6 +105,5 @@ void Style::Apply(QApplication& application) {
     QApplication::setStyle(new FamilyStyle);
     QApplication::setPalette(FamilyPalette());
     QApplication::setFont(TextFont());
-    QApplication::setWindowIcon(Picture::ProgramIcon());
     application.setStyleSheet(sheet);
 }
