@@ -25,7 +25,7 @@ protected:
 
     Start() { WriteSetting(u"AutoCheckForUpdates"_s, u"0"_s); }
 
-    QStringList Run(const QString& commandLine) {
+    QStringList Run(const QString& commandLine) const {
         mMain::Show(mMain::Prepare(commandLine));
         return navigator_.Calls;
     }
