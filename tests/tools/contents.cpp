@@ -50,7 +50,7 @@ TEST(SampleContents, NoNameLeavesItsFolderOrStartsWithASeparator) {
     const Stock stock = MakeStock(true, FakeJpeg);
     for (const Content content : AllContents) {
         for (const ArchiveEntry& entry : MakeEntries(stock, content, 0, 200, 3)) {
-            EXPECT_FALSE(entry.Name.contains(u".."_s) || entry.Name.startsWith(u'\') || entry.Name.startsWith(u'/'));
+            EXPECT_FALSE(entry.Name.contains(u".."_s) || entry.Name.startsWith(u'\\') || entry.Name.startsWith(u'/'));
             EXPECT_FALSE(entry.Data.isEmpty());
         }
     }

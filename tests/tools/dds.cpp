@@ -43,9 +43,9 @@ TEST(SampleDds, APlainHeaderHoldsTheMasksAndTheMipmaps) {
 }
 
 TEST(SampleDds, MipmapsGoDownToOnePixel) {
-    EXPECT_EQ(Dds(Picture(8, 8), DdsFormat::Dxt1).size(), HeaderSize + (4 + 1 + 1 + 1) * 8);
-    EXPECT_EQ(Dds(Picture(8, 8), DdsFormat::Dxt5).size(), HeaderSize + (4 + 1 + 1 + 1) * 16);
-    EXPECT_EQ(Dds(Picture(4, 4), DdsFormat::Rgb888).size(), HeaderSize + (16 + 4 + 1) * 3);
+    EXPECT_EQ(Dds(Picture(8, 8), DdsFormat::Dxt1).size(), HeaderSize + 7 * qsizetype{8});
+    EXPECT_EQ(Dds(Picture(8, 8), DdsFormat::Dxt5).size(), HeaderSize + 7 * qsizetype{16});
+    EXPECT_EQ(Dds(Picture(4, 4), DdsFormat::Rgb888).size(), HeaderSize + 21 * qsizetype{3});
 }
 
 TEST(SampleDds, AColourBlockHoldsItsTwoEndsAndTheNearestSteps) {

@@ -57,8 +57,8 @@ std::vector<qint16> DecodeImaBlock(const QByteArray& block) {
 std::vector<qint16> DecodeMsBlock(const QByteArray& block, const QByteArray& coefficients) {
     constexpr std::array<int, 16> adaptation{230, 230, 230, 230, 307, 409, 512, 614,
                                              768, 614, 512, 409, 307, 230, 230, 230};
-    const int first = Signed16At(coefficients, ByteAt(block, 0) * 4);
-    const int second = Signed16At(coefficients, ByteAt(block, 0) * 4 + 2);
+    const int first = Signed16At(coefficients, qsizetype{4} * ByteAt(block, 0));
+    const int second = Signed16At(coefficients, qsizetype{4} * ByteAt(block, 0) + 2);
     int delta = Little16At(block, 1), newer = Signed16At(block, 3), older = Signed16At(block, 5);
     std::vector<qint16> samples{static_cast<qint16>(older), static_cast<qint16>(newer)};
     for (qsizetype i = 14; i < block.size() * 2; ++i) {

@@ -213,7 +213,7 @@ TEST(MeasuredTree, FilesSizesAndNamesAreAsAskedAndTheSameEachTime) {
         names.insert(file.toLower());
         sum += bytes.size();
         texts += bytes.contains("ModelDraw") || !bytes.contains('\0') ? 1 : 0;
-        large += bytes.size() >= 1024 * 1024 ? 1 : 0;
+        large += bytes.size() >= 1'048'576 ? 1 : 0;
     }
     EXPECT_EQ(names.size(), 300);
     EXPECT_NEAR(static_cast<double>(sum), 12e6, 1.1e6);

@@ -166,7 +166,7 @@ Picture Wall(int size, quint64 seed) {
         for (int x = 0; x < size; ++x) {
             const int row = y / course, shifted = x + (row % 2) * course;
             const bool mortar = y % course < joint || shifted % (2 * course) < joint;
-            const auto brick = static_cast<quint64>(row * 31 + shifted % size / (2 * course));
+            const auto brick = static_cast<quint64>(row) * 31 + static_cast<quint64>(shifted % size / (2 * course));
             const double tone = 0.8 + 0.35 * Random(seed * 977 + brick).Unit();
             const double grain = 0.85 + 0.3 * Fractal(x * 16.0 / size, y * 16.0 / size, 16, 3, seed);
             wall.At(x, y) = mortar ? Lit({122, 118, 110}, grain) : Lit(stone, tone * grain);

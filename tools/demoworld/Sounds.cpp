@@ -51,6 +51,7 @@ std::vector<double> NoteLine(Random& random, double seconds, int rate) {
 Tune MakeTune(quint64 seed, double seconds, int rate, int channels) {
     Random random(seed);
     std::vector<std::vector<double>> lines;
+    lines.reserve(static_cast<size_t>(channels));
     for (int channel = 0; channel < channels; ++channel)
         lines.push_back(NoteLine(random, seconds, rate));
     Tune tune{rate, channels, {}};

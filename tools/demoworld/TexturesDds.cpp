@@ -14,6 +14,8 @@ namespace Demo {
 
 namespace {
 
+constexpr qsizetype FieldSize = 4;
+
 struct PixelLayout {
     QByteArrayView FourCharacters; ///< of a compressed format; empty for plain pixels
     int BlockBytes;                ///< of 4 by 4 pixels, when compressed
@@ -100,7 +102,7 @@ void AddColourBlock(Bytes& bytes, const Block& block) {
     const std::array<Colour, 4> steps{a, b, Blend(a, b, 1.0 / 3), Blend(a, b, 2.0 / 3)};
     quint32 choices = 0;
     for (size_t i = 0; first != second && i < block.size(); ++i) {
-        const auto nearest =
+        const auto* nearest =
             std::ranges::min_element(steps, {}, [&](Colour step) { return Distance(step, block.at(i)); });
         choices |= static_cast<quint32>(nearest - steps.begin()) << (2 * i);
     }
@@ -147,10 +149,10 @@ void AddHeader(Bytes& bytes, const PixelLayout& layout, const Picture& picture, 
     bytes.Little32(capsHeightWidthPixelFormat | (compressed ? linearSize : pitch) | (levels > 1 ? mipmapCount : 0));
     bytes.Little32(picture.Height).Little32(picture.Width);
     bytes.Little32(compressed ? blocks * layout.BlockBytes : qint64{picture.Width} * layout.Bits / 8);
-    bytes.Zeros(4).Little32(levels).Zeros(11 * 4);
+    bytes.Zeros(4).Little32(levels).Zeros(11 * FieldSize);
     bytes.Little32(32).Little32(compressed ? fourCharacters : rgb | (layout.Alpha != 0 ? alphaPixels : 0));
     if (compressed)
-        bytes.Raw(layout.FourCharacters).Zeros(5 * 4);
+        bytes.Raw(layout.FourCharacters).Zeros(5 * FieldSize);
     else
         bytes.Zeros(4)
             .Little32(layout.Bits)
@@ -158,7 +160,7 @@ void AddHeader(Bytes& bytes, const PixelLayout& layout, const Picture& picture, 
             .Little32(layout.Green)
             .Little32(layout.Blue)
             .Little32(layout.Alpha);
-    bytes.Little32(texture | (levels > 1 ? complexMipmap : 0)).Zeros(4 * 4);
+    bytes.Little32(texture | (levels > 1 ? complexMipmap : 0)).Zeros(4 * FieldSize);
 }
 
 } // namespace

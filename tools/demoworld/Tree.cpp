@@ -37,6 +37,7 @@ qint64 AnySize(Random& random, qint64 low, qint64 high) {
 std::vector<qint64> Sizes(int files, qint64 bytes) {
     Random random(2005);
     std::vector<qint64> sizes;
+    sizes.reserve(static_cast<size_t>(files));
     for (int i = 0; i < files; ++i)
         sizes.push_back(AnySize(random, Kilobyte, 50 * Kilobyte));
     qint64 sum = std::accumulate(sizes.begin(), sizes.end(), qint64{0});

@@ -110,7 +110,7 @@ private:
         for (int number = 1; number <= (game == 0 ? 3 : 2); ++number) {
             const QString folder =
                 InstallFolder(game) + u"Maps/QvShellMap"_s + QString::number(number).rightJustified(3, u'0') + u'/';
-            const auto seed = static_cast<quint64>(game * 10 + number);
+            const auto seed = static_cast<quint64>(game) * 10 + static_cast<quint64>(number);
             Write(folder + u"QvInfos.ini"_s, ShellMapRecord(PlaceName(seed), comments[number - 1]));
             Write(folder + PlanOf(game).ShellMap + u".map"_s, Map(MapSize(), seed));
             Write(folder + PlanOf(game).ShellMap + u".tga"_s, Preview(seed));
@@ -122,7 +122,7 @@ private:
     void MakeMaps(GameIndex game) {
         const QString maps = UserFolder(game) + u"Maps/"_s;
         for (int i = 0; i < 5; ++i) {
-            const auto seed = static_cast<quint64>(game * 4 + i);
+            const auto seed = static_cast<quint64>(game) * 4 + static_cast<quint64>(i);
             const QString name = PlaceName(seed), folder = maps + name + u'/';
             Write(folder + name + u".map"_s, Map(MapSize(), seed));
             if (i != 2 && i != 3)
@@ -137,7 +137,7 @@ private:
 
     void MakeReplays(GameIndex game) {
         for (int i = 0; i < 6; ++i) {
-            const auto seed = static_cast<quint64>(game * 6 + i);
+            const auto seed = static_cast<quint64>(game) * 6 + static_cast<quint64>(i);
             const QString name = i == 0 ? u"Last Replay"_s : PlaceName(seed) + u" %1"_s.arg(i);
             Write(UserFolder(game) + u"Replays/"_s + name + ReplayExtension(game),
                   Replay(game, RandomReplayFacts(game, seed), options_.Small ? 0 : 20000 * (i + 1), seed));
