@@ -253,5 +253,5 @@ bool FileRegistry::Store(const QString& text) {
         return false;
     const QByteArray bytes = now_->Encode(text);
     QSaveFile file(path_);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
 }

@@ -107,7 +107,7 @@ RegistryValue TextOfBytes(const QByteArray& bytes, Flavour flavour) {
 }
 
 RegistryValue ValueOfHex(QStringView data, Flavour flavour) {
-    const RegistryValue other{RegistryValue::Kind::Other, {}, 0};
+    RegistryValue other{RegistryValue::Kind::Other, {}, 0};
     const qsizetype colon = data.indexOf(u':');
     const QStringView type = data.first(qMax<qsizetype>(colon, 0));
     const auto bytes = ReadBytes(data.sliced(colon + 1));

@@ -85,7 +85,7 @@ QString FileOfEntry(const QString& entry) {
         inFolder[hyphen] = u'/';
     for (const QString& folder : ApplicationFolders()) {
         for (const QString& name : {entry, inFolder}) {
-            const QString file = folder + u'/' + name;
+            QString file = folder + u'/' + name;
             if (QFileInfo(file).isFile())
                 return file;
         }

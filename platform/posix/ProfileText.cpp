@@ -108,7 +108,7 @@ QString ProfileText::Read(const QString& section, const QString& key) const {
 
 QByteArray ProfileText::Write(const QString& section, const QString& key, const QString& value) const {
     QByteArray written = Encode(value);
-    const auto start = std::find_if_not(written.begin(), written.end(), IsBlank);
+    const auto* const start = std::find_if_not(written.begin(), written.end(), IsBlank);
     written.remove(0, start - written.begin());
     const Place place = Locate(section, key);
     if (place.KeyFound && !place.HasEqualSign)

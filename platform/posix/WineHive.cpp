@@ -87,7 +87,7 @@ RegistryValue WineHive::Read(const QString& key, const QString& name) const {
     for (const Section& section : sections_) {
         if (section.KeyHash != hash)
             continue;
-        const RegistryValue value = ReadSection(section, key, name);
+        RegistryValue value = ReadSection(section, key, name);
         if (value.Type != RegistryValue::Kind::Missing)
             return value;
     }

@@ -67,7 +67,7 @@ void AddLutris(Prefixes& prefixes, const QString& home) {
           u"/.var/app/net.lutris.Lutris/config/lutris"_s}) {
         const QDir games(home + data + u"/games"_s);
         for (const QString& game : games.entryList({u"*.yml"_s}, QDir::Files, QDir::Name)) {
-            for (QString prefix : Caught(games.filePath(game), prefixLine))
+            for (const QString& prefix : Caught(games.filePath(game), prefixLine))
                 prefixes.Add(prefix.startsWith(u"~/"_s) ? home + prefix.sliced(1) : prefix);
         }
     }

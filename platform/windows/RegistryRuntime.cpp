@@ -131,11 +131,14 @@ QString RegistryRuntime::GetString(RootKey root, const QString& path, const QStr
 
 void RegistryRuntime::SaveString(RootKey root, const QString& path, const QString& name, const QString& text) {
     const QString kept = ThroughPage(text);
-    if (source_->File)
+    if (source_->File) {
         source_->File->Write(root, path, name, {RegistryValue::Kind::Text, kept, 0});
-    else
-        // The length is that of the characters alone: no zero is stored behind them. Meant.
-        SaveSystem(root, path, name, REG_SZ, kept.utf16(), static_cast<DWORD>(kept.size() * sizeof(wchar_t)));
+        return;
+    }
+    // The length is that of the characters alone, so that no zero is stored behind them. Meant. The system would add
+    // a zero that it sees there, so it sees a blank.
+    const QString seen = kept + u' ';
+    SaveSystem(root, path, name, REG_SZ, seen.utf16(), static_cast<DWORD>(kept.size() * sizeof(wchar_t)));
 }
 
 quint32 RegistryRuntime::GetDword(RootKey root, const QString& path, const QString& name) const {
