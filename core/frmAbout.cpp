@@ -26,7 +26,7 @@ void Dress(QLabel* label, const QFont& font, const QColor& colour) {
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmAbout>()) {
     ui_->setupUi(this);
     setFixedSize(size());
-    Dress(ui_->lblTitle, Style::HeadingFont(20), Style::Colour::EntryPlain);
+    Dress(ui_->lblTitle, Style::HeadingFont(15), Style::Colour::EntryPlain);
     Dress(ui_->lblVersion, Style::TextFont(), Style::Colour::TextOnPicture);
     Dress(ui_->Label2, Style::HeadingFont(12), Style::Colour::EntryHover);
     Dress(ui_->Label3, Style::HeadingFont(12), Style::Colour::ShadowOnPicture);

@@ -53,6 +53,7 @@ frmToolsMenu::~frmToolsMenu() = default;
 
 void frmToolsMenu::Dress() {
     setMouseTracking(true);
+    setMask(ucShadow::Area(rect()));
     ui_->lblTitle->setFont(Style::HeadingFont(24));
     ui_->lblTitle->setAttribute(Qt::WA_TransparentForMouseEvents);
     ui_->lblVersion->setFont(Style::TextFont(8));
@@ -160,6 +161,5 @@ void frmToolsMenu::paintEvent(QPaintEvent* /*event*/) {
         picture_ = Picture::Load(QStringLiteral("menu"), ratio);
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    constexpr int reach = ucShadow::Reach;
-    painter.drawPixmap(rect().adjusted(reach, reach, -reach, -reach), picture_);
+    painter.drawPixmap(rect().adjusted(0, 0, -ucShadow::Reach, -ucShadow::Reach), picture_);
 }

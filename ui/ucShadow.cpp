@@ -9,15 +9,16 @@ ucShadow::ucShadow(QWidget* parent) : QWidget(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+QRegion ucShadow::Area(const QRect& window) {
+    const QRect thrower = window.adjusted(0, 0, -Reach, -Reach);
+    return QRegion(thrower).united(thrower.translated(Reach, Reach));
+}
+
 void ucShadow::paintEvent(QPaintEvent* /*event*/) {
+    const QRect thrower = rect().adjusted(0, 0, -Reach, -Reach);
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setClipRegion(QRegion(rect()).subtracted(rect().adjusted(Reach, Reach, -Reach, -Reach)));
-    painter.setPen(Qt::NoPen);
-    // Faint layers of shrinking size add up to a soft edge; the light comes from above.
-    painter.setBrush(QColor(0, 0, 0, 9));
-    for (int layer = 0; layer < Reach; ++layer) {
-        const QRectF area = QRectF(rect()).adjusted(layer, layer + 2, -layer, -layer);
-        painter.drawRoundedRect(area, Reach - layer * 0.7, Reach - layer * 0.7);
-    }
+    painter.setClipRegion(Area(rect()).subtracted(thrower));
+    // Faint layers, each a step further out, add up to a soft edge.
+    for (int step = 1; step <= Reach; ++step)
+        painter.fillRect(thrower.translated(step, step), QColor(0, 0, 0, 28));
 }
