@@ -3,6 +3,7 @@
 
 #include "app/Suite.h"
 
+#include "big/frmBigEditor.h"
 #include "core/frmAbout.h"
 #include "core/frmToolsMenu.h"
 
@@ -43,11 +44,11 @@ void Suite::ShowToolsMenu() {
 }
 
 void Suite::ShowBigEditor() {
-    StayInMenu();
+    Open<frmBigEditor>();
 }
 
-void Suite::OpenBigFile(const QString& /*path*/) {
-    StayInMenu();
+void Suite::OpenBigFile(const QString& path) {
+    Open<frmBigEditor>()->OpenBigFile(path);
 }
 
 void Suite::ExtractBigFile(const QString& /*path*/) {
@@ -82,6 +83,6 @@ void Suite::CheckForUpdates(bool /*automatic*/) {}
 
 void Suite::ActivateShellMap(GameIndex /*game*/) {}
 
-bool Suite::IsBuilt(Tool /*tool*/) const {
-    return false;
+bool Suite::IsBuilt(Tool tool) const {
+    return tool == Tool::BigEditor;
 }

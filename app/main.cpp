@@ -3,6 +3,7 @@
 
 #include "app/Application.h"
 #include "app/Suite.h"
+#include "big/frmProgress.h"
 #include "core/mMain.h"
 #include "platform/Processes.h"
 #include "ui/Picture.h"
@@ -26,7 +27,7 @@ int main(int argc, char** argv) {
     Style::Apply(application);
     // The icon's readers take longer than the first window: it may come up without it.
     QTimer::singleShot(0, &application, [] { Application::setWindowIcon(Picture::ProgramIcon()); });
-    WindowHost host(nullptr);
+    WindowHost host([] { return std::make_unique<frmProgress>(); });
     Host::Use(&host);
     try {
         mMain::Show(dispatched);
