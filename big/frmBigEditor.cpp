@@ -58,6 +58,7 @@ void frmBigEditor::Dress() {
     ui_->picSplitter->setSizes({220, 480});
     ui_->picSplitter->setStretchFactor(1, 1);
     status_->setTextFormat(Qt::PlainText);
+    status_->setContentsMargins(6, 0, 0, 0);
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
     ui_->StatusBar1->addWidget(status_, 1);
     ui_->mnuExit->setShortcuts({ui_->mnuExit->shortcut(), QKeySequence(u"Alt+F4"_s)});
