@@ -70,10 +70,13 @@ std::size_t HashOfWritten(QByteArrayView key) {
     return hash.Result();
 }
 
-/// Where the next key's bracket stands at the start of a line; the end of the bytes when there is none.
+/// Where the next key's bracket stands at the start of a line, behind `from`; the end of the bytes when there is none.
 qsizetype NextKey(const QByteArray& bytes, qsizetype from) {
-    const void* found = ::memmem(bytes.constData() + from, static_cast<std::size_t>(bytes.size() - from), "\n[", 2);
-    return found == nullptr ? bytes.size() : static_cast<const char*>(found) + 1 - bytes.constData();
+    // Brackets are rarer than lines.
+    qsizetype at = bytes.indexOf('[', from + 1);
+    while (at > 0 && bytes[at - 1] != '\n')
+        at = bytes.indexOf('[', at + 1);
+    return at < 0 ? bytes.size() : at;
 }
 
 } // namespace
