@@ -85,16 +85,15 @@ void ArchiveData::Put() {
     // Positions in the format are signed 32-bit numbers; what would pass them can't be put.
     if (size == 0 || position_ + size > std::numeric_limits<qint32>::max())
         return;
-    if (const qint64 gap = position_ - (blockStart_ + filled_); gap > 0)
-        PutZeros(gap);
+    PutGap(position_ - End());
     for (const Piece& piece : buffer_) {
         switch (piece.From) {
         case Piece::Place::OldArchive:
-            PutFrom(oldArchive_, piece.Offset, piece.Length);
+            PutOld(piece.Offset, piece.Length);
             break;
         case Piece::Place::NewFile:
             Ignoring([&] { OpenSource(piece.Path); });
-            PutFrom(source_, piece.Offset, piece.Length);
+            PutNew(piece.Offset, piece.Length);
             break;
         case Piece::Place::Zeros:
             PutZeros(piece.Length);
@@ -105,14 +104,38 @@ void ArchiveData::Put() {
     length_ = position_;
 }
 
-void ArchiveData::PutFrom(int number, qint64 offset, qint64 length) {
+/// The bytes between two entries: part of a run that goes on behind them, else zeros of their own.
+void ArchiveData::PutGap(qint64 length) {
+    const Piece& next = buffer_.front();
+    const bool runGoesOn =
+        run_.Length > 0 && next.From == Piece::Place::OldArchive && next.Offset == run_.Source + run_.Length + length;
+    if (!runGoesOn) {
+        PutZeros(length);
+    } else if (length > 0) {
+        run_.Gaps.emplace_back(End(), length);
+        run_.Length += length;
+    }
+}
+
+void ArchiveData::PutOld(qint64 offset, qint64 length) {
+    if (length == 0)
+        return;
+    if (run_.Length == 0 || offset != run_.Source + run_.Length) {
+        Flush();
+        run_ = {blockStart_, offset, 0, {}};
+    }
+    run_.Length += length;
+}
+
+void ArchiveData::PutNew(qint64 offset, qint64 length) {
+    FlushRun();
     for (qint64 done = 0; done < length;) {
         if (filled_ == block_.size())
             Flush();
         const qint64 wanted = std::min<qint64>(length - done, block_.size() - filled_);
         qint64 had = 0;
         char* place = block_.data() + filled_;
-        Ignoring([&] { had = NumberedFiles::ReadInto(number, offset + done, place, wanted); });
+        Ignoring([&] { had = NumberedFiles::ReadInto(source_, offset + done, place, wanted); });
         std::memset(place + had, 0, static_cast<std::size_t>(wanted - had));
         filled_ += wanted;
         done += wanted;
@@ -120,8 +143,11 @@ void ArchiveData::PutFrom(int number, qint64 offset, qint64 length) {
 }
 
 void ArchiveData::PutZeros(qint64 length) {
+    if (length == 0)
+        return;
     if (length > block_.size() - filled_)
         Flush();
+    FlushRun();
     if (length > block_.size()) { // left to the file system, which reads it as zeros
         blockStart_ += length;
         return;
@@ -130,7 +156,18 @@ void ArchiveData::PutZeros(qint64 length) {
     filled_ += length;
 }
 
+void ArchiveData::FlushRun() {
+    if (run_.Length == 0)
+        return;
+    NumberedFiles::Copy(target_, run_.Target, oldArchive_, run_.Source, run_.Length);
+    for (const auto& [offset, length] : run_.Gaps)
+        NumberedFiles::Write(target_, offset, QByteArray(length, '\0'));
+    blockStart_ = run_.Target + run_.Length;
+    run_ = {};
+}
+
 void ArchiveData::Flush() {
+    FlushRun();
     if (filled_ > 0)
         NumberedFiles::Write(target_, blockStart_, QByteArrayView(block_).first(filled_));
     blockStart_ += filled_;

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 
+#include <utility>
 #include <vector>
 
 /// The copy buffer keeps its content from one entry to the next, as an entry of no bytes is written from what stands in
@@ -46,9 +47,24 @@ private:
 
     void LoadOld(const BigEntry& entry);
     void LoadNew(const BigEntry& entry);
-    void PutFrom(int number, qint64 offset, qint64 length);
+
+    /// Bytes of the old archive to be copied to the target in one go, and the stretches in them that must be zeros.
+    struct Run {
+        qint64 Target = 0;
+        qint64 Source = 0;
+        qint64 Length = 0;
+        std::vector<std::pair<qint64, qint64>> Gaps; ///< target offset and length
+    };
+
+    void PutGap(qint64 length);
+    void PutOld(qint64 offset, qint64 length);
+    void PutNew(qint64 offset, qint64 length);
     void PutZeros(qint64 length);
+
+    [[nodiscard]] qint64 End() const { return run_.Length > 0 ? run_.Target + run_.Length : blockStart_ + filled_; }
+
     void OpenSource(const QString& path);
+    void FlushRun();
     void Flush();
 
     int target_;
@@ -59,6 +75,7 @@ private:
     qint64 position_;
     std::vector<Piece> buffer_;
     QString openSource_;
+    Run run_;
     QByteArray block_;
     qsizetype filled_ = 0;
     qint64 blockStart_;

@@ -92,7 +92,8 @@ void ReadDirectory() {
     const QByteArray magic = NumberedFiles::Read(ArchiveNumber, 0, 4);
     if (magic != "BIGF" && magic != "BIG4")
         Refuse();
-    const auto count = DirectoryNumber(Scanner(ArchiveNumber, CountOffset).BigEndian());
+    const QByteArray countBytes = NumberedFiles::Read(ArchiveNumber, CountOffset, sizeof(quint32));
+    const auto count = DirectoryNumber(qFromBigEndian<quint32>(countBytes.leftJustified(sizeof(quint32), '\0').data()));
     if (!count || *count > mBIG::MaximumEntries)
         Refuse();
     Scanner scanner(ArchiveNumber, DirectoryOffset);

@@ -18,6 +18,8 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <memory>
 #include <string>
 #include <vector>
@@ -50,6 +52,14 @@ void Read(const QString& path) {
     mBIG::BigFileName = path;
 }
 
+/// Adds a number and a tab.
+void AppendNumber(QString& line, qint32 number) {
+    std::array<char, 16> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    line += QLatin1StringView(digits.data(), end);
+    line += u'\t';
+}
+
 void List(const Options& options) {
     Read(ArgumentPath(options.Archive));
     if (options.Json) {
@@ -65,9 +75,12 @@ void List(const Options& options) {
     }
     Print(u"version %1"_s.arg(mBIG::BigVersion));
     int index = 0;
+    QString line;
     for (const BigEntry& entry : mBIG::BigEntries) {
-        Print(QString::number(index++) + u'\t' + QString::number(entry.Offset) + u'\t' + QString::number(entry.Size) +
-              u'\t' + entry.Name);
+        line.clear();
+        for (const qint32 number : {index++, entry.Offset, entry.Size})
+            AppendNumber(line, number);
+        Print(line += entry.Name);
     }
 }
 

@@ -8,7 +8,7 @@
 #include <dirent.h>
 #include <unistd.h>
 
-#include <climits>
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -134,6 +134,8 @@ QString NameFromNative(const QString& name) {
 
 QByteArray EncodeNative(const QString& nativePath) {
     const auto isRaw = [](QChar unit) { return unit.unicode() >= FirstRawByte && unit.unicode() <= LastRawByte; };
+    if (std::none_of(nativePath.begin(), nativePath.end(), isRaw))
+        return nativePath.toUtf8();
     QByteArray bytes;
     qsizetype from = 0;
     for (qsizetype at = 0; at < nativePath.size(); ++at) {
