@@ -25,7 +25,7 @@ QString CompactPath(const QString& path, int width, const QFontMetrics& metrics)
     const QString file = slash < 0 ? path : path.sliced(slash);
     // As much of the folder's beginning as there is room for, down to nothing.
     for (qsizetype kept = std::max<qsizetype>(slash, 0) - 1; kept >= 0; --kept) {
-        if (const QString shortened = path.first(kept) + u"..."_s + file; fits(shortened))
+        if (QString shortened = path.first(kept) + u"..."_s + file; fits(shortened))
             return shortened;
     }
     return metrics.elidedText(slash < 0 ? file : u"..."_s + file, Qt::ElideRight, width);
