@@ -161,6 +161,11 @@ void FileListView::SetAccessibleNames(const QString& name) {
         part->setAccessibleName(name);
 }
 
+void FileListView::FollowInTabOrder(QWidget* control) {
+    setTabOrder(control, details_);
+    setTabOrder(details_, icons_);
+}
+
 QItemSelectionModel* FileListView::Selection() const {
     return details_->selectionModel();
 }

@@ -30,6 +30,9 @@ public:
     /// What a screen reader calls the list.
     void SetAccessibleNames(const QString& name);
 
+    /// The Tab key comes here from that control, whatever the mode.
+    void FollowInTabOrder(QWidget* control);
+
     [[nodiscard]] QItemSelectionModel* Selection() const;
     [[nodiscard]] QHeaderView* Header() const;
     /// The view that the mode shows.

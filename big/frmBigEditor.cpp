@@ -55,6 +55,7 @@ void frmBigEditor::Dress() {
     Mnemonics::AddTo(*ui_->menuBar);
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
     ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
+    ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
     ui_->picSplitter->setSizes({220, 480});
     ui_->picSplitter->setStretchFactor(1, 1);
     status_->setTextFormat(Qt::PlainText);

@@ -179,6 +179,7 @@ void SideLink::paintEvent(QPaintEvent* /*event*/) {
 
 void SideLink::mouseMoveEvent(QMouseEvent* event) {
     QAbstractButton::mouseMoveEvent(event);
+    event->accept(); // else the ground would take it for a move of its own
     Q_EMIT MouseMoved();
 }
 
