@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QListView>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 
 #include <algorithm>
@@ -17,6 +18,17 @@ namespace {
 
 constexpr int largeIcon = 32;
 constexpr int smallIcon = 16;
+constexpr int largeCell = 120;
+
+/// Rows of one given size, so that no name reaches into its neighbour's cell.
+class CellDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override {
+        return static_cast<const QListView*>(option.widget)->gridSize();
+    }
+};
 
 /// Icons with their text beside or below them. The list mode of the toolkit lays tens of thousands of rows out at once
 /// where its icon mode takes each by itself, so large icons are list rows whose text stands below.
@@ -50,6 +62,7 @@ QListView* MakeIcons(QWidget* parent) {
     view->setResizeMode(QListView::Adjust);
     view->setUniformItemSizes(true);
     view->setSelectionRectVisible(true);
+    view->setItemDelegate(new CellDelegate(view));
     return view;
 }
 
@@ -105,8 +118,8 @@ void FileListView::SetModel(FileListModel* model) {
     const QItemSelectionModel* spare = icons_->selectionModel();
     icons_->setSelectionModel(details_->selectionModel());
     delete spare;
-    details_->header()->resizeSection(FileList::Filename, 260);
-    details_->header()->resizeSection(FileList::Filetype, 110);
+    details_->header()->resizeSection(FileList::Filename, 220);
+    details_->header()->resizeSection(FileList::Filetype, 100);
     connect(details_->header(), &QHeaderView::sectionClicked, this, [this](int column) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
         model_->SortBy(column);
@@ -134,13 +147,16 @@ void FileListView::SetMode(ViewMode mode) {
 void FileListView::SizeCells() {
     const QFontMetrics metrics(font());
     if (mode_ == ViewMode::LargeIcons) {
-        icons_->setGridSize(QSize(104, largeIcon + 2 * metrics.height() + 16));
+        icons_->setGridSize(QSize(largeCell, largeIcon + 2 * metrics.height() + 16));
         return;
     }
+    const FileList& list = model_->List();
     int longest = 0;
-    for (int place = 0; place < model_->List().Count(); ++place)
-        longest = std::max(longest, model_->List().TextLength(place));
-    const int width = smallIcon + 20 + std::clamp(longest, 12, 40) * metrics.averageCharWidth();
+    for (int place = 1; place < list.Count(); ++place)
+        if (list.TextLength(place) > list.TextLength(longest))
+            longest = place;
+    const int text = list.Count() == 0 ? 0 : metrics.horizontalAdvance(list.Text(longest));
+    const int width = smallIcon + 24 + std::clamp(text + text / 16, 80, 320);
     icons_->setGridSize(QSize(width, std::max(smallIcon, metrics.height()) + 6));
 }
 
