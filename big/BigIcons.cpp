@@ -3,6 +3,7 @@
 
 #include "big/BigIcons.h"
 
+#include "big/DrawnIcon.h"
 #include "core/mMain.h"
 #include "platform/Paths.h"
 
@@ -60,17 +61,11 @@ QIcon SystemIcon(const QString& fileName) {
 BigIcons::BigIcons() : file_(Own(u"file"_s)), folder_(Own(u"folder"_s)) {}
 
 QIcon BigIcons::Own(const QString& name) {
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64})
-        icon.addFile(u":/art/big/%1-%2.png"_s.arg(name).arg(size), QSize(size, size));
-    return icon;
+    return QIcon(new DrawnIcon(name, name)); // the icon owns it
 }
 
 QIcon BigIcons::Of(FolderImage closed, FolderImage selected) {
-    QIcon icon = Own(NameOf(closed));
-    for (const int size : {16, 24, 32})
-        icon.addFile(u":/art/big/%1-%2.png"_s.arg(NameOf(selected)).arg(size), QSize(size, size), QIcon::Selected);
-    return icon;
+    return QIcon(new DrawnIcon(NameOf(closed), NameOf(selected)));
 }
 
 QIcon BigIcons::Folder(bool system) const {

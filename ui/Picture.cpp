@@ -3,6 +3,8 @@
 
 #include "ui/Picture.h"
 
+#include <QImageReader>
+
 #include <algorithm>
 #include <array>
 #include <future>
@@ -35,17 +37,23 @@ QString FileOf(const QString& name, const Rendering& rendering) {
 
 } // namespace
 
+QImage Picture::Read(const QString& file) {
+    QImageReader reader(file, "png");
+    reader.setAutoDetectImageFormat(false);
+    return reader.read();
+}
+
 QPixmap Picture::Load(const QString& name, qreal ratio) {
     const Rendering rendering = RenderingFor(ratio);
     const QString file = FileOf(name, rendering);
-    QImage image = file == aheadFile && ahead.valid() ? ahead.get() : QImage(file);
+    QImage image = file == aheadFile && ahead.valid() ? ahead.get() : Read(file);
     image.setDevicePixelRatio(rendering.Scale);
     return QPixmap::fromImage(std::move(image));
 }
 
 void Picture::ReadAhead(const QString& name, qreal ratio) {
     aheadFile = FileOf(name, RenderingFor(ratio));
-    ahead = std::async(std::launch::async, [file = aheadFile] { return QImage(file); });
+    ahead = std::async(std::launch::async, [file = aheadFile] { return Read(file); });
 }
 
 QIcon Picture::Icon(const QString& name) {
