@@ -1,38 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/Application.h"
-#include "app/Suite.h"
-#include "big/frmProgress.h"
-#include "core/mMain.h"
-#include "platform/Processes.h"
-#include "ui/Picture.h"
-#include "ui/Style.h"
-#include "ui/WindowHost.h"
-
-#include <QTimer>
+#include "app/Start.h"
 
 int main(int argc, char** argv) {
-    Suite suite;
-    Navigator::Use(&suite);
-    // A game is launched without a window, so also where there is no display.
-    const mMain::Dispatched dispatched = mMain::Prepare(Processes::CommandLine(argc, argv));
-    if (dispatched.What == mMain::Dispatched::Action::LaunchGame)
-        return 0;
-
-    Application application(argc, argv);
-    Application::setApplicationName(QStringLiteral("Brindock 2005"));
-    if (dispatched.What == mMain::Dispatched::Action::NormalStart)
-        Picture::ReadAhead(QStringLiteral("menu"), application.devicePixelRatio());
-    Style::Apply(application);
-    // The icon's readers take longer than the first window: it may come up without it.
-    QTimer::singleShot(0, &application, [] { Application::setWindowIcon(Picture::ProgramIcon()); });
-    WindowHost host([] { return std::make_unique<frmProgress>(); });
-    Host::Use(&host);
-    try {
-        mMain::Show(dispatched);
-        return Application::exec();
-    } catch (const RuntimeError& error) {
-        Application::Fail(error);
-    }
+    return RunSuite(argc, argv, nullptr);
 }

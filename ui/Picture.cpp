@@ -4,10 +4,10 @@
 #include "ui/Picture.h"
 
 #include <QImageReader>
+#include <QResource>
 
 #include <algorithm>
 #include <array>
-#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -21,10 +21,6 @@ struct Rendering {
 constexpr std::array renderings{Rendering{1.0, ""_L1}, Rendering{1.5, "@1.5x"_L1}, Rendering{2.0, "@2x"_L1},
                                 Rendering{3.0, "@3x"_L1}};
 
-// The picture that is being read ahead.
-QString aheadFile;
-std::future<QImage> ahead;
-
 Rendering RenderingFor(qreal ratio) {
     const auto* const found = std::find_if(renderings.begin(), renderings.end(),
                                            [&](const Rendering& rendering) { return rendering.Scale >= ratio; });
@@ -33,6 +29,14 @@ Rendering RenderingFor(qreal ratio) {
 
 QString FileOf(const QString& name, const Rendering& rendering) {
     return u":/art/%1%2.png"_s.arg(name, rendering.Suffix);
+}
+
+/// The menu's picture at scale 1 lies there as its pixels: nothing has to be read before the first window.
+QImage MenuPixels() {
+    constexpr QSize size(600, 420);
+    const QResource pixels(u":/art/menu.bgra"_s);
+    Q_ASSERT(pixels.size() == qint64{4} * size.width() * size.height());
+    return {pixels.data(), size.width(), size.height(), QImage::Format_RGB32};
 }
 
 } // namespace
@@ -45,15 +49,10 @@ QImage Picture::Read(const QString& file) {
 
 QPixmap Picture::Load(const QString& name, qreal ratio) {
     const Rendering rendering = RenderingFor(ratio);
-    const QString file = FileOf(name, rendering);
-    QImage image = file == aheadFile && ahead.valid() ? ahead.get() : Read(file);
+    const bool pixels = name == u"menu" && rendering.Suffix.isEmpty();
+    QImage image = pixels ? MenuPixels() : Read(FileOf(name, rendering));
     image.setDevicePixelRatio(rendering.Scale);
     return QPixmap::fromImage(std::move(image));
-}
-
-void Picture::ReadAhead(const QString& name, qreal ratio) {
-    aheadFile = FileOf(name, RenderingFor(ratio));
-    ahead = std::async(std::launch::async, [file = aheadFile] { return Read(file); });
 }
 
 QIcon Picture::Icon(const QString& name) {

@@ -19,10 +19,6 @@ QImage Read(const QString& file);
 /// all the pixels needed, else the largest. Its own ratio is set, so that it is drawn at its size in points.
 QPixmap Load(const QString& name, qreal ratio);
 
-/// Begins to read the picture on another thread, so that it is there when Load asks for it: the toolkit's readers and a
-/// large picture would take a good part of a short start.
-void ReadAhead(const QString& name, qreal ratio);
-
 /// A small picture as an icon, with all its renderings.
 QIcon Icon(const QString& name);
 

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/Start.h"
+
+#include "app/Application.h"
+#include "app/Suite.h"
+#include "big/frmProgress.h"
+#include "core/mMain.h"
+#include "platform/Processes.h"
+#include "ui/Picture.h"
+#include "ui/Style.h"
+#include "ui/WindowHost.h"
+
+#include <QTimer>
+
+int RunSuite(int argc, char** argv, QObject* watcher) {
+    Suite suite;
+    Navigator::Use(&suite);
+    // A game is launched without a window, so also where there is no display.
+    const mMain::Dispatched dispatched = mMain::Prepare(Processes::CommandLine(argc, argv));
+    if (dispatched.What == mMain::Dispatched::Action::LaunchGame)
+        return 0;
+
+    Application application(argc, argv);
+    Application::setApplicationName(QStringLiteral("Brindock 2005"));
+    if (watcher != nullptr)
+        application.installEventFilter(watcher);
+    Style::Apply(application);
+    // The icon's readers take longer than the first window: it comes up without it.
+    constexpr int untilTheWindowStands = 100;
+    QTimer::singleShot(untilTheWindowStands, &application, [] { Application::setWindowIcon(Picture::ProgramIcon()); });
+    WindowHost host([] { return std::make_unique<frmProgress>(); });
+    Host::Use(&host);
+    try {
+        mMain::Show(dispatched);
+        return Application::exec();
+    } catch (const RuntimeError& error) {
+        Application::Fail(error);
+    }
+}
