@@ -95,7 +95,7 @@ void FileList::SortBy(Column column) {
 }
 
 void FileList::Sort() {
-    const auto marked = std::ranges::find_if(orders_, [](Order order) { return order != Order::None; });
+    const auto* const marked = std::ranges::find_if(orders_, [](Order order) { return order != Order::None; });
     if (marked == orders_.end())
         return;
     const auto column = static_cast<Column>(marked - orders_.begin());

@@ -7,6 +7,8 @@
 #include "ui/Localisation.h"
 #include "ui_frmProgress.h"
 
+#include <QApplication>
+#include <QScreen>
 #include <QShowEvent>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +44,9 @@ void frmProgress::SetValue(int percent) {
 
 void frmProgress::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
+    const QWidget* working = QApplication::activeWindow();
+    const QRect around = working != nullptr ? working->geometry() : screen()->availableGeometry();
+    move(around.center() - rect().center());
     if (!cancelled_)
         timer_.start(milliseconds);
 }

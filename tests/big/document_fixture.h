@@ -21,7 +21,7 @@ protected:
 
     /// Lays an archive and opens it.
     QString OpenArchive(const std::vector<NamedBytes>& entries, const QString& name = QStringLiteral("a.big")) {
-        const QString path = Place.WriteFile(name, ArchiveOf(entries));
+        QString path = Place.WriteFile(name, ArchiveOf(entries));
         Editor.OpenBigFile(path);
         return path;
     }

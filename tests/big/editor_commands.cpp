@@ -14,7 +14,7 @@ class EditorCommands : public Document {
 protected:
     /// Adds a file of the world under the selected folder.
     QString AddFile(const QString& path, const QByteArray& bytes) {
-        const QString source = Place.WriteFile(path, bytes);
+        QString source = Place.WriteFile(path, bytes);
         Speaker.FileNames = {source};
         Editor.Add();
         return source;

@@ -35,6 +35,7 @@ private:
 
 std::vector<BigEntry> Sized(const std::vector<std::pair<QString, qint32>>& entries) {
     std::vector<BigEntry> table;
+    table.reserve(entries.size());
     for (const auto& [name, size] : entries)
         table.push_back(EntryOf(name, size));
     return table;

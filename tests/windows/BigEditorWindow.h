@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// What the tests of the BIG Editor's window share: a window in a world of its own, and ways to reach its parts.
+#pragma once
+
+#include "big/FileListView.h"
+#include "big/frmBigEditor.h"
+#include "core/mMain.h"
+#include "tests/big/document_support.h"
+#include "tests/support/ScriptedHost.h"
+#include "tests/support/World.h"
+#include "tests/windows/RecordingNavigator.h"
+#include "tests/windows/WindowTests.h"
+#include "ui/SideMenu.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QStatusBar>
+#include <QTimer>
+#include <QTreeView>
+
+class BigEditorWindow : public QObject {
+protected:
+    void Begin() {
+        world_ = std::make_unique<World>();
+        host_ = std::make_unique<ScriptedHost>();
+        navigator_ = std::make_unique<RecordingNavigator>();
+        world_->UseLanguage("[LNG]\r\nReady=Bereit\r\nFile=Datei\r\nNew=Neu\r\nOpen=Auf\r\nBIGFile=BIG-Datei\r\n"
+                            "Actions=Aktionen\r\nKiloBytes=KB\r\nSize2=Gr\xF6\xDF"
+                            "e:\r\n");
+        world_->Start();
+        mBIG::BigEntries.clear();
+        mBIG::BigFileName.clear();
+        archive_ = world_->WriteFile(QStringLiteral("a.big"),
+                                     ArchiveOf({{QStringLiteral("readme.txt"), "hello"},
+                                                {QStringLiteral("Data\\INI\\Object.ini"), "Object"},
+                                                {QStringLiteral("Data\\map.tga"), QByteArray(3000, 'x')}}));
+    }
+
+    void End() {
+        window_.reset();
+        navigator_.reset();
+        host_.reset();
+        world_.reset();
+    }
+
+    void Open() {
+        window_ = std::make_unique<frmBigEditor>();
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+    }
+
+    void OpenArchive() {
+        window_ = std::make_unique<frmBigEditor>();
+        window_->OpenBigFile(archive_);
+        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+    }
+
+    template <typename Control>
+    Control* Part(const char* name) {
+        return window_->findChild<Control*>(QString::fromLatin1(name));
+    }
+
+    SideLink* Link(int index) { return window_->findChild<SideLink*>(QStringLiteral("Label2_%1").arg(index)); }
+
+    QAction* ViewItem(int index) { return window_->findChild<QAction*>(QStringLiteral("mnuLvView_%1").arg(index)); }
+
+    QTreeView* Tree() { return Part<QTreeView>("tvDirs"); }
+
+    FileListView* Files() { return Part<FileListView>("lvFiles"); }
+
+    QString Status() { return window_->statusBar()->findChild<QLabel*>()->text(); }
+
+    QStringList Rows() {
+        const QAbstractItemModel* model = Files()->Current()->model();
+        QStringList rows;
+        for (int row = 0; row < model->rowCount(); ++row)
+            rows += model->index(row, 0).data().toString();
+        return rows;
+    }
+
+    static void MoveOver(QWidget* widget, QPoint place) {
+        QMouseEvent move(QEvent::MouseMove, place, widget->mapToGlobal(place), Qt::NoButton, Qt::NoButton, {});
+        QApplication::sendEvent(widget, &move);
+    }
+
+    void Select(const QString& folderKey) {
+        QModelIndex node = Tree()->model()->index(0, 0);
+        for (const QString& part : folderKey.split(u'\\', Qt::SkipEmptyParts))
+            for (int row = 0; row < Tree()->model()->rowCount(node); ++row)
+                if (const QModelIndex child = Tree()->model()->index(row, 0, node); child.data().toString() == part) {
+                    node = child;
+                    break;
+                }
+        Tree()->setCurrentIndex(node);
+    }
+
+    void ClickRow(int row) {
+        QAbstractItemView* list = Files()->Current();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualRect(list->model()->index(row, 0)).center());
+    }
+
+    /// Does something with the next modal dialog.
+    void AnswerDialog(const std::function<void(QWidget*)>& answer) {
+        QTimer::singleShot(0, this, [this, answer] {
+            if (QWidget* dialog = QApplication::activeModalWidget())
+                answer(dialog);
+            else
+                AnswerDialog(answer);
+        });
+    }
+
+    std::unique_ptr<World> world_;
+    std::unique_ptr<ScriptedHost> host_;
+    std::unique_ptr<RecordingNavigator> navigator_;
+    std::unique_ptr<frmBigEditor> window_;
+    QString archive_;
+};
