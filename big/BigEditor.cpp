@@ -63,8 +63,13 @@ bool BigEditor::LoadBig(const QString& path) {
     if (path.last(std::min<qsizetype>(path.size(), 3)).toLower() != "big"_L1)
         return false;
     const Busy busy(view_);
-    if (!mBIG::ReadBigFile(path))
+    // A refused file has its records in the table by then; those of the archive in the window come back, as a save
+    // would write the others over it.
+    std::vector<BigEntry> before = mBIG::BigEntries;
+    if (!mBIG::ReadBigFile(path)) {
+        mBIG::BigEntries = std::move(before);
         return false;
+    }
     mBIG::BigFileName = path;
     CreateDirs();
     state_.StatusText = GetText(u"Ready"_s);

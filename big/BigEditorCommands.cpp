@@ -148,7 +148,9 @@ void BigEditor::ShowWritten(const QString& path) {
     const QString folderKey = SelectedKey();
     const QString statusText = state_.StatusText;
     state_.Modified = false;
-    LoadBig(path);
+    // A name that LoadBig does not take is read all the same: the table's offsets must be the written file's.
+    if (!LoadBig(path))
+        mBIG::ReadBigFile(path);
     state_.StatusText = statusText;
     state_.DetailsVisible = false;
     state_.ModifyEnabled = false;

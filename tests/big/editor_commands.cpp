@@ -4,6 +4,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "tests/big/document_fixture.h"
+#include "tests/support/ArchiveBytes.h"
 
 using namespace Qt::StringLiterals;
 using Answer = Host::Answer;
@@ -169,6 +170,21 @@ TEST_F(EditorCommands, ARefusedFileBeepsAndLeavesTheWindow) {
     EXPECT_EQ(mBIG::BigFileName, path);
     EXPECT_EQ(Shown(), shown);
     EXPECT_TRUE(State().Modified);
+}
+
+TEST_F(EditorCommands, ASaveAfterARefusedFileWritesTheArchiveInTheWindow) {
+    const QString path = OpenSample();
+    const std::size_t entries = mBIG::BigEntries.size();
+    // Two records, the first with an offset of zero: refused when the table has been replaced already.
+    Speaker.FileNames = {
+        Place.WriteFile(u"bad.big"_s, HeaderOf("BIGF", 2, 44) + Record(0, 1, "x") + Record(45, 1, "y"))};
+    Editor.Open();
+    EXPECT_EQ(Speaker.Beeps, 1);
+    ASSERT_EQ(mBIG::BigEntries.size(), entries);
+    Editor.Save();
+    ASSERT_EQ(mBIG::BigEntries.size(), entries);
+    const BigEntry& first = mBIG::BigEntries[0];
+    EXPECT_EQ(World::ReadFile(path).mid(first.Offset, first.Size), QByteArray("hello"));
 }
 
 TEST_F(EditorCommands, AddPutsAFileBehindTheOthersInTheSelectedFolder) {

@@ -45,6 +45,18 @@ TEST_F(EditorSave, SaveWritesTheOpenArchiveAndReadsItBack) {
     EXPECT_EQ(World::ReadFile(path).mid(added.Offset, added.Size), QByteArray("new"));
 }
 
+TEST_F(EditorSave, ASaveUnderANameThatIsNoArchivesCanBeSavedAgain) {
+    OpenSample();
+    AddFile(u"n.txt"_s, "new");
+    const QString other = Place.Root() + u"\\other.dat"_s;
+    Speaker.FileNames = {other};
+    Editor.SaveAs();
+    EXPECT_EQ(mBIG::BigFileName, other);
+    Editor.Save();
+    const BigEntry& added = mBIG::BigEntries[3];
+    EXPECT_EQ(World::ReadFile(other).mid(added.Offset, added.Size), QByteArray("new"));
+}
+
 TEST_F(EditorSave, SaveHidesTheDetailsAndKeepsTheFolder) {
     OpenSample();
     Editor.ClickNode(NodeOf(u"data\\ini\\"_s));
