@@ -40,7 +40,7 @@ std::optional<int> ExitCode(Handle process);
 void Close(Handle process);
 
 /// The command line of this process without the executable's name, as it was typed where the system keeps that,
-/// otherwise its arguments joined by single blanks.
+/// otherwise its arguments joined by single blanks, those that name an existing file or folder as inside paths.
 QString CommandLine(int argc, char** argv);
 
 /// Ends this process at once, without any further work.

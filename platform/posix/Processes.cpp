@@ -147,8 +147,11 @@ void Processes::Close(Handle process) {
 
 QString Processes::CommandLine(int argc, char** argv) {
     QStringList words;
-    for (int at = 1; at < argc; ++at)
-        words << Paths::DecodeNative(argv[at]);
+    for (int at = 1; at < argc; ++at) {
+        // A path of the system becomes one of the program's: its slashes must not look like switches.
+        const QString word = Paths::DecodeNative(argv[at]);
+        words << (::access(argv[at], F_OK) == 0 ? Paths::FromNative(word) : word);
+    }
     return words.join(u' ');
 }
 

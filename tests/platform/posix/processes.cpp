@@ -180,6 +180,14 @@ TEST_F(ProcessesTest, TheCommandLineIsTheArgumentsJoinedByBlanks) {
     EXPECT_EQ(Processes::CommandLine(0, nullptr), QString());
 }
 
+TEST_F(ProcessesTest, APathOnTheCommandLineIsAnInsidePath) {
+    const QString inside = scratch_.Write(u"launch/gen"_s, "x");
+    QByteArray word = scratch_.Native(u"launch/gen"_s).toUtf8();
+    std::array<QByteArray, 2> words{"brindock", "/tbig"};
+    std::array<char*, 3> arguments{words[0].data(), words[1].data(), word.data()};
+    EXPECT_EQ(Processes::CommandLine(3, arguments.data()), u"/tbig "_s + inside);
+}
+
 TEST_F(ProcessesTest, TheProcessEndsWithItsExitCodeAtOnce) {
     EXPECT_EXIT(Processes::End(7), testing::ExitedWithCode(7), "");
 }
