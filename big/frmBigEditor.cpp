@@ -56,7 +56,7 @@ void frmBigEditor::Dress() {
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
     ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
     ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
-    ui_->picSplitter->setSizes({220, 480});
+    ui_->picSplitter->setSizes({260, 540});
     ui_->picSplitter->setStretchFactor(1, 1);
     status_->setTextFormat(Qt::PlainText);
     status_->setContentsMargins(6, 0, 0, 0);
