@@ -4,6 +4,7 @@
 #include "big/ArchiveData.h"
 
 #include "platform/NumberedFiles.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
@@ -82,9 +83,16 @@ void ArchiveData::Put() {
     qint64 size = 0;
     for (const Piece& piece : buffer_)
         size += piece.Length;
-    // Positions in the format are signed 32-bit numbers; what would pass them can't be put.
-    if (size == 0 || position_ + size > std::numeric_limits<qint32>::max())
+    if (size == 0)
         return;
+    // Positions in the format are signed 32-bit numbers. An old record whose size lies can't be put; a file that does
+    // not fit ends the save.
+    if (position_ + size > std::numeric_limits<qint32>::max()) {
+        if (buffer_.front().From != Piece::Place::NewFile)
+            return;
+        const QString file = Paths::ToNative(buffer_.front().Path);
+        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("%1: does not fit into an archive's 2 GiB").arg(file));
+    }
     PutGap(position_ - End());
     for (const Piece& piece : buffer_) {
         switch (piece.From) {

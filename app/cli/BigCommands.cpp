@@ -149,7 +149,8 @@ void AddEntry(const std::string& given) {
     const auto split = given.find('=');
     const QString name = ArgumentText(given.substr(0, split));
     const QString source = ArgumentPath(given.substr(split + 1));
-    BigEntry added{name, 0, static_cast<qint32>(Files::FileLength(source)), true, false, source};
+    Files::FileLength(source); // a missing file is refused here, by its name
+    BigEntry added{name, 0, 0, true, false, source};
     const int index = mBIG::FindEntry(name);
     if (index < 0)
         mBIG::BigEntries.push_back(std::move(added));

@@ -241,6 +241,17 @@ TEST_F(Writer, MoreRecordsThanAnArchiveCanHoldAreNotSaved) {
     EXPECT_FALSE(Files::FileExists(At(u"out.big"_s)));
 }
 
+TEST_F(Writer, AFileThatDoesNotFitIntoTheFormatEndsTheSaveWithAReason) {
+    Open(TwoEntries());
+    AddNew(u"huge"_s, "x");
+    NumberedFiles::Open(9, BigEntries[2].SourcePath, NumberedFiles::Access::ReadWrite);
+    NumberedFiles::SetLength(9, 0x80000000LL);
+    NumberedFiles::Close(9);
+    EXPECT_FALSE(WriteBigFile(mBIG::BigFileName));
+    EXPECT_TRUE(mBIG::LastFailure().contains(u"2 GiB"_s)) << mBIG::LastFailure().toStdString();
+    EXPECT_EQ(World::ReadFile(mBIG::BigFileName), TwoEntries());
+}
+
 TEST_F(Writer, ShowsTheFileAndTheEntriesInItsProgressWindow) {
     world_.UseLanguage("[LNG]\r\nCreatingFile=Making\r\nWritingHeader=Header...\r\nWritingFiles=Files:\r\n");
     world_.Start();
