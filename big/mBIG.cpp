@@ -44,7 +44,7 @@ public:
         while (end < 0 && Refill(at_))
             end = window_.indexOf('\0', at_);
         const qsizetype stop = end < 0 ? window_.size() : end;
-        const QByteArray name = window_.sliced(at_, stop - at_);
+        QByteArray name = window_.sliced(at_, stop - at_);
         at_ = end < 0 ? stop : stop + 1;
         return name;
     }

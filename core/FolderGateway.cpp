@@ -76,7 +76,7 @@ FolderGateway::FolderGateway(const QString& folder) {
         root_ += u'\\';
     auto top = std::make_shared<Folder>(root_);
     top->ReadNames();
-    folders_.insert(QString(), std::move(top));
+    folders_.insert(QString(), top);
 }
 
 FolderGateway::~FolderGateway() = default;
@@ -92,7 +92,7 @@ QString FolderGateway::RefusalOf(QStringView name) {
         name = name.sliced(std::min<qsizetype>(end + 1, name.size()));
         if (component.isEmpty())
             return u"holds an empty folder name"_s;
-        if (const QString refusal = RefusalOfComponent(component); !refusal.isEmpty())
+        if (QString refusal = RefusalOfComponent(component); !refusal.isEmpty())
             return refusal;
     }
     return {};
@@ -120,7 +120,7 @@ FolderGateway::Folder& FolderGateway::FolderFor(QStringView relative) {
     } else {
         Refuse(relative, u"leads out of its folder"_s);
     }
-    return **folders_.insert(key, std::move(folder));
+    return **folders_.insert(key, folder);
 }
 
 QString FolderGateway::TargetFor(const QString& name) {
@@ -137,7 +137,7 @@ QString FolderGateway::TargetFor(const QString& name) {
         folder.Names.insert(key, file);
         return folder.Path + file;
     }
-    const QString path = folder.Path + *found;
+    QString path = folder.Path + *found;
     // A name that was handed out before may have no file yet.
     if (!Files::FileExists(path) && !Files::FolderExists(path)) {
         if (Files::IsLink(path))

@@ -55,7 +55,7 @@ void Read(const QString& path) {
 /// Adds a number and a tab.
 void AppendNumber(QString& line, qint32 number) {
     std::array<char, 16> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    const auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
     line += QLatin1StringView(digits.data(), end);
     line += u'\t';
 }
@@ -188,6 +188,7 @@ void TakeFolder(const QString& folder, const QString& target) {
                 {file.Path.sliced(folder.size() + 1), 0, static_cast<qint32>(file.Size), true, false, file.Path});
     }
     std::vector<std::pair<QString, BigEntry*>> order;
+    order.reserve(mBIG::BigEntries.size());
     for (BigEntry& entry : mBIG::BigEntries)
         order.emplace_back(entry.Name.toCaseFolded(), &entry);
     std::ranges::sort(order, {}, [](const auto& item) { return std::tie(item.first, item.second->Name); });
@@ -196,6 +197,7 @@ void TakeFolder(const QString& folder, const QString& target) {
             Fail(order[i].second->SourcePath, u"differs from another file only in case"_s);
     }
     std::vector<BigEntry> sorted;
+    sorted.reserve(order.size());
     for (const auto& item : order)
         sorted.push_back(std::move(*item.second));
     mBIG::BigEntries = std::move(sorted);

@@ -17,21 +17,7 @@ namespace {
 
 constexpr int WrongUsage = 2;
 
-int Run(CLI::App& commands, const std::vector<std::string>& arguments) {
-    try {
-        commands.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-        Flush();
-    } catch (const CLI::ParseError& error) {
-        return commands.exit(error) == 0 ? 0 : WrongUsage;
-    } catch (const RuntimeError& error) {
-        return Report(error);
-    }
-    return 0;
-}
-
-} // namespace
-
-int main(int argc, char** argv) {
+int Run(const std::vector<std::string>& arguments) {
     ScriptHost host;
     mMain::UseRuntimes();
     CLI::App commands("Brindock 2005 for scripts: the games' archives, settings and texts.", "brindock-cli");
@@ -39,5 +25,23 @@ int main(int argc, char** argv) {
     commands.set_version_flag("--version", mMain::VersionText().toStdString());
     AddGameCommands(commands);
     AddBigCommands(commands);
-    return Run(commands, ProcessArguments(argc, argv));
+    try {
+        commands.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        Flush();
+    } catch (const CLI::ParseError& error) {
+        return commands.exit(error) == 0 ? 0 : WrongUsage;
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Run(ProcessArguments(argc, argv));
+    } catch (const RuntimeError& error) {
+        return Report(error);
+    } catch (const std::exception& error) {
+        return Report(RuntimeError(ErrorNumber::InvalidCall, QString::fromLocal8Bit(error.what())));
+    }
 }

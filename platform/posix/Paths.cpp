@@ -39,7 +39,7 @@ QString DriveFolder(const QString& path) {
     const QString prefix = Paths::PrefixFor(path);
     const QChar letter = path[0].toLower();
     if (!prefix.isEmpty()) {
-        const QString device = prefix + QStringLiteral("/dosdevices/") + letter + u':';
+        QString device = prefix + QStringLiteral("/dosdevices/") + letter + u':';
         if (::access(Paths::EncodeNative(device).constData(), F_OK) == 0)
             return device;
         if (letter == u'c')
@@ -61,7 +61,7 @@ QString FindWithoutCase(const QString& folder, const QString& name) {
     if (!listing)
         return name;
     while (const dirent* entry = ::readdir(listing.get())) {
-        const QString found = Paths::DecodeNative(static_cast<const char*>(entry->d_name));
+        QString found = Paths::DecodeNative(static_cast<const char*>(entry->d_name));
         if (found.compare(name, Qt::CaseInsensitive) == 0)
             return found;
     }

@@ -19,7 +19,7 @@ class Scratch {
 public:
     /// A native path; the folders above it are made.
     [[nodiscard]] QString Native(const QString& name) const {
-        const QString path = folder_.filePath(name);
+        QString path = folder_.filePath(name);
         QDir().mkpath(QFileInfo(path).path());
         return path;
     }

@@ -31,7 +31,7 @@ protected:
 
     static QByteArray BytesOf(const QString& path) {
         NumberedFiles::Open(9, path, Access::Read);
-        const QByteArray bytes = NumberedFiles::Read(9, 0, 1 << 20);
+        QByteArray bytes = NumberedFiles::Read(9, 0, 1 << 20);
         NumberedFiles::Close(9);
         return bytes;
     }
