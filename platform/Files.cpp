@@ -7,6 +7,7 @@
 #include "platform/RuntimeError.h"
 #include "platform/Wildcards.h"
 
+#include <QCoreApplication>
 #include <QSet>
 
 namespace {
@@ -83,6 +84,16 @@ void Delete(const QString& pattern) {
         throw RuntimeError(ErrorNumber::FileNotFound, QStringLiteral("%1: no such file").arg(pattern));
     for (const QString& name : names)
         DeleteForced(pattern.first(split) + name);
+}
+
+QString TemporaryBeside(const QString& path) {
+    static int counter = 0;
+    const QString folder = path.first(path.lastIndexOf(u'\\') + 1);
+    QString free;
+    do {
+        free = folder + QStringLiteral("~brindock-%1-%2").arg(QCoreApplication::applicationPid()).arg(++counter);
+    } while (FileExists(free) || FolderExists(free) || IsLink(free));
+    return free;
 }
 
 void MakeFolders(const QString& path) {

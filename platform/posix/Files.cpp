@@ -181,16 +181,6 @@ void Copy(const QString& from, const QString& to) {
     }
 }
 
-QString TemporaryBeside(const QString& path) {
-    static int counter = 0;
-    const QString folder = path.first(path.lastIndexOf(u'\\') + 1);
-    QString free;
-    do {
-        free = folder + QStringLiteral("~brindock-%1-%2").arg(::getpid()).arg(++counter);
-    } while (::access(Native(free).Path(), F_OK) == 0);
-    return free;
-}
-
 void Rename(const QString& from, const QString& to) {
     const Native source(from);
     const Native target(to);

@@ -163,16 +163,6 @@ void Copy(const QString& from, const QString& to) {
     }
 }
 
-QString TemporaryBeside(const QString& path) {
-    static int counter = 0;
-    const QString folder = path.first(path.lastIndexOf(u'\\') + 1);
-    QString free;
-    do {
-        free = folder + QStringLiteral("~brindock-%1-%2").arg(GetCurrentProcessId()).arg(++counter);
-    } while (Attributes(free));
-    return free;
-}
-
 void Rename(const QString& from, const QString& to) {
     // Where only the case changes, some systems take the new name for the old one: it goes by way of a third.
     const QString step = SameFile(from, to) ? TemporaryBeside(from) : from;
