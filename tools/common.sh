@@ -80,7 +80,8 @@ build() {
 # start_display: starts a virtual display on a free number and points DISPLAY at it.
 start_display() {
   local number=${TMPDIR:-/tmp}/brindock-display.$$
-  Xvfb -displayfd 3 -screen 0 "${1:-1280x1024x24}" -nolisten tcp 3>"$number" 2>/dev/null &
+  # It would reset itself whenever its last program ends, and refuse the next one while it does.
+  Xvfb -noreset -displayfd 3 -screen 0 "${1:-1280x1024x24}" -nolisten tcp 3>"$number" 2>/dev/null &
   display_process=$!
   for _ in $(seq 100); do
     [ -s "$number" ] && break
