@@ -41,8 +41,12 @@ public:
     /// The bytes before the next NUL or the end of the file; the NUL is passed.
     QByteArray Name() {
         qsizetype end = window_.indexOf('\0', at_);
-        while (end < 0 && Refill(at_))
-            end = window_.indexOf('\0', at_);
+        while (end < 0) {
+            const qsizetype searched = window_.size() - at_;
+            if (!Refill(at_))
+                break;
+            end = window_.indexOf('\0', searched);
+        }
         const qsizetype stop = end < 0 ? window_.size() : end;
         QByteArray name = window_.sliced(at_, stop - at_);
         at_ = end < 0 ? stop : stop + 1;
