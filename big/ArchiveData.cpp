@@ -75,7 +75,9 @@ void ArchiveData::OpenSource(const QString& path) {
         return;
     openSource_.clear();
     NumberedFiles::Close(source_);
-    NumberedFiles::Open(source_, path, NumberedFiles::Access::Read);
+    // Most paths have the case that the disk has, and a look at it can be saved.
+    if (!Ignoring([&] { NumberedFiles::OpenAsGiven(source_, path, NumberedFiles::Access::Read); }))
+        NumberedFiles::Open(source_, path, NumberedFiles::Access::Read);
     openSource_ = path;
 }
 

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 using NumberedFiles::Access;
 
@@ -38,17 +39,17 @@ public:
         return qFromBigEndian<quint32>(bytes.data());
     }
 
-    /// The bytes before the next NUL or the end of the file; the NUL is passed.
-    QByteArray Name() {
-        qsizetype end = window_.indexOf('\0', at_);
+    /// The bytes before the next NUL or the end of the file; the NUL is passed. Valid until the next call.
+    QByteArrayView Name() {
+        qsizetype end = FindEnd(at_);
         while (end < 0) {
             const qsizetype searched = window_.size() - at_;
             if (!Refill(at_))
                 break;
-            end = window_.indexOf('\0', searched);
+            end = FindEnd(searched);
         }
         const qsizetype stop = end < 0 ? window_.size() : end;
-        QByteArray name = window_.sliced(at_, stop - at_);
+        const QByteArrayView name = QByteArrayView(window_).sliced(at_, stop - at_);
         at_ = end < 0 ? stop : stop + 1;
         return name;
     }
@@ -59,6 +60,12 @@ private:
     void Need(qsizetype count) {
         if (window_.size() - at_ < count)
             Refill(at_);
+    }
+
+    [[nodiscard]] qsizetype FindEnd(qsizetype from) const {
+        const char* begin = window_.constData();
+        const void* found = std::memchr(begin + from, 0, static_cast<std::size_t>(window_.size() - from));
+        return found == nullptr ? -1 : static_cast<const char*>(found) - begin;
     }
 
     /// Drops what stands before `keepFrom` and reads on. False at the end of the file.

@@ -52,12 +52,13 @@ void Read(const QString& path) {
     mBIG::BigFileName = path;
 }
 
-/// Adds a number and a tab.
-void AppendNumber(QString& line, qint32 number) {
+/// Writes a number and a tab; returns the end.
+char16_t* PutNumber(char16_t* place, qint32 number) {
     std::array<char, 16> digits{};
     const auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    line += QLatin1StringView(digits.data(), end);
-    line += u'\t';
+    place = std::copy(static_cast<const char*>(digits.data()), end, place);
+    *place = u'\t';
+    return place + 1;
 }
 
 void List(const Options& options) {
@@ -76,10 +77,12 @@ void List(const Options& options) {
     Print(u"version %1"_s.arg(mBIG::BigVersion));
     int index = 0;
     QString line;
+    std::array<char16_t, 48> numbers{};
     for (const BigEntry& entry : mBIG::BigEntries) {
-        line.clear();
+        char16_t* end = numbers.data();
         for (const qint32 number : {index++, entry.Offset, entry.Size})
-            AppendNumber(line, number);
+            end = PutNumber(end, number);
+        line.setUtf16(reinterpret_cast<const ushort*>(numbers.data()), end - numbers.data());
         Print(line += entry.Name);
     }
 }

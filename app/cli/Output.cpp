@@ -6,6 +6,7 @@
 #include "platform/Console.h"
 #include "platform/Paths.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -23,7 +24,13 @@ QByteArray& Gathered() {
 
 void Print(const QString& line) {
     QByteArray& bytes = Gathered();
-    bytes += Paths::EncodeNative(line);
+    if (std::all_of(line.begin(), line.end(), [](QChar unit) { return unit.unicode() < 0x80; })) {
+        const qsizetype before = bytes.size();
+        bytes.resize(before + line.size());
+        std::transform(line.begin(), line.end(), bytes.begin() + before, [](QChar unit) { return unit.toLatin1(); });
+    } else {
+        bytes += Paths::EncodeNative(line);
+    }
     bytes += '\n';
     if (bytes.size() >= GatheredBytes)
         Flush();

@@ -9,6 +9,7 @@
 
 #include "core/mMain.h"
 #include "platform/Arguments.h"
+#include "platform/Processes.h"
 #include "platform/RuntimeError.h"
 
 #include <CLI/CLI.hpp>
@@ -31,7 +32,8 @@ int Run(const std::vector<std::string>& arguments) {
     } catch (const CLI::ParseError& error) {
         return commands.exit(error) == 0 ? 0 : WrongUsage;
     }
-    return 0;
+    // All is written; taking a large table apart would only cost time.
+    Processes::End(0);
 }
 
 } // namespace
