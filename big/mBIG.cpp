@@ -68,15 +68,17 @@ private:
         return found == nullptr ? -1 : static_cast<const char*>(found) - begin;
     }
 
-    /// Drops what stands before `keepFrom` and reads on. False at the end of the file.
+    /// Drops what stands before `keepFrom` and reads on, in the same memory. False at the end of the file.
     bool Refill(qsizetype keepFrom) {
         const qint64 readFrom = windowStart_ + window_.size();
-        const QByteArray more = NumberedFiles::Read(number_, readFrom, Step);
+        const qsizetype kept = window_.size() - keepFrom;
+        std::memmove(window_.data(), window_.data() + keepFrom, static_cast<std::size_t>(kept));
+        window_.resize(kept + Step);
+        const qint64 had = NumberedFiles::ReadInto(number_, readFrom, window_.data() + kept, Step);
+        window_.resize(kept + had);
         windowStart_ += keepFrom;
-        window_.remove(0, keepFrom);
-        window_ += more;
         at_ = 0;
-        return !more.isEmpty();
+        return had > 0;
     }
 
     int number_;

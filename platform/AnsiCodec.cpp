@@ -60,6 +60,12 @@ QByteArray Encode(QStringView text) {
 }
 
 QString Decode(QByteArrayView bytes) {
+    // Letters of the lower half are the same in every page; most texts have no others.
+    unsigned char seen = 0;
+    for (const char byte : bytes)
+        seen = static_cast<unsigned char>(seen | static_cast<unsigned char>(byte));
+    if (seen < 0x80)
+        return QString::fromLatin1(bytes);
     QString text(bytes.size(), Qt::Uninitialized);
     const AnsiPage& page = Page();
     QChar* out = text.data();

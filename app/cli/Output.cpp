@@ -24,7 +24,10 @@ QByteArray& Gathered() {
 
 void Print(const QString& line) {
     QByteArray& bytes = Gathered();
-    if (std::all_of(line.begin(), line.end(), [](QChar unit) { return unit.unicode() < 0x80; })) {
+    char16_t seen = 0;
+    for (const QChar unit : line)
+        seen = static_cast<char16_t>(seen | unit.unicode());
+    if (seen < 0x80) {
         const qsizetype before = bytes.size();
         bytes.resize(before + line.size());
         std::transform(line.begin(), line.end(), bytes.begin() + before, [](QChar unit) { return unit.toLatin1(); });
