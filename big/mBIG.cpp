@@ -70,12 +70,15 @@ private:
 
     /// Drops what stands before `keepFrom` and reads on, in the same memory. False at the end of the file.
     bool Refill(qsizetype keepFrom) {
+        if (ended_)
+            return false;
         const qint64 readFrom = windowStart_ + window_.size();
         const qsizetype kept = window_.size() - keepFrom;
         std::memmove(window_.data(), window_.data() + keepFrom, static_cast<std::size_t>(kept));
         window_.resize(kept + Step);
         const qint64 had = NumberedFiles::ReadInto(number_, readFrom, window_.data() + kept, Step);
         window_.resize(kept + had);
+        ended_ = had < Step;
         windowStart_ += keepFrom;
         at_ = 0;
         return had > 0;
@@ -85,6 +88,7 @@ private:
     qint64 windowStart_;
     QByteArray window_;
     qsizetype at_ = 0;
+    bool ended_ = false;
 };
 
 /// A directory number as the format's readers take it: zero is no number, and a value of 0x80000000 or more loses its
