@@ -9,8 +9,6 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
-#include <QLocale>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -31,17 +29,6 @@ public:
 private:
     EditorView& view_;
 };
-
-/// Whole kilobytes; less than one shows as 0.
-QString KiloBytes(qint64 bytes) {
-    return QLocale().toString(bytes / 1024) + u' ' + GetText(u"KiloBytes"_s);
-}
-
-qint64 CurrentSize(const BigEntry& entry) {
-    qint64 size = 0;
-    Ignoring([&] { size = entry.IsNew ? Files::FileLength(entry.SourcePath) : entry.Size; });
-    return size;
-}
 
 } // namespace
 
@@ -91,12 +78,6 @@ void BigEditor::ArchiveOpened() {
     view_.StateChanged();
 }
 
-void BigEditor::ClearPreview() {
-    if (!state_.PreviewSoundFile.isEmpty())
-        Ignoring([&] { Files::Delete(state_.PreviewSoundFile); });
-    state_.PreviewSoundFile.clear();
-}
-
 void BigEditor::CreateDirs() {
     tree_.CreateDirs(LastPart(mBIG::BigFileName), mBIG::BigEntries);
     state_.SelectedNode = FolderTree::None;
@@ -129,30 +110,6 @@ void BigEditor::ClickNode(int node) {
     state_.ModifyEnabled = false;
     ClearPreview();
     ShowFolder(key);
-}
-
-void BigEditor::ClickRow(int place) {
-    if (place < 0 || place >= list_.Count())
-        return;
-    const FileRow& row = list_.Row(place);
-    state_.ModifyEnabled = !row.IsFolder;
-    state_.DetailsVisible = !row.IsFolder;
-    state_.FocusPane = FocusedPane::List;
-    ClearPreview();
-    // The table may have been replaced by that of a refused archive.
-    const auto index = static_cast<std::size_t>(row.Index);
-    if (!row.IsFolder && index < mBIG::BigEntries.size()) {
-        const BigEntry& entry = mBIG::BigEntries[index];
-        state_.StatusText = entry.Name;
-        state_.DetailsName = list_.Text(place);
-        state_.DetailsSize = KiloBytes(CurrentSize(entry));
-    }
-    view_.StateChanged();
-}
-
-void BigEditor::ActivateRow(int place) {
-    if (place >= 0 && place < list_.Count() && list_.Row(place).IsFolder)
-        ClickNode(list_.Row(place).Index);
 }
 
 ViewMode BigEditor::View() {

@@ -5,10 +5,14 @@
 /// archive, what counts as a change, and what of the window is shown and enabled.
 #pragma once
 
+#include "big/Extraction.h"
 #include "big/FileList.h"
 #include "big/FolderTree.h"
 
 #include <QString>
+#include <QStringList>
+
+#include <vector>
 
 /// What the document asks of its window.
 class EditorView {
@@ -29,6 +33,16 @@ public:
     virtual void ShowVersion() = 0;
     /// The busy pointer, on and off again; pairs nest.
     virtual void ShowBusy(bool busy) = 0;
+    /// The places of the list's selected rows, in the order shown.
+    [[nodiscard]] virtual std::vector<int> SelectedRows() const = 0;
+    /// Shows a node and starts the edit of its label.
+    virtual void EditNode(int node) = 0;
+    /// Shows `frmBrowseForFolder` and returns when it is closed.
+    virtual ExtractionTarget AskForFolder() = 0;
+    /// Takes input or, during an extraction, none.
+    virtual void EnableWindow(bool enabled) = 0;
+    /// The window's handle, for what the system shows on its behalf; 0 when there is none.
+    [[nodiscard]] virtual quintptr Handle() const = 0;
 };
 
 enum class FocusedPane { Tree, List };
@@ -79,7 +93,33 @@ public:
     void Save();
     void SaveAs();
     void Add();
+    void Delete();
+    void NewFolder();
     void FileVersion();
+
+    /// Files and folders dropped on the list, inside paths.
+    void DropFiles(const QStringList& paths);
+
+    /// The menu's Modify, on the first selected row: opens the entry with its program and asks for the result.
+    void Modify();
+
+    /// Whether the label of a node may be edited: not the root's.
+    [[nodiscard]] bool MayRenameNode(int node) const;
+    /// The end of an edit in the tree; false when the text is refused.
+    bool RenameNode(int node, const QString& text);
+    /// The end of an edit in the list; false when the text is refused.
+    bool RenameRow(int place, const QString& text);
+
+    /// Copies the chosen entries into a folder that the user chooses.
+    void Extract();
+    /// Opens an archive without a window and extracts it; false when there is no such file.
+    bool ExtractBigFile(const QString& path);
+
+    /// The drop target of a drag that began in the list asks for the files: extracts the selected rows into the scratch
+    /// folder and returns the inside paths of what was dragged.
+    QStringList ExtractForDrag();
+    /// The drag is over, dropped or not.
+    void DragEnded();
 
     /// The question about unsaved changes; false when the window has to stay.
     bool MayClose();
@@ -88,7 +128,7 @@ public:
     void ClickNode(int node);
     /// A click on a row of the list, or its selection by a key.
     void ClickRow(int place);
-    /// A double click on a row, or the Enter key: a folder row opens its folder.
+    /// A double click on a row, or the Enter key: a folder row opens its folder, a file row is modified.
     void ActivateRow(int place);
 
     [[nodiscard]] static ViewMode View();

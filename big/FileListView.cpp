@@ -186,6 +186,14 @@ QItemSelectionModel* FileListView::Selection() const {
     return details_->selectionModel();
 }
 
+std::vector<int> FileListView::SelectedRows() const {
+    std::vector<int> places;
+    for (const QModelIndex& index : Selection()->selectedRows())
+        places.push_back(index.row());
+    std::ranges::sort(places);
+    return places;
+}
+
 QHeaderView* FileListView::Header() const {
     return details_->header();
 }

@@ -34,6 +34,8 @@ public:
     void FollowInTabOrder(QWidget* control);
 
     [[nodiscard]] QItemSelectionModel* Selection() const;
+    /// The places of the selected rows, in the order shown.
+    [[nodiscard]] std::vector<int> SelectedRows() const;
     [[nodiscard]] QHeaderView* Header() const;
     /// The view that the mode shows.
     [[nodiscard]] QAbstractItemView* Current() const;

@@ -211,3 +211,23 @@ void frmBigEditor::ShowBusy(bool busy) {
     else
         QApplication::restoreOverrideCursor();
 }
+
+std::vector<int> frmBigEditor::SelectedRows() const {
+    return ui_->lvFiles->SelectedRows();
+}
+
+void frmBigEditor::EditNode(int node) {
+    ui_->tvDirs->edit(treeModel_->IndexOf(node));
+}
+
+ExtractionTarget frmBigEditor::AskForFolder() {
+    return {};
+}
+
+void frmBigEditor::EnableWindow(bool enabled) {
+    setEnabled(enabled);
+}
+
+quintptr frmBigEditor::Handle() const {
+    return winId();
+}

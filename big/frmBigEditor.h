@@ -42,6 +42,11 @@ private:
     void StateChanged() override;
     void ShowVersion() override;
     void ShowBusy(bool busy) override;
+    [[nodiscard]] std::vector<int> SelectedRows() const override;
+    void EditNode(int node) override;
+    ExtractionTarget AskForFolder() override;
+    void EnableWindow(bool enabled) override;
+    [[nodiscard]] quintptr Handle() const override;
 
     /// A menu entry and the link that does the same, with their picture.
     struct Command {

@@ -85,4 +85,23 @@ public:
     }
 
     void ShowBusy(bool busy) override { Busy += busy ? 1 : -1; }
+
+    std::vector<int> Selected; ///< places
+    int Edited = FolderTree::None;
+    ExtractionTarget Target;
+    int FolderQuestions = 0;
+    std::vector<bool> Enabled; ///< every call of EnableWindow
+
+    [[nodiscard]] std::vector<int> SelectedRows() const override { return Selected; }
+
+    void EditNode(int node) override { Edited = node; }
+
+    ExtractionTarget AskForFolder() override {
+        ++FolderQuestions;
+        return Target;
+    }
+
+    void EnableWindow(bool enabled) override { Enabled.push_back(enabled); }
+
+    [[nodiscard]] quintptr Handle() const override { return 0; }
 };
