@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// A device that fails at every write: the process's own limit on the length of files stands in for a full disk.
+#include "tests/csf/Tables.h"
+
+#include "platform/Files.h"
+#include "platform/NumberedFiles.h"
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class FileLengthLimit {
+public:
+    explicit FileLengthLimit(rlim_t bytes) {
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limited{bytes, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limited);
+    }
+
+    ~FileLengthLimit() { ::setrlimit(RLIMIT_FSIZE, &before_); }
+
+    FileLengthLimit(const FileLengthLimit&) = delete;
+    FileLengthLimit& operator=(const FileLengthLimit&) = delete;
+
+private:
+    rlimit before_{};
+};
+
+class CsfFullDisk : public TableTest {};
+
+} // namespace
+
+TEST_F(CsfFullDisk, AtEveryByteTheOldFileStaysAside) {
+    const QByteArray whole = CsfHeader(2) + EntryRecords("a", "b") + EntryRecords("c", "d");
+    mCSF::CsfStrings = {{u"b"_s, u"a"_s}, {u"d"_s, u"c"_s}};
+    for (rlim_t room = 0; room <= static_cast<rlim_t>(whole.size()); ++room) {
+        const QString path = Put(u"full.csf"_s, "old");
+        bool written = false;
+        bool ended = false;
+        try {
+            const FileLengthLimit limit(room);
+            written = mCSF::WriteCSF(path, 0);
+        } catch (const ProgramEnded&) {
+            ended = true;
+        }
+        EXPECT_EQ(ended, room < 24) << room << ": the header is fatal, what follows is passed over";
+        EXPECT_EQ(written, room == static_cast<rlim_t>(whole.size())) << room;
+        EXPECT_EQ(World::ReadFile(path), whole.first(static_cast<qsizetype>(room)));
+        EXPECT_FALSE(NumberedFiles::IsOpen(1));
+        ASSERT_EQ(Files::FileExists(path + u".sav"_s), !written) << room;
+        if (!written) {
+            EXPECT_EQ(World::ReadFile(path + u".sav"_s), "old");
+            Files::DeleteForced(path + u".sav"_s);
+        }
+    }
+    EXPECT_EQ(host_.Messages.size(), 24U);
+}
