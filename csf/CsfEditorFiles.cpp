@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/Host.h"
+#include "core/mTraduction.h"
+#include "csf/CsfEditor.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+using mTraduction::GetText;
+
+namespace {
+
+Host::FileDialog TableDialog() {
+    return {.Title = u"CSF Editor"_s,
+            .Filter = u"Fichiers CSF (*.csf)|*.csf"_s,
+            .DefaultExtension = u"csf"_s,
+            .DefaultName = u"*.csf"_s};
+}
+
+QString NewName() {
+    return GetText(u"New"_s) + u"CSF.csf"_s;
+}
+
+QString LastPart(const QString& path) {
+    return path.sliced(path.lastIndexOf(u'\\') + 1);
+}
+
+} // namespace
+
+bool CsfEditor::GoOnWithoutChanges(const QString& name) {
+    if (!state_.Modified)
+        return true;
+    const QString question = GetText(u"QuitSave"_s).replace(u"%1"_s, name);
+    switch (Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNoCancel)) {
+    case Host::Answer::Yes: {
+        const Saved saved = SaveToFileOrName();
+        return saved == Saved::Yes || saved == Saved::NothingToSave;
+    }
+    case Host::Answer::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool CsfEditor::MayClose() {
+    return !Locked() && GoOnWithoutChanges(Paths::ToNative(state_.Path));
+}
+
+void CsfEditor::New() {
+    if (Locked() || !GoOnWithoutChanges(LastPart(state_.Path)))
+        return;
+    mCSF::CsfStrings.assign(1, {});
+    view_.ListChanging(LabelChange::Reset, 0);
+    list_.Clear();
+    state_.SelectedRow = CsfEditorState::None;
+    view_.ListChanged(LabelChange::Reset, 0);
+    state_.Path = NewName();
+    state_.Caption = state_.Path;
+    state_.FrameVisible = true;
+    state_.SizeText = u"-"_s;
+    state_.LanguageText = u"0"_s;
+    state_.Modified = false;
+    ShowBoxes(false, {}, {});
+}
+
+void CsfEditor::Open() {
+    if (Locked() || !GoOnWithoutChanges(LastPart(state_.Path)))
+        return;
+    if (const auto path = Host::Current().OpenFileName(TableDialog()))
+        OpenCSFFile(*path);
+}
+
+void CsfEditor::Save() {
+    if (!Locked())
+        SaveToFileOrName();
+}
+
+void CsfEditor::SaveAs() {
+    if (!Locked())
+        SaveUnderName();
+}
+
+CsfEditor::Saved CsfEditor::SaveToFileOrName() {
+    if (list_.Count() == 0)
+        return Saved::NothingToSave;
+    return state_.Path == NewName() ? SaveUnderName() : Write();
+}
+
+CsfEditor::Saved CsfEditor::SaveUnderName() {
+    if (list_.Count() == 0)
+        return Saved::NothingToSave;
+    const auto path = Host::Current().SaveFileName(TableDialog());
+    if (!path)
+        return Saved::Cancelled;
+    state_.Path = *path;
+    state_.Caption = LastPart(*path);
+    state_.FrameVisible = true;
+    return Write();
+}
+
+CsfEditor::Saved CsfEditor::Write() {
+    view_.ShowBusy(true);
+    const auto idle = qScopeGuard([this] { view_.ShowBusy(false); });
+    mCSF::CsfStrings = list_.Table();
+    // What was not written whole says nothing, but it stays a change: the old file stands aside as ".sav".
+    const bool written = mCSF::WriteCSF(state_.Path, static_cast<qint16>(state_.LanguageText.toInt()));
+    Ignoring([&] {
+        state_.SizeText = QString::number(Files::FileLength(state_.Path) / 1024) + u' ' + GetText(u"KiloBytes"_s);
+    });
+    state_.Modified = !written;
+    view_.StateChanged();
+    return written ? Saved::Yes : Saved::Failed;
+}
