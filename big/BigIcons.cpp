@@ -3,9 +3,9 @@
 
 #include "big/BigIcons.h"
 
-#include "big/DrawnIcon.h"
 #include "core/mMain.h"
 #include "platform/Paths.h"
+#include "ui/DrawnIcon.h"
 
 #include <QFileIconProvider>
 #include <QMimeDatabase>
@@ -44,8 +44,8 @@ constexpr std::array kinds{
 QIcon OwnByExtension(const QString& extension) {
     for (const Kind& kind : kinds)
         if (kind.Extensions.contains(u'/' + extension + u'/'))
-            return BigIcons::Own(kind.Picture);
-    return BigIcons::Own(u"file"_s);
+            return DrawnIcon::Named(kind.Picture);
+    return DrawnIcon::Named(u"file"_s);
 }
 
 QIcon SystemIcon(const QString& fileName) {
@@ -58,11 +58,7 @@ QIcon SystemIcon(const QString& fileName) {
 
 } // namespace
 
-BigIcons::BigIcons() : file_(Own(u"file"_s)), folder_(Own(u"folder"_s)) {}
-
-QIcon BigIcons::Own(const QString& name) {
-    return QIcon(new DrawnIcon(name, name)); // the icon owns it
-}
+BigIcons::BigIcons() : file_(DrawnIcon::Named(u"file"_s)), folder_(DrawnIcon::Named(u"folder"_s)) {}
 
 QIcon BigIcons::Of(FolderImage closed, FolderImage selected) {
     return QIcon(new DrawnIcon(NameOf(closed), NameOf(selected)));

@@ -14,9 +14,6 @@ class BigIcons {
 public:
     BigIcons();
 
-    /// A picture of the program's own, such as "new" or "folder", in every size that it was drawn in.
-    static QIcon Own(const QString& name);
-
     /// A node's two pictures in one.
     static QIcon Of(FolderImage closed, FolderImage selected);
 

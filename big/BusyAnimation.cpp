@@ -3,8 +3,8 @@
 
 #include "big/BusyAnimation.h"
 
-#include "big/BigIcons.h"
 #include "platform/Paths.h"
+#include "ui/DrawnIcon.h"
 
 #include <QMovie>
 #include <QPainter>
@@ -54,9 +54,9 @@ void BusyAnimation::paintEvent(QPaintEvent* /*event*/) {
     }
     const QRectF from(width() * 0.18 - folderSize / 2.0, (height() - folderSize) / 2.0, folderSize, folderSize);
     const QRectF to = from.translated(width() * 0.64, 0);
-    BigIcons::Own(u"folder-open"_s).paint(&painter, from.toRect());
-    BigIcons::Own(u"archive"_s).paint(&painter, to.toRect());
-    const QIcon sheet = BigIcons::Own(u"file"_s);
+    DrawnIcon::Named(u"folder-open"_s).paint(&painter, from.toRect());
+    DrawnIcon::Named(u"archive"_s).paint(&painter, to.toRect());
+    const QIcon sheet = DrawnIcon::Named(u"file"_s);
     for (int number = 0; number < sheets; ++number) {
         const double part = std::fmod((step_ + number * stepsOfARound / double(sheets)) / stepsOfARound, 1.0);
         const double lift = std::sin(part * std::numbers::pi);

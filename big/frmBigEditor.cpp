@@ -3,7 +3,6 @@
 
 #include "big/frmBigEditor.h"
 
-#include "big/BigIcons.h"
 #include "big/FileListModel.h"
 #include "big/FolderTreeModel.h"
 #include "big/frmVersion.h"
@@ -11,6 +10,7 @@
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Processes.h"
+#include "ui/DrawnIcon.h"
 #include "ui/Localisation.h"
 #include "ui/Mnemonics.h"
 #include "ui_frmBigEditor.h"
@@ -106,7 +106,7 @@ std::vector<frmBigEditor::Command> frmBigEditor::Commands() {
 void frmBigEditor::ConnectCommands() {
     for (const Command& command : Commands()) {
         if (!command.Picture.isEmpty())
-            command.Action->setIcon(BigIcons::Own(command.Picture));
+            command.Action->setIcon(DrawnIcon::Named(command.Picture));
         if (command.Run)
             connect(command.Action, &QAction::triggered, this, command.Run);
         if (command.Link == NoLink)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "big/DrawnIcon.h"
+#include "ui/DrawnIcon.h"
 
 #include "ui/Picture.h"
 
@@ -25,7 +25,7 @@ constexpr std::array drawnSizes{16, 24, 32, 48, 64};
 QPixmap InSize(const QString& picture, int pixels) {
     const auto* const fitting = std::ranges::find_if(drawnSizes, [pixels](int drawn) { return drawn >= pixels; });
     const int drawn = fitting != drawnSizes.end() ? *fitting : drawnSizes.back();
-    QPixmap pixmap = QPixmap::fromImage(Picture::Read(u":/art/big/%1-%2.png"_s.arg(picture).arg(drawn)));
+    QPixmap pixmap = QPixmap::fromImage(Picture::Read(u":/art/icons/%1-%2.png"_s.arg(picture).arg(drawn)));
     return drawn == pixels ? pixmap : pixmap.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
@@ -34,6 +34,10 @@ QPixmap InSize(const QString& picture, int pixels) {
 DrawnIcon::DrawnIcon(QString picture, QString selectedPicture)
     : picture_(std::move(picture)),
       selectedPicture_(std::move(selectedPicture)) {}
+
+QIcon DrawnIcon::Named(const QString& name) {
+    return QIcon(new DrawnIcon(name, name)); // the icon owns it
+}
 
 void DrawnIcon::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) {
     const qreal ratio = painter->device()->devicePixelRatioF();

@@ -5,13 +5,17 @@
 /// shown, in the size that needs no scaling where there is one.
 #pragma once
 
+#include <QIcon>
 #include <QIconEngine>
 #include <QString>
 
 class DrawnIcon : public QIconEngine {
 public:
-    /// Names of pictures in :/art/big, such as "folder".
+    /// Names of pictures in :/art/icons, such as "folder".
     DrawnIcon(QString picture, QString selectedPicture);
+
+    /// An icon of one picture, such as "new" or "folder".
+    static QIcon Named(const QString& name);
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
