@@ -6,6 +6,7 @@
 #include "big/frmBigEditor.h"
 #include "core/frmAbout.h"
 #include "core/frmToolsMenu.h"
+#include "csf/frmCSFEditor.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -18,14 +19,20 @@ QWidget* WidgetOf(QObject* owner) {
     return qobject_cast<QWidget*>(owner);
 }
 
-// Shows a main window in the middle of the screen. It lives until it is closed.
+// A main window in the middle of the screen, not yet shown. It lives until it is closed.
 template <typename Window>
-Window* Open() {
+Window* Make() {
     auto* const window = new Window;
     window->setAttribute(Qt::WA_DeleteOnClose);
     QRect place = window->geometry();
     place.moveCenter(window->screen()->availableGeometry().center());
     window->move(place.topLeft());
+    return window;
+}
+
+template <typename Window>
+Window* Open() {
+    auto* const window = Make<Window>();
     window->show();
     return window;
 }
@@ -56,10 +63,16 @@ void Suite::ExtractBigFile(const QString& /*path*/) {
 }
 
 void Suite::ShowCSFEditor() {
-    StayInMenu();
+    Open<frmCSFEditor>();
 }
 
-void Suite::OpenCSFFile(const QString& /*path*/) {
+void Suite::OpenCSFFile(const QString& path) {
+    auto* const window = Make<frmCSFEditor>();
+    window->OpenCSFFile(path);
+    if (window->isVisible())
+        return;
+    // A file that was refused leaves no window behind.
+    delete window;
     StayInMenu();
 }
 
@@ -84,5 +97,5 @@ void Suite::CheckForUpdates(bool /*automatic*/) {}
 void Suite::ActivateShellMap(GameIndex /*game*/) {}
 
 bool Suite::IsBuilt(Tool tool) const {
-    return tool == Tool::BigEditor;
+    return tool == Tool::BigEditor || tool == Tool::CSFEditor;
 }

@@ -48,6 +48,8 @@ QString ForBox(QString value) {
 
 } // namespace
 
+bool CsfEditor::reading_ = false;
+
 CsfEditor::CsfEditor(CsfEditorView& view) : view_(view) {
     state_.Path = GetText(u"New"_s) + u"CSF.csf"_s;
     state_.FindText = GetText(u"Find"_s);

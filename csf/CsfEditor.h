@@ -135,5 +135,5 @@ private:
     CsfEditorState state_;
     LabelList list_;
     std::vector<int> newPlaces_;
-    bool reading_ = false;
+    static bool reading_; ///< in any window: table and file are one for all
 };

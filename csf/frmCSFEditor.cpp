@@ -1,0 +1,264 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "csf/frmCSFEditor.h"
+
+#include "core/Navigator.h"
+#include "core/mMain.h"
+#include "core/mTraduction.h"
+#include "csf/LabelListModel.h"
+#include "csf/ValueText.h"
+#include "platform/Processes.h"
+#include "ui/DrawnIcon.h"
+#include "ui/Localisation.h"
+#include "ui/Mnemonics.h"
+#include "ui/SideMenu.h"
+#include "ui_frmCSFEditor.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScopedValueRollback>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int nameWidth = 2500 / 15; // twips at 96 dots an inch
+constexpr QColor promptColour{0x80, 0x80, 0x80};
+} // namespace
+
+frmCSFEditor::frmCSFEditor(QWidget* parent)
+    : QMainWindow(parent),
+      ui_(std::make_unique<Ui::frmCSFEditor>()),
+      editor_(*this),
+      model_(new LabelListModel(editor_, this)),
+      count_(new QLabel) {
+    ui_->setupUi(this);
+    links_ = {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4};
+    mTraduction::ApplyLanguage(this);
+    ui_->lvStrings2->setModel(model_);
+    Dress();
+    ConnectCommands();
+    ConnectControls();
+    StateChanged();
+}
+
+// The list asks its model for rows until it is gone itself, later than the document.
+frmCSFEditor::~frmCSFEditor() {
+    ui_->lvStrings2->setModel(nullptr);
+}
+
+void frmCSFEditor::OpenCSFFile(const QString& path) {
+    editor_.OpenCSFFile(path);
+}
+
+void frmCSFEditor::Dress() {
+    Mnemonics::AddTo(*ui_->menuBar);
+    ui_->cmbLanguage->addItems(CsfEditor::Languages());
+    ui_->cmbLanguage->setCurrentIndex(-1);
+    ui_->lvStrings2->header()->resizeSection(LabelList::Name, nameWidth);
+    ui_->lvStrings2->header()->setSectionsClickable(true);
+    ui_->lvStrings2->setAccessibleName(mTraduction::GetText(u"CSFFile"_s));
+    ui_->txtFind->setAccessibleName(mTraduction::GetText(u"Find"_s));
+    ui_->txtName->setMaxLength(std::numeric_limits<int>::max());
+    ui_->picSplitter->setStretchFactor(0, 1);
+    ui_->picSplitter->setSizes({360, 220});
+    count_->setContentsMargins(6, 0, 0, 0);
+    ui_->StatusBar1->addWidget(count_, 1);
+    ui_->mnuExit->setShortcuts({ui_->mnuExit->shortcut(), QKeySequence(u"Alt+F4"_s)});
+    // In the boxes these keys edit text.
+    for (QAction* action : {ui_->mnuAdd, ui_->mnuDelete}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        ui_->lvStrings2->addAction(action);
+    }
+    for (SideLink* link : links_)
+        connect(link, &SideLink::MouseMoved, this, [this, link] { UnderlineLink(link); });
+    connect(ui_->picLeftMenu, &SidePane::MouseMoved, this, [this] { UnderlineLink(nullptr); });
+}
+
+std::vector<frmCSFEditor::Command> frmCSFEditor::Commands() {
+    const auto of = [this](void (CsfEditor::*run)()) { return [this, run] { (editor_.*run)(); }; };
+    return {
+        {ui_->mnuNew, 2, u"new"_s, of(&CsfEditor::New)},
+        {ui_->mnuOpen, 3, u"open"_s, of(&CsfEditor::Open)},
+        {ui_->mnuSave, 4, u"save"_s, of(&CsfEditor::Save)},
+        {ui_->mnuSaveAs, NoLink, u"save-as"_s, of(&CsfEditor::SaveAs)},
+        {ui_->mnuExit, NoLink, u"exit"_s, [this] { close(); }},
+        {ui_->mnuAdd, 0, u"add"_s, of(&CsfEditor::Add)},
+        {ui_->mnuDelete, 1, u"delete"_s, of(&CsfEditor::Delete)},
+        {ui_->mnuFind, NoLink, u"find"_s, [this] { ShowFind(); }},
+        {ui_->mnuOptions, NoLink, u"options"_s, [this] { ShowOptions(); }},
+        {ui_->mnuCheckForUpdates, NoLink, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }},
+        {ui_->mnuAbout, NoLink, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }},
+    };
+}
+
+// A link is its menu entry once more.
+void frmCSFEditor::ConnectCommands() {
+    for (const Command& command : Commands()) {
+        command.Action->setIcon(DrawnIcon::Named(command.Picture));
+        connect(command.Action, &QAction::triggered, this, command.Run);
+        if (command.Link == NoLink)
+            continue;
+        SideLink* link = links_.at(static_cast<std::size_t>(command.Link));
+        link->setIcon(command.Action->icon());
+        connect(link, &SideLink::clicked, command.Action, &QAction::trigger);
+    }
+}
+
+void frmCSFEditor::ConnectControls() {
+    const auto click = [this](const QModelIndex& row) {
+        if (!following_ && row.isValid())
+            editor_.ClickRow(row.row());
+    };
+    connect(ui_->lvStrings2, &QTreeView::clicked, this, click);
+    connect(ui_->lvStrings2->selectionModel(), &QItemSelectionModel::currentRowChanged, this, click);
+    connect(ui_->lvStrings2->header(), &QHeaderView::sectionClicked, this,
+            [this](int column) { editor_.ClickHeader(static_cast<LabelList::Column>(column)); });
+    connect(ui_->txtName, &QLineEdit::textEdited, this, [this](const QString& text) { editor_.NameTyped(text); });
+    connect(ui_->txtValue, &QPlainTextEdit::textChanged, this, [this] {
+        if (!following_)
+            editor_.ValueTyped(ShownValue(*ui_->txtValue));
+    });
+    connect(ui_->txtFind, &QLineEdit::textEdited, this, [this](const QString& text) { editor_.FindTyped(text); });
+    connect(ui_->cmdFindNext, &QPushButton::clicked, this, [this] { editor_.FindNext(); });
+    ui_->txtFind->installEventFilter(this);
+    ui_->lvStrings2->installEventFilter(this);
+}
+
+bool frmCSFEditor::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ui_->txtFind && FindEvent(*event))
+        return true;
+    if (watched == ui_->lvStrings2 && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_F3) {
+        editor_.FindNextByKey();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// True for what the search box is not to see.
+bool frmCSFEditor::FindEvent(QEvent& event) {
+    if (event.type() == QEvent::FocusIn)
+        editor_.FindFocused();
+    if (event.type() == QEvent::FocusOut)
+        editor_.FindLeft();
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<QKeyEvent&>(event).key();
+    if (key != Qt::Key_F3 && key != Qt::Key_Return && key != Qt::Key_Enter)
+        return false;
+    editor_.FindNextByKey();
+    return true;
+}
+
+void frmCSFEditor::ShowFind() {
+    ui_->txtFind->setFocus();
+    ui_->txtFind->selectAll();
+}
+
+void frmCSFEditor::ShowOptions() {
+    Navigator::Current().ShowOptions(this);
+    if (mMain::RestartRequested)
+        Processes::End(0);
+}
+
+void frmCSFEditor::UnderlineLink(const SideLink* link) {
+    for (SideLink* each : links_)
+        each->SetUnderlined(each == link);
+}
+
+void frmCSFEditor::closeEvent(QCloseEvent* event) {
+    if (!editor_.MayClose()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (isVisible() && CsfEditor::MenuFollows())
+        Navigator::Current().ShowToolsMenu();
+}
+
+void frmCSFEditor::ShowWindow() {
+    show();
+    activateWindow();
+}
+
+void frmCSFEditor::ListChanging(LabelChange change, int place) {
+    model_->Begin(change, place);
+}
+
+void frmCSFEditor::ListChanged(LabelChange change, int /*place*/) {
+    const QScopedValueRollback following(following_, true);
+    model_->End(change);
+    MarkSortedColumn();
+}
+
+void frmCSFEditor::MarkSortedColumn() {
+    QHeaderView* const header = ui_->lvStrings2->header();
+    header->setSortIndicatorShown(false);
+    for (const auto column : {LabelList::Name, LabelList::Value}) {
+        const LabelList::Order order = editor_.List().OrderOf(column);
+        if (order == LabelList::Order::None)
+            continue;
+        header->setSortIndicatorShown(true);
+        header->setSortIndicator(column,
+                                 order == LabelList::Order::Ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+    }
+}
+
+void frmCSFEditor::RowChanged(int place) {
+    model_->RowChanged(place);
+}
+
+void frmCSFEditor::SelectRow(int place, bool focus) {
+    const QScopedValueRollback following(following_, true);
+    ui_->lvStrings2->setCurrentIndex(model_->index(place, 0));
+    if (focus)
+        ui_->lvStrings2->setFocus();
+}
+
+void frmCSFEditor::ScrollToRow(int place) {
+    ui_->lvStrings2->scrollTo(model_->index(place, 0));
+}
+
+void frmCSFEditor::BoxesChanged() {
+    const QScopedValueRollback following(following_, true);
+    ui_->txtName->setText(editor_.State().NameText);
+    ShowValue(*ui_->txtValue, editor_.State().ValueText);
+}
+
+void frmCSFEditor::StateChanged() {
+    const CsfEditorState& state = editor_.State();
+    ui_->fraFileInfos->setVisible(state.FrameVisible);
+    ui_->fraFileInfos->setTitle(state.Caption);
+    ui_->lblSize->setText(state.SizeText);
+    ui_->lblLanguage->setText(state.LanguageText);
+    if (state.LanguageShown != languageShown_) {
+        languageShown_ = state.LanguageShown;
+        ui_->cmbLanguage->setCurrentIndex(languageShown_);
+    }
+    ui_->mnuActions->setVisible(state.ActionsVisible);
+    ui_->txtName->setEnabled(state.BoxesEnabled);
+    ui_->txtValue->setEnabled(state.BoxesEnabled);
+    if (ui_->txtFind->text() != state.FindText)
+        ui_->txtFind->setText(state.FindText);
+    QPalette colours = palette();
+    if (state.FindIsGrey)
+        colours.setColor(QPalette::Text, promptColour);
+    ui_->txtFind->setPalette(colours);
+    count_->setText(editor_.CountText());
+    const QString tool = u"CSF Editor"_s;
+    setWindowTitle(state.FrameVisible ? state.Caption + u"[*] - "_s + tool : tool);
+    setWindowModified(state.Modified);
+}
+
+void frmCSFEditor::ShowBusy(bool busy) {
+    ui_->lvStrings2->setEnabled(!busy);
+    if (busy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}

@@ -1,0 +1,341 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/mMain.h"
+#include "csf/LabelListModel.h"
+#include "csf/frmCSFEditor.h"
+#include "tests/support/ScriptedHost.h"
+#include "tests/support/World.h"
+#include "tests/windows/RecordingNavigator.h"
+#include "tests/windows/WindowTests.h"
+#include "ui/SideMenu.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
+using Answer = Host::Answer;
+
+class tst_csfeditor : public QObject {
+    Q_OBJECT
+private:
+    void Open(const std::vector<CsfString>& table, qint16 language = 3) {
+        path_ = world_->Root() + u"\\a.csf"_s;
+        mCSF::CsfStrings = table;
+        mCSF::WriteTable(path_, language);
+        window_ = std::make_unique<frmCSFEditor>();
+        window_->OpenCSFFile(path_);
+        window_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    }
+
+    void OpenThree() { Open({{u"2"_s, u"beta"_s}, {u"1\nlines"_s, u"alpha"_s}, {u"3"_s, u"Gamma"_s}}); }
+
+    void Show() {
+        window_ = std::make_unique<frmCSFEditor>();
+        window_->show();
+        window_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    }
+
+    template <typename Control>
+    Control* Part(const char* name) {
+        return window_->findChild<Control*>(QString::fromLatin1(name));
+    }
+
+    QTreeView* List() { return Part<QTreeView>("lvStrings2"); }
+
+    QLineEdit* NameBox() { return Part<QLineEdit>("txtName"); }
+
+    QPlainTextEdit* ValueBox() { return Part<QPlainTextEdit>("txtValue"); }
+
+    QLineEdit* FindBox() { return Part<QLineEdit>("txtFind"); }
+
+    QString Cell(int row, int column) { return List()->model()->index(row, column).data().toString(); }
+
+    QStringList Names() {
+        QStringList names;
+        for (int row = 0; row < List()->model()->rowCount(); ++row)
+            names += Cell(row, 0);
+        return names;
+    }
+
+    void ClickRow(int row) {
+        QTest::mouseClick(List()->viewport(), Qt::LeftButton, {},
+                          List()->visualRect(List()->model()->index(row, 0)).center());
+    }
+
+    QString Told() { return window_->statusBar()->findChild<QLabel*>()->text(); }
+
+    std::unique_ptr<World> world_;
+    std::unique_ptr<ScriptedHost> host_;
+    std::unique_ptr<RecordingNavigator> navigator_;
+    std::unique_ptr<frmCSFEditor> window_;
+    QString path_;
+
+private Q_SLOTS:
+
+    void init() {
+        world_ = std::make_unique<World>();
+        host_ = std::make_unique<ScriptedHost>();
+        navigator_ = std::make_unique<RecordingNavigator>();
+        world_->UseLanguage(
+            "[LNG]\r\nNew=Neu\r\nFind=Suchen\r\nText=Wert\r\nKiloBytes=KB\r\nName=Name\r\nValue=Wert\r\n"
+            "RowCount=%1 rows\r\nMatchCount=%1 matches\r\n");
+        world_->Start();
+        mMain::CsfOpenedByHost = false;
+        mMain::CommandLine.clear();
+    }
+
+    void cleanup() {
+        window_.reset();
+        navigator_.reset();
+        host_.reset();
+        world_.reset();
+        mMain::CsfOpenedByHost = false;
+    }
+
+    void theModelKeepsTheRules() {
+        OpenThree();
+        const QAbstractItemModelTester tester(List()->model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        Part<QAction>("mnuAdd")->trigger();
+        QTest::mouseClick(List()->header()->viewport(), Qt::LeftButton, {}, {20, 8});
+        ClickRow(0);
+        Part<QAction>("mnuDelete")->trigger();
+        window_->OpenCSFFile(path_);
+        QCOMPARE(List()->model()->rowCount(), 3);
+    }
+
+    void anOpenedFileIsShownSortedWithItsFirstRowSelected() {
+        OpenThree();
+        QCOMPARE(Names(), QStringList({u"alpha"_s, u"beta"_s, u"Gamma"_s}));
+        QCOMPARE(List()->currentIndex().row(), 0);
+        QCOMPARE(NameBox()->text(), u"alpha"_s);
+        QCOMPARE(ValueBox()->toPlainText(), u"1\nlines"_s);
+        QVERIFY(NameBox()->isEnabled() && ValueBox()->isEnabled());
+        QCOMPARE(Part<QGroupBox>("fraFileInfos")->title(), u"a.csf"_s);
+        QCOMPARE(Part<QLabel>("lblSize")->text(), u"0 KB"_s);
+        QCOMPARE(Part<QLabel>("lblLanguage")->text(), u"3"_s);
+        QCOMPARE(Part<QComboBox>("cmbLanguage")->currentText(), u"3 - French"_s);
+        QVERIFY(!window_->isWindowModified());
+        QVERIFY(Part<QWidget>("mnuActions")->isVisible());
+    }
+
+    void withoutADocumentThereIsNothingToChange() {
+        Show();
+        QVERIFY(!Part<QWidget>("fraFileInfos")->isVisible());
+        QVERIFY(!Part<QWidget>("mnuActions")->isVisible());
+        QVERIFY(!NameBox()->isEnabled() && !ValueBox()->isEnabled());
+        QCOMPARE(FindBox()->text(), u"Suchen"_s);
+        QCOMPARE(FindBox()->palette().color(QPalette::Text), QColor(0x80, 0x80, 0x80));
+    }
+
+    void typingChangesTheSelectedRow() {
+        OpenThree();
+        ClickRow(1);
+        NameBox()->setFocus();
+        NameBox()->selectAll();
+        QTest::keyClicks(NameBox(), u"delta"_s);
+        ValueBox()->setFocus();
+        ValueBox()->selectAll();
+        QTest::keyClicks(ValueBox(), u"x"_s);
+        QTest::keyClick(ValueBox(), Qt::Key_Return);
+        QTest::keyClicks(ValueBox(), u"y"_s);
+        QCOMPARE(Cell(1, 0), u"delta"_s);
+        QCOMPARE(Cell(1, 1), u"x\u21B5y"_s);
+        QVERIFY(window_->isWindowModified());
+        QTest::keyClick(window_.get(), Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!window_->isWindowModified());
+        QCOMPARE(mCSF::ReadCSF(path_), 3);
+        QCOMPARE(mCSF::CsfStrings[1].Name, u"delta"_s);
+        QCOMPARE(mCSF::CsfStrings[1].Value, u"x\ny"_s);
+    }
+
+    void walkingThroughTheRowsChangesNothing() {
+        OpenThree();
+        List()->setFocus();
+        QTest::keyClick(List(), Qt::Key_Down);
+        QCOMPARE(NameBox()->text(), u"beta"_s);
+        QTest::keyClick(List(), Qt::Key_Down);
+        QCOMPARE(NameBox()->text(), u"Gamma"_s);
+        QVERIFY(!window_->isWindowModified());
+    }
+
+    void everyCharacterOfAValueComesThroughTheBox() {
+        QString value;
+        for (int byte = 1; byte < 256; ++byte)
+            value += QString::fromLatin1(QByteArray(1, static_cast<char>(byte)));
+        // What the code page has in place of the control characters from 0x80 to 0x9F.
+        value.replace(0x80 - 1, 0x20,
+                      u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152"
+                      u"\u008D\u017D\u008F\u0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122"
+                      u"\u0161\u203A\u0153\u009D\u017E\u0178"_s);
+        Open({{value, u"all"_s}, {u"z"_s, u"z"_s}});
+        ValueBox()->moveCursor(QTextCursor::End);
+        QTest::keyClicks(ValueBox(), u"!"_s);
+        Part<QAction>("mnuSave")->trigger();
+        mCSF::ReadCSF(path_);
+        QCOMPARE(mCSF::CsfStrings[0].Value, value + u'!');
+    }
+
+    void aChangeInABoxCanBeTakenBack() {
+        OpenThree();
+        NameBox()->setFocus();
+        QTest::keyClicks(NameBox(), u"!"_s);
+        QCOMPARE(Cell(0, 0), u"alpha!"_s);
+        QTest::keyClick(NameBox(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(Cell(0, 0), u"alpha"_s);
+        ValueBox()->setFocus();
+        QTest::keyClicks(ValueBox(), u"?"_s);
+        QTest::keyClick(ValueBox(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(Cell(0, 1), u"1\u21B5lines"_s);
+    }
+
+    void takingBackNeverReachesTheRowBefore() {
+        OpenThree();
+        ClickRow(1);
+        NameBox()->setFocus();
+        QTest::keyClick(NameBox(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(Names(), QStringList({u"alpha"_s, u"beta"_s, u"Gamma"_s}));
+        QVERIFY(!window_->isWindowModified());
+    }
+
+    void addPutsARowAtTheEndByKeyAndByLink() {
+        OpenThree();
+        List()->setFocus();
+        QTest::keyClick(List(), Qt::Key_Insert);
+        QTest::mouseClick(Part<SideLink>("Label2_0"), Qt::LeftButton);
+        QCOMPARE(Names(), QStringList({u"alpha"_s, u"beta"_s, u"Gamma"_s, u"Neu"_s, u"Neu"_s}));
+        QCOMPARE(Cell(3, 1), u"Wert"_s);
+        QCOMPARE(List()->currentIndex().row(), 0);
+        QVERIFY(window_->isWindowModified());
+    }
+
+    void theDeleteKeyRemovesARowAndSelectsTheNext() {
+        OpenThree();
+        ClickRow(0);
+        QTest::keyClick(List(), Qt::Key_Delete);
+        QCOMPARE(Names(), QStringList({u"beta"_s, u"Gamma"_s}));
+        QCOMPARE(List()->currentIndex().row(), 0);
+        QCOMPARE(NameBox()->text(), u"beta"_s);
+    }
+
+    void theDeleteKeyInABoxDeletesCharacters() {
+        OpenThree();
+        NameBox()->setFocus();
+        NameBox()->setCursorPosition(0);
+        QTest::keyClick(NameBox(), Qt::Key_Delete);
+        QCOMPARE(Names(), QStringList({u"lpha"_s, u"beta"_s, u"Gamma"_s}));
+    }
+
+    void aHeaderSortsUpAndDownAndKeepsTheSelection() {
+        OpenThree();
+        ClickRow(0);
+        QTest::mouseClick(List()->header()->viewport(), Qt::LeftButton, {}, {20, 8});
+        QCOMPARE(Names(), QStringList({u"Gamma"_s, u"beta"_s, u"alpha"_s}));
+        QCOMPARE(List()->currentIndex().row(), 2);
+        QCOMPARE(NameBox()->text(), u"alpha"_s);
+        QTest::keyClicks(NameBox(), u"!"_s);
+        QCOMPARE(Cell(2, 0), u"alpha!"_s);
+        QVERIFY(List()->header()->isSortIndicatorShown());
+        QCOMPARE(List()->header()->sortIndicatorOrder(), Qt::DescendingOrder);
+    }
+
+    void theSearchBoxShowsItsPromptWhileItIsEmpty() {
+        OpenThree();
+        QTest::keyClick(window_.get(), Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(FindBox()->hasFocus());
+        QCOMPARE(FindBox()->text(), QString());
+        NameBox()->setFocus();
+        QCOMPARE(FindBox()->text(), u"Suchen"_s);
+        QCOMPARE(FindBox()->palette().color(QPalette::Text), QColor(0x80, 0x80, 0x80));
+        FindBox()->setFocus();
+        QTest::keyClicks(FindBox(), u"a"_s);
+        QVERIFY(FindBox()->palette().color(QPalette::Text) != QColor(0x80, 0x80, 0x80));
+        NameBox()->setFocus();
+        QCOMPARE(FindBox()->text(), u"a"_s);
+    }
+
+    void enterAndF3FindTheNextRow() {
+        OpenThree();
+        FindBox()->setFocus();
+        QTest::keyClicks(FindBox(), u"A"_s);
+        QTest::keyClick(FindBox(), Qt::Key_Return);
+        QCOMPARE(List()->currentIndex().row(), 1);
+        QVERIFY(List()->hasFocus());
+        QTest::keyClick(List(), Qt::Key_F3);
+        QCOMPARE(List()->currentIndex().row(), 2);
+        QCOMPARE(NameBox()->text(), u"Gamma"_s);
+        QTest::mouseClick(Part<QPushButton>("cmdFindNext"), Qt::LeftButton);
+        QCOMPARE(List()->currentIndex().row(), 0);
+        QVERIFY(!window_->isWindowModified());
+    }
+
+    void f3DoesNothingWhileThePromptStands() {
+        Open({{u"1"_s, u"a"_s}, {u"2"_s, u"suchen"_s}});
+        List()->setFocus();
+        QTest::keyClick(List(), Qt::Key_F3);
+        QCOMPARE(List()->currentIndex().row(), 0);
+    }
+
+    void theStatusBarCountsRowsAndMatches() {
+        OpenThree();
+        QCOMPARE(Told(), u"3 rows"_s);
+        FindBox()->setFocus();
+        QTest::keyClicks(FindBox(), u"ta"_s);
+        QCOMPARE(Told(), u"3 rows, 1 matches"_s);
+    }
+
+    void theLanguageListIsOnlyADisplay() {
+        OpenThree();
+        Part<QComboBox>("cmbLanguage")->setCurrentIndex(8);
+        Part<QAction>("mnuSave")->trigger();
+        QCOMPARE(mCSF::ReadCSF(path_), 3);
+    }
+
+    void closingAsksAboutChanges() {
+        OpenThree();
+        Part<QAction>("mnuAdd")->trigger();
+        host_->Answers = {Answer::Cancel, Answer::No};
+        QVERIFY(!window_->close());
+        QVERIFY(window_->isVisible());
+        QVERIFY(window_->close());
+        QCOMPARE(navigator_->Asked, QStringList{u"ToolsMenu"_s});
+    }
+
+    void anotherToolsHandOverLeavesTheMenuAway() {
+        OpenThree();
+        mMain::CsfOpenedByHost = true;
+        QVERIFY(window_->close());
+        QCOMPARE(navigator_->Asked, QStringList());
+    }
+
+    void aTextThatLooksLikeMarkupIsShownAsItIs() {
+        Open({{u"<b>bold</b>"_s, u"a"_s}, {u"z"_s, u"z"_s}});
+        QCOMPARE(Cell(0, 1), u"<b>bold</b>"_s);
+        QVERIFY(List()->model()->index(0, 1).data(Qt::ToolTipRole).toString().contains(u"&lt;b&gt;bold"_s));
+    }
+
+    void thirtyTwoThousandRowsAreShown() {
+        std::vector<CsfString> table(mCSF::MaximumStrings);
+        for (int row = 0; row < mCSF::MaximumStrings; ++row)
+            table[static_cast<std::size_t>(row)] = {u"value"_s, u"LABEL:%1"_s.arg(row, 5, 10, QChar(u'0'))};
+        Open(table);
+        QCOMPARE(Told().remove(QLocale().groupSeparator()).remove(u','), u"32767 rows"_s);
+        List()->scrollToBottom();
+        QCOMPARE(Cell(32766, 0), u"LABEL:32766"_s);
+    }
+};
+
+WINDOW_TEST(tst_csfeditor)
+
+#include "tst_csfeditor.moc"
