@@ -139,7 +139,8 @@ private:
     /// How a save ended.
     enum class Saved { Yes, NothingToSave, Cancelled, Failed };
 
-    /// True, with a beep, while a save is under way: it yields to the event loop, and the table has to stay until then.
+    /// True, with a beep, while a save, an extraction or a drop is under way: they yield to the event loop or ask, and
+    /// the table has to stay until then.
     [[nodiscard]] bool Locked() const;
     bool GoOnWithoutChanges();
     void ResetAfterOpen();
@@ -151,10 +152,15 @@ private:
     void ShowWritten(const QString& path);
     void AddFile(const QString& path);
     [[nodiscard]] QString SelectedKey() const;
+    void DeleteFolder(int node);
+    void DeleteRows();
+    void RenameFolder(int node, const QString& text);
+    void RenameFile(int place, const QString& text);
+    void DropPaths(const QStringList& paths);
 
     EditorView& view_;
     EditorState state_;
     FolderTree tree_;
     FileList list_;
-    bool saving_ = false;
+    bool busy_ = false; ///< a save, an extraction or a drop is under way
 };
