@@ -57,6 +57,7 @@ bool BigEditor::LoadBig(const QString& path) {
         mBIG::BigEntries = std::move(before);
         return false;
     }
+    ++table_;
     mBIG::BigFileName = path;
     CreateDirs();
     state_.StatusText = GetText(u"Ready"_s);

@@ -73,7 +73,10 @@ bool BigEditor::GoOnWithoutChanges() {
 }
 
 bool BigEditor::MayClose() {
-    return !Locked() && GoOnWithoutChanges();
+    if (Locked() || !GoOnWithoutChanges())
+        return false;
+    EndWaits();
+    return true;
 }
 
 void BigEditor::New() {
@@ -86,6 +89,7 @@ void BigEditor::New() {
     mBIG::BigVersion = 2;
     view_.ShowVersion();
     mBIG::BigEntries.assign(1, {});
+    ++table_;
     CreateDirs();
     // Meant so: the flag for unsaved changes and the details stay as they were.
     ArchiveOpened();
@@ -149,8 +153,10 @@ void BigEditor::ShowWritten(const QString& path) {
     const QString statusText = state_.StatusText;
     state_.Modified = false;
     // A name that LoadBig does not take is read all the same: the table's offsets must be the written file's.
-    if (!LoadBig(path))
+    if (!LoadBig(path)) {
         mBIG::ReadBigFile(path);
+        ++table_;
+    }
     state_.StatusText = statusText;
     state_.DetailsVisible = false;
     state_.ModifyEnabled = false;
