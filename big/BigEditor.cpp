@@ -57,6 +57,7 @@ bool BigEditor::LoadBig(const QString& path) {
         mBIG::BigEntries = std::move(before);
         return false;
     }
+    ++table_;
     mBIG::BigFileName = path;
     CreateDirs();
     state_.StatusText = GetText(u"Ready"_s);
@@ -88,7 +89,9 @@ void BigEditor::CreateDirs() {
 void BigEditor::ShowFolder(const QString& folderKey) {
     const Busy busy(view_);
     // A folder that has gone leaves the selected node as it is: its folders show, without files.
-    if (const int node = tree_.Find(folderKey); node != FolderTree::None)
+    // Of two nodes with one key, the selected one stays.
+    const bool selected = tree_.Has(state_.SelectedNode) && SelectedKey() == folderKey;
+    if (const int node = tree_.Find(folderKey); node != FolderTree::None && !selected)
         state_.SelectedNode = node;
     state_.FileIcons = ReadSetting(u"ViewFileIcons"_s) == "1"_L1;
     list_.ShowFolder(tree_, state_.SelectedNode, folderKey, mBIG::BigEntries, GetText(u"Folder"_s));
@@ -109,6 +112,7 @@ void BigEditor::ClickNode(int node) {
     state_.FocusPane = FocusedPane::Tree;
     state_.ModifyEnabled = false;
     ClearPreview();
+    state_.SelectedNode = node;
     ShowFolder(key);
 }
 

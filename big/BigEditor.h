@@ -12,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <vector>
 
 /// What the document asks of its window.
@@ -69,6 +70,10 @@ class BigEditor {
 public:
     /// The view outlives the editor.
     explicit BigEditor(EditorView& view);
+    /// May come while Modify or ActivateRow wait for another program: they return without touching what is gone.
+    ~BigEditor();
+    BigEditor(const BigEditor&) = delete;
+    BigEditor& operator=(const BigEditor&) = delete;
 
     [[nodiscard]] const EditorState& State() const { return state_; }
 
@@ -121,7 +126,7 @@ public:
     /// The drag is over, dropped or not.
     void DragEnded();
 
-    /// The question about unsaved changes; false when the window has to stay.
+    /// The question about unsaved changes; false when the window has to stay. True ends every wait for another program.
     bool MayClose();
 
     /// A click on a node of the tree.
@@ -139,7 +144,20 @@ private:
     /// How a save ended.
     enum class Saved { Yes, NothingToSave, Cancelled, Failed };
 
-    /// True, with a beep, while a save is under way: it yields to the event loop, and the table has to stay until then.
+    /// What began a Modify.
+    enum class Trigger { Menu, Row };
+
+    /// An entry whose copy another program has open.
+    struct Opened {
+        int Index;       ///< in the table
+        int Table;       ///< number of the table
+        QString Name;    ///< of the entry
+        QString Archive; ///< inside path
+        QString Copy;    ///< inside path of the copy
+    };
+
+    /// True, with a beep, while a save, an extraction or a drop is under way: they yield to the event loop or ask, and
+    /// the table has to stay until then.
     [[nodiscard]] bool Locked() const;
     bool GoOnWithoutChanges();
     void ResetAfterOpen();
@@ -151,10 +169,29 @@ private:
     void ShowWritten(const QString& path);
     void AddFile(const QString& path);
     [[nodiscard]] QString SelectedKey() const;
+    void DeleteFolder(int node);
+    void DeleteRows();
+    void RenameFolder(int node, const QString& text);
+    void RenameFile(int place, const QString& text);
+    void DropPaths(const QStringList& paths);
+    void EndWaits();
+    void ModifyRow(int place, Trigger trigger);
+    void ModifySource(int index, Trigger trigger);
+    void ModifyCopy(int index, const QString& text, Trigger trigger);
+    [[nodiscard]] QString CopyForProgram(int index, const QString& text) const;
+    [[nodiscard]] bool IsInUse(const QString& copy) const;
+    bool OpenAndWait(const QString& path);
+    [[nodiscard]] bool IsSourceMissing(int index);
+    [[nodiscard]] BigEntry* StillThere(const Opened& opened) const;
+    void TakeIn(const Opened& opened, Trigger trigger);
 
     EditorView& view_;
     EditorState state_;
     FolderTree tree_;
     FileList list_;
-    bool saving_ = false;
+    bool busy_ = false;      ///< a save, an extraction or a drop is under way
+    int table_ = 0;          ///< number of the table in BigEntries; each that is read or made has another one
+    QStringList openCopies_; ///< inside paths that other programs are waited for with
+    /// False once the waits that hold it are to end.
+    std::shared_ptr<bool> waiting_ = std::make_shared<bool>(true);
 };

@@ -51,9 +51,9 @@ BigEntry* RecordFor(const QString& name) {
 } // namespace
 
 bool BigEditor::Locked() const {
-    if (saving_)
+    if (busy_)
         Host::Current().Beep();
-    return saving_;
+    return busy_;
 }
 
 bool BigEditor::GoOnWithoutChanges() {
@@ -73,7 +73,10 @@ bool BigEditor::GoOnWithoutChanges() {
 }
 
 bool BigEditor::MayClose() {
-    return !Locked() && GoOnWithoutChanges();
+    if (Locked() || !GoOnWithoutChanges())
+        return false;
+    EndWaits();
+    return true;
 }
 
 void BigEditor::New() {
@@ -86,6 +89,7 @@ void BigEditor::New() {
     mBIG::BigVersion = 2;
     view_.ShowVersion();
     mBIG::BigEntries.assign(1, {});
+    ++table_;
     CreateDirs();
     // Meant so: the flag for unsaved changes and the details stay as they were.
     ArchiveOpened();
@@ -127,7 +131,7 @@ void BigEditor::SaveAs() {
 }
 
 bool BigEditor::WriteLocked(const QString& path) {
-    const QScopedValueRollback lock(saving_, true);
+    const QScopedValueRollback lock(busy_, true);
     return mBIG::WriteBigFile(path);
 }
 
@@ -149,8 +153,10 @@ void BigEditor::ShowWritten(const QString& path) {
     const QString statusText = state_.StatusText;
     state_.Modified = false;
     // A name that LoadBig does not take is read all the same: the table's offsets must be the written file's.
-    if (!LoadBig(path))
+    if (!LoadBig(path)) {
         mBIG::ReadBigFile(path);
+        ++table_;
+    }
     state_.StatusText = statusText;
     state_.DetailsVisible = false;
     state_.ModifyEnabled = false;

@@ -72,6 +72,11 @@ int FileList::TextLength(int place) const {
     return static_cast<int>(row.IsFolder ? row.Name.size() : row.Name.size() - keyLength_);
 }
 
+void FileList::SetText(int place, const QString& text) {
+    FileRow& row = rows_[Stored(place)];
+    row.Name = row.IsFolder ? text : row.Name.first(keyLength_) + text;
+}
+
 QString FileList::Type(int place) const {
     return ColumnText(Row(place), Filetype);
 }

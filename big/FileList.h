@@ -48,6 +48,8 @@ public:
     /// What the list shows: for a file its name without as many leading characters as the folder key has.
     [[nodiscard]] QString Text(int place) const;
     [[nodiscard]] int TextLength(int place) const;
+    /// Shows another text in a row; a file's name within the archive is taken to end in it.
+    void SetText(int place, const QString& text);
     /// The folder word, or what follows the last full stop of the whole name; the whole name when there is none.
     [[nodiscard]] QString Type(int place) const;
     /// Bytes in decimal; empty for a folder.

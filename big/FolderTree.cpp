@@ -5,6 +5,8 @@
 
 #include "platform/RuntimeError.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 QString LastPart(const QString& path) {
@@ -52,8 +54,56 @@ int FolderTree::Add(int parent, const QString& key, const QString& text) {
     const int row = static_cast<int>(siblings.size());
     siblings.push_back(index);
     nodes_.push_back({.Key = key, .Text = text, .Parent = parent, .Row = row, .Children = {}});
-    knownFolders_.insert(key, index);
+    if (!knownFolders_.contains(key))
+        knownFolders_.insert(key, index);
     return index;
+}
+
+void FolderTree::Remove(int index) {
+    Require(index);
+    // A node's new index; None for one that goes. Parents stand before their children.
+    std::vector<int> kept(nodes_.size() + 1, None);
+    std::vector<FolderNode> left;
+    for (int node = Root; node <= Count(); ++node) {
+        FolderNode& each = nodes_[static_cast<std::size_t>(node) - 1];
+        const int parent = kept[static_cast<std::size_t>(each.Parent)];
+        if (node == index || (node != Root && parent == None))
+            continue;
+        each.Parent = parent;
+        left.push_back(std::move(each));
+        kept[static_cast<std::size_t>(node)] = static_cast<int>(left.size());
+    }
+    nodes_ = std::move(left);
+    CountRows();
+    LearnKeys();
+}
+
+void FolderTree::Rename(int index, const QString& key, const QString& text) {
+    Require(index);
+    FolderNode& renamed = nodes_[static_cast<std::size_t>(index) - 1];
+    const QString oldKey = std::exchange(renamed.Key, key);
+    renamed.Text = text;
+    // Meant so: the folder's own new key counts too, and what holds the old key further in.
+    for (std::size_t node = Root; node < nodes_.size(); ++node)
+        nodes_[node].Key.replace(oldKey, key);
+    LearnKeys();
+}
+
+void FolderTree::CountRows() {
+    for (FolderNode& node : nodes_)
+        node.Children.clear();
+    for (int node = Root + 1; node <= Count(); ++node) {
+        FolderNode& child = nodes_[static_cast<std::size_t>(node) - 1];
+        auto& siblings = nodes_[static_cast<std::size_t>(child.Parent) - 1].Children;
+        child.Row = static_cast<int>(siblings.size());
+        siblings.push_back(node);
+    }
+}
+
+void FolderTree::LearnKeys() {
+    knownFolders_.clear();
+    for (int node = Count(); node >= Root; --node)
+        knownFolders_.insert(nodes_[static_cast<std::size_t>(node) - 1].Key, node);
 }
 
 int FolderTree::Find(const QString& key) const {

@@ -44,7 +44,15 @@ public:
     /// Adds a folder behind the parent's other children and returns its index. Raises 91 for an unknown parent.
     int Add(int parent, const QString& key, const QString& text);
 
-    /// The node with that key, the root for the empty key; None when there is no such node.
+    /// Takes a folder away with all below it. The indices of the nodes behind move down, so those kept elsewhere go
+    /// stale; a parent's is lower than its children's and stays. Raises 91 for an index that no node has.
+    void Remove(int index);
+
+    /// Gives a folder another key and text, then replaces its old key in the key of every node but the root, wherever
+    /// it occurs. Two nodes may come to have the same key. Raises 91 for an index that no node has.
+    void Rename(int index, const QString& key, const QString& text);
+
+    /// The first node with that key, the root for the empty key; None when there is no such node.
     [[nodiscard]] int Find(const QString& key) const;
 
     [[nodiscard]] bool Has(int index) const { return index >= Root && index <= Count(); }
@@ -59,6 +67,8 @@ public:
 
 private:
     void AddFolders(const QString& path);
+    void CountRows();
+    void LearnKeys();
     void Require(int index) const;
 
     std::vector<FolderNode> nodes_;

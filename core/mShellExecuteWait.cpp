@@ -66,16 +66,17 @@ void mShellExecuteWait::ReactTo(int instApp, const QString& path) {
         Tell(instApp);
 }
 
-void mShellExecuteWait::WaitFor(Processes::Handle process) {
+void mShellExecuteWait::WaitFor(Processes::Handle process, const std::function<bool()>& goesOn) {
     // Ends with the program, whatever its exit code.
-    while (!Processes::ExitCode(process)) {
+    while (goesOn() && !Processes::ExitCode(process)) {
         Host::Current().Yield();
         QThread::msleep(PauseMilliseconds);
     }
     Processes::Close(process);
 }
 
-Processes::Handle mShellExecuteWait::OpenWithShell(const QString& path, quintptr owner, bool wait) {
+Processes::Handle mShellExecuteWait::OpenWithShell(const QString& path, quintptr owner, bool wait,
+                                                   const std::function<bool()>& goesOn) {
     // Capitals go to the system. Meant.
     if (path.endsWith(u"csf"_s)) {
         mMain::CsfOpenedByHost = true;
@@ -85,6 +86,6 @@ Processes::Handle mShellExecuteWait::OpenWithShell(const QString& path, quintptr
     const Processes::Opened opened = Processes::OpenWithAssociation(path, owner);
     ReactTo(opened.InstApp, path);
     if (wait && opened.Process != 0)
-        WaitFor(opened.Process);
+        WaitFor(opened.Process, goesOn);
     return opened.Process;
 }

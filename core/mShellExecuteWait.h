@@ -8,12 +8,16 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace mShellExecuteWait {
 
 /// Opens `path`; with `wait` returns only when that program has ended, keeping the event loop turning. A path that
 /// ends in "csf" goes to the CSF Editor instead. What the system refuses is told in a message box.
-/// `owner` is the calling window's handle. Returns the process handle or 0.
-Processes::Handle OpenWithShell(const QString& path, quintptr owner, bool wait);
+/// `owner` is the calling window's handle. The wait is given up as soon as `goesOn` says no; whoever opens a file from
+/// something that may go while it waits keeps it out of what follows. Returns the process handle or 0.
+Processes::Handle OpenWithShell(
+    const QString& path, quintptr owner, bool wait, const std::function<bool()>& goesOn = [] { return true; });
 
 /// The fixed text that tells an answer of the shell; empty for one that is passed over (success, file not found) or
 /// that has another reaction.
@@ -22,7 +26,9 @@ QString RefusalText(int instApp);
 /// Does what an answer of the shell to opening `path` asks for: a message, the choice of a program, or nothing.
 void ReactTo(int instApp, const QString& path);
 
-/// Returns when the process has ended, whatever its exit code, keeping the event loop turning; gives the handle back.
-void WaitFor(Processes::Handle process);
+/// Returns when the process has ended, whatever its exit code, or `goesOn` says no, keeping the event loop turning;
+/// gives the handle back.
+void WaitFor(
+    Processes::Handle process, const std::function<bool()>& goesOn = [] { return true; });
 
 } // namespace mShellExecuteWait
