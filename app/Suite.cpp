@@ -6,6 +6,7 @@
 #include "big/frmBigEditor.h"
 #include "core/frmAbout.h"
 #include "core/frmToolsMenu.h"
+#include "platform/Processes.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -51,8 +52,13 @@ void Suite::OpenBigFile(const QString& path) {
     Open<frmBigEditor>()->OpenBigFile(path);
 }
 
-void Suite::ExtractBigFile(const QString& /*path*/) {
-    StayInMenu();
+// Without a window of its own the program could not be left: it ends with the extraction.
+void Suite::ExtractBigFile(const QString& path) {
+    {
+        frmBigEditor editor;
+        editor.ExtractBigFile(path);
+    }
+    Processes::End(0);
 }
 
 void Suite::ShowCSFEditor() {
@@ -84,5 +90,5 @@ void Suite::CheckForUpdates(bool /*automatic*/) {}
 void Suite::ActivateShellMap(GameIndex /*game*/) {}
 
 bool Suite::IsBuilt(Tool tool) const {
-    return tool == Tool::BigEditor;
+    return tool == Tool::BigEditor || tool == Tool::Extraction;
 }

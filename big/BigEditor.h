@@ -139,7 +139,8 @@ private:
     /// How a save ended.
     enum class Saved { Yes, NothingToSave, Cancelled, Failed };
 
-    /// True, with a beep, while a save is under way: it yields to the event loop, and the table has to stay until then.
+    /// True, with a beep, while a save or an extraction is under way: they yield to the event loop, and the table has
+    /// to stay until then.
     [[nodiscard]] bool Locked() const;
     bool GoOnWithoutChanges();
     void ResetAfterOpen();
@@ -150,11 +151,12 @@ private:
     Saved SaveUnderName();
     void ShowWritten(const QString& path);
     void AddFile(const QString& path);
+    [[nodiscard]] std::vector<qint32> ChosenForExtraction() const;
     [[nodiscard]] QString SelectedKey() const;
 
     EditorView& view_;
     EditorState state_;
     FolderTree tree_;
     FileList list_;
-    bool saving_ = false;
+    bool busy_ = false; ///< a save or an extraction is under way
 };

@@ -51,9 +51,9 @@ BigEntry* RecordFor(const QString& name) {
 } // namespace
 
 bool BigEditor::Locked() const {
-    if (saving_)
+    if (busy_)
         Host::Current().Beep();
-    return saving_;
+    return busy_;
 }
 
 bool BigEditor::GoOnWithoutChanges() {
@@ -127,7 +127,7 @@ void BigEditor::SaveAs() {
 }
 
 bool BigEditor::WriteLocked(const QString& path) {
-    const QScopedValueRollback lock(saving_, true);
+    const QScopedValueRollback lock(busy_, true);
     return mBIG::WriteBigFile(path);
 }
 
