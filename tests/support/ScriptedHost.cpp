@@ -27,7 +27,7 @@ ScriptedHost::~ScriptedHost() {
 }
 
 Host::Answer ScriptedHost::Message(const QString& text, Icon icon, Buttons buttons, const QString& title) {
-    Messages.push_back({text, title, icon, buttons, ProgressShown});
+    Messages.push_back({text, title, icon, buttons, ProgressShown, TimerRunning});
     return buttons == Buttons::Ok ? Answer::Ok : Next(Answers, text);
 }
 

@@ -20,6 +20,7 @@ public:
         Icon Sign;
         Buttons Choice;
         bool OverProgress; ///< the progress window was on the screen
+        bool OverTimer;    ///< and came to the front by itself
     };
 
     ScriptedHost();
