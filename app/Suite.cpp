@@ -7,6 +7,7 @@
 #include "core/frmAbout.h"
 #include "core/frmToolsMenu.h"
 #include "csf/frmCSFEditor.h"
+#include "platform/Processes.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -58,8 +59,13 @@ void Suite::OpenBigFile(const QString& path) {
     Open<frmBigEditor>()->OpenBigFile(path);
 }
 
-void Suite::ExtractBigFile(const QString& /*path*/) {
-    StayInMenu();
+// Without a window of its own the program could not be left: it ends with the extraction.
+void Suite::ExtractBigFile(const QString& path) {
+    {
+        frmBigEditor editor;
+        editor.ExtractBigFile(path);
+    }
+    Processes::End(0);
 }
 
 void Suite::ShowCSFEditor() {
@@ -97,5 +103,5 @@ void Suite::CheckForUpdates(bool /*automatic*/) {}
 void Suite::ActivateShellMap(GameIndex /*game*/) {}
 
 bool Suite::IsBuilt(Tool tool) const {
-    return tool == Tool::BigEditor || tool == Tool::CSFEditor;
+    return tool == Tool::BigEditor || tool == Tool::CSFEditor || tool == Tool::Extraction;
 }

@@ -168,6 +168,7 @@ private:
     Saved SaveUnderName();
     void ShowWritten(const QString& path);
     void AddFile(const QString& path);
+    [[nodiscard]] std::vector<qint32> ChosenForExtraction() const;
     [[nodiscard]] QString SelectedKey() const;
     void DeleteFolder(int node);
     void DeleteRows();

@@ -51,6 +51,10 @@ void frmBigEditor::OpenBigFile(const QString& path) {
     editor_.OpenBigFile(path);
 }
 
+void frmBigEditor::ExtractBigFile(const QString& path) {
+    editor_.ExtractBigFile(path);
+}
+
 void frmBigEditor::Dress() {
     Mnemonics::AddTo(*ui_->menuBar);
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));

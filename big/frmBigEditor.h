@@ -32,6 +32,10 @@ public:
     /// as it is.
     void OpenBigFile(const QString& path);
 
+    /// Opens an archive without showing the window and extracts it into a folder that the user chooses. Returns when
+    /// that is done; a file that doesn't exist is ignored, a refused one beeps.
+    void ExtractBigFile(const QString& path);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 

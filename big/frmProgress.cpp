@@ -8,6 +8,7 @@
 #include "ui_frmProgress.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QScreen>
 #include <QShowEvent>
 
@@ -26,10 +27,7 @@ frmProgress::frmProgress(QWidget* parent) : QWidget(parent, Qt::Dialog), ui_(std
     timer_.setObjectName(u"Timer1"_s);
     timer_.setParent(this);
     connect(&timer_, &QTimer::timeout, this, &QWidget::raise);
-    connect(ui_->cmdCancel, &QPushButton::clicked, this, [this] {
-        timer_.stop();
-        cancelled_ = true;
-    });
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmProgress::Cancel);
 }
 
 frmProgress::~frmProgress() = default;
@@ -40,6 +38,21 @@ void frmProgress::SetText(const QString& text) {
 
 void frmProgress::SetValue(int percent) {
     ui_->ProgressBar1->setValue(percent);
+}
+
+void frmProgress::Cancel() {
+    timer_.stop();
+    cancelled_ = true;
+}
+
+void frmProgress::StopTimer() {
+    timer_.stop();
+}
+
+// Without the window the button could not be pressed any more.
+void frmProgress::closeEvent(QCloseEvent* event) {
+    Cancel();
+    QWidget::closeEvent(event);
 }
 
 void frmProgress::showEvent(QShowEvent* event) {

@@ -26,11 +26,15 @@ public:
     void SetText(const QString& text) override;
     void SetValue(int percent) override;
 
-    /// Set by the button; a save never looks at it.
-    [[nodiscard]] bool Cancelled() const { return cancelled_; }
+    /// Set by the button and by closing the window; a save never looks at it.
+    [[nodiscard]] bool Cancelled() const override { return cancelled_; }
+
+    void Cancel() override;
+    void StopTimer() override;
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     std::unique_ptr<Ui::frmProgress> ui_;

@@ -154,10 +154,13 @@ void ZeroTail(int number, qint64 from, qint64 to) {
         NumberedFiles::SetLength(number, to);
 }
 
-void ExtractFromArchive(const BigEntry& entry, const QString& archivePath, const QString& targetPath) {
+using OpenTarget = void (*)(int number, const QString& path, Access access);
+
+void ExtractFromArchive(const BigEntry& entry, const QString& archivePath, const QString& targetPath,
+                        OpenTarget openTarget) {
     NumberedFiles::Open(ExtractArchiveNumber, archivePath, Access::Read);
     try {
-        NumberedFiles::Open(ExtractTargetNumber, targetPath, Access::ReadWrite);
+        openTarget(ExtractTargetNumber, targetPath, Access::ReadWrite);
     } catch (const RuntimeError&) {
         NumberedFiles::Close(ExtractArchiveNumber);
         throw;
@@ -199,7 +202,20 @@ void ExtractEntry(int index, const QString& archivePath, const QString& targetPa
     if (entry.IsNew)
         Files::Copy(entry.SourcePath, targetPath);
     else
-        ExtractFromArchive(entry, archivePath, targetPath);
+        ExtractFromArchive(entry, archivePath, targetPath, NumberedFiles::Open);
+}
+
+void ExtractEntryAsGiven(int index, const QString& archivePath, const QString& targetPath) {
+    const BigEntry entry = BigEntries.at(static_cast<std::size_t>(index));
+    if (entry.IsNew)
+        Files::CopyAsGiven(entry.SourcePath, targetPath);
+    else
+        ExtractFromArchive(entry, archivePath, targetPath, NumberedFiles::OpenAsGiven);
+}
+
+void CloseExtraction() {
+    for (const int number : {ExtractTargetNumber, ExtractArchiveNumber})
+        Ignoring([number] { NumberedFiles::Close(number); });
 }
 
 int FindEntry(const QString& name) {

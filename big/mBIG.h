@@ -52,6 +52,12 @@ QString LastFailure();
 /// archive: that raises 9 and leaves the file numbers 3 and 4 open.
 void ExtractEntry(int index, const QString& archivePath, const QString& targetPath);
 
+/// The same for a target path whose case is known to be right: nothing is looked up.
+void ExtractEntryAsGiven(int index, const QString& archivePath, const QString& targetPath);
+
+/// Closes what an entry of size 0 left open.
+void CloseExtraction();
+
 /// First index with that name, ignoring case, deleted records included; -1 when there is none.
 int FindEntry(const QString& name);
 

@@ -138,12 +138,15 @@ QString FolderGateway::TargetFor(const QString& name) {
         return folder.Path + file;
     }
     QString path = folder.Path + *found;
-    // A name that was handed out before may have no file yet.
-    if (!Files::FileExists(path) && !Files::FolderExists(path)) {
-        if (Files::IsLink(path))
-            Refuse(name, u"is a link that leads nowhere"_s);
-    } else if (!IsInside(path)) {
-        Refuse(name, u"leads out of its folder"_s);
+    switch (Files::StandingAsGiven(path)) {
+    case Files::Standing::Nothing: // a name that was handed out before
+        break;
+    case Files::Standing::LinkToNowhere:
+        Refuse(name, u"is a link that leads nowhere"_s);
+    case Files::Standing::File:
+    case Files::Standing::Folder:
+        if (!IsInside(path))
+            Refuse(name, u"leads out of its folder"_s);
     }
     return path;
 }

@@ -44,7 +44,14 @@ public:
     virtual void ShowProgress() = 0;
     virtual void SetProgressText(const QString& text) = 0;
     virtual void SetProgressValue(int percent) = 0;
+    virtual void HideProgress() = 0;
     virtual void UnloadProgress() = 0;
+    /// Whether the window was cancelled, by its button or by CancelProgress; false when there is none.
+    [[nodiscard]] virtual bool ProgressCancelled() const = 0;
+    /// As the window's button: stops its timer and marks it cancelled.
+    virtual void CancelProgress() = 0;
+    /// The window comes to the front by itself no longer.
+    virtual void StopProgressTimer() = 0;
 
     /// Lets waiting window events run.
     virtual void Yield() = 0;

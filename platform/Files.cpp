@@ -86,6 +86,20 @@ void Delete(const QString& pattern) {
         DeleteForced(pattern.first(split) + name);
 }
 
+void DeleteFolder(const QString& path) {
+    const QString folder = WithoutTrailingBackslash(path);
+    Ignoring([&] {
+        for (const FolderEntry& entry : FolderEntries(folder)) {
+            const QString below = folder + u'\\' + entry.Name;
+            if (!entry.IsFolder)
+                Ignoring([&] { DeleteForced(below); });
+            else if (!IsLink(below))
+                DeleteFolder(below);
+        }
+        RemoveFolder(folder);
+    });
+}
+
 QString TemporaryBeside(const QString& path) {
     static int counter = 0;
     const QString folder = path.first(path.lastIndexOf(u'\\') + 1);

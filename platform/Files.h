@@ -27,6 +27,16 @@ void MakeFolder(const QString& path);
 /// The same for a path whose case is known to be right: nothing is looked up.
 void MakeFolderAsGiven(const QString& path);
 
+enum class Standing {
+    Nothing,
+    File,
+    Folder,
+    LinkToNowhere, ///< on Windows such a link is a file
+};
+
+/// What stands at a path whose case is known to be right; links are followed.
+Standing StandingAsGiven(const QString& path);
+
 /// True for a symbolic link, wherever it leads.
 bool IsLink(const QString& path);
 
@@ -36,6 +46,9 @@ void MakeFolders(const QString& path);
 /// Removes an empty folder. Raises 76 when missing, 75 when it can't be removed.
 void RemoveFolder(const QString& path);
 
+/// Removes a folder with everything in it. Links are never followed; what can't be removed stays, without a word.
+void DeleteFolder(const QString& path);
+
 /// Deletes every file that `pattern` names ('*' and '?' in its last part). Raises 53 when there is none.
 void Delete(const QString& pattern);
 
@@ -44,6 +57,9 @@ void DeleteForced(const QString& path);
 
 /// Copies a file over whatever stands at the target. Raises 53, 70, 75, 76, 61.
 void Copy(const QString& from, const QString& to);
+
+/// The same for a target whose case is known to be right: nothing is looked up there.
+void CopyAsGiven(const QString& from, const QString& to);
 
 /// Renames or moves. Raises 53 when missing, 58 when the target exists, 75 when refused.
 void Rename(const QString& from, const QString& to);

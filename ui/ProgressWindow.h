@@ -23,6 +23,11 @@ public:
     virtual void SetText(const QString& text) = 0;
     /// 0 to 100.
     virtual void SetValue(int percent) = 0;
+    [[nodiscard]] virtual bool Cancelled() const = 0;
+    /// As its button: stops the timer and sets Cancelled.
+    virtual void Cancel() = 0;
+    /// The window comes to the front by itself no longer.
+    virtual void StopTimer() = 0;
 };
 
 using ProgressWindowMaker = std::function<std::unique_ptr<ProgressWindow>()>;

@@ -148,6 +148,25 @@ void WindowHost::SetProgressValue(int percent) {
         progress_->SetValue(percent);
 }
 
+void WindowHost::HideProgress() {
+    if (progress_)
+        progress_->Widget()->hide();
+}
+
+bool WindowHost::ProgressCancelled() const {
+    return progress_ && progress_->Cancelled();
+}
+
+void WindowHost::CancelProgress() {
+    if (progress_)
+        progress_->Cancel();
+}
+
+void WindowHost::StopProgressTimer() {
+    if (progress_)
+        progress_->StopTimer();
+}
+
 void WindowHost::UnloadProgress() {
     progress_.reset();
 }

@@ -23,7 +23,11 @@ public:
     void ShowProgress() override;
     void SetProgressText(const QString& text) override;
     void SetProgressValue(int percent) override;
+    void HideProgress() override;
     void UnloadProgress() override;
+    [[nodiscard]] bool ProgressCancelled() const override;
+    void CancelProgress() override;
+    void StopProgressTimer() override;
     void Yield() override;
 
 private:

@@ -25,7 +25,15 @@ public:
 
     void SetProgressValue(int /*percent*/) override {}
 
+    void HideProgress() override {}
+
     void UnloadProgress() override {}
+
+    [[nodiscard]] bool ProgressCancelled() const override { return false; }
+
+    void CancelProgress() override {}
+
+    void StopProgressTimer() override {}
 
     void Yield() override {}
 };

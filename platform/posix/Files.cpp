@@ -23,7 +23,14 @@ namespace {
 
 /// A path with both forms that the system calls and the messages need.
 struct Native {
-    explicit Native(const QString& path) : Text(Paths::ToNative(path)), Bytes(Paths::EncodeNative(Text)) {}
+    explicit Native(const QString& path) : Native(Paths::ToNative(path), 0) {}
+
+    static Native AsGiven(const QString& path) { return {Paths::ToNativeAsGiven(path), 0}; }
+
+    /// A file of its own in the same folder.
+    [[nodiscard]] Native Beside(const QString& name) const {
+        return {Text.first(Text.lastIndexOf(u'/') + 1) + name, 0};
+    }
 
     [[noreturn]] void Raise(int error) const { RaiseErrno(error, Text); }
 
@@ -31,6 +38,9 @@ struct Native {
 
     QString Text;
     QByteArray Bytes;
+
+private:
+    Native(const QString& text, int) : Text(text), Bytes(Paths::EncodeNative(text)) {}
 };
 
 std::optional<struct stat> Status(const QString& path) {
@@ -76,6 +86,43 @@ void MakeNative(const QString& native) {
     if (error == ENOENT)
         throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(native));
     RaiseErrno(error, native);
+}
+
+/// Opens a new file in the target's folder; `name` becomes its path.
+Descriptor OpenBeside(const Native& target, Native& name) {
+    static int counter = 0;
+    const QString pattern = QStringLiteral("~brindock-%1-copy-%2").arg(::getpid());
+    for (;;) {
+        name = target.Beside(pattern.arg(++counter));
+        Descriptor file(::open(name.Path(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (file.Valid())
+            return file;
+        if (errno != EEXIST)
+            target.Raise(errno == ENOENT ? ENOTDIR : errno);
+    }
+}
+
+void CopyNative(const Native& source, const Native& target) {
+    const Descriptor reading(::open(source.Path(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+
+    struct stat status {};
+
+    if (!reading.Valid() || ::fstat(reading.Number(), &status) != 0)
+        source.Raise(errno);
+    if (!S_ISREG(status.st_mode))
+        source.Raise(EISDIR);
+    if (::access(target.Path(), F_OK) == 0 && ::access(target.Path(), W_OK) != 0)
+        target.Raise(EACCES);
+    Native aside = target;
+    Descriptor writing = OpenBeside(target, aside);
+    try {
+        TransferBytes(writing.Number(), 0, reading.Number(), 0, status.st_size, target.Text);
+        if (::rename(aside.Path(), target.Path()) != 0)
+            target.Raise(errno);
+    } catch (const RuntimeError&) {
+        ::unlink(aside.Path());
+        throw;
+    }
 }
 
 } // namespace
@@ -132,6 +179,18 @@ void MakeFolderAsGiven(const QString& path) {
     MakeNative(Paths::ToNativeAsGiven(FolderPath(path)));
 }
 
+Standing StandingAsGiven(const QString& path) {
+    const Native native = Native::AsGiven(path);
+
+    struct stat status {};
+
+    if (::lstat(native.Path(), &status) != 0)
+        return Standing::Nothing;
+    if (S_ISLNK(status.st_mode) && ::stat(native.Path(), &status) != 0)
+        return Standing::LinkToNowhere;
+    return S_ISDIR(status.st_mode) ? Standing::Folder : Standing::File;
+}
+
 bool IsLink(const QString& path) {
     struct stat status {};
 
@@ -155,30 +214,11 @@ void DeleteForced(const QString& path) {
 }
 
 void Copy(const QString& from, const QString& to) {
-    const Native source(from);
-    const Native target(to);
-    const Descriptor reading(::open(source.Path(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    CopyNative(Native(from), Native(to));
+}
 
-    struct stat status {};
-
-    if (!reading.Valid() || ::fstat(reading.Number(), &status) != 0)
-        source.Raise(errno);
-    if (!S_ISREG(status.st_mode))
-        source.Raise(EISDIR);
-    if (::access(target.Path(), F_OK) == 0 && ::access(target.Path(), W_OK) != 0)
-        target.Raise(EACCES);
-    const QString aside = TemporaryBeside(to);
-    try {
-        const Native writing(aside);
-        Descriptor written(::open(writing.Path(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-        if (!written.Valid())
-            target.Raise(errno == ENOENT ? ENOTDIR : errno);
-        TransferBytes(written.Number(), 0, reading.Number(), 0, status.st_size, target.Text);
-        Replace(aside, to);
-    } catch (const RuntimeError&) {
-        Ignoring([&] { DeleteForced(aside); });
-        throw;
-    }
+void CopyAsGiven(const QString& from, const QString& to) {
+    CopyNative(Native(from), Native::AsGiven(to));
 }
 
 void Rename(const QString& from, const QString& to) {

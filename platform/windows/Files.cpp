@@ -116,6 +116,13 @@ void MakeFolderAsGiven(const QString& path) {
     MakeFolder(path);
 }
 
+Standing StandingAsGiven(const QString& path) {
+    const auto attributes = Attributes(path);
+    if (!attributes)
+        return Standing::Nothing;
+    return IsFolder(attributes->dwFileAttributes) ? Standing::Folder : Standing::File;
+}
+
 bool IsLink(const QString& path) {
     const DWORD attributes = GetFileAttributesW(WidePath(FolderPath(path)).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
@@ -161,6 +168,10 @@ void Copy(const QString& from, const QString& to) {
         Ignoring([&] { DeleteForced(aside); });
         throw;
     }
+}
+
+void CopyAsGiven(const QString& from, const QString& to) {
+    Copy(from, to);
 }
 
 void Rename(const QString& from, const QString& to) {

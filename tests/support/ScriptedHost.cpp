@@ -27,7 +27,7 @@ ScriptedHost::~ScriptedHost() {
 }
 
 Host::Answer ScriptedHost::Message(const QString& text, Icon icon, Buttons buttons, const QString& title) {
-    Messages.push_back({text, title, icon, buttons});
+    Messages.push_back({text, title, icon, buttons, ProgressShown, TimerRunning});
     return buttons == Buttons::Ok ? Answer::Ok : Next(Answers, text);
 }
 
@@ -51,6 +51,8 @@ std::optional<QString> ScriptedHost::SaveFileName(const FileDialog& dialog) {
 
 void ScriptedHost::ShowProgress() {
     ProgressShown = true;
+    Cancelled = false;
+    TimerRunning = true;
 }
 
 void ScriptedHost::SetProgressText(const QString& text) {
@@ -61,8 +63,22 @@ void ScriptedHost::SetProgressValue(int percent) {
     ProgressValues.push_back(percent);
 }
 
+void ScriptedHost::HideProgress() {
+    ProgressShown = false;
+}
+
+void ScriptedHost::CancelProgress() {
+    Cancelled = true;
+    TimerRunning = false;
+}
+
+void ScriptedHost::StopProgressTimer() {
+    TimerRunning = false;
+}
+
 void ScriptedHost::UnloadProgress() {
     ProgressShown = false;
+    TimerRunning = false;
 }
 
 void ScriptedHost::Yield() {

@@ -19,6 +19,8 @@ public:
         QString Title;
         Icon Sign;
         Buttons Choice;
+        bool OverProgress; ///< the progress window was on the screen
+        bool OverTimer;    ///< and came to the front by itself
     };
 
     ScriptedHost();
@@ -34,6 +36,8 @@ public:
     int Beeps = 0;
     int Yields = 0;
     bool ProgressShown = false;
+    bool Cancelled = false;        ///< the progress window's; false again when the next one is shown
+    bool TimerRunning = false;     ///< the progress window's
     std::function<void()> OnYield; ///< runs inside each Yield
 
     Answer Message(const QString& text, Icon icon, Buttons buttons, const QString& title) override;
@@ -44,6 +48,12 @@ public:
     void ShowProgress() override;
     void SetProgressText(const QString& text) override;
     void SetProgressValue(int percent) override;
+    void HideProgress() override;
     void UnloadProgress() override;
+
+    [[nodiscard]] bool ProgressCancelled() const override { return Cancelled; }
+
+    void CancelProgress() override;
+    void StopProgressTimer() override;
     void Yield() override;
 };

@@ -71,6 +71,21 @@ private Q_SLOTS:
         QVERIFY(window_->isVisible());
     }
 
+    void closingTheWindowCancelsToo() {
+        Open();
+        window_->close();
+        QVERIFY(window_->Cancelled());
+        QVERIFY(!Part<QTimer>("Timer1")->isActive());
+        QVERIFY(!window_->isVisible());
+    }
+
+    void theTimerCanBeStoppedWithoutCancelling() {
+        Open();
+        window_->StopTimer();
+        QVERIFY(!Part<QTimer>("Timer1")->isActive());
+        QVERIFY(!window_->Cancelled());
+    }
+
     void withoutItsFileTheAnimationDrawsAndMoves() {
         Open();
         auto* animation = Part<BusyAnimation>("Animation1");

@@ -35,6 +35,12 @@ public:
 
     void SetValue(int percent) override { label_->setProperty("percent", percent); }
 
+    [[nodiscard]] bool Cancelled() const override { return label_->property("cancelled").toBool(); }
+
+    void Cancel() override { label_->setProperty("cancelled", true); }
+
+    void StopTimer() override { label_->setProperty("stopped", true); }
+
 private:
     QLabel* label_;
 };
@@ -177,6 +183,20 @@ private Q_SLOTS:
         QVERIFY(!label_.isVisible());
         host_->SetProgressValue(50); // after the end: nothing
         QCOMPARE(label_.property("percent").toInt(), 42);
+    }
+
+    void theProgressWindowIsHiddenCancelledAndItsTimerStopped() {
+        QVERIFY(!host_->ProgressCancelled());
+        host_->ShowProgress();
+        QVERIFY(!host_->ProgressCancelled());
+        host_->CancelProgress();
+        QVERIFY(host_->ProgressCancelled());
+        host_->StopProgressTimer();
+        QVERIFY(label_.property("stopped").toBool());
+        host_->HideProgress();
+        QVERIFY(!label_.isVisible());
+        host_->UnloadProgress();
+        QVERIFY2(!host_->ProgressCancelled(), "without a window nothing is cancelled");
     }
 
     void yieldLetsWaitingEventsRun() {

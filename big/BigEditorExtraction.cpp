@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/BigEditor.h"
+
+#include "core/Host.h"
+#include "core/mMain.h"
+#include "core/mTraduction.h"
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+using mTraduction::GetText;
+
+namespace {
+
+/// The window takes no input for the length of a block.
+class Disabled {
+public:
+    explicit Disabled(EditorView& view) : view_(view) { view_.EnableWindow(false); }
+
+    ~Disabled() { view_.EnableWindow(true); }
+
+    Disabled(const Disabled&) = delete;
+    Disabled& operator=(const Disabled&) = delete;
+
+private:
+    EditorView& view_;
+};
+
+/// Where the rows of a drag are extracted: below the scratch folder and apart from it, as the files of modified entries
+/// that are not saved yet stand there. Each running program has one of its own.
+QString DragFolder() {
+    return mMain::ProgramFolder + u"\\Temp\\Drag%1\\"_s.arg(QCoreApplication::applicationPid());
+}
+
+} // namespace
+
+std::vector<qint32> BigEditor::ChosenForExtraction() const {
+    std::vector<qint32> extractList;
+    // A node that is not there fails the compare, and a failed compare takes the entry. This is meant.
+    const auto takeNode = [&](int node) {
+        if (tree_.Has(node))
+            Extraction::TakeFolder(extractList, tree_.Node(node).Key, Qt::CaseSensitive);
+        else
+            Extraction::TakeAll(extractList);
+    };
+    if (state_.FocusPane == FocusedPane::Tree) {
+        takeNode(state_.SelectedNode);
+        return extractList;
+    }
+    for (const int place : view_.SelectedRows()) {
+        const FileRow& row = list_.Row(place);
+        if (row.IsFolder)
+            takeNode(row.Index);
+        else if (row.Index <= mBIG::HighestIndex())
+            Extraction::Take(extractList, row.Index);
+    }
+    return extractList;
+}
+
+void BigEditor::Extract() {
+    if (mBIG::HighestIndex() == 0 || Locked())
+        return;
+    const QScopedValueRollback lock(busy_, true);
+    state_.StatusText = GetText(u"BuildingFileList"_s);
+    view_.StateChanged();
+    const std::vector<qint32> extractList = ChosenForExtraction();
+    if (extractList.empty())
+        return;
+    const ExtractionTarget target = view_.AskForFolder();
+    if (target.ExtractCancelled)
+        return;
+    const Disabled disabled(view_);
+    Extraction::DoExtract(extractList, target, true);
+}
+
+bool BigEditor::ExtractBigFile(const QString& path) {
+    if (!Files::FileExists(path) || Locked())
+        return false;
+    if (LoadBig(path)) {
+        state_.SelectedNode = FolderTree::Root;
+        state_.FocusPane = FocusedPane::Tree;
+        Extract();
+    } else {
+        Host::Current().Beep();
+    }
+    return true;
+}
+
+QStringList BigEditor::ExtractForDrag() {
+    if (Locked())
+        return {};
+    const QScopedValueRollback lock(busy_, true);
+    DragEnded();
+    ExtractionTarget target{.ExtractFolder = DragFolder(), .ExtractCancelled = false, .RecreateFolders = false};
+    std::vector<qint32> extractList;
+    QStringList dragged;
+    for (const int place : view_.SelectedRows()) {
+        const FileRow& row = list_.Row(place);
+        if (!row.IsFolder && row.Index <= mBIG::HighestIndex()) {
+            Extraction::Take(extractList, row.Index);
+            dragged += target.ExtractFolder + LastPart(row.Name);
+        } else if (row.IsFolder && tree_.Has(row.Index)) {
+            const QString& key = tree_.Node(row.Index).Key;
+            Extraction::TakeFolder(extractList, key, Qt::CaseInsensitive);
+            // One folder among the rows has the files extracted into their folders too, where they are not looked for.
+            // This is meant.
+            target.RecreateFolders = true;
+            dragged += target.ExtractFolder + key.chopped(1);
+        }
+    }
+    if (!extractList.empty())
+        Extraction::DoExtract(extractList, target, false);
+    return dragged;
+}
+
+void BigEditor::DragEnded() {
+    Files::DeleteFolder(DragFolder());
+}
