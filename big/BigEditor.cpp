@@ -116,6 +116,19 @@ void BigEditor::ClickNode(int node) {
     ShowFolder(key);
 }
 
+void BigEditor::EnterList() {
+    if (state_.ArchiveOpen)
+        state_.FocusPane = FocusedPane::List;
+}
+
+void BigEditor::OfferRow(int place) {
+    if (place < 0 || place >= list_.Count())
+        return;
+    state_.FocusPane = FocusedPane::List;
+    state_.ModifyEnabled = !list_.Row(place).IsFolder;
+    view_.StateChanged();
+}
+
 ViewMode BigEditor::View() {
     bool isNumber = false;
     const int value = ReadSetting(u"BigView"_s).toInt(&isNumber);

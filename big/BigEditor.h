@@ -120,6 +120,8 @@ public:
     /// Opens an archive without a window and extracts it; false when there is no such file.
     bool ExtractBigFile(const QString& path);
 
+    /// The inside paths that ExtractForDrag would return; makes nothing.
+    [[nodiscard]] QStringList DragNames() const;
     /// The drop target of a drag that began in the list asks for the files: extracts the selected rows into the scratch
     /// folder and returns the inside paths of what was dragged.
     QStringList ExtractForDrag();
@@ -133,6 +135,10 @@ public:
     void ClickNode(int node);
     /// A click on a row of the list, or its selection by a key.
     void ClickRow(int place);
+    /// The list was clicked beside its rows, or reached with the keyboard: the commands act on its rows.
+    void EnterList();
+    /// The menu is asked for on a row, which is the selected one then.
+    void OfferRow(int place);
     /// A double click on a row, or the Enter key: a folder row opens its folder, a file row is modified.
     void ActivateRow(int place);
 
@@ -143,6 +149,13 @@ public:
 private:
     /// How a save ended.
     enum class Saved { Yes, NothingToSave, Cancelled, Failed };
+
+    /// What dragging the selected rows out brings.
+    struct DragPlan {
+        std::vector<qint32> ExtractList; ///< indices in the table
+        ExtractionTarget Target;
+        QStringList Dragged; ///< inside paths of files and folders
+    };
 
     /// What began a Modify.
     enum class Trigger { Menu, Row };
@@ -169,6 +182,7 @@ private:
     void ShowWritten(const QString& path);
     void AddFile(const QString& path);
     [[nodiscard]] std::vector<qint32> ChosenForExtraction() const;
+    [[nodiscard]] DragPlan PlanDrag() const;
     [[nodiscard]] QString SelectedKey() const;
     void DeleteFolder(int node);
     void DeleteRows();

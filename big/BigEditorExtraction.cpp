@@ -91,31 +91,39 @@ bool BigEditor::ExtractBigFile(const QString& path) {
     return true;
 }
 
+BigEditor::DragPlan BigEditor::PlanDrag() const {
+    DragPlan plan;
+    plan.Target = {.ExtractFolder = DragFolder(), .ExtractCancelled = false, .RecreateFolders = false};
+    for (const int place : view_.SelectedRows()) {
+        const FileRow& row = list_.Row(place);
+        if (!row.IsFolder && row.Index <= mBIG::HighestIndex()) {
+            Extraction::Take(plan.ExtractList, row.Index);
+            plan.Dragged += plan.Target.ExtractFolder + LastPart(row.Name);
+        } else if (row.IsFolder && tree_.Has(row.Index)) {
+            const QString& key = tree_.Node(row.Index).Key;
+            Extraction::TakeFolder(plan.ExtractList, key, Qt::CaseInsensitive);
+            // One folder among the rows has the files extracted into their folders too, where they are not looked for.
+            // This is meant.
+            plan.Target.RecreateFolders = true;
+            plan.Dragged += plan.Target.ExtractFolder + key.chopped(1);
+        }
+    }
+    return plan;
+}
+
+QStringList BigEditor::DragNames() const {
+    return PlanDrag().Dragged;
+}
+
 QStringList BigEditor::ExtractForDrag() {
     if (Locked())
         return {};
     const QScopedValueRollback lock(busy_, true);
     DragEnded();
-    ExtractionTarget target{.ExtractFolder = DragFolder(), .ExtractCancelled = false, .RecreateFolders = false};
-    std::vector<qint32> extractList;
-    QStringList dragged;
-    for (const int place : view_.SelectedRows()) {
-        const FileRow& row = list_.Row(place);
-        if (!row.IsFolder && row.Index <= mBIG::HighestIndex()) {
-            Extraction::Take(extractList, row.Index);
-            dragged += target.ExtractFolder + LastPart(row.Name);
-        } else if (row.IsFolder && tree_.Has(row.Index)) {
-            const QString& key = tree_.Node(row.Index).Key;
-            Extraction::TakeFolder(extractList, key, Qt::CaseInsensitive);
-            // One folder among the rows has the files extracted into their folders too, where they are not looked for.
-            // This is meant.
-            target.RecreateFolders = true;
-            dragged += target.ExtractFolder + key.chopped(1);
-        }
-    }
-    if (!extractList.empty())
-        Extraction::DoExtract(extractList, target, false);
-    return dragged;
+    const DragPlan plan = PlanDrag();
+    if (!plan.ExtractList.empty())
+        Extraction::DoExtract(plan.ExtractList, plan.Target, false);
+    return plan.Dragged;
 }
 
 void BigEditor::DragEnded() {

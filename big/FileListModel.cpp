@@ -53,6 +53,7 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
         return {};
     switch (role) {
     case Qt::DisplayRole:
+    case Qt::EditRole:
         return Text(index);
     case Qt::ToolTipRole:
         return list_.Text(index.row());
@@ -65,6 +66,21 @@ QVariant FileListModel::data(const QModelIndex& index, int role) const {
     default:
         return {};
     }
+}
+
+Qt::ItemFlags FileListModel::flags(const QModelIndex& index) const {
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    const Qt::ItemFlags row =
+        Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    return index.column() == FileList::Filename ? row | Qt::ItemIsEditable : row;
+}
+
+bool FileListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole || index.column() != FileList::Filename || value.toString() == Text(index))
+        return false;
+    Q_EMIT RenameWanted(index.row(), value.toString());
+    return true;
 }
 
 QString FileListModel::Text(const QModelIndex& index) const {

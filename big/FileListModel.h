@@ -27,7 +27,14 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    /// The names of rows can be edited: tells RenameWanted, and takes nothing by itself.
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+Q_SIGNALS:
+    /// The end of the edit of a row's name, with the text as typed.
+    void RenameWanted(int place, const QString& text);
 
 private:
     [[nodiscard]] QString Text(const QModelIndex& index) const;

@@ -4,13 +4,19 @@
 #include "big/FileListView.h"
 
 #include "big/FileListModel.h"
+#include "platform/Paths.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QListView>
+#include <QMimeData>
 #include <QStyledItemDelegate>
+#include <QTimer>
 #include <QTreeView>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -34,7 +40,7 @@ public:
 /// where its icon mode takes each by itself, so large icons are list rows whose text stands below.
 class IconView : public QListView {
 public:
-    using QListView::QListView;
+    explicit IconView(FileListView* list) : QListView(list), list_(list) {}
 
     void SetLarge(bool large) {
         large_ = large;
@@ -52,11 +58,25 @@ protected:
         }
     }
 
+    void startDrag(Qt::DropActions /*supportedActions*/) override { Q_EMIT list_->DragStarted(); }
+
 private:
+    FileListView* list_;
     bool large_ = false;
 };
 
-QListView* MakeIcons(QWidget* parent) {
+class DetailsView : public QTreeView {
+public:
+    explicit DetailsView(FileListView* list) : QTreeView(list), list_(list) {}
+
+protected:
+    void startDrag(Qt::DropActions /*supportedActions*/) override { Q_EMIT list_->DragStarted(); }
+
+private:
+    FileListView* list_;
+};
+
+QListView* MakeIcons(FileListView* parent) {
     auto* view = new IconView(parent);
     view->setWrapping(true);
     view->setResizeMode(QListView::Adjust);
@@ -66,8 +86,8 @@ QListView* MakeIcons(QWidget* parent) {
     return view;
 }
 
-QTreeView* MakeDetails(QWidget* parent) {
-    auto* view = new QTreeView(parent);
+QTreeView* MakeDetails(FileListView* parent) {
+    auto* view = new DetailsView(parent);
     view->setRootIsDecorated(false);
     view->setItemsExpandable(false);
     view->setUniformRowHeights(true);
@@ -101,10 +121,15 @@ FileListView::FileListView(QWidget* parent)
 void FileListView::Prepare(QAbstractItemView* view) {
     view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
+    view->setDragEnabled(true);
+    view->setContextMenuPolicy(Qt::CustomContextMenu);
     view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     view->installEventFilter(this);
+    view->viewport()->installEventFilter(this);
+    view->viewport()->setAcceptDrops(true);
+    connect(view, &QWidget::customContextMenuRequested, this, &FileListView::ShowMenu);
     connect(view, &QAbstractItemView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT RowClicked(index.row()); });
     connect(view, &QAbstractItemView::doubleClicked, this,
@@ -202,12 +227,27 @@ QAbstractItemView* FileListView::Current() const {
     return static_cast<QAbstractItemView*>(currentWidget());
 }
 
-bool FileListView::eventFilter(QObject* watched, QEvent* event) {
+void FileListView::AddAction(QAction* action) {
+    details_->addAction(action);
+    icons_->addAction(action);
+}
+
+// A row under the pointer becomes the only selected one; the menu key asks for the current row.
+void FileListView::ShowMenu(QPoint place) {
+    QAbstractItemView* view = Current();
+    const QModelIndex row = view->indexAt(place);
+    if (row.isValid())
+        view->selectionModel()->setCurrentIndex(row.siblingAtColumn(0),
+                                                QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    Q_EMIT MenuWanted(row.row(), view->viewport()->mapToGlobal(place));
+}
+
+bool FileListView::KeyEvent(const QKeyEvent& event) {
     const QModelIndex row = Selection() == nullptr ? QModelIndex() : Selection()->currentIndex();
-    const bool press = event->type() == QEvent::KeyPress;
-    if (!row.isValid() || (!press && event->type() != QEvent::KeyRelease))
-        return QStackedWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (!row.isValid())
+        return false;
+    const int key = event.key();
+    const bool press = event.type() == QEvent::KeyPress;
     if (press && IsEnter(key)) {
         Q_EMIT RowActivated(row.row());
         return true;
@@ -215,5 +255,49 @@ bool FileListView::eventFilter(QObject* watched, QEvent* event) {
     // A key has moved the selection by the time it is let go of.
     if (!press && !IsEnter(key) && key != Qt::Key_Delete && !IsModifier(key) && Selection()->isSelected(row))
         Q_EMIT RowClicked(row.row());
-    return QStackedWidget::eventFilter(watched, event);
+    return false;
+}
+
+bool FileListView::DropEvent(QDropEvent& event) {
+    // Rows of this list that come back to it change nothing.
+    if (!event.mimeData()->hasUrls() || event.source() == Current()) {
+        event.ignore();
+        return true;
+    }
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+    if (event.type() != QEvent::Drop)
+        return true;
+    QStringList paths;
+    for (const QUrl& url : event.mimeData()->urls()) {
+        if (url.isLocalFile())
+            paths += Paths::FromNative(QDir::toNativeSeparators(url.toLocalFile()));
+    }
+    // The program that the files come from waits for the end of the drop: the work begins behind it.
+    QTimer::singleShot(0, this, [this, paths] { Q_EMIT FilesDropped(paths); });
+    return true;
+}
+
+bool FileListView::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return KeyEvent(*static_cast<QKeyEvent*>(event));
+    case QEvent::FocusIn:
+        if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
+            watched == Current() && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason))
+            Q_EMIT Entered();
+        return false;
+    case QEvent::MouseButtonPress:
+        if (watched == Current()->viewport() &&
+            !Current()->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint()).isValid())
+            Q_EMIT Entered();
+        return false;
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        return watched == Current()->viewport() && DropEvent(*static_cast<QDropEvent*>(event));
+    default:
+        return QStackedWidget::eventFilter(watched, event);
+    }
 }

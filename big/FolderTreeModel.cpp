@@ -55,9 +55,22 @@ QVariant FolderTreeModel::data(const QModelIndex& index, int role) const {
     if (!tree_.Has(NodeOf(index)))
         return {};
     const FolderNode& node = tree_.Node(NodeOf(index));
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole || role == Qt::EditRole)
         return node.Text;
     if (role == Qt::DecorationRole)
         return node.Parent == FolderTree::None ? archiveIcon_ : folderIcon_;
     return {};
+}
+
+Qt::ItemFlags FolderTreeModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags node = QAbstractItemModel::flags(index);
+    const int number = NodeOf(index);
+    return number == FolderTree::None || number == FolderTree::Root ? node : node | Qt::ItemIsEditable;
+}
+
+bool FolderTreeModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole || value.toString() == data(index, Qt::EditRole).toString())
+        return false;
+    Q_EMIT RenameWanted(NodeOf(index), value.toString());
+    return true;
 }

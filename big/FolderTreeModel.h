@@ -30,6 +30,13 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    /// A node's text can be edited, the root's excepted: tells RenameWanted, and takes nothing by itself.
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+Q_SIGNALS:
+    /// The end of the edit of a node's text, with the text as typed.
+    void RenameWanted(int node, const QString& text);
 
 private:
     const FolderTree& tree_;

@@ -5,6 +5,7 @@
 
 #include "big/FileListModel.h"
 #include "big/FolderTreeModel.h"
+#include "big/RowDrag.h"
 #include "big/frmVersion.h"
 #include "core/Navigator.h"
 #include "core/mMain.h"
@@ -19,6 +20,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
@@ -29,7 +31,8 @@ frmBigEditor::frmBigEditor(QWidget* parent)
       editor_(*this),
       treeModel_(new FolderTreeModel(editor_.Tree(), this)),
       listModel_(new FileListModel(editor_.List(), this)),
-      status_(new QLabel) {
+      status_(new QLabel),
+      selection_(new QLabel) {
     ui_->setupUi(this);
     links_ = {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3,
               ui_->Label2_4, ui_->Label2_5, ui_->Label2_6, ui_->Label2_7};
@@ -38,14 +41,18 @@ frmBigEditor::frmBigEditor(QWidget* parent)
     ui_->tvDirs->setModel(treeModel_);
     ui_->lvFiles->SetModel(listModel_);
     ConnectCommands();
-    ConnectViews();
+    ConnectTree();
+    ConnectList();
     const ViewMode mode = BigEditor::View();
     ui_->lvFiles->SetMode(mode);
     ui_->mnuView->actions().at(static_cast<int>(mode))->setChecked(true);
     StateChanged();
 }
 
-frmBigEditor::~frmBigEditor() = default;
+// The controls ask their models for rows as long as they stand: they go before the document does.
+frmBigEditor::~frmBigEditor() {
+    delete takeCentralWidget();
+}
 
 void frmBigEditor::OpenBigFile(const QString& path) {
     editor_.OpenBigFile(path);
@@ -67,19 +74,20 @@ void frmBigEditor::Dress() {
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
     ui_->StatusBar1->addWidget(status_, 1);
     ui_->mnuExit->setShortcuts({ui_->mnuExit->shortcut(), QKeySequence(u"Alt+F4"_s)});
-    for (QAction* action : NotBuilt())
-        action->setEnabled(false);
+    status_->setObjectName(u"lblStatus"_s);
+    selection_->setObjectName(u"lblSelection"_s);
+    selection_->setTextFormat(Qt::PlainText);
+    ui_->StatusBar1->addPermanentWidget(selection_);
+    // The Delete key belongs to the tree and the list; elsewhere it would remove what the user is not looking at.
+    ui_->mnuDelete->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    ui_->tvDirs->addAction(ui_->mnuDelete);
+    ui_->lvFiles->AddAction(ui_->mnuDelete);
     auto* views = new QActionGroup(this);
     for (QAction* action : ui_->mnuView->actions())
         views->addAction(action);
     for (SideLink* link : links_)
         connect(link, &SideLink::MouseMoved, this, [this, link] { UnderlineLink(link); });
     connect(ui_->picLeftMenu, &SidePane::MouseMoved, this, [this] { UnderlineLink(nullptr); });
-}
-
-// What stands in the menus and links already and has no command behind it yet.
-QList<QAction*> frmBigEditor::NotBuilt() const {
-    return {ui_->mnuModify, ui_->mnuExtract, ui_->mnuDelete, ui_->mnuNewFolder};
 }
 
 std::vector<frmBigEditor::Command> frmBigEditor::Commands() {
@@ -91,11 +99,11 @@ std::vector<frmBigEditor::Command> frmBigEditor::Commands() {
         {ui_->mnuSaveAs, NoLink, u"save-as"_s, of(&BigEditor::SaveAs)},
         {ui_->mnuFileVersion, 7, u"version"_s, of(&BigEditor::FileVersion)},
         {ui_->mnuExit, NoLink, u"exit"_s, [this] { close(); }},
-        {ui_->mnuModify, NoLink, u"modify"_s, {}},
-        {ui_->mnuExtract, 0, u"extract"_s, {}},
+        {ui_->mnuModify, NoLink, u"modify"_s, of(&BigEditor::Modify)},
+        {ui_->mnuExtract, 0, u"extract"_s, of(&BigEditor::Extract)},
         {ui_->mnuAdd, 1, u"add"_s, of(&BigEditor::Add)},
-        {ui_->mnuDelete, 2, u"delete"_s, {}},
-        {ui_->mnuNewFolder, 6, u"new-folder"_s, {}},
+        {ui_->mnuDelete, 2, u"delete"_s, of(&BigEditor::Delete)},
+        {ui_->mnuNewFolder, 6, u"new-folder"_s, of(&BigEditor::NewFolder)},
         {ui_->mnuLvView_0, NoLink, {}, [this] { ChooseView(ViewMode::LargeIcons); }},
         {ui_->mnuLvView_1, NoLink, {}, [this] { ChooseView(ViewMode::Details); }},
         {ui_->mnuLvView_2, NoLink, {}, [this] { ChooseView(ViewMode::SmallIcons); }},
@@ -111,8 +119,7 @@ void frmBigEditor::ConnectCommands() {
     for (const Command& command : Commands()) {
         if (!command.Picture.isEmpty())
             command.Action->setIcon(DrawnIcon::Named(command.Picture));
-        if (command.Run)
-            connect(command.Action, &QAction::triggered, this, command.Run);
+        connect(command.Action, &QAction::triggered, this, command.Run);
         if (command.Link == NoLink)
             continue;
         SideLink* link = links_.at(static_cast<std::size_t>(command.Link));
@@ -124,7 +131,7 @@ void frmBigEditor::ConnectCommands() {
     }
 }
 
-void frmBigEditor::ConnectViews() {
+void frmBigEditor::ConnectTree() {
     connect(ui_->tvDirs->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& node) {
         if (!following_)
             editor_.ClickNode(FolderTreeModel::NodeOf(node));
@@ -134,8 +141,77 @@ void frmBigEditor::ConnectViews() {
         if (editor_.State().FocusPane != FocusedPane::Tree)
             editor_.ClickNode(FolderTreeModel::NodeOf(node));
     });
-    connect(ui_->lvFiles, &FileListView::RowClicked, this, [this](int place) { editor_.ClickRow(place); });
-    connect(ui_->lvFiles, &FileListView::RowActivated, this, [this](int place) { editor_.ActivateRow(place); });
+    connect(ui_->tvDirs, &QWidget::customContextMenuRequested, this, [this](QPoint place) {
+        const QModelIndex node = ui_->tvDirs->indexAt(place);
+        if (!node.isValid())
+            return;
+        editor_.ClickNode(FolderTreeModel::NodeOf(node));
+        ui_->mnuEdit->popup(ui_->tvDirs->viewport()->mapToGlobal(place));
+    });
+    // The edit ends first: a rename makes the tree anew.
+    const auto rename = [this](int node, const QString& text) { editor_.RenameNode(node, text); };
+    connect(treeModel_, &FolderTreeModel::RenameWanted, this, rename, Qt::QueuedConnection);
+    ui_->tvDirs->installEventFilter(this);
+}
+
+void frmBigEditor::ConnectList() {
+    FileListView* const list = ui_->lvFiles;
+    connect(list, &FileListView::RowClicked, this, [this](int place) { editor_.ClickRow(place); });
+    connect(list, &FileListView::RowActivated, this, [this](int place) { editor_.ActivateRow(place); });
+    connect(list, &FileListView::Entered, this, [this] { editor_.EnterList(); });
+    connect(list, &FileListView::MenuWanted, this, &frmBigEditor::ShowMenu);
+    connect(list, &FileListView::DragStarted, this, &frmBigEditor::DragOut);
+    connect(list, &FileListView::FilesDropped, this, [this](const QStringList& paths) { editor_.DropFiles(paths); });
+    connect(list->Selection(), &QItemSelectionModel::selectionChanged, this, &frmBigEditor::TellSelection);
+    const auto rename = [this](int place, const QString& text) { editor_.RenameRow(place, text); };
+    connect(listModel_, &FileListModel::RenameWanted, this, rename, Qt::QueuedConnection);
+}
+
+// The menu for the row under the pointer, or that of the views.
+void frmBigEditor::ShowMenu(int place, QPoint globalPlace) {
+    editor_.EnterList();
+    editor_.OfferRow(place);
+    (place < 0 ? ui_->mnuView : ui_->mnuEdit)->popup(globalPlace);
+}
+
+void frmBigEditor::DragOut() {
+    const std::vector<int> places = SelectedRows();
+    if (places.empty())
+        return;
+    editor_.EnterList();
+    const auto picture = listModel_->index(places.front(), 0).data(Qt::DecorationRole).value<QIcon>();
+    DragRows(this, picture.pixmap(32),
+             {.Names = [this] { return editor_.DragNames(); },
+              .Extract = [this] { return editor_.ExtractForDrag(); },
+              .Ended = [this] { editor_.DragEnded(); }});
+}
+
+void frmBigEditor::TellSelection() {
+    const std::vector<int> places = SelectedRows();
+    const FileList& list = editor_.List();
+    const QLocale locale;
+    if (!editor_.State().ArchiveOpen) {
+        selection_->clear();
+    } else if (places.empty()) {
+        selection_->setText(mTraduction::GetText(u"RowCount"_s).replace("%1"_L1, locale.toString(list.Count())));
+    } else {
+        qint64 bytes = 0;
+        for (const int place : places)
+            bytes += list.Row(place).Size;
+        selection_->setText(mTraduction::GetText(u"RowsSelected"_s)
+                                .replace("%1"_L1, locale.toString(places.size()))
+                                .replace("%2"_L1, locale.formattedDataSize(bytes)));
+    }
+}
+
+bool frmBigEditor::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ui_->tvDirs && event->type() == QEvent::FocusIn) {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        // Coming with the Tab key is a click on the selected node: the commands act on what has the focus.
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+            editor_.ClickNode(editor_.State().SelectedNode);
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void frmBigEditor::ShowOptions() {
@@ -177,13 +253,16 @@ void frmBigEditor::TreeChanged() {
 void frmBigEditor::ListChanged() {
     listModel_->Reset(editor_.State().FileIcons);
     ui_->lvFiles->RowsChanged();
+    TellSelection();
 }
 
 void frmBigEditor::StateChanged() {
     const EditorState& state = editor_.State();
     SelectNode();
-    for (QAction* action : {ui_->mnuSave, ui_->mnuSaveAs, ui_->mnuFileVersion, ui_->mnuAdd})
+    for (QAction* action : {ui_->mnuSave, ui_->mnuSaveAs, ui_->mnuFileVersion, ui_->mnuAdd, ui_->mnuDelete,
+                            ui_->mnuExtract, ui_->mnuNewFolder})
         action->setEnabled(state.ArchiveOpen);
+    ui_->mnuModify->setEnabled(state.ModifyEnabled);
     ui_->mnuEdit->setEnabled(state.ArchiveOpen);
     ui_->lvFiles->setEnabled(state.ArchiveOpen);
     ui_->mnuActions->setVisible(state.ArchiveOpen);
@@ -191,6 +270,7 @@ void frmBigEditor::StateChanged() {
     ui_->lblFName->setText(state.DetailsName);
     ui_->lblFSize->setText(state.DetailsSize);
     status_->setText(state.StatusText);
+    TellSelection();
     const QString tool = u"BIG Editor"_s;
     setWindowTitle(state.ArchiveOpen ? LastPart(mBIG::BigFileName) + u"[*] - "_s + tool : tool);
     setWindowModified(state.Modified);
@@ -221,7 +301,10 @@ std::vector<int> frmBigEditor::SelectedRows() const {
 }
 
 void frmBigEditor::EditNode(int node) {
-    ui_->tvDirs->edit(treeModel_->IndexOf(node));
+    const QModelIndex index = treeModel_->IndexOf(node);
+    ui_->tvDirs->setFocus();
+    ui_->tvDirs->scrollTo(index);
+    ui_->tvDirs->edit(index);
 }
 
 ExtractionTarget frmBigEditor::AskForFolder() {

@@ -38,6 +38,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void ShowWindow() override;
@@ -57,16 +58,19 @@ private:
         QAction* Action;
         int Link; ///< index of Label2, or NoLink
         QString Picture;
-        std::function<void()> Run; ///< empty for what is not built
+        std::function<void()> Run;
     };
 
     static constexpr int NoLink = -1;
 
     void Dress();
-    [[nodiscard]] QList<QAction*> NotBuilt() const;
     std::vector<Command> Commands();
     void ConnectCommands();
-    void ConnectViews();
+    void ConnectTree();
+    void ConnectList();
+    void ShowMenu(int place, QPoint globalPlace);
+    void DragOut();
+    void TellSelection();
     void ShowOptions();
     void SelectNode();
     void ChooseView(ViewMode mode);
@@ -76,7 +80,8 @@ private:
     BigEditor editor_;
     FolderTreeModel* treeModel_;
     FileListModel* listModel_;
-    QLabel* status_; ///< the status bar's text
+    QLabel* status_;    ///< the status bar's text
+    QLabel* selection_; ///< how many rows there are and are selected
     std::array<SideLink*, 8> links_;
     bool following_ = false; ///< the views follow the document, not the other way round
 };

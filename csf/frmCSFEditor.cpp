@@ -46,9 +46,9 @@ frmCSFEditor::frmCSFEditor(QWidget* parent)
     StateChanged();
 }
 
-// The list asks its model for rows until it is gone itself, later than the document.
+// The controls ask their models for rows as long as they stand: they go before the document does.
 frmCSFEditor::~frmCSFEditor() {
-    ui_->lvStrings2->setModel(nullptr);
+    delete takeCentralWidget();
 }
 
 void frmCSFEditor::OpenCSFFile(const QString& path) {

@@ -73,7 +73,7 @@ protected:
 
     FileListView* Files() { return Part<FileListView>("lvFiles"); }
 
-    QString Status() { return window_->statusBar()->findChild<QLabel*>()->text(); }
+    QString Status() { return Part<QLabel>("lblStatus")->text(); }
 
     QStringList Rows() {
         const QAbstractItemModel* model = Files()->Current()->model();
