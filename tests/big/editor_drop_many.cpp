@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Dropping many files gives the table that a search from the first record on gives for each of them, and no time that
+/// grows with the square of their number.
+#include "big/EntryIndex.h"
+#include "platform/Files.h"
+#include "tests/big/document_fixture.h"
+#include "tests/support/Printing.h"
+
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+
+using namespace Qt::StringLiterals;
+using Answer = Host::Answer;
+
+namespace {
+
+/// Everything that the table holds, a line a record.
+QStringList Told(const std::vector<BigEntry>& table) {
+    QStringList lines;
+    for (const BigEntry& entry : table)
+        lines += u"%1 from %2, %3 at %4%5%6"_s.arg(entry.Name, entry.SourcePath)
+                     .arg(entry.Size)
+                     .arg(entry.Offset)
+                     .arg(entry.IsNew ? u", new"_s : QString(), entry.Deleted ? u", deleted"_s : QString());
+    return lines;
+}
+
+/// The plain way, told step by step.
+class Reference {
+public:
+    Reference(std::vector<BigEntry> table, std::deque<Answer> answers) : answers_(std::move(answers)) {
+        mBIG::BigEntries = std::move(table);
+    }
+
+    void DropFile(const QString& name, const QString& path, qint64 size, bool bringsBack) {
+        const int found = mBIG::FindEntry(name);
+        std::vector<BigEntry>& table = mBIG::BigEntries;
+        if (found >= 0) {
+            const Answer answer = answers_.front();
+            answers_.pop_front();
+            if (answer != Answer::Yes)
+                return;
+            BigEntry& entry = table[static_cast<std::size_t>(found)];
+            entry = {name, entry.Offset, static_cast<qint32>(size), true, !bringsBack && entry.Deleted, path};
+            return;
+        }
+        std::size_t index = table.empty() ? 0 : table.size() - 1;
+        if (!table.empty() && !table[0].Name.isEmpty())
+            ++index;
+        table.resize(index + 1);
+        table[index] = {name, 0, static_cast<qint32>(size), true, false, path};
+    }
+
+    void Drop(const QStringList& paths, QString prefix) {
+        for (const QString& path : paths) {
+            if (!Files::FolderExists(path)) {
+                DropFile(prefix + LastPart(path), path, Files::FileLength(path), true);
+                continue;
+            }
+            for (const Files::FoundFile& file : Files::ListFolderFiles(path, true))
+                DropFile(prefix + LastPart(path) + file.Path.mid(path.size()), file.Path, file.Size, false);
+            prefix.clear();
+        }
+    }
+
+private:
+    std::deque<Answer> answers_;
+};
+
+class EditorDropMany : public Document {
+protected:
+    int Below(int bound) { return random_.bounded(bound); }
+
+    bool OneIn(int count) { return Below(count) == 0; }
+
+    /// Few names, so that many meet: in capitals or not, with letters that have several small forms.
+    QString SomeName() {
+        static const QStringList names{u"a"_s,
+                                       u"b"_s,
+                                       u"K"_s,
+                                       u"\u212A"_s,
+                                       u"\u00DF"_s,
+                                       u"ss"_s,
+                                       u"\u00E9"_s,
+                                       u"\u00C9"_s,
+                                       u"\u0130"_s,
+                                       u"i\u0307"_s,
+                                       u"\u03C3"_s,
+                                       u"\u03C2"_s,
+                                       QString::fromUcs4(U"\U00010400"),
+                                       QString::fromUcs4(U"\U00010428")};
+        const QString name = names[Below(static_cast<int>(names.size()))];
+        return OneIn(2) ? name.toUpper() : name;
+    }
+
+    std::vector<BigEntry> SomeTable() {
+        std::vector<BigEntry> table(static_cast<std::size_t>(Below(12)));
+        for (BigEntry& entry : table) {
+            entry.Name = OneIn(4) ? u"mod\\"_s + SomeName() : SomeName();
+            entry.Size = Below(100);
+            entry.IsNew = OneIn(3);
+            entry.Deleted = OneIn(3);
+        }
+        if (!table.empty() && OneIn(3))
+            table[0] = {};
+        return table;
+    }
+
+    /// Some files and folders; the disk may take two names for one.
+    QStringList SomePaths(int round) {
+        QStringList paths;
+        for (int at = Below(8); at >= 0; --at) {
+            const QString folder = u"%1\\%2\\"_s.arg(round).arg(at);
+            if (!OneIn(3)) {
+                paths += Place.WriteFile(folder + SomeName(), QByteArray(Below(9), 'x'));
+                continue;
+            }
+            const QString name = OneIn(2) ? u"mod"_s : u"Mod"_s;
+            for (int file = Below(6); file >= 0; --file)
+                Place.WriteFile(folder + name + u'\\' + SomeName(), QByteArray(Below(9), 'x'));
+            paths += Place.Root() + u'\\' + folder + name;
+        }
+        return paths;
+    }
+
+    QRandomGenerator random_{2005};
+};
+
+} // namespace
+
+TEST_F(EditorDropMany, AnyDropGivesWhatASearchForEachFileGives) {
+    for (int round = 0; round < 150; ++round) {
+        const std::vector<BigEntry> table = SomeTable();
+        const QStringList paths = SomePaths(round);
+        std::deque<Answer> answers;
+        for (int answer = 0; answer < 100; ++answer)
+            answers.push_back(OneIn(2) ? Answer::Yes : Answer::No);
+        Reference reference(table, answers);
+        reference.Drop(paths, {});
+        const std::vector<BigEntry> expected = std::exchange(mBIG::BigEntries, table);
+        Editor.CreateDirs();
+        Speaker.Answers = answers;
+        Editor.DropFiles(paths);
+        ASSERT_EQ(Told(mBIG::BigEntries), Told(expected))
+            << "round " << round << ": " << paths.join(u' ').toStdString();
+    }
+}
+
+TEST_F(EditorDropMany, TheIndexFindsWhatASearchFinds) {
+    std::vector<QString> names;
+    for (int name = 0; name < 300; ++name)
+        names.push_back(SomeName() + SomeName());
+    for (int name = 0; name < 150; ++name)
+        mBIG::BigEntries.push_back(EntryOf(names[static_cast<std::size_t>(name)]));
+    const mBIG::EntryIndex index;
+    for (const QString& name : names)
+        EXPECT_EQ(index.Find(name), mBIG::FindEntry(name)) << name.toStdString();
+}
+
+TEST_F(EditorDropMany, TheLastRecordsNameIsForgottenWhenAnotherTakesItsPlace) {
+    mBIG::BigEntries = TableOf({u"a"_s, u"b"_s});
+    mBIG::EntryIndex index;
+    index.SetLast(1, u"c"_s);
+    EXPECT_EQ(index.Find(u"B"_s), -1);
+    EXPECT_EQ(index.Find(u"C"_s), 1);
+    index.SetLast(2, u"b"_s);
+    EXPECT_EQ(index.Find(u"B"_s), 2);
+    EXPECT_EQ(mBIG::BigEntries.size(), 3U);
+}
+
+TEST_F(EditorDropMany, AnOverwrittenNameThatStandsEarlierTooIsStillFound) {
+    mBIG::BigEntries = TableOf({u"a"_s, u"A"_s});
+    mBIG::EntryIndex index;
+    index.SetLast(1, u"c"_s);
+    EXPECT_EQ(index.Find(u"a"_s), 0);
+}
+
+TEST_F(EditorDropMany, ThousandsOfFoldersDoNotEachCostATree) {
+    mBIG::BigEntries = TableOf({u"first"_s});
+    for (int entry = 0; entry < 20000; ++entry)
+        mBIG::BigEntries.push_back(EntryOf(u"f%1\\g%2\\x"_s.arg(entry % 200).arg(entry)));
+    QStringList folders;
+    for (int folder = 0; folder < 500; ++folder) {
+        Place.WriteFile(u"many\\%1\\file"_s.arg(folder), "x");
+        folders += Place.Root() + u"\\many\\%1"_s.arg(folder);
+    }
+    QElapsedTimer timer;
+    timer.start();
+    Editor.DropFiles(folders);
+    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_EQ(mBIG::BigEntries.size(), 20501U);
+}

@@ -1,0 +1,416 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Modify with the CSF Editor as the other program: it gets the file and the document goes on at once.
+#include "core/mMain.h"
+#include "platform/Files.h"
+#include "platform/NumberedFiles.h"
+#include "platform/Paths.h"
+#include "tests/big/document_fixture.h"
+#include "tests/support/ScriptedNavigator.h"
+
+using namespace Qt::StringLiterals;
+using Answer = Host::Answer;
+
+namespace {
+
+class EditorModify : public Document {
+protected:
+    EditorModify() {
+        Programs.OnCall = [this](const QString& call) {
+            const QString path = call.sliced(call.indexOf(u' ') + 1);
+            Given += path;
+            GivenBytes += World::ReadFile(path);
+            if (Program)
+                Program(path);
+        };
+    }
+
+    ~EditorModify() override {
+        for (const int number : {3, 4})
+            if (NumberedFiles::IsOpen(number))
+                NumberedFiles::Close(number);
+    }
+
+    EditorModify(const EditorModify&) = delete;
+    EditorModify& operator=(const EditorModify&) = delete;
+
+    void OpenStrings() {
+        OpenArchive({{u"Data\\One.csf"_s, "the first"}, {u"Data\\two.csf"_s, "2"}, {u"other\\One.csf"_s, "x"}});
+        Editor.ClickNode(NodeOf(u"data\\"_s));
+    }
+
+    [[nodiscard]] static QString Scratch(const QString& name) { return Paths::ProgramFolder() + u"\\Temp\\"_s + name; }
+
+    /// Puts bytes over a file that is there.
+    static void Write(const QString& path, const QByteArray& bytes) {
+        QFile file(Paths::ToNative(path));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(bytes);
+    }
+
+    /// The program writes other bytes.
+    void LetItWrite() {
+        Program = [](const QString& path) { Write(path, "written"); };
+    }
+
+    void ModifyByMenu(int place) {
+        View.Selected = {place};
+        Editor.Modify();
+    }
+
+    static BigEntry& Entry(std::size_t index) { return mBIG::BigEntries.at(index); }
+
+    ScriptedNavigator Programs;
+    QStringList Given; ///< the paths that the program was asked to open
+    QList<QByteArray> GivenBytes;
+    std::function<void(const QString&)> Program; ///< what it does with them
+};
+
+} // namespace
+
+TEST_F(EditorModify, TheMenuOpensACopyAndAsksWhetherItChangedOrNot) {
+    OpenStrings();
+    Speaker.Answers = {Answer::Yes};
+    ModifyByMenu(0);
+    EXPECT_EQ(Given, QStringList(Scratch(u"One.csf"_s)));
+    EXPECT_EQ(GivenBytes, QList<QByteArray>({"the first"}));
+    ASSERT_EQ(Speaker.Messages.size(), 1U);
+    EXPECT_EQ(Speaker.Messages[0].Text, u"InsertModifiedFile"_s);
+    EXPECT_EQ(Speaker.Messages[0].Title, u"Brindock 2005"_s);
+    EXPECT_EQ(Speaker.Messages[0].Choice, Host::Buttons::YesNo);
+    EXPECT_TRUE(Entry(0).IsNew);
+    EXPECT_EQ(Entry(0).SourcePath, Scratch(u"One.csf"_s));
+    EXPECT_TRUE(Editor.List().Row(0).IsNew) << "The row turns blue.";
+    EXPECT_FALSE(State().Modified) << "The menu's command is no unsaved change.";
+}
+
+TEST_F(EditorModify, NoInTheMenuDeletesTheCopy) {
+    OpenStrings();
+    Speaker.Answers = {Answer::No};
+    ModifyByMenu(0);
+    EXPECT_FALSE(Files::FileExists(Scratch(u"One.csf"_s)));
+    EXPECT_FALSE(Entry(0).IsNew);
+    EXPECT_EQ(Entry(0).SourcePath, QString());
+}
+
+TEST_F(EditorModify, TheMenuTakesTheFirstSelectedRow) {
+    OpenStrings();
+    Speaker.Answers = {Answer::No};
+    View.Selected = {1, 0};
+    Editor.Modify();
+    EXPECT_EQ(Given, QStringList(Scratch(u"two.csf"_s)));
+}
+
+TEST_F(EditorModify, TheMenuDoesNothingOnAFolderRowAndWithoutASelection) {
+    OpenStrings();
+    Editor.ClickNode(FolderTree::Root);
+    ModifyByMenu(0);
+    View.Selected.clear();
+    Editor.Modify();
+    View.Selected = {99, -1};
+    Editor.Modify();
+    EXPECT_TRUE(Given.isEmpty());
+    EXPECT_EQ(State().SelectedNode, FolderTree::Root);
+    EXPECT_TRUE(Speaker.Messages.empty());
+}
+
+TEST_F(EditorModify, ADoubleClickOnAFolderRowIsAClickOnItsNode) {
+    OpenStrings();
+    Editor.ClickNode(FolderTree::Root);
+    Editor.ActivateRow(1);
+    EXPECT_EQ(State().SelectedNode, NodeOf(u"other\\"_s));
+    EXPECT_EQ(State().StatusText, u"other\\"_s);
+    EXPECT_EQ(State().FocusPane, FocusedPane::Tree);
+    EXPECT_EQ(Shown(), QStringList({u"One.csf"_s}));
+}
+
+TEST_F(EditorModify, ADoubleClickDeletesAnUnchangedCopyWithoutAWord) {
+    OpenStrings();
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Given, QStringList(Scratch(u"One.csf"_s)));
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(Files::FileExists(Scratch(u"One.csf"_s)));
+    EXPECT_FALSE(State().Modified);
+}
+
+TEST_F(EditorModify, ADoubleClickAsksForAChangedCopyAndYesIsAnUnsavedChange) {
+    OpenStrings();
+    LetItWrite();
+    Speaker.Answers = {Answer::Yes};
+    Editor.ActivateRow(0);
+    ASSERT_EQ(Speaker.Messages.size(), 1U);
+    EXPECT_EQ(Speaker.Messages[0].Text, u"InsertModifiedFile"_s);
+    EXPECT_TRUE(Entry(0).IsNew);
+    EXPECT_TRUE(Editor.List().Row(0).IsNew);
+    EXPECT_TRUE(State().Modified);
+}
+
+TEST_F(EditorModify, NoAfterADoubleClickDeletesTheCopyAndChangesNothing) {
+    OpenStrings();
+    LetItWrite();
+    Speaker.Answers = {Answer::No};
+    Editor.ActivateRow(0);
+    EXPECT_FALSE(Files::FileExists(Scratch(u"One.csf"_s)));
+    EXPECT_FALSE(Entry(0).IsNew);
+    EXPECT_FALSE(State().Modified);
+}
+
+TEST_F(EditorModify, TheSizeStaysTheOldOneUntilTheSave) {
+    OpenStrings();
+    LetItWrite();
+    Speaker.Answers = {Answer::Yes};
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Editor.List().SizeText(0), u"9"_s);
+    Editor.Save();
+    EXPECT_EQ(Editor.List().SizeText(0), u"7"_s);
+    EXPECT_TRUE(World::ReadFile(mBIG::BigFileName).contains("written"));
+    EXPECT_FALSE(Files::FileExists(Scratch(u"One.csf"_s))) << "The save empties the scratch folder.";
+}
+
+TEST_F(EditorModify, AnEntryThatWasTakenInIsOpenedAtItsSourceWithoutAQuestion) {
+    OpenStrings();
+    LetItWrite();
+    Speaker.Answers = {Answer::Yes};
+    Editor.ActivateRow(0);
+    Speaker.Messages.clear();
+    Editor.ActivateRow(0);
+    ModifyByMenu(0);
+    EXPECT_EQ(Given, QStringList({Scratch(u"One.csf"_s), Scratch(u"One.csf"_s), Scratch(u"One.csf"_s)}));
+    EXPECT_EQ(GivenBytes.mid(1), QList<QByteArray>({"written", "written"}));
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_TRUE(Files::FileExists(Scratch(u"One.csf"_s)));
+}
+
+TEST_F(EditorModify, AMissingSourceIsToldAfterADoubleClickAndTheEntryIsHidden) {
+    OpenStrings();
+    Speaker.FileNames = {Place.WriteFile(u"n.csf"_s, "1")};
+    Editor.Add();
+    Files::Delete(Place.Root() + u"\\n.csf"_s);
+    Editor.ActivateRow(2);
+    ASSERT_EQ(Speaker.Messages.size(), 1U);
+    EXPECT_EQ(Speaker.Messages[0].Text, u"FileNotFound"_s);
+    EXPECT_EQ(Speaker.Messages[0].Sign, Host::Icon::Critical);
+    EXPECT_TRUE(Entry(3).Deleted);
+    EXPECT_EQ(Shown(), QStringList({u"One.csf"_s, u"two.csf"_s}));
+    EXPECT_TRUE(Given.isEmpty());
+}
+
+TEST_F(EditorModify, TheMenuDoesNotLookForTheSource) {
+    OpenStrings();
+    Speaker.FileNames = {Place.WriteFile(u"n.csf"_s, "1")};
+    Editor.Add();
+    Files::Delete(Place.Root() + u"\\n.csf"_s);
+    ModifyByMenu(2);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(Entry(3).Deleted);
+    EXPECT_EQ(Given, QStringList(Place.Root() + u"\\n.csf"_s));
+}
+
+TEST_F(EditorModify, ACopyThatTheProgramDeletedHasNothingToTakeIn) {
+    OpenStrings();
+    Program = [](const QString& path) { Files::Delete(path); };
+    Editor.ActivateRow(0);
+    ModifyByMenu(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModify, ANameThatLeadsOutOfTheScratchFolderOpensNothing) {
+    // The list cuts the name by the key's length, wherever the key stood.
+    OpenArchive({{u"..\\evil.csf"_s, "1"}, {u"CON.csf"_s, "2"}, {u"a:b.csf"_s, "3"}, {u"\\root.csf"_s, "4"}});
+    const QStringList before = Files::ListFolder(Place.ProgramFolder() + u"\\*.*"_s);
+    for (int place = 0; place < Editor.List().Count(); ++place) {
+        if (Editor.List().Row(place).IsFolder)
+            continue;
+        Editor.ActivateRow(place);
+        ModifyByMenu(place);
+    }
+    EXPECT_TRUE(Given.isEmpty());
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_EQ(Files::ListFolder(Scratch({})), QStringList());
+    EXPECT_EQ(Files::ListFolder(Place.ProgramFolder() + u"\\*.*"_s), before);
+    EXPECT_FALSE(State().Modified);
+}
+
+TEST_F(EditorModify, WhatAnEarlierDayLeftDoesNotShowBehindAShorterEntry) {
+    OpenStrings();
+    Files::MakeFolders(Scratch({}));
+    Write(Scratch(u"two.csf"_s), "left over");
+    Editor.ActivateRow(1);
+    EXPECT_EQ(GivenBytes, QList<QByteArray>({"2"}));
+}
+
+TEST_F(EditorModify, TwoEntriesOfOneNameHaveTwoCopies) {
+    OpenStrings();
+    LetItWrite();
+    Speaker.Answers = {Answer::Yes, Answer::Yes};
+    Editor.ActivateRow(0);
+    Editor.ClickNode(NodeOf(u"other\\"_s));
+    Program = [](const QString& path) { Write(path, "other"); };
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Given.last(), Scratch(u"One (2).csf"_s));
+    EXPECT_EQ(GivenBytes.last(), "x");
+    EXPECT_EQ(World::ReadFile(Entry(0).SourcePath), "written") << "The first one's changes are safe.";
+    EXPECT_EQ(World::ReadFile(Entry(2).SourcePath), "other");
+}
+
+TEST_F(EditorModify, AnEntryThatIsOpenAlreadyGetsASecondCopy) {
+    OpenStrings();
+    bool again = false;
+    Program = [&](const QString& path) {
+        Write(path, again ? "second" : "first");
+        if (!std::exchange(again, true))
+            Editor.ActivateRow(0);
+        EXPECT_NE(World::ReadFile(path), "the first") << "Nobody writes over the copy that is open.";
+    };
+    Speaker.Answers = {Answer::No, Answer::Yes};
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Given, QStringList({Scratch(u"One.csf"_s), Scratch(u"One (2).csf"_s)}));
+    EXPECT_EQ(World::ReadFile(Entry(0).SourcePath), "first");
+}
+
+TEST_F(EditorModify, AnotherArchiveOpenedMeanwhileIsLeftAlone) {
+    OpenStrings();
+    const QString other = Place.WriteFile(u"other.big"_s, ArchiveOf({{u"Data\\One.csf"_s, "1"}, {u"b"_s, "2"}}));
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        Editor.OpenBigFile(other);
+    };
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(Entry(0).IsNew);
+    EXPECT_FALSE(State().Modified);
+    EXPECT_EQ(World::ReadFile(Scratch(u"One.csf"_s)), "written") << "What was written stays on the disk.";
+}
+
+TEST_F(EditorModify, AShorterTableMeanwhileIsSafe) {
+    OpenStrings();
+    Editor.ClickNode(NodeOf(u"other\\"_s));
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        mBIG::BigEntries.resize(1);
+    };
+    Editor.ActivateRow(0);
+    ModifyByMenu(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(State().Modified);
+}
+
+TEST_F(EditorModify, ANewArchiveMeanwhileIsLeftAlone) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        Speaker.FileNames = {Place.Root() + u"\\fresh.big"_s};
+        Editor.New();
+    };
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModify, AnEntryThatWasRenamedMeanwhileStillGetsItsFile) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        EXPECT_TRUE(Editor.RenameRow(0, u"Renamed.csf"_s));
+    };
+    Speaker.Answers = {Answer::Yes};
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Entry(0).Name, u"Data\\Renamed.csf"_s);
+    EXPECT_TRUE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModify, AnEntryThatWasDeletedMeanwhileIsNotAskedFor) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        Entry(0).Deleted = true;
+    };
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModify, AFileThatIsWrittenAfterASaveGoesToTheEntryOfItsName) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Entry(0).Deleted = true;
+        Editor.Save();
+        EXPECT_FALSE(Files::FileExists(path));
+        Write(path, "written");
+    };
+    Speaker.Answers = {Answer::Yes};
+    Editor.ActivateRow(1);
+    EXPECT_EQ(Entry(0).Name, u"Data\\two.csf"_s) << "It has moved up.";
+    EXPECT_TRUE(Entry(0).IsNew);
+    EXPECT_FALSE(Entry(1).IsNew);
+}
+
+TEST_F(EditorModify, ClosingTheWindowMeanwhileEndsTheCommand) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        EXPECT_TRUE(Editor.MayClose());
+    };
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_TRUE(Files::FileExists(Scratch(u"One.csf"_s)));
+    Program = {};
+    Editor.ActivateRow(1);
+    EXPECT_EQ(Given.size(), 2) << "A window that stayed all the same works on.";
+}
+
+TEST_F(EditorModify, TheDocumentMayGoMeanwhile) {
+    OpenStrings();
+    CountingView view;
+    auto editor = std::make_unique<BigEditor>(view);
+    editor->OpenBigFile(mBIG::BigFileName);
+    editor->ClickNode(editor->Tree().Find(u"data\\"_s));
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        editor.reset();
+    };
+    editor->ActivateRow(0);
+    EXPECT_EQ(Given.size(), 1);
+    EXPECT_TRUE(Speaker.Messages.empty());
+}
+
+TEST_F(EditorModify, AnEntryWithoutBytesOpensAsAnEmptyFileAndLeavesTheFileNumbersOpen) {
+    OpenArchive({{u"a.csf"_s, "1"}, {u"empty.csf"_s, {}}, {u"c.csf"_s, "3"}});
+    LetItWrite();
+    Speaker.Answers = {Answer::Yes};
+    Editor.ActivateRow(1);
+    EXPECT_EQ(GivenBytes, QList<QByteArray>({QByteArray()}));
+    EXPECT_TRUE(Entry(1).IsNew) << "What was written into it is not lost.";
+    EXPECT_TRUE(NumberedFiles::IsOpen(3));
+    EXPECT_TRUE(NumberedFiles::IsOpen(4));
+    // As long as they are open nothing can be extracted: nothing is opened and nothing asked.
+    Editor.ActivateRow(0);
+    ModifyByMenu(2);
+    EXPECT_EQ(Given.size(), 1);
+    EXPECT_EQ(Speaker.Messages.size(), 1U);
+    EXPECT_FALSE(Entry(0).IsNew);
+    Editor.Save();
+    EXPECT_EQ(World::ReadFile(mBIG::BigFileName).count("written"), 1);
+    Program = {};
+    Editor.ActivateRow(0);
+    EXPECT_EQ(GivenBytes.last().size(), 1) << "A save closes them.";
+}
+
+TEST_F(EditorModify, AnArchiveThatHasGoneOpensNothing) {
+    OpenStrings();
+    Files::Delete(mBIG::BigFileName);
+    Editor.ActivateRow(0);
+    ModifyByMenu(0);
+    EXPECT_TRUE(Given.isEmpty());
+    EXPECT_TRUE(Speaker.Messages.empty());
+}
+
+TEST_F(EditorModify, TheCSFEditorKnowsWhoOpensIt) {
+    OpenStrings();
+    mMain::CsfOpenedByHost = false;
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(mMain::CsfOpenedByHost);
+    EXPECT_EQ(Speaker.Yields, 0) << "There is no wait.";
+}
