@@ -42,16 +42,6 @@ struct Options {
 
 using SharedOptions = std::shared_ptr<Options>;
 
-/// Reads an archive into the table or fails with the reason.
-void Read(const QString& path) {
-    constexpr int number = 7;
-    NumberedFiles::Open(number, path, NumberedFiles::Access::Read);
-    NumberedFiles::Close(number);
-    if (!mBIG::ReadBigFile(path))
-        Fail(path, u"not a BIG archive, or one without entries"_s);
-    mBIG::BigFileName = path;
-}
-
 /// Writes a number and a tab; returns the end.
 char16_t* PutNumber(char16_t* place, qint32 number) {
     std::array<char, 16> digits{};
@@ -62,7 +52,7 @@ char16_t* PutNumber(char16_t* place, qint32 number) {
 }
 
 void List(const Options& options) {
-    Read(ArgumentPath(options.Archive));
+    ReadArchive(ArgumentPath(options.Archive));
     if (options.Json) {
         QJsonArray entries;
         for (const BigEntry& entry : mBIG::BigEntries)
@@ -114,7 +104,7 @@ QString LastPart(const QString& name) {
 
 void Extract(const Options& options) {
     const QString archive = ArgumentPath(options.Archive);
-    Read(archive);
+    ReadArchive(archive);
     const auto entries = Chosen(archive, options.Names);
     ArchiveExtractor extractor(archive, ArgumentPath(options.Folder));
     QSet<QString> written;
@@ -161,26 +151,16 @@ void AddEntry(const std::string& given) {
         mBIG::BigEntries[static_cast<std::size_t>(index)] = std::move(added);
 }
 
-/// Saves the table; a table that the format can't hold is refused with its reason.
-void Write(const QString& target) {
-    if (mBIG::HighestIndex() == 0)
-        Fail(target, u"an archive of fewer than two entries can't be saved"_s);
-    if (std::ranges::all_of(mBIG::BigEntries, &BigEntry::Deleted))
-        Fail(target, u"no entry would be left"_s);
-    if (!mBIG::WriteBigFile(target))
-        throw RuntimeError(ErrorNumber::PathFileAccess, mBIG::LastFailure());
-}
-
 void SaveArchive(const Options& options, bool versionGiven) {
     const QString archive = ArgumentPath(options.Archive);
-    Read(archive);
+    ReadArchive(archive);
     if (versionGiven)
         mBIG::BigVersion = options.Version;
     for (const std::string& name : options.Deleted)
         DeleteEntry(archive, ArgumentText(name));
     for (const std::string& added : options.Added)
         AddEntry(added);
-    Write(ArgumentPath(options.Target));
+    WriteArchive(ArgumentPath(options.Target));
 }
 
 /// Fills a fresh table with the files of a folder, sorted by name; the first takes the blank record's place.
@@ -215,7 +195,7 @@ void Create(const Options& options) {
     TakeFolder(folder, target);
     mBIG::BigVersion = options.Version;
     mBIG::BigFileName = target;
-    Write(target);
+    WriteArchive(target);
 }
 
 CLI::Option* AddVersion(CLI::App* command, const SharedOptions& options) {
@@ -266,6 +246,24 @@ void AddCreate(CLI::App* big, const SharedOptions& options) {
 }
 
 } // namespace
+
+void ReadArchive(const QString& path) {
+    constexpr int number = 7;
+    NumberedFiles::Open(number, path, NumberedFiles::Access::Read);
+    NumberedFiles::Close(number);
+    if (!mBIG::ReadBigFile(path))
+        Fail(path, u"not a BIG archive, or one without entries"_s);
+    mBIG::BigFileName = path;
+}
+
+void WriteArchive(const QString& target) {
+    if (mBIG::HighestIndex() == 0)
+        Fail(target, u"an archive of fewer than two entries can't be saved"_s);
+    if (std::ranges::all_of(mBIG::BigEntries, &BigEntry::Deleted))
+        Fail(target, u"no entry would be left"_s);
+    if (!mBIG::WriteBigFile(target))
+        throw RuntimeError(ErrorNumber::PathFileAccess, mBIG::LastFailure());
+}
 
 void AddBigCommands(CLI::App& commands) {
     CLI::App* big = commands.add_subcommand("big", "BIG archives")->require_subcommand(1);

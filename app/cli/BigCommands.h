@@ -4,9 +4,17 @@
 /// The commands for BIG archives.
 #pragma once
 
+#include <QString>
+
 namespace CLI {
 class App;
 }
 
 /// Adds "big" with list, extract, save and create.
 void AddBigCommands(CLI::App& commands);
+
+/// Reads an archive (inside path) into the table or fails with the reason.
+void ReadArchive(const QString& path);
+
+/// Saves the table (inside path); a table that the format can't hold is refused with its reason.
+void WriteArchive(const QString& target);

@@ -5,6 +5,7 @@
 
 #include "platform/Console.h"
 #include "platform/Paths.h"
+#include "platform/Processes.h"
 
 #include <algorithm>
 #include <utility>
@@ -42,6 +43,11 @@ void Print(const QString& line) {
 void Flush() {
     const QByteArray bytes = std::exchange(Gathered(), {});
     Console::Write(bytes);
+}
+
+void EndWith(int exitCode) {
+    Flush();
+    Processes::End(exitCode);
 }
 
 void Fail(const QString& file, const QString& reason) {

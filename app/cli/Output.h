@@ -17,6 +17,9 @@ void Print(const QString& line);
 /// Raises when standard output takes no more.
 void Flush();
 
+/// Ends the program with an exit code, once everything is printed.
+[[noreturn]] void EndWith(int exitCode);
+
 /// Ends the command: `file` and the reason stand on standard error, and the exit code is 1.
 [[noreturn]] void Fail(const QString& file, const QString& reason);
 

@@ -3,13 +3,14 @@
 
 /// brindock-cli: the suite's file logic for scripts and build pipelines.
 #include "app/cli/BigCommands.h"
+#include "app/cli/BigEditCommands.h"
 #include "app/cli/GameCommands.h"
 #include "app/cli/Output.h"
 #include "app/cli/ScriptHost.h"
+#include "app/cli/VerifyCommand.h"
 
 #include "core/mMain.h"
 #include "platform/Arguments.h"
-#include "platform/Processes.h"
 #include "platform/RuntimeError.h"
 
 #include <CLI/CLI.hpp>
@@ -26,14 +27,15 @@ int Run(const std::vector<std::string>& arguments) {
     commands.set_version_flag("--version", mMain::VersionText().toStdString());
     AddGameCommands(commands);
     AddBigCommands(commands);
+    AddBigEditCommands(commands);
+    AddVerifyCommand(commands);
     try {
         commands.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
-        Flush();
+        // All is done; taking a large table apart would only cost time.
+        EndWith(0);
     } catch (const CLI::ParseError& error) {
         return commands.exit(error) == 0 ? 0 : WrongUsage;
     }
-    // All is written; taking a large table apart would only cost time.
-    Processes::End(0);
 }
 
 } // namespace

@@ -1,15 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tests/cli/Command.h"
-#include "tests/support/ArchiveBytes.h"
-#include "tests/support/Printing.h"
-#include "tests/support/World.h"
-
-#include "platform/Files.h"
-#include "platform/Paths.h"
-
-#include <gtest/gtest.h>
+#include "tests/cli/BigCommandTest.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -19,38 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class BigCommands : public testing::Test {
-protected:
-    /// Two entries, the second in a folder, as variant 0.
-    QString TwoEntries() {
-        return world_.WriteFile(u"two.big"_s, HeaderOf("BIGF", 2, 55) + Record(56, 5, "a.ini") +
-                                                  Record(64, 2, "Data\\b.t") + Bytes("L225\0\0\0\0\0hello\0\0\0hi"));
-    }
-
-    [[nodiscard]] QString At(const QString& name) const { return world_.Root() + u'\\' + name; }
-
-    [[nodiscard]] QString Native(const QString& name) const { return Paths::ToNative(At(name)); }
-
-    /// Runs a command that must succeed without a word on standard error.
-    QByteArray Output(const QStringList& arguments) {
-        const Outcome outcome = RunCommand(arguments);
-        EXPECT_EQ(outcome.Code, 0) << outcome.Error.constData();
-        EXPECT_EQ(outcome.Error, QByteArray());
-        return outcome.Output;
-    }
-
-    /// Runs a command that must fail; returns its one line.
-    QByteArray Failure(const QStringList& arguments, int code = 1) {
-        const Outcome outcome = RunCommand(arguments);
-        EXPECT_EQ(outcome.Code, code) << outcome.Error.constData();
-        if (code == 1) {
-            EXPECT_EQ(outcome.Error.count('\n'), 1) << outcome.Error.constData();
-        }
-        return outcome.Error;
-    }
-
-    World world_;
-};
+class BigCommands : public BigCommandTest {};
 
 } // namespace
 
@@ -92,7 +53,8 @@ TEST_F(BigCommands, WrongUsageEndsWithTwo) {
 }
 
 TEST_F(BigCommands, EachCommandHasItsHelp) {
-    for (const QString& command : {u"list"_s, u"extract"_s, u"save"_s, u"create"_s})
+    for (const QString& command :
+         {u"list"_s, u"extract"_s, u"save"_s, u"create"_s, u"rename"_s, u"delete"_s, u"verify"_s})
         EXPECT_TRUE(Output({u"big"_s, command, u"--help"_s}).contains("Usage")) << command.toStdString();
 }
 
