@@ -206,15 +206,24 @@ private Q_SLOTS:
         QCOMPARE(Rows(), QStringList({u"ini"_s, u"map.tga"_s}));
     }
 
-    void droppedFilesAndFoldersBecomeNewEntries() {
+    void droppedFilesBecomeNewEntriesOfTheFolder() {
         Work();
         Select(u"data\\"_s);
-        const QString file = world_->WriteFile(u"dropped\\caf\u00E9.txt"_s, "text");
+        Drop({world_->WriteFile(u"dropped\\caf\u00E9.txt"_s, "text")});
+        QTRY_COMPARE(Rows(), QStringList({u"ini"_s, u"map.tga"_s, u"caf\u00E9.txt"_s}));
+        QCOMPARE(List()->model()->index(2, 0).data(Qt::ForegroundRole).value<QColor>(), QColor(0, 0, 255));
+        QVERIFY(window_->isWindowModified());
+    }
+
+    void aDroppedFolderComesWithEverythingInIt() {
+        Work();
+        Select(u"data\\"_s);
         world_->WriteFile(u"tree\\deep\\one.ini"_s, "1");
-        Drop({file, world_->Root() + u"\\tree"_s});
-        QTRY_COMPARE(Rows(), QStringList({u"ini"_s, u"tree"_s, u"map.tga"_s, u"caf\u00E9.txt"_s}));
-        QCOMPARE(List()->model()->index(3, 0).data(Qt::ForegroundRole).value<QColor>(), QColor(0, 0, 255));
+        Drop({world_->Root() + u"\\tree"_s});
+        QTRY_COMPARE(mBIG::BigEntries.size(), 4U);
         QCOMPARE(mBIG::BigEntries.back().Name, u"data\\tree\\deep\\one.ini"_s);
+        Select(u"data\\tree\\deep\\"_s);
+        QCOMPARE(Rows(), QStringList({u"one.ini"_s}));
     }
 
     void nothingIsDroppedWithoutAnArchive() {
