@@ -110,8 +110,11 @@ QString BigEditor::CopyForProgram(int index, const QString& text) const {
             path = scratch.TargetFor(Numbered(text, number));
         // What an earlier day left would show behind a shorter entry.
         Ignoring([&] { Files::DeleteForced(path); });
-        // An entry of no bytes is an error too, and its copy is whole all the same.
-        Ignoring([&] { mBIG::ExtractEntry(index, mBIG::BigFileName, path); });
+        // An entry of no bytes is an error too, and its copy is whole all the same. What it left open would keep every
+        // later entry from being extracted, and the program from writing its file.
+        mBIG::CloseExtraction();
+        Ignoring([&] { mBIG::ExtractEntryAsGiven(index, mBIG::BigFileName, path); });
+        mBIG::CloseExtraction();
         if (Files::FileLength(path) == mBIG::BigEntries[static_cast<std::size_t>(index)].Size)
             copy = path;
     });

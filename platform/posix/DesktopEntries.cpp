@@ -11,6 +11,8 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -66,16 +68,22 @@ QString TextOf(const QString& fileName, const QString& group, const QString& key
     return {};
 }
 
+/// What a type stands for in one group of all lists of associations.
+QStringList Listed(const QString& group, const QString& mimeType) {
+    QStringList entries;
+    for (const QString& list : AssociationLists())
+        entries << TextOf(list, group, mimeType).split(u';', Qt::SkipEmptyParts);
+    return entries;
+}
+
 /// The names of the desktop entries for a type, in order of preference.
 QStringList EntriesFor(const QString& mimeType) {
-    QStringList entries;
-    for (const QString& group : {u"Default Applications"_s, u"Added Associations"_s}) {
-        for (const QString& list : AssociationLists())
-            entries << TextOf(list, group, mimeType).split(u';', Qt::SkipEmptyParts);
-    }
+    QStringList others = Listed(u"Added Associations"_s, mimeType);
     for (const QString& folder : ApplicationFolders())
-        entries << TextOf(folder + u"/mimeinfo.cache"_s, u"MIME Cache"_s, mimeType).split(u';', Qt::SkipEmptyParts);
-    return entries;
+        others << TextOf(folder + u"/mimeinfo.cache"_s, u"MIME Cache"_s, mimeType).split(u';', Qt::SkipEmptyParts);
+    const QStringList removed = Listed(u"Removed Associations"_s, mimeType);
+    others.removeIf([&](const QString& entry) { return removed.contains(entry); });
+    return Listed(u"Default Applications"_s, mimeType) + others;
 }
 
 /// The file of a desktop entry. A hyphen in its name may stand for a folder.
@@ -138,6 +146,25 @@ std::pair<QString, bool> Expanded(const QString& word, const QString& nativePath
     return {text, namesFile};
 }
 
+/// A program for a terminal, in each of the terminals that a system may have.
+std::vector<QByteArrayList> InTerminals(const QByteArrayList& command) {
+    return {QByteArrayList{"xdg-terminal-exec"} + command, QByteArrayList{"x-terminal-emulator", "-e"} + command,
+            QByteArrayList{"xterm", "-e"} + command};
+}
+
+/// The ways to run a desktop entry, best first; none when it was taken out of use or is for D-Bus alone, where nobody
+/// can wait for its end.
+std::vector<QByteArrayList> CommandsOf(const QString& file, const QString& nativePath) {
+    const auto textOf = [&](const QString& key) { return TextOf(file, u"Desktop Entry"_s, key); };
+    const QString exec = textOf(u"Exec"_s);
+    if (exec.isEmpty() || textOf(u"Hidden"_s) == u"true"_s)
+        return {};
+    const QByteArrayList command = DesktopEntries::ExpandExec(exec, nativePath);
+    if (textOf(u"Terminal"_s) == u"true"_s)
+        return InTerminals(command);
+    return {command};
+}
+
 } // namespace
 
 std::vector<QByteArrayList> DesktopEntries::CommandsFor(const QString& nativePath) {
@@ -147,14 +174,10 @@ std::vector<QByteArrayList> DesktopEntries::CommandsFor(const QString& nativePat
     for (const QString& mimeType : QStringList(type.name()) + type.allAncestors()) {
         for (const QString& entry : EntriesFor(mimeType)) {
             const QString file = FileOfEntry(entry);
-            const QString exec = TextOf(file, u"Desktop Entry"_s, u"Exec"_s);
-            if (exec.isEmpty() || seen.contains(file))
+            if (file.isEmpty() || seen.contains(file))
                 continue;
             seen << file;
-            QByteArrayList command = ExpandExec(exec, nativePath);
-            if (TextOf(file, u"Desktop Entry"_s, u"Terminal"_s) == u"true"_s)
-                command = QByteArrayList{"x-terminal-emulator", "-e"} + command;
-            commands.push_back(command);
+            std::ranges::copy(CommandsOf(file, nativePath), std::back_inserter(commands));
         }
     }
     return commands;

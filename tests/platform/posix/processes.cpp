@@ -162,6 +162,52 @@ TEST_F(ProcessesTest, WithoutAnApplicationTheAnswerIsNoAssociation) {
     EXPECT_EQ(Processes::OpenWithAssociation(file, 0).InstApp, 31);
 }
 
+TEST_F(ProcessesTest, AProgramForATerminalRunsInOne) {
+    const QString file = scratch_.Write(u"a.txt"_s, "text");
+    const QByteArray record = "printf '%s|' \"$(basename \"$0\")\" \"$@\" > \"$RECORD\"";
+    Associate("text/plain", "editor %f", "Terminal=true\n");
+    {
+        const Variable onlyOurs("PATH", scratch_.Native(u"bin"_s).toUtf8());
+        EXPECT_EQ(Processes::OpenWithAssociation(file, 0).InstApp, 31) << "Without a terminal there is no program.";
+    }
+    Script(u"bin/x-terminal-emulator"_s, record);
+    Script(u"bin/xdg-terminal-exec"_s, record);
+    for (const char* const begin : {"xdg-terminal-exec|", "x-terminal-emulator|-e|"}) {
+        const Processes::Opened opened = Processes::OpenWithAssociation(file, 0);
+        ASSERT_NE(opened.Process, 0U);
+        EXPECT_EQ(Waited(opened.Process), 0);
+        EXPECT_EQ(scratch_.Read(u"record"_s),
+                  QByteArray(begin) + "editor|" + scratch_.Native(u"a.txt"_s).toUtf8() + "|");
+        QFile::remove(scratch_.Native(u"bin/xdg-terminal-exec"_s));
+    }
+}
+
+TEST_F(ProcessesTest, AnEntryForDBusRunsByItsExecTextAndIsPassedOverWithoutOne) {
+    const Variable noData("XDG_DATA_DIRS", scratch_.Native(u"none/x"_s).toUtf8());
+    const QString file = scratch_.Write(u"a.txt"_s, "text");
+    const QByteArray app = Script(u"bin/app"_s, "exit 5").toUtf8();
+    Associate("text/plain", app + " --gapplication-service", "DBusActivatable=true\n");
+    const Processes::Opened opened = Processes::OpenWithAssociation(file, 0);
+    ASSERT_NE(opened.Process, 0U);
+    EXPECT_EQ(Waited(opened.Process), 5);
+    Associate("text/plain", "", "DBusActivatable=true\n");
+    EXPECT_EQ(Processes::OpenWithAssociation(file, 0).InstApp, 31);
+}
+
+TEST_F(ProcessesTest, AnEntryThatWasTakenOutOfUseIsPassedOver) {
+    const Variable noData("XDG_DATA_DIRS", scratch_.Native(u"none/x"_s).toUtf8());
+    const QString file = scratch_.Write(u"a.txt"_s, "text");
+    const QByteArray app = Script(u"bin/app"_s, "exit 0").toUtf8();
+    Associate("text/plain", app, "Hidden=true\n");
+    EXPECT_EQ(Processes::OpenWithAssociation(file, 0).InstApp, 31);
+    Associate("text/plain", app);
+    scratch_.Write(u"data/applications/mimeinfo.cache"_s, "[MIME Cache]\ntext/plain=some-app.desktop;\n");
+    scratch_.Write(u"conf/mimeapps.list"_s, "[Removed Associations]\ntext/plain=some-app.desktop;\n");
+    EXPECT_EQ(Processes::OpenWithAssociation(file, 0).InstApp, 31);
+    scratch_.Write(u"conf/mimeapps.list"_s, "");
+    EXPECT_EQ(Waited(Processes::OpenWithAssociation(file, 0).Process), 0);
+}
+
 TEST_F(ProcessesTest, AMissingFileAndAMissingPathAreTold) {
     EXPECT_EQ(Processes::OpenWithAssociation(scratch_.Inside(u"missing.txt"_s), 0).InstApp, 2);
     const QString file = scratch_.Write(u"a.txt"_s, "text");
