@@ -7,11 +7,11 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QFileIconProvider>
 #include <QGuiApplication>
 #include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -56,8 +56,10 @@ constexpr std::array pointers{
 
 QIcon Drawn(const QString& picture) {
     QIcon icon;
+    // Both modes name it: a selected row is blue enough without a blue tint over its picture.
     for (const int size : {16, 24, 32, 48})
-        icon.addFile(u":/art/places/%1-%2.png"_s.arg(picture).arg(size), QSize(size, size));
+        for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+            icon.addFile(u":/art/places/%1-%2.png"_s.arg(picture).arg(size), QSize(size, size), mode);
     return icon;
 }
 
@@ -79,6 +81,12 @@ protected:
             expand(currentIndex());
         else
             QTreeView::keyPressEvent(event);
+    }
+
+    // Rows reach to the edge, and beyond it where a name needs more.
+    void resizeEvent(QResizeEvent* event) override {
+        header()->setMinimumSectionSize(viewport()->width());
+        QTreeView::resizeEvent(event);
     }
 };
 
@@ -126,6 +134,8 @@ CoolFileBox::CoolFileBox(QWidget* parent)
         QCoreApplication::processEvents();
         served.start();
     };
+    // What came after a branch was read, a drive that was plugged in too, appears with this key.
+    new QShortcut(QKeySequence::Refresh, trv_File_, this, &CoolFileBox::Refresh, Qt::WidgetShortcut);
     connect(trv_File_, &QTreeView::expanded, this, &CoolFileBox::Opened);
     connect(trv_File_, &QTreeView::collapsed, this,
             [this](const QModelIndex& index) { model_->Close(FileBoxTree::NodeOf(index)); });

@@ -15,7 +15,7 @@ cSplitter::cSplitter(QString hostName) : HostName(std::move(hostName)) {}
 
 void cSplitter::Bind(SplitterPane* first, SplitterPane* second, SplitterContainer* container) {
     Unbind();
-    if (first == nullptr || second == nullptr)
+    if (first == nullptr || second == nullptr || container == nullptr)
         return;
     first_ = first;
     second_ = second;
@@ -24,10 +24,14 @@ void cSplitter::Bind(SplitterPane* first, SplitterPane* second, SplitterContaine
 }
 
 void cSplitter::Unbind() {
-    AbandonDrag();
+    // The panes may be half gone already, so a drag ends without moving them.
+    SplitterContainer* const container = std::exchange(container_, nullptr);
     first_ = nullptr;
     second_ = nullptr;
-    container_ = nullptr;
+    if (!std::exchange(dragging_, false))
+        return;
+    position_ = startPosition_;
+    container->ShowGhost({});
 }
 
 void cSplitter::SetProportion(float percent) {
@@ -68,6 +72,11 @@ void cSplitter::SetMinimumSize(Sizes pixels) {
 void cSplitter::SetMaximumSize(Sizes pixels) {
     maximum_ = pixels;
     Recalculate();
+}
+
+void cSplitter::SetContainer(SplitterContainer* container) {
+    if (Bound())
+        Bind(first_, second_, container);
 }
 
 Qt::CursorShape cSplitter::Cursor() const {

@@ -102,6 +102,9 @@ public:
 
     [[nodiscard]] SplitterContainer* Container() const { return container_; }
 
+    /// The same panes in another container. Does nothing while nothing is bound; none unbinds.
+    void SetContainer(SplitterContainer* container);
+
     /// The pointer that belongs over the bar.
     [[nodiscard]] Qt::CursorShape Cursor() const;
 

@@ -320,6 +320,19 @@ TEST_F(Splitter, AnErrorWhileMovingAPaneIsIgnored) {
     EXPECT_EQ(second_.Place, (Box{0, 132, 300, 268}));
 }
 
+TEST_F(Splitter, AnotherContainerLaysThePanesOutAnewAndNoneUnbinds) {
+    Bind();
+    ScriptedContainer wider;
+    wider.Window.setWidth(700);
+    splitter_.SetContainer(&wider);
+    EXPECT_EQ(splitter_.Container(), &wider);
+    EXPECT_EQ(second_.Place, (Box{0, 132, 700, 268}));
+    splitter_.SetContainer(nullptr);
+    EXPECT_EQ(splitter_.Container(), nullptr);
+    splitter_.SetPosition(50);
+    EXPECT_EQ(second_.Place.Top, 132);
+}
+
 TEST_F(Splitter, ADragThatIsAbandonedGoesBack) {
     splitter_.FullDrag = false;
     Bind();

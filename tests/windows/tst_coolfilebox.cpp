@@ -123,6 +123,16 @@ private Q_SLOTS:
         QCOMPARE(box_->Path(), u"C:\\boot.ini"_s);
     }
 
+    void theRefreshKeyReadsTheMachineAnew() {
+        Show();
+        View()->expand(DriveC());
+        machine_->AllDrives.push_back({u"Z:\\"_s, u"Z:\\"_s, ShellFolders::DriveKind::Removable});
+        View()->setFocus();
+        QTest::keyClick(View(), Qt::Key_F5);
+        QCOMPARE(View()->model()->rowCount(Root()), 7);
+        QVERIFY(!View()->isExpanded(DriveC()));
+    }
+
     void thePathFollowsTheSelection() {
         Show();
         const QSignalSpy changes(box_.get(), &CoolFileBox::PathChanged);

@@ -154,6 +154,17 @@ private Q_SLOTS:
         QCOMPARE(second_->width(), 268);
     }
 
+    void aPaneThatGoesEndsTheDrag() {
+        box_->SetFullDrag(false);
+        Press();
+        MoveBy(50);
+        delete second_;
+        QVERIFY(!box_->Splitter().Dragging());
+        QVERIFY(!box_->findChild<QWidget*>(u"ghost"_s)->isVisible());
+        ReleaseAt(50);
+        QCOMPARE(first_->width(), 128);
+    }
+
     void aDragEndsWithTheWindow() {
         box_->SetFullDrag(false);
         Press();
