@@ -32,21 +32,26 @@ inline constexpr int InvalidProperty = 380;
 /// A run-time error. What nothing catches, the event loop's top shows, and the program ends.
 class RuntimeError : public std::exception {
 public:
-    /// `number` is one of ErrorNumber; `description` is for a person and names the file where there is one.
-    RuntimeError(int number, QString description)
+    /// `number` is one of ErrorNumber; `description` is for a person and names the file where there is one; `source`
+    /// names the part of the program that raised it, where that is told.
+    RuntimeError(int number, QString description, QString source = {})
         : number_(number),
           description_(std::move(description)),
+          source_(std::move(source)),
           what_(description_.toUtf8()) {}
 
     [[nodiscard]] int Number() const { return number_; }
 
     [[nodiscard]] const QString& Description() const { return description_; }
 
+    [[nodiscard]] const QString& Source() const { return source_; }
+
     [[nodiscard]] const char* what() const noexcept override { return what_.constData(); }
 
 private:
     int number_;
     QString description_;
+    QString source_;
     QByteArray what_;
 };
 
