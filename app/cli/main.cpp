@@ -3,6 +3,7 @@
 
 /// brindock-cli: the suite's file logic for scripts and build pipelines.
 #include "app/cli/BigCommands.h"
+#include "app/cli/CsfCommands.h"
 #include "app/cli/GameCommands.h"
 #include "app/cli/Output.h"
 #include "app/cli/ScriptHost.h"
@@ -26,6 +27,7 @@ int Run(const std::vector<std::string>& arguments) {
     commands.set_version_flag("--version", mMain::VersionText().toStdString());
     AddGameCommands(commands);
     AddBigCommands(commands);
+    AddCsfCommands(commands);
     try {
         commands.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         Flush();
