@@ -11,6 +11,8 @@
 #include <QJsonObject>
 #include <QStringDecoder>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -117,6 +119,9 @@ CsfTable Import(const QByteArray& bytes, Format format) {
 }
 
 QString Escaped(const QString& text) {
+    const auto special = [](QChar letter) { return letter == u'\n' || letter == u'\t' || letter == u'\\'; };
+    if (std::ranges::none_of(text, special))
+        return text;
     return QString(text).replace(u'\\', u"\\\\"_s).replace(u'\n', u"\\n"_s).replace(u'\t', u"\\t"_s);
 }
 

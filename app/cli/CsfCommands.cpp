@@ -167,7 +167,7 @@ void Merge(const Options& options) {
     WriteTableFile(ArgumentPath(options.Target), std::move(merged.Table));
     QString conflicts;
     if (merged.LanguageConflict)
-        conflicts += u"conflict: language\tchanged in both\n"_s;
+        conflicts += u"language\tchanged in both\n"_s;
     for (const CsfConflict& conflict : merged.Conflicts)
         conflicts += u"conflict\t"_s + Escaped(conflict.Name) + u'\t' + conflict.Reason + u'\n';
     if (conflicts.isEmpty())
