@@ -119,7 +119,8 @@ FileBytes WholeFile(const QString& path) {
     const qint64 length = Files::FileLength(path);
     if (length == 0)
         throw RuntimeError(ErrorNumber::Subscript, u"the file is empty"_s);
-    mCSF::CsfStrings.assign(ReadingSize, {});
+    mCSF::CsfStrings.clear();
+    mCSF::CsfStrings.resize(ReadingSize);
     NumberedFiles::Open(FileNumber, path, Access::Read);
     return FileBytes(NumberedFiles::Read(FileNumber, 0, length));
 }

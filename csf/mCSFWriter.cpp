@@ -12,6 +12,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -52,34 +53,64 @@ std::size_t WrittenCount() {
     return upperBound > std::size_t{std::numeric_limits<qint16>::max()} ? 1 : upperBound + 1;
 }
 
-void AppendEntry(QByteArray& records, const CsfString& entry) {
-    const QByteArray name = AnsiCodec::Encode(entry.Name);
-    const QByteArray value = AnsiCodec::Encode(entry.Value);
-    records += " LBL" + Number(1) + Number(name.size()) + name + " RTS" + Number(value.size());
-    const qsizetype start = records.size();
-    records.resize(start + 2 * value.size(), '\xFF');
-    char* unit = records.data() + start;
-    for (const char letter : value) {
-        *unit = static_cast<char>(~letter);
-        unit += 2;
+/// Gathers the records and hands them to the file in large pieces.
+class RecordWriter {
+public:
+    void Append(const CsfString& entry) {
+        const qsizetype most = RecordOverhead + entry.Name.size() + 2 * entry.Value.size();
+        if (filled_ + most > buffer_.size()) {
+            WriteGathered();
+            buffer_.resize(std::max(most, Piece));
+        }
+        char* place = PutMark(buffer_.data() + filled_, " LBL", 1);
+        const qsizetype nameLength = AnsiCodec::EncodeInto(entry.Name, place + sizeof(quint32));
+        place = PutNumber(place, nameLength) + nameLength;
+        const qsizetype valueLength = EncodeValue(entry.Value);
+        place = PutMark(place, " RTS", valueLength);
+        for (qsizetype i = 0; i < valueLength; ++i) {
+            place[2 * i] = static_cast<char>(~value_.constData()[i]);
+            place[2 * i + 1] = '\xFF';
+        }
+        filled_ = place + 2 * valueLength - buffer_.data();
     }
-}
 
-QByteArray Records(std::size_t count) {
-    qsizetype length = 0;
-    for (std::size_t i = 0; i < count; ++i)
-        length += RecordOverhead + mCSF::CsfStrings[i].Name.size() + 2 * mCSF::CsfStrings[i].Value.size();
-    QByteArray records;
-    records.reserve(length);
-    for (std::size_t i = 0; i < count; ++i)
-        AppendEntry(records, mCSF::CsfStrings[i]);
-    return records;
-}
+    void WriteGathered() {
+        NumberedFiles::Write(FileNumber, at_, QByteArrayView(buffer_).first(filled_));
+        at_ += filled_;
+        filled_ = 0;
+    }
+
+private:
+    static constexpr qsizetype Piece = qsizetype{256} * 1024;
+
+    static char* PutNumber(char* place, qsizetype number) {
+        qToLittleEndian(static_cast<quint32>(number), place);
+        return place + sizeof(quint32);
+    }
+
+    static char* PutMark(char* place, QByteArrayView mark, qsizetype number) {
+        return PutNumber(std::ranges::copy(mark, place).out, number);
+    }
+
+    qsizetype EncodeValue(const QString& value) {
+        if (value_.size() < value.size())
+            value_.resize(value.size());
+        return AnsiCodec::EncodeInto(value, value_.data());
+    }
+
+    QByteArray buffer_;
+    QByteArray value_;
+    qsizetype filled_ = 0;
+    qint64 at_ = FirstRecord;
+};
 
 /// Writes the records behind the header; raises when they are not all on the disk.
 void WriteRecords(bool replacing) {
     const std::size_t count = WrittenCount();
-    NumberedFiles::Write(FileNumber, FirstRecord, Records(count));
+    RecordWriter records;
+    for (std::size_t i = 0; i < count; ++i)
+        records.Append(mCSF::CsfStrings[i]);
+    records.WriteGathered();
     if (replacing)
         NumberedFiles::Flush(FileNumber);
     NumberedFiles::Close(FileNumber);

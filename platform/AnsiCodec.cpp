@@ -5,6 +5,7 @@
 
 #include "platform/AnsiPage.h"
 
+#include <algorithm>
 #include <vector>
 
 AnsiPage Windows1252Page() {
@@ -46,17 +47,30 @@ const std::vector<unsigned char>& BytesOfUnits() {
 namespace AnsiCodec {
 
 QByteArray Encode(QStringView text) {
-    QByteArray bytes;
-    bytes.reserve(text.size());
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    bytes.truncate(EncodeInto(text, bytes.data()));
+    return bytes;
+}
+
+qsizetype EncodeInto(QStringView text, char* bytes) {
+    // As in Decode: letters of the lower half need no table.
+    char16_t seen = 0;
+    for (const QChar unit : text)
+        seen = static_cast<char16_t>(seen | unit.unicode());
+    if (seen < 0x80) {
+        std::transform(text.begin(), text.end(), bytes, [](QChar unit) { return unit.toLatin1(); });
+        return text.size();
+    }
     const std::vector<unsigned char>& table = BytesOfUnits();
+    char* out = bytes;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t unit = text[i].unicode();
         const unsigned char byte = table[unit];
-        bytes.append(byte != 0 || unit == 0 ? static_cast<char>(byte) : '?');
+        *out++ = byte != 0 || unit == 0 ? static_cast<char>(byte) : '?';
         if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
             ++i;
     }
-    return bytes;
+    return out - bytes;
 }
 
 QString Decode(QByteArrayView bytes) {

@@ -18,6 +18,9 @@ namespace AnsiCodec {
 /// One byte a UTF-16 unit; a character that the page lacks becomes '?' (a surrogate pair becomes one '?').
 QByteArray Encode(QStringView text);
 
+/// The same into memory of the caller's, with room for as many bytes as the text has units; returns how many it took.
+qsizetype EncodeInto(QStringView text, char* bytes);
+
 /// One character a byte.
 QString Decode(QByteArrayView bytes);
 

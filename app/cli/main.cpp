@@ -4,6 +4,7 @@
 /// brindock-cli: the suite's file logic for scripts and build pipelines.
 #include "app/cli/BigCommands.h"
 #include "app/cli/BigEditCommands.h"
+#include "app/cli/CsfCommands.h"
 #include "app/cli/GameCommands.h"
 #include "app/cli/Output.h"
 #include "app/cli/ScriptHost.h"
@@ -29,6 +30,7 @@ int Run(const std::vector<std::string>& arguments) {
     AddBigCommands(commands);
     AddBigEditCommands(commands);
     AddVerifyCommand(commands);
+    AddCsfCommands(commands);
     try {
         commands.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         // All is done; taking a large table apart would only cost time.

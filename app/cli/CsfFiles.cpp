@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/cli/CsfFiles.h"
+
+#include "app/cli/Output.h"
+#include "platform/Files.h"
+#include "platform/NumberedFiles.h"
+#include "platform/Paths.h"
+
+#include <limits>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using NumberedFiles::Access;
+
+namespace {
+
+constexpr int FileNumber = 7;
+constexpr int HighestLanguage = 255;
+
+} // namespace
+
+CsfTable ReadTableArgument(const std::string& argument) {
+    const QString path = ArgumentPath(argument);
+    NumberedFiles::Open(FileNumber, path, Access::Read); // what can't be opened is refused here, with its reason
+    NumberedFiles::Close(FileNumber);
+    try {
+        const int language = mCSF::ReadTable(path);
+        return {language, std::exchange(mCSF::CsfStrings, {})};
+    } catch (const RuntimeError& error) {
+        Fail(Paths::ToNative(path), u"not a CSF file that can be read: "_s + error.Description());
+    }
+}
+
+void WriteTableFile(const QString& path, CsfTable table) {
+    const QString shown = Paths::ToNative(path);
+    if (table.Strings.empty())
+        Fail(shown, u"a table without strings can't be saved"_s);
+    if (table.Strings.size() > mCSF::MaximumStrings)
+        Fail(shown, u"%1 strings; %2 are the most that can be read again"_s.arg(table.Strings.size())
+                        .arg(mCSF::MaximumStrings));
+    if (table.Language < 0 || table.Language > HighestLanguage)
+        Fail(shown, u"the language number %1 can't be stored; --language gives another"_s.arg(table.Language));
+    mCSF::CsfStrings = std::move(table.Strings);
+    const QString reason = mCSF::WriteTable(path, static_cast<qint16>(table.Language));
+    if (!reason.isEmpty())
+        Fail(shown, reason + u" (a file that stood there before has now the ending .sav)"_s);
+}
+
+QByteArray ReadWholeFile(const QString& path) {
+    NumberedFiles::Open(FileNumber, path, Access::Read);
+    const QByteArray bytes = NumberedFiles::Read(FileNumber, 0, std::numeric_limits<qint64>::max());
+    NumberedFiles::Close(FileNumber);
+    return bytes;
+}
+
+void WriteWholeFile(const QString& path, const QByteArray& bytes) {
+    const QString aside = Files::TemporaryBeside(path);
+    try {
+        NumberedFiles::Open(FileNumber, aside, Access::Replace);
+        NumberedFiles::Write(FileNumber, 0, bytes);
+        NumberedFiles::Close(FileNumber);
+        Files::Replace(aside, path);
+    } catch (const RuntimeError&) {
+        Ignoring([] { NumberedFiles::Close(FileNumber); });
+        Ignoring([&] { Files::DeleteForced(aside); });
+        throw;
+    }
+}

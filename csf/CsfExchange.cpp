@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "csf/CsfExchange.h"
+
+#include "csf/CsfFormats.h"
+#include "platform/RuntimeError.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringDecoder>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString DecodeUtf8(const QByteArray& bytes) {
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    QString text = decoder(bytes);
+    if (decoder.hasError())
+        throw RuntimeError(ErrorNumber::TypeMismatch, u"not UTF-8"_s);
+    return text;
+}
+
+[[noreturn]] void RefuseJson(const QString& reason) {
+    throw RuntimeError(ErrorNumber::TypeMismatch, reason);
+}
+
+QString TextOf(const QJsonValue& entry, const QString& key, qsizetype index) {
+    const QJsonValue text = entry[key];
+    if (!text.isString())
+        RefuseJson(u"string %1 has no text \"%2\""_s.arg(index).arg(key));
+    return text.toString();
+}
+
+} // namespace
+
+namespace CsfFormats {
+
+void Refuse(qsizetype line, const QString& reason) {
+    throw RuntimeError(ErrorNumber::TypeMismatch, u"line %1: %2"_s.arg(line).arg(reason));
+}
+
+int LanguageNumber(QStringView text, qsizetype line) {
+    bool isNumber = false;
+    const int number = text.trimmed().toInt(&isNumber);
+    if (!isNumber || number < 0)
+        Refuse(line, u"\"%1\" is no language number"_s.arg(text));
+    return number;
+}
+
+QByteArray ToJson(const CsfTable& table) {
+    QJsonArray strings;
+    for (const CsfString& entry : table.Strings)
+        strings.append(QJsonObject{{u"name"_s, entry.Name}, {u"value"_s, entry.Value}});
+    return QJsonDocument(QJsonObject{{u"language"_s, table.Language}, {u"strings"_s, strings}}).toJson();
+}
+
+CsfTable FromJson(const QByteArray& bytes) {
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    if (error.error != QJsonParseError::NoError)
+        RefuseJson(u"byte %1: %2"_s.arg(error.offset).arg(error.errorString()));
+    const QJsonValue language = document[u"language"_s];
+    if (!document[u"strings"_s].isArray())
+        RefuseJson(u"there is no list \"strings\""_s);
+    if (!language.isUndefined() && language.toInt(-1) < 0)
+        RefuseJson(u"\"language\" is no language number"_s);
+    CsfTable table{language.toInt(), {}};
+    const QJsonArray strings = document[u"strings"_s].toArray();
+    table.Strings.reserve(static_cast<std::size_t>(strings.size()));
+    qsizetype index = 0;
+    for (const auto& entry : strings) {
+        table.Strings.push_back({TextOf(entry, u"value"_s, index), TextOf(entry, u"name"_s, index)});
+        ++index;
+    }
+    return table;
+}
+
+} // namespace CsfFormats
+
+namespace CsfExchange {
+
+std::optional<Format> FormatOf(const QString& path) {
+    if (path.endsWith(u".json"_s, Qt::CaseInsensitive))
+        return Format::Json;
+    if (path.endsWith(u".csv"_s, Qt::CaseInsensitive))
+        return Format::Csv;
+    if (path.endsWith(u".po"_s, Qt::CaseInsensitive))
+        return Format::Po;
+    return std::nullopt;
+}
+
+QByteArray Export(const CsfTable& table, Format format) {
+    switch (format) {
+    case Format::Json:
+        return CsfFormats::ToJson(table);
+    case Format::Csv:
+        return CsfFormats::ToCsv(table);
+    case Format::Po:
+        break;
+    }
+    return CsfFormats::ToPo(table);
+}
+
+CsfTable Import(const QByteArray& bytes, Format format) {
+    switch (format) {
+    case Format::Json:
+        return CsfFormats::FromJson(bytes);
+    case Format::Csv:
+        return CsfFormats::FromCsv(DecodeUtf8(bytes));
+    case Format::Po:
+        break;
+    }
+    return CsfFormats::FromPo(DecodeUtf8(bytes));
+}
+
+QString Escaped(const QString& text) {
+    const auto special = [](QChar letter) { return letter == u'\n' || letter == u'\t' || letter == u'\\'; };
+    if (std::ranges::none_of(text, special))
+        return text;
+    return QString(text).replace(u'\\', u"\\\\"_s).replace(u'\n', u"\\n"_s).replace(u'\t', u"\\t"_s);
+}
+
+QString Unescaped(const QString& text) {
+    QString plain;
+    plain.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar next = text[i] == u'\\' && i + 1 < text.size() ? text[i + 1] : QChar();
+        const bool escape = next == u'n' || next == u't' || next == u'\\';
+        plain += !escape ? text[i] : next == u'n' ? u'\n' : next == u't' ? u'\t' : u'\\';
+        i += escape ? 1 : 0;
+    }
+    return plain;
+}
+
+} // namespace CsfExchange

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "csf/CsfCompare.h"
+
+#include "tests/csf/Tables.h"
+
+using namespace Qt::StringLiterals;
+using CsfCompare::Check;
+using CsfCompare::Diff;
+using CsfCompare::Merge;
+
+namespace {
+
+/// A table of "name=value" texts.
+CsfTable TableOf(const QStringList& entries, int language = 0) {
+    CsfTable table{language, {}};
+    for (const QString& entry : entries)
+        table.Strings.push_back({entry.section(u'=', 1), entry.section(u'=', 0, 0)});
+    return table;
+}
+
+QStringList Texts(const CsfTable& table) {
+    QStringList texts;
+    for (const CsfString& entry : table.Strings)
+        texts += entry.Name + u'=' + entry.Value;
+    return texts;
+}
+
+} // namespace
+
+TEST(CsfCompare, TellsWhatWasAddedRemovedAndChanged) {
+    using Kind = CsfDifference::Kind;
+    EXPECT_EQ(Diff(TableOf({u"a=1"_s, u"b=2"_s, u"c=3"_s}), TableOf({u"d=4"_s, u"c=3"_s, u"b=x"_s})),
+              (std::vector<CsfDifference>{{Kind::Removed, u"a"_s, u"1"_s, {}},
+                                          {Kind::Changed, u"b"_s, u"2"_s, u"x"_s},
+                                          {Kind::Added, u"d"_s, {}, u"4"_s}}));
+}
+
+TEST(CsfCompare, OrderIsNoDifferenceButCaseIs) {
+    EXPECT_TRUE(Diff(TableOf({u"a=1"_s, u"b=2"_s}), TableOf({u"b=2"_s, u"a=1"_s})).empty());
+    EXPECT_EQ(Diff(TableOf({u"a=1"_s}), TableOf({u"A=1"_s})).size(), 2U);
+}
+
+TEST(CsfCompare, DuplicatesAreComparedInTheirOrder) {
+    using Kind = CsfDifference::Kind;
+    EXPECT_EQ(Diff(TableOf({u"a=1"_s, u"a=2"_s}), TableOf({u"a=1"_s, u"a=3"_s, u"a=4"_s})),
+              (std::vector<CsfDifference>{{Kind::Changed, u"a"_s, u"2"_s, u"3"_s}, {Kind::Added, u"a"_s, {}, u"4"_s}}));
+}
+
+TEST(CsfCompare, MergesWhatEitherSideDid) {
+    const CsfTable base = TableOf(
+        {u"same=1"_s, u"ours=1"_s, u"theirs=1"_s, u"both=1"_s, u"we drop=1"_s, u"they drop=1"_s, u"both drop=1"_s});
+    const CsfTable ours = TableOf(
+        {u"we add=2"_s, u"same=1"_s, u"ours=2"_s, u"theirs=1"_s, u"both=2"_s, u"they drop=1"_s, u"both add=2"_s});
+    const CsfTable theirs = TableOf(
+        {u"same=1"_s, u"ours=1"_s, u"theirs=2"_s, u"both=2"_s, u"we drop=1"_s, u"both add=2"_s, u"they add=2"_s});
+    const CsfMerged merged = Merge(base, ours, theirs);
+    EXPECT_EQ(Texts(merged.Table), (QStringList{u"we add=2"_s, u"same=1"_s, u"ours=2"_s, u"theirs=2"_s, u"both=2"_s,
+                                                u"both add=2"_s, u"they add=2"_s}));
+    EXPECT_TRUE(merged.Conflicts.empty());
+}
+
+TEST(CsfCompare, AConflictKeepsOurs) {
+    const CsfMerged merged = Merge(TableOf({u"changed=1"_s, u"we drop=1"_s, u"they drop=1"_s}),
+                                   TableOf({u"changed=2"_s, u"they drop=2"_s, u"added=2"_s}),
+                                   TableOf({u"changed=3"_s, u"we drop=3"_s, u"added=3"_s}));
+    EXPECT_EQ(Texts(merged.Table), (QStringList{u"changed=2"_s, u"they drop=2"_s, u"added=2"_s}));
+    EXPECT_EQ(merged.Conflicts, (std::vector<CsfConflict>{{u"changed"_s, u"changed in both"_s},
+                                                          {u"they drop"_s, u"changed in ours, deleted in theirs"_s},
+                                                          {u"added"_s, u"added in both"_s},
+                                                          {u"we drop"_s, u"deleted in ours, changed in theirs"_s}}));
+}
+
+TEST(CsfCompare, TheLanguageIsMergedToo) {
+    const auto languageOf = [](int base, int ours, int theirs) { return Merge({base, {}}, {ours, {}}, {theirs, {}}); };
+    EXPECT_EQ(languageOf(0, 0, 3).Table.Language, 3);
+    EXPECT_EQ(languageOf(0, 2, 0).Table.Language, 2);
+    EXPECT_FALSE(languageOf(0, 3, 3).LanguageConflict);
+    EXPECT_EQ(languageOf(0, 2, 3).Table.Language, 2);
+    EXPECT_TRUE(languageOf(0, 2, 3).LanguageConflict);
+}
+
+TEST(CsfCompare, ChecksForDuplicatesEmptyAndLongValues) {
+    using Kind = CsfFinding::Kind;
+    EXPECT_EQ(Check(TableOf({u"GUI:Ok=yes"_s, u"b="_s, u"gui:OK=12345"_s, u"c=1234"_s, u"B=x"_s}), {nullptr, 4}),
+              (std::vector<CsfFinding>{{Kind::Empty, u"b"_s, {}, {}},
+                                       {Kind::Duplicate, u"gui:OK"_s, {}, {}},
+                                       {Kind::Long, u"gui:OK"_s, u"5"_s, {}},
+                                       {Kind::Duplicate, u"B"_s, {}, {}}}));
+}
+
+TEST(CsfCompare, ChecksPlaceholdersAgainstAnotherTable) {
+    using Kind = CsfFinding::Kind;
+    const CsfTable other = TableOf({u"A=%d of %s"_s, u"b=%s"_s, u"c=50%"_s, u"d=x"_s});
+    EXPECT_EQ(Check(TableOf({u"a=%s von %d"_s, u"b=%s!"_s, u"c=50% of 100%%"_s, u"e=%s"_s}), {&other, 0}),
+              (std::vector<CsfFinding>{{Kind::Placeholders, u"a"_s, u"%s %d"_s, u"%d %s"_s}}));
+}
+
+TEST(CsfCompare, FindsPlaceholders) {
+    EXPECT_EQ(CsfCompare::Placeholders(u"%d %5.2f %-3hs %2$ls %*d %% 10% off %I64d %+.3x%"_s),
+              u"%d %f %hs %2$ls %*d %I64d %x"_s);
+    EXPECT_EQ(CsfCompare::Placeholders(u"100%"_s), QString());
+}

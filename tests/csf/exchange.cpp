@@ -1,0 +1,207 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "csf/CsfExchange.h"
+
+#include "platform/AnsiCodec.h"
+#include "platform/RuntimeError.h"
+#include "tests/csf/Tables.h"
+
+using namespace Qt::StringLiterals;
+using CsfExchange::Format;
+
+namespace {
+
+constexpr Format AllFormats[] = {Format::Json, Format::Csv, Format::Po};
+
+CsfTable Small() {
+    return {3, {{u"Caf\u00E9\nnoir"_s, u"GUI:A"_s}, {u"say \"hi\", you"_s, {}}, {{}, u"GUI:A"_s}}};
+}
+
+/// Every 8-bit character in names and values, and what the formats have to keep apart.
+CsfTable Awkward() {
+    CsfTable table{9, {}};
+    QString all;
+    for (int code = 0; code < 256; ++code) {
+        const QString letter = AnsiCodec::Decode(QByteArray(1, static_cast<char>(code)));
+        table.Strings.push_back({u"a"_s + letter, letter});
+        table.Strings.push_back({letter, u"value of "_s + letter});
+        all += letter;
+    }
+    table.Strings.push_back({all, all});
+    for (const QString& text : {u""_s,
+                                u"\n"_s,
+                                u"\r\n"_s,
+                                u"\n\n\nx"_s,
+                                u"x\r\ny\rz\n"_s,
+                                u" x "_s,
+                                u"\""_s,
+                                u"\"\""_s,
+                                u"a,b"_s,
+                                u"\\n"_s,
+                                u"\\"_s,
+                                u"x#1"_s,
+                                u"x#2"_s,
+                                u"#"_s,
+                                u"#12"_s,
+                                u"x"_s,
+                                u"x"_s,
+                                u"x"_s,
+                                u"language 5"_s,
+                                u"msgid \"x\""_s,
+                                u"\u00FF1"_s,
+                                u"\u0001"
+                                u"7"_s}) {
+        table.Strings.push_back({text, text});
+        table.Strings.push_back({text, text});
+    }
+    return table;
+}
+
+QString RefusalOf(const QByteArray& bytes, Format format) {
+    try {
+        CsfExchange::Import(bytes, format);
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), 13);
+        return error.Description();
+    }
+    return u"read"_s;
+}
+
+} // namespace
+
+TEST(CsfExchange, WhatWasExportedComesBackTheSame) {
+    for (const Format format : AllFormats) {
+        EXPECT_EQ(CsfExchange::Import(CsfExchange::Export(Small(), format), format), Small());
+        const CsfTable awkward = Awkward();
+        const CsfTable back = CsfExchange::Import(CsfExchange::Export(awkward, format), format);
+        EXPECT_EQ(back.Language, 9);
+        ASSERT_EQ(back.Strings.size(), awkward.Strings.size());
+        for (std::size_t i = 0; i < awkward.Strings.size(); ++i)
+            EXPECT_EQ(back.Strings[i], awkward.Strings[i]) << i;
+    }
+}
+
+TEST(CsfExchange, TheEndingOfAFilesNameTellsTheFormat) {
+    EXPECT_EQ(CsfExchange::FormatOf(u"a.json"_s), Format::Json);
+    EXPECT_EQ(CsfExchange::FormatOf(u"C:\\A.CSV"_s), Format::Csv);
+    EXPECT_EQ(CsfExchange::FormatOf(u"fr.po"_s), Format::Po);
+    EXPECT_EQ(CsfExchange::FormatOf(u"a.csf"_s), std::nullopt);
+}
+
+TEST(CsfExchange, WritesJson) {
+    EXPECT_EQ(CsfExchange::Export({3, {{u"Caf\u00E9\n"_s, u"GUI:A"_s}}}, Format::Json),
+              "{\n    \"language\": 3,\n    \"strings\": [\n        {\n            \"name\": \"GUI:A\",\n"
+              "            \"value\": \"Caf\xC3\xA9\\n\"\n        }\n    ]\n}\n");
+}
+
+TEST(CsfExchange, WritesCsvWithQuotesOnlyWhereTheyAreNeeded) {
+    EXPECT_EQ(CsfExchange::Export(Small(), Format::Csv),
+              "name,language 3\r\nGUI:A,\"Caf\xC3\xA9\nnoir\"\r\n,\"say \"\"hi\"\", you\"\r\nGUI:A,\r\n");
+}
+
+TEST(CsfExchange, WritesPoWithTheNameAsContext) {
+    EXPECT_EQ(CsfExchange::Export(Small(), Format::Po), "msgid \"\"\n"
+                                                        "msgstr \"\"\n"
+                                                        "\"MIME-Version: 1.0\\n\"\n"
+                                                        "\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
+                                                        "\"Content-Transfer-Encoding: 8bit\\n\"\n"
+                                                        "\"Language: fr\\n\"\n"
+                                                        "\"X-CSF-Language: 3\\n\"\n"
+                                                        "\n"
+                                                        "msgctxt \"GUI:A\"\n"
+                                                        "msgid \"\"\n"
+                                                        "\"Caf\xC3\xA9\\n\"\n"
+                                                        "\"noir\"\n"
+                                                        "msgstr \"\"\n"
+                                                        "\n"
+                                                        "msgctxt \"\"\n"
+                                                        "msgid \"say \\\"hi\\\", you\"\n"
+                                                        "msgstr \"\"\n"
+                                                        "\n"
+                                                        "msgctxt \"GUI:A#2\"\n"
+                                                        "msgid \"\"\n"
+                                                        "msgstr \"\"\n");
+}
+
+TEST(CsfExchange, ATranslationTakesThePlaceOfItsSource) {
+    const CsfTable table = CsfExchange::Import("# by hand\n"
+                                               "msgid \"\"\nmsgstr \"x-csf-language: 2\\n\"\n"
+                                               "#: GUI\nmsgctxt \"A\"\nmsgid \"Yes\"\nmsgstr \"J\"\n\"a\"\n\n"
+                                               "#, fuzzy, c-format\n#| msgid \"old\"\nmsgctxt \"B\"\nmsgid \"No\"\n"
+                                               "msgstr \"Nein?\"\n"
+                                               "msgctxt \"C\"\nmsgid \"\\x41\\101\\1018\"\nmsgstr \"\"\n"
+                                               "#~ msgctxt \"gone\"\n#~ msgid \"x\"\n#~ msgstr \"y\"\r\n",
+                                               Format::Po);
+    EXPECT_EQ(table, (CsfTable{2, {{u"Ja"_s, u"A"_s}, {u"No"_s, u"B"_s}, {u"AAA8"_s, u"C"_s}}}));
+}
+
+TEST(CsfExchange, ReadsCsvOfOtherPrograms) {
+    EXPECT_EQ(CsfExchange::Import("\xEF\xBB\xBF"
+                                  "name,value\n\"a\",\"b\"\n\nc,d",
+                                  Format::Csv),
+              (CsfTable{0, {{u"b"_s, u"a"_s}, {u"d"_s, u"c"_s}}}));
+}
+
+TEST(CsfExchange, ReadsJsonWithoutALanguage) {
+    EXPECT_EQ(CsfExchange::Import("{\"strings\":[{\"value\":\"v\",\"name\":\"n\",\"note\":1}]}", Format::Json),
+              (CsfTable{0, {{u"v"_s, u"n"_s}}}));
+}
+
+TEST(CsfExchange, RefusesWhatIsNoJsonTable) {
+    EXPECT_TRUE(RefusalOf("{\"strings\":[", Format::Json).startsWith(u"byte "_s));
+    EXPECT_EQ(RefusalOf("[]", Format::Json), u"there is no list \"strings\""_s);
+    EXPECT_EQ(RefusalOf("{\"strings\":{}}", Format::Json), u"there is no list \"strings\""_s);
+    EXPECT_EQ(RefusalOf("{\"strings\":[{\"name\":\"a\",\"value\":\"b\"},{\"name\":\"a\"}]}", Format::Json),
+              u"string 1 has no text \"value\""_s);
+    EXPECT_EQ(RefusalOf("{\"language\":\"fr\",\"strings\":[]}", Format::Json), u"\"language\" is no language number"_s);
+}
+
+TEST(CsfExchange, RefusesWhatIsNoCsvTable) {
+    EXPECT_TRUE(RefusalOf("", Format::Csv).startsWith(u"line 1: "_s));
+    EXPECT_TRUE(RefusalOf("key,value\n", Format::Csv).startsWith(u"line 1: "_s));
+    EXPECT_EQ(RefusalOf("name,value\na,b\nc\n", Format::Csv), u"line 3: 1 fields, not 2"_s);
+    EXPECT_EQ(RefusalOf("name,value\n\"a\nb\",c,d\n", Format::Csv), u"line 2: 3 fields, not 2"_s);
+    EXPECT_EQ(RefusalOf("name,value\n\"a\nb\",c\nd,e,f\n", Format::Csv), u"line 4: 3 fields, not 2"_s);
+    EXPECT_EQ(RefusalOf("name,value\na,\"b", Format::Csv), u"line 2: a quote is not closed"_s);
+    EXPECT_EQ(RefusalOf("name,value\na,\"b\"c\n", Format::Csv), u"line 2: text behind a closing quote"_s);
+    EXPECT_EQ(RefusalOf("name,language x\n", Format::Csv), u"line 1: \"x\" is no language number"_s);
+    EXPECT_EQ(RefusalOf("name,value\na,\xE9\n", Format::Csv), u"not UTF-8"_s);
+}
+
+TEST(CsfExchange, RefusesWhatIsNoPoTable) {
+    EXPECT_EQ(RefusalOf("msgid \"a\"\nmsgstr \"b\"\n", Format::Po),
+              u"line 3: an entry without msgctxt ends here; it would have no name"_s);
+    EXPECT_EQ(RefusalOf("msgctxt \"a\"\nmsgstr \"b\"\n\n", Format::Po),
+              u"line 3: an entry without msgid or msgstr ends here"_s);
+    EXPECT_EQ(RefusalOf("msgctxt \"a\"\nmsgid \"b\"\n", Format::Po),
+              u"line 3: an entry without msgid or msgstr ends here"_s);
+    EXPECT_EQ(RefusalOf("\"a\"\n", Format::Po), u"line 1: a quoted text is expected"_s);
+    EXPECT_EQ(RefusalOf("msgctxt a\n", Format::Po), u"line 1: a quoted text is expected"_s);
+    EXPECT_EQ(RefusalOf("msgctxt \"\n", Format::Po), u"line 1: a quoted text is expected"_s);
+    EXPECT_EQ(RefusalOf("msgctxt \"a\" \"b\"\n", Format::Po), u"line 1: text behind a closing quote"_s);
+    EXPECT_EQ(RefusalOf("msgctxt \"\\q\"\n", Format::Po), u"line 1: an unknown escape sequence"_s);
+    EXPECT_EQ(RefusalOf("msgctxt \"\\\"\n", Format::Po), u"line 1: an unknown escape sequence"_s);
+    EXPECT_EQ(RefusalOf("msgctxt \"a\"\nmsgid \"b\"\nmsgid_plural \"c\"\n", Format::Po),
+              u"line 3: \"msgid_plural\" is not expected here"_s);
+    EXPECT_EQ(RefusalOf("nonsense\n", Format::Po), u"line 1: \"nonsense\" is not expected here"_s);
+}
+
+TEST(CsfExchange, EveryCutOfAnExportIsReadOrRefused) {
+    for (const Format format : AllFormats) {
+        const QByteArray whole = CsfExchange::Export(Small(), format);
+        for (qsizetype length = 0; length < whole.size(); ++length) {
+            try {
+                EXPECT_LE(CsfExchange::Import(whole.first(length), format).Strings.size(), 3U);
+            } catch (const RuntimeError& error) {
+                EXPECT_EQ(error.Number(), 13);
+            }
+        }
+    }
+}
+
+TEST(CsfExchange, EscapesWhatALineCantHold) {
+    EXPECT_EQ(CsfExchange::Escaped(u"a\nb\tc\\d\re"_s), u"a\\nb\\tc\\\\d\re"_s);
+    EXPECT_EQ(CsfExchange::Unescaped(u"a\\nb\\tc\\\\nd"_s), u"a\nb\tc\\nd"_s);
+    EXPECT_EQ(CsfExchange::Unescaped(u"C:\\x\\"_s), u"C:\\x\\"_s);
+}
