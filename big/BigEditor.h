@@ -8,6 +8,7 @@
 #include "big/Extraction.h"
 #include "big/FileList.h"
 #include "big/FolderTree.h"
+#include "big/Preview.h"
 
 #include <QString>
 #include <QStringList>
@@ -59,7 +60,6 @@ struct EditorState {
     int SelectedNode = FolderTree::None;
     FocusedPane FocusPane = FocusedPane::Tree;
     qint16 NewFolderNumber = 1;
-    QString PreviewSoundFile; ///< inside path of the sound preview's temporary file; empty when there is none
     QString StatusText;
     QString DetailsName; ///< lblFName
     QString DetailsSize; ///< lblFSize
@@ -75,6 +75,8 @@ public:
     [[nodiscard]] const FolderTree& Tree() const { return tree_; }
 
     [[nodiscard]] FileList& List() { return list_; }
+
+    [[nodiscard]] const PreviewState& Previewed() const { return preview_.State(); }
 
     /// Opens an archive from outside; a file that doesn't exist is ignored, a refused one beeps.
     void OpenBigFile(const QString& path);
@@ -131,6 +133,9 @@ public:
     /// A double click on a row, or the Enter key: a folder row opens its folder, a file row is modified.
     void ActivateRow(int place);
 
+    /// What decodes pictures and plays sounds for the preview; both outlive the editor.
+    void UsePreview(PictureDecoder* decoder, SoundPlayer* player) { preview_.Use(decoder, player); }
+
     [[nodiscard]] static ViewMode View();
     /// Stores the view mode at once.
     static void SetView(ViewMode mode);
@@ -145,6 +150,7 @@ private:
     void ResetAfterOpen();
     void ArchiveOpened();
     void ClearPreview();
+    bool ShowDetails(int index, const QString& rowText);
     bool WriteLocked(const QString& path);
     Saved SaveTo(const QString& path);
     Saved SaveUnderName();
@@ -156,5 +162,6 @@ private:
     EditorState state_;
     FolderTree tree_;
     FileList list_;
+    Preview preview_{[this] { view_.StateChanged(); }};
     bool saving_ = false;
 };

@@ -42,16 +42,6 @@ struct Options {
 
 using SharedOptions = std::shared_ptr<Options>;
 
-/// Reads an archive into the table or fails with the reason.
-void Read(const QString& path) {
-    constexpr int number = 7;
-    NumberedFiles::Open(number, path, NumberedFiles::Access::Read);
-    NumberedFiles::Close(number);
-    if (!mBIG::ReadBigFile(path))
-        Fail(path, u"not a BIG archive, or one without entries"_s);
-    mBIG::BigFileName = path;
-}
-
 /// Writes a number and a tab; returns the end.
 char16_t* PutNumber(char16_t* place, qint32 number) {
     std::array<char, 16> digits{};
@@ -62,7 +52,7 @@ char16_t* PutNumber(char16_t* place, qint32 number) {
 }
 
 void List(const Options& options) {
-    Read(ArgumentPath(options.Archive));
+    ReadArchive(ArgumentPath(options.Archive));
     if (options.Json) {
         QJsonArray entries;
         for (const BigEntry& entry : mBIG::BigEntries)
@@ -114,7 +104,7 @@ QString LastPart(const QString& name) {
 
 void Extract(const Options& options) {
     const QString archive = ArgumentPath(options.Archive);
-    Read(archive);
+    ReadArchive(archive);
     const auto entries = Chosen(archive, options.Names);
     ArchiveExtractor extractor(archive, ArgumentPath(options.Folder));
     QSet<QString> written;
@@ -173,7 +163,7 @@ void Write(const QString& target) {
 
 void SaveArchive(const Options& options, bool versionGiven) {
     const QString archive = ArgumentPath(options.Archive);
-    Read(archive);
+    ReadArchive(archive);
     if (versionGiven)
         mBIG::BigVersion = options.Version;
     for (const std::string& name : options.Deleted)
@@ -266,6 +256,15 @@ void AddCreate(CLI::App* big, const SharedOptions& options) {
 }
 
 } // namespace
+
+void ReadArchive(const QString& path) {
+    constexpr int number = 7;
+    NumberedFiles::Open(number, path, NumberedFiles::Access::Read);
+    NumberedFiles::Close(number);
+    if (!mBIG::ReadBigFile(path))
+        Fail(path, u"not a BIG archive, or one without entries"_s);
+    mBIG::BigFileName = path;
+}
 
 void AddBigCommands(CLI::App& commands) {
     CLI::App* big = commands.add_subcommand("big", "BIG archives")->require_subcommand(1);

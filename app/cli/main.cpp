@@ -5,8 +5,10 @@
 #include "app/cli/BigCommands.h"
 #include "app/cli/GameCommands.h"
 #include "app/cli/Output.h"
+#include "app/cli/PreviewCommand.h"
 #include "app/cli/ScriptHost.h"
 
+#include "big/PictureChild.h"
 #include "core/mMain.h"
 #include "platform/Arguments.h"
 #include "platform/Processes.h"
@@ -26,6 +28,7 @@ int Run(const std::vector<std::string>& arguments) {
     commands.set_version_flag("--version", mMain::VersionText().toStdString());
     AddGameCommands(commands);
     AddBigCommands(commands);
+    AddPreviewCommand(commands);
     try {
         commands.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         Flush();
@@ -39,6 +42,8 @@ int Run(const std::vector<std::string>& arguments) {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (PictureChild::IsAsked(argc, argv))
+        return PictureChild::Run(argc, argv);
     try {
         return Run(ProcessArguments(argc, argv));
     } catch (const RuntimeError& error) {
