@@ -81,6 +81,7 @@ Preview::~Preview() {
 }
 
 void Preview::Use(PictureDecoder* decoder, SoundPlayer* player) {
+    AbandonPicture();
     decoder_ = decoder;
     player_ = player;
 }

@@ -67,7 +67,7 @@ public:
     Preview(const Preview&) = delete;
     Preview& operator=(const Preview&) = delete;
 
-    /// Both outlive the preview; without them the rest of the preview works all the same.
+    /// Both outlive the preview or their use; without them (null) the rest of the preview works all the same.
     void Use(PictureDecoder* decoder, SoundPlayer* player);
 
     [[nodiscard]] const PreviewState& State() const { return state_; }
