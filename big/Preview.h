@@ -5,6 +5,7 @@
 /// `mnuDetails` shows for a row, and the temporary files behind them.
 #pragma once
 
+#include "big/SoundPlayer.h"
 #include "big/mBIG.h"
 
 #include <QByteArray>
@@ -31,19 +32,6 @@ public:
     virtual void Decode(const QString& source, const QString& bitmap, Done done) = 0;
     /// Ends a decoding under way; its `done` is not called.
     virtual void Abandon() = 0;
-};
-
-/// The player behind `MediaPlayer1`.
-class SoundPlayer {
-public:
-    SoundPlayer() = default;
-    SoundPlayer(const SoundPlayer&) = delete;
-    SoundPlayer& operator=(const SoundPlayer&) = delete;
-    virtual ~SoundPlayer() = default;
-
-    /// Opens a sound file (inside path) and starts it. The file is no longer in use when this returns.
-    virtual void Open(const QString& path) = 0;
-    virtual void Stop() = 0;
 };
 
 struct PreviewState {

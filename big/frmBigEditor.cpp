@@ -37,6 +37,8 @@ frmBigEditor::frmBigEditor(QWidget* parent)
     Dress();
     ui_->tvDirs->setModel(treeModel_);
     ui_->lvFiles->SetModel(listModel_);
+    editor_.UsePreview(&decoder_, &player_);
+    ui_->picDetails->Use(&player_);
     ConnectCommands();
     ConnectViews();
     const ViewMode mode = BigEditor::View();
@@ -186,6 +188,7 @@ void frmBigEditor::StateChanged() {
     ui_->mnuDetails->setVisible(state.DetailsVisible);
     ui_->lblFName->setText(state.DetailsName);
     ui_->lblFSize->setText(state.DetailsSize);
+    ui_->picDetails->Follow(editor_.Previewed());
     status_->setText(state.StatusText);
     const QString tool = u"BIG Editor"_s;
     setWindowTitle(state.ArchiveOpen ? LastPart(mBIG::BigFileName) + u"[*] - "_s + tool : tool);

@@ -73,6 +73,14 @@ public:
     }
 
     void Stop() override { ++Stops; }
+
+    void Play() override {}
+
+    void Rewind() override {}
+
+    void Seek(qint64 /*position*/) override {}
+
+    [[nodiscard]] SoundStatus Status() const override { return {}; }
 };
 
 class PreviewTest : public Document {
