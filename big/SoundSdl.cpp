@@ -66,6 +66,7 @@ void SdlOutput::Work() {
             task();
         LookAtMusic();
     }
+    SDL_TLSCleanup();
 }
 
 void SdlOutput::Open(const QByteArray& bytes) {
@@ -143,6 +144,8 @@ void SdlOutput::Read(const QByteArray& bytes) {
 
 void SdlOutput::Forget() {
     stage_ = Stage::Opening; // silences Feed
+    position_ = 0;
+    length_ = 0;
     if (!deviceOpen_)
         return;
     Mix_HookMusic(nullptr, nullptr);
