@@ -8,6 +8,7 @@
 #include "big/Extraction.h"
 #include "big/FileList.h"
 #include "big/FolderTree.h"
+#include "big/Preview.h"
 
 #include <QString>
 #include <QStringList>
@@ -60,7 +61,6 @@ struct EditorState {
     int SelectedNode = FolderTree::None;
     FocusedPane FocusPane = FocusedPane::Tree;
     qint16 NewFolderNumber = 1;
-    QString PreviewSoundFile; ///< inside path of the sound preview's temporary file; empty when there is none
     QString StatusText;
     QString DetailsName; ///< lblFName
     QString DetailsSize; ///< lblFSize
@@ -80,6 +80,8 @@ public:
     [[nodiscard]] const FolderTree& Tree() const { return tree_; }
 
     [[nodiscard]] FileList& List() { return list_; }
+
+    [[nodiscard]] const PreviewState& Previewed() const { return preview_.State(); }
 
     /// Opens an archive from outside; a file that doesn't exist is ignored, a refused one beeps.
     void OpenBigFile(const QString& path);
@@ -142,6 +144,9 @@ public:
     /// A double click on a row, or the Enter key: a folder row opens its folder, a file row is modified.
     void ActivateRow(int place);
 
+    /// What decodes pictures and plays sounds for the preview; both outlive the editor.
+    void UsePreview(PictureDecoder* decoder, SoundPlayer* player) { preview_.Use(decoder, player); }
+
     [[nodiscard]] static ViewMode View();
     /// Stores the view mode at once.
     static void SetView(ViewMode mode);
@@ -176,6 +181,7 @@ private:
     void ResetAfterOpen();
     void ArchiveOpened();
     void ClearPreview();
+    bool ShowDetails(int index, const QString& rowText);
     bool WriteLocked(const QString& path);
     Saved SaveTo(const QString& path);
     Saved SaveUnderName();
@@ -204,6 +210,7 @@ private:
     EditorState state_;
     FolderTree tree_;
     FileList list_;
+    Preview preview_{[this] { view_.StateChanged(); }};
     bool busy_ = false;      ///< a save, an extraction or a drop is under way
     int table_ = 0;          ///< number of the table in BigEntries; each that is read or made has another one
     QStringList openCopies_; ///< inside paths that other programs are waited for with

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "big/BigEditor.h"
+#include "core/Host.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
@@ -13,9 +14,18 @@ using mTraduction::GetText;
 
 namespace {
 
+/// "#,##0" with the user's mark between the thousands, whatever groups the locale itself would make.
+QString WithThousands(qint64 number) {
+    constexpr int group = 3;
+    QString text = QString::number(number);
+    for (qsizetype at = text.size() - group; at > 0; at -= group)
+        text.insert(at, QLocale().groupSeparator());
+    return text;
+}
+
 /// Whole kilobytes; less than one shows as 0.
 QString KiloBytes(qint64 bytes) {
-    return QLocale().toString(bytes / 1024) + u' ' + GetText(u"KiloBytes"_s);
+    return WithThousands(bytes / 1024) + u' ' + GetText(u"KiloBytes"_s);
 }
 
 qint64 CurrentSize(const BigEntry& entry) {
@@ -27,26 +37,42 @@ qint64 CurrentSize(const BigEntry& entry) {
 } // namespace
 
 void BigEditor::ClearPreview() {
-    if (!state_.PreviewSoundFile.isEmpty())
-        Ignoring([&] { Files::Delete(state_.PreviewSoundFile); });
-    state_.PreviewSoundFile.clear();
+    preview_.Clear();
 }
 
 void BigEditor::ClickRow(int place) {
     if (place < 0 || place >= list_.Count())
         return;
-    const FileRow& row = list_.Row(place);
-    state_.ModifyEnabled = !row.IsFolder;
-    state_.DetailsVisible = !row.IsFolder;
-    state_.FocusPane = FocusedPane::List;
-    ClearPreview();
-    // The table may have been replaced by that of a refused archive.
-    const auto index = static_cast<std::size_t>(row.Index);
-    if (!row.IsFolder && index < mBIG::BigEntries.size()) {
-        const BigEntry& entry = mBIG::BigEntries[index];
-        state_.StatusText = entry.Name;
-        state_.DetailsName = list_.Text(place);
-        state_.DetailsSize = KiloBytes(CurrentSize(entry));
+    const FileRow row = list_.Row(place);
+    if (row.IsFolder) {
+        preview_.ShowFolderRow();
+        state_.ModifyEnabled = false;
+        state_.DetailsVisible = false;
+        state_.FocusPane = FocusedPane::List;
+    } else if (!ShowDetails(row.Index, list_.Text(place))) {
+        return;
     }
     view_.StateChanged();
+}
+
+bool BigEditor::ShowDetails(int index, const QString& rowText) {
+    // A record that is gone counts as one whose file is gone: the test for it fails, and a failing test holds.
+    const bool there = static_cast<std::size_t>(index) < mBIG::BigEntries.size();
+    BigEntry missing;
+    BigEntry& entry = there ? mBIG::BigEntries[static_cast<std::size_t>(index)] : missing;
+    if (!there || (entry.IsNew && !Files::FileExists(entry.SourcePath))) {
+        Host::Current().Message(GetText(u"FileNotFound"_s), Host::Icon::Critical);
+        entry.Deleted = true;
+        ShowFolder(SelectedKey());
+        return false;
+    }
+    state_.ModifyEnabled = true;
+    state_.DetailsVisible = true;
+    state_.StatusText = entry.Name;
+    state_.DetailsName = rowText;
+    state_.DetailsSize = KiloBytes(CurrentSize(entry));
+    // Meant so: a sound that is in place already leaves the commands with the pane that they act on.
+    if (preview_.ShowFile(index, rowText))
+        state_.FocusPane = FocusedPane::List;
+    return true;
 }

@@ -40,6 +40,8 @@ frmBigEditor::frmBigEditor(QWidget* parent)
     Dress();
     ui_->tvDirs->setModel(treeModel_);
     ui_->lvFiles->SetModel(listModel_);
+    editor_.UsePreview(&decoder_, &player_);
+    ui_->picDetails->Use(&player_);
     ConnectCommands();
     ConnectTree();
     ConnectList();
@@ -269,6 +271,7 @@ void frmBigEditor::StateChanged() {
     ui_->mnuDetails->setVisible(state.DetailsVisible);
     ui_->lblFName->setText(state.DetailsName);
     ui_->lblFSize->setText(state.DetailsSize);
+    ui_->picDetails->Follow(editor_.Previewed());
     status_->setText(state.StatusText);
     TellSelection();
     const QString tool = u"BIG Editor"_s;

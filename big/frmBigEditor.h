@@ -5,6 +5,8 @@
 #pragma once
 
 #include "big/BigEditor.h"
+#include "big/PictureProcess.h"
+#include "big/SoundPlayer.h"
 
 #include <QMainWindow>
 
@@ -76,6 +78,8 @@ private:
     void ChooseView(ViewMode mode);
     void UnderlineLink(const SideLink* link);
 
+    PictureProcess decoder_;
+    FilePlayer player_;
     std::unique_ptr<Ui::frmBigEditor> ui_;
     BigEditor editor_;
     FolderTreeModel* treeModel_;

@@ -28,12 +28,31 @@ function(room_windows name)
   target_link_libraries(${name} PUBLIC house Qt6::Widgets)
 endfunction()
 
+# room_pictures(name sources...): code that works on pictures without any window; Qt Gui only.
+function(room_pictures name)
+  add_library(${name} STATIC ${ARGN})
+  target_link_libraries(${name} PUBLIC house Qt6::Gui)
+  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+endfunction()
+
+# Code behind large libraries is loaded when it is asked for first, where libraries are shared ones.
+get_target_property(qt_kind Qt6::Core TYPE)
+if(NOT qt_kind STREQUAL "STATIC_LIBRARY")
+  set(BRINDOCK_MODULES ON)
+endif()
+
+# room_module(name sources...): such a module, beside the programs.
+function(room_module name)
+  add_library(${name} MODULE ${ARGN})
+  target_link_libraries(${name} PRIVATE house)
+  set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+endfunction()
+
 # window_program(name [WIN32] sources...): a program with windows. A static Qt brings along only the system's own platform; tests
 # and pictures need the off-screen one too.
 function(window_program name)
   qt_add_executable(${name} ${ARGN})
-  get_target_property(kind Qt6::Core TYPE)
-  if(kind STREQUAL "STATIC_LIBRARY")
+  if(NOT BRINDOCK_MODULES)
     qt_import_plugins(${name} INCLUDE Qt6::QOffscreenIntegrationPlugin)
   endif()
 endfunction()

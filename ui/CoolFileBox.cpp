@@ -3,6 +3,7 @@
 
 #include "ui/CoolFileBox.h"
 
+#include "ui/DrawnIcon.h"
 #include "ui/FileBoxKey.h"
 
 #include <QCoreApplication>
@@ -54,15 +55,6 @@ constexpr std::array pointers{
     Pointer{11, Qt::WaitCursor},     Pointer{12, Qt::ForbiddenCursor},
 };
 
-QIcon Drawn(const QString& picture) {
-    QIcon icon;
-    // Both modes name it: a selected row is blue enough without a blue tint over its picture.
-    for (const int size : {16, 24, 32, 48})
-        for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
-            icon.addFile(u":/art/places/%1-%2.png"_s.arg(picture).arg(size), QSize(size, size), mode);
-    return icon;
-}
-
 QString PictureOf(const QString& imageKey) {
     for (const Image& image : images)
         if (imageKey == image.Key)
@@ -103,7 +95,7 @@ public:
         const QString image = FileBoxTree::data(index, ImageRole).toString();
         const QString picture = PictureOf(image);
         const auto known = icons_.constFind(picture);
-        return known != icons_.cend() ? *known : *icons_.insert(picture, Drawn(picture));
+        return known != icons_.cend() ? *known : *icons_.insert(picture, DrawnIcon::Named(picture));
     }
 
 private:

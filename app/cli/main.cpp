@@ -7,9 +7,11 @@
 #include "app/cli/CsfCommands.h"
 #include "app/cli/GameCommands.h"
 #include "app/cli/Output.h"
+#include "app/cli/PreviewCommand.h"
 #include "app/cli/ScriptHost.h"
 #include "app/cli/VerifyCommand.h"
 
+#include "big/PictureChild.h"
 #include "core/mMain.h"
 #include "platform/Arguments.h"
 #include "platform/RuntimeError.h"
@@ -31,6 +33,7 @@ int Run(const std::vector<std::string>& arguments) {
     AddBigEditCommands(commands);
     AddVerifyCommand(commands);
     AddCsfCommands(commands);
+    AddPreviewCommand(commands);
     try {
         commands.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
         // All is done; taking a large table apart would only cost time.
@@ -43,6 +46,8 @@ int Run(const std::vector<std::string>& arguments) {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (PictureChild::IsAsked(argc, argv))
+        return PictureChild::Run(argc, argv);
     try {
         return Run(ProcessArguments(argc, argv));
     } catch (const RuntimeError& error) {

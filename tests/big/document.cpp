@@ -124,12 +124,17 @@ TEST_F(Document, RowsBeyondTheListAreIgnored) {
     EXPECT_EQ(State().FocusPane, FocusedPane::Tree);
 }
 
-TEST_F(Document, ARowOfARecordThatIsGoneShowsNoNewDetails) {
+TEST_F(Document, ARowOfARecordThatIsGoneCountsAsAFileThatIsGone) {
+    Place.UseLanguage("[LNG]\r\nFileNotFound=Gone\r\n");
+    Place.Start();
     OpenSample();
     mBIG::BigEntries.clear();
     Editor.ClickRow(1);
     EXPECT_EQ(State().DetailsName, QString());
-    EXPECT_EQ(State().FocusPane, FocusedPane::List);
+    EXPECT_FALSE(State().DetailsVisible);
+    ASSERT_EQ(Speaker.Messages.size(), 1U);
+    EXPECT_EQ(Speaker.Messages[0].Text, u"Gone"_s);
+    EXPECT_EQ(State().FocusPane, FocusedPane::Tree);
 }
 
 TEST_F(Document, ActivatingAFolderRowOpensIt) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "big/PictureChild.h"
 #include "tests/windows/WindowTests.h"
 
 #include <QApplication>
@@ -24,6 +25,9 @@ QStringList ReportArguments(const QString& className) {
 // Runs every test object, or those whose class names stand on the command line before a "--"; what follows the "--"
 // goes to each of them.
 int main(int argc, char** argv) {
+    // The preview starts its own executable as the child that decodes: here that is the tests'.
+    if (PictureChild::IsAsked(argc, argv))
+        return PictureChild::Run(argc, argv);
     const QApplication application(argc, argv);
     QStringList wanted = QApplication::arguments().mid(1);
     QStringList passedOn{QApplication::arguments().first()};
