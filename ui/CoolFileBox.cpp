@@ -137,7 +137,11 @@ CoolFileBox::CoolFileBox(QWidget* parent)
 
 CoolFileBox::~CoolFileBox() = default;
 
-FileBoxTree& CoolFileBox::Tree() const {
+FileBoxTree& CoolFileBox::Tree() {
+    return *model_;
+}
+
+const FileBoxTree& CoolFileBox::Tree() const {
     return *model_;
 }
 

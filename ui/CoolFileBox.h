@@ -78,7 +78,8 @@ public:
     void SetMousePointer(int pointer);
 
     /// What the view shows.
-    [[nodiscard]] FileBoxTree& Tree() const;
+    [[nodiscard]] FileBoxTree& Tree();
+    [[nodiscard]] const FileBoxTree& Tree() const;
 
     /// The tree's view, for its keyboard focus and its accessible name.
     [[nodiscard]] QTreeView* View() const { return trv_File_; }

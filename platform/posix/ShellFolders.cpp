@@ -121,8 +121,8 @@ std::vector<ShellFolders::Drive> ShellFolders::Drives() {
         drives.push_back({path, label.isEmpty() ? root : u"%1 (%2)"_s.arg(label, root), *kind});
     }
     std::ranges::sort(drives, {}, &Drive::Path);
-    const auto twins = std::ranges::unique(drives, {}, &Drive::Path);
-    drives.erase(twins.begin(), twins.end());
+    const auto samePath = [](const Drive& left, const Drive& right) { return left.Path == right.Path; };
+    drives.erase(std::unique(drives.begin(), drives.end(), samePath), drives.end());
     return drives;
 }
 
