@@ -6,6 +6,7 @@
 #include "big/FileListModel.h"
 #include "big/FolderTreeModel.h"
 #include "big/RowDrag.h"
+#include "big/frmBrowseForFolder.h"
 #include "big/frmVersion.h"
 #include "core/Navigator.h"
 #include "core/mMain.h"
@@ -69,8 +70,6 @@ void frmBigEditor::Dress() {
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
     ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
     ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
-    ui_->picSplitter->setSizes({260, 540});
-    ui_->picSplitter->setStretchFactor(1, 1);
     status_->setTextFormat(Qt::PlainText);
     status_->setContentsMargins(6, 0, 0, 0);
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
@@ -311,7 +310,9 @@ void frmBigEditor::EditNode(int node) {
 }
 
 ExtractionTarget frmBigEditor::AskForFolder() {
-    return {};
+    frmBrowseForFolder chooser(isVisible() ? this : nullptr);
+    chooser.exec();
+    return chooser.Target();
 }
 
 void frmBigEditor::EnableWindow(bool enabled) {

@@ -64,8 +64,6 @@ void frmCSFEditor::Dress() {
     ui_->lvStrings2->setAccessibleName(mTraduction::GetText(u"CSFFile"_s));
     ui_->txtFind->setAccessibleName(mTraduction::GetText(u"Find"_s));
     ui_->txtName->setMaxLength(std::numeric_limits<int>::max());
-    ui_->picSplitter->setStretchFactor(0, 1);
-    ui_->picSplitter->setSizes({360, 220});
     count_->setContentsMargins(6, 0, 0, 0);
     ui_->StatusBar1->addWidget(count_, 1);
     ui_->mnuExit->setShortcuts({ui_->mnuExit->shortcut(), QKeySequence(u"Alt+F4"_s)});
