@@ -57,7 +57,7 @@ void BigEditor::DeleteFolder(int node) {
 void BigEditor::DeleteRows() {
     std::vector<int> places = view_.SelectedRows();
     if (mBIG::HighestIndex() < 1 && places.size() > 1)
-        places.resize(1);
+        places.erase(places.begin() + 1, places.end());
     for (const int place : places) {
         if (place < 0 || place >= list_.Count())
             continue;

@@ -91,7 +91,7 @@ protected:
                                        u"\u03C2"_s,
                                        QString::fromUcs4(U"\U00010400"),
                                        QString::fromUcs4(U"\U00010428")};
-        const QString name = names[Below(static_cast<int>(names.size()))];
+        const QString& name = names[Below(static_cast<int>(names.size()))];
         return OneIn(2) ? name.toUpper() : name;
     }
 
@@ -150,6 +150,7 @@ TEST_F(EditorDropMany, AnyDropGivesWhatASearchForEachFileGives) {
 
 TEST_F(EditorDropMany, TheIndexFindsWhatASearchFinds) {
     std::vector<QString> names;
+    names.reserve(300);
     for (int name = 0; name < 300; ++name)
         names.push_back(SomeName() + SomeName());
     for (int name = 0; name < 150; ++name)

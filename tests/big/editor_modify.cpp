@@ -1,64 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// Modify with the CSF Editor as the other program: it gets the file and the document goes on at once.
 #include "core/mMain.h"
-#include "platform/Files.h"
 #include "platform/NumberedFiles.h"
-#include "platform/Paths.h"
-#include "tests/big/document_fixture.h"
-#include "tests/support/ScriptedNavigator.h"
+#include "tests/big/modify_fixture.h"
 
 using namespace Qt::StringLiterals;
 using Answer = Host::Answer;
-
-namespace {
-
-class EditorModify : public Document {
-protected:
-    EditorModify() {
-        Programs.OnCall = [this](const QString& call) {
-            const QString path = call.sliced(call.indexOf(u' ') + 1);
-            Given += path;
-            GivenBytes += Files::FileExists(path) ? World::ReadFile(path) : QByteArray();
-            if (Program)
-                Program(path);
-        };
-    }
-
-    void OpenStrings() {
-        OpenArchive({{u"Data\\One.csf"_s, "the first"}, {u"Data\\two.csf"_s, "2"}, {u"other\\One.csf"_s, "x"}});
-        Editor.ClickNode(NodeOf(u"data\\"_s));
-    }
-
-    [[nodiscard]] static QString Scratch(const QString& name) { return Paths::ProgramFolder() + u"\\Temp\\"_s + name; }
-
-    /// Puts bytes over a file that is there.
-    static void Write(const QString& path, const QByteArray& bytes) {
-        QFile file(Paths::ToNative(path));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(bytes);
-    }
-
-    /// The program writes other bytes.
-    void LetItWrite() {
-        Program = [](const QString& path) { Write(path, "written"); };
-    }
-
-    void ModifyByMenu(int place) {
-        View.Selected = {place};
-        Editor.Modify();
-    }
-
-    static BigEntry& Entry(std::size_t index) { return mBIG::BigEntries.at(index); }
-
-    ScriptedNavigator Programs;
-    QStringList Given; ///< the paths that the program was asked to open
-    QList<QByteArray> GivenBytes;
-    std::function<void(const QString&)> Program; ///< what it does with them
-};
-
-} // namespace
 
 TEST_F(EditorModify, TheMenuOpensACopyAndAsksWhetherItChangedOrNot) {
     OpenStrings();
@@ -244,127 +192,6 @@ TEST_F(EditorModify, TwoEntriesOfOneNameHaveTwoCopies) {
     EXPECT_EQ(GivenBytes.last(), "x");
     EXPECT_EQ(World::ReadFile(Entry(0).SourcePath), "written") << "The first one's changes are safe.";
     EXPECT_EQ(World::ReadFile(Entry(2).SourcePath), "other");
-}
-
-TEST_F(EditorModify, AnEntryThatIsOpenAlreadyGetsASecondCopy) {
-    OpenStrings();
-    bool again = false;
-    Program = [&](const QString& path) {
-        Write(path, again ? "second" : "first");
-        if (!std::exchange(again, true))
-            Editor.ActivateRow(0);
-        EXPECT_NE(World::ReadFile(path), "the first") << "Nobody writes over the copy that is open.";
-    };
-    Speaker.Answers = {Answer::No, Answer::Yes};
-    Editor.ActivateRow(0);
-    EXPECT_EQ(Given, QStringList({Scratch(u"One.csf"_s), Scratch(u"One (2).csf"_s)}));
-    EXPECT_EQ(World::ReadFile(Entry(0).SourcePath), "first");
-}
-
-TEST_F(EditorModify, AnotherArchiveOpenedMeanwhileIsLeftAlone) {
-    OpenStrings();
-    const QString other = Place.WriteFile(u"other.big"_s, ArchiveOf({{u"Data\\One.csf"_s, "1"}, {u"b"_s, "2"}}));
-    Program = [&](const QString& path) {
-        Write(path, "written");
-        Editor.OpenBigFile(other);
-    };
-    Editor.ActivateRow(0);
-    EXPECT_TRUE(Speaker.Messages.empty());
-    EXPECT_FALSE(Entry(0).IsNew);
-    EXPECT_FALSE(State().Modified);
-    EXPECT_EQ(World::ReadFile(Scratch(u"One.csf"_s)), "written") << "What was written stays on the disk.";
-}
-
-TEST_F(EditorModify, AShorterTableMeanwhileIsSafe) {
-    OpenStrings();
-    Editor.ClickNode(NodeOf(u"other\\"_s));
-    Program = [&](const QString& path) {
-        Write(path, "written");
-        mBIG::BigEntries.resize(1);
-    };
-    Editor.ActivateRow(0);
-    ModifyByMenu(0);
-    EXPECT_TRUE(Speaker.Messages.empty());
-    EXPECT_FALSE(State().Modified);
-}
-
-TEST_F(EditorModify, ANewArchiveMeanwhileIsLeftAlone) {
-    OpenStrings();
-    Program = [&](const QString& path) {
-        Write(path, "written");
-        Speaker.FileNames = {Place.Root() + u"\\fresh.big"_s};
-        Editor.New();
-    };
-    Editor.ActivateRow(0);
-    EXPECT_TRUE(Speaker.Messages.empty());
-    EXPECT_FALSE(Entry(0).IsNew);
-}
-
-TEST_F(EditorModify, AnEntryThatWasRenamedMeanwhileStillGetsItsFile) {
-    OpenStrings();
-    Program = [&](const QString& path) {
-        Write(path, "written");
-        EXPECT_TRUE(Editor.RenameRow(0, u"Renamed.csf"_s));
-    };
-    Speaker.Answers = {Answer::Yes};
-    Editor.ActivateRow(0);
-    EXPECT_EQ(Entry(0).Name, u"Data\\Renamed.csf"_s);
-    EXPECT_TRUE(Entry(0).IsNew);
-}
-
-TEST_F(EditorModify, AnEntryThatWasDeletedMeanwhileIsNotAskedFor) {
-    OpenStrings();
-    Program = [&](const QString& path) {
-        Write(path, "written");
-        Entry(0).Deleted = true;
-    };
-    Editor.ActivateRow(0);
-    EXPECT_TRUE(Speaker.Messages.empty());
-    EXPECT_FALSE(Entry(0).IsNew);
-}
-
-TEST_F(EditorModify, AFileThatIsWrittenAfterASaveGoesToTheEntryOfItsName) {
-    OpenStrings();
-    Program = [&](const QString& path) {
-        Entry(0).Deleted = true;
-        Editor.Save();
-        EXPECT_FALSE(Files::FileExists(path));
-        Write(path, "written");
-    };
-    Speaker.Answers = {Answer::Yes};
-    Editor.ActivateRow(1);
-    EXPECT_EQ(Entry(0).Name, u"Data\\two.csf"_s) << "It has moved up.";
-    EXPECT_TRUE(Entry(0).IsNew);
-    EXPECT_FALSE(Entry(1).IsNew);
-}
-
-TEST_F(EditorModify, ClosingTheWindowMeanwhileEndsTheCommand) {
-    OpenStrings();
-    Program = [&](const QString& path) {
-        Write(path, "written");
-        EXPECT_TRUE(Editor.MayClose());
-    };
-    Editor.ActivateRow(0);
-    EXPECT_TRUE(Speaker.Messages.empty());
-    EXPECT_TRUE(Files::FileExists(Scratch(u"One.csf"_s)));
-    Program = {};
-    Editor.ActivateRow(1);
-    EXPECT_EQ(Given.size(), 2) << "A window that stayed all the same works on.";
-}
-
-TEST_F(EditorModify, TheDocumentMayGoMeanwhile) {
-    OpenStrings();
-    CountingView view;
-    auto editor = std::make_unique<BigEditor>(view);
-    editor->OpenBigFile(mBIG::BigFileName);
-    editor->ClickNode(editor->Tree().Find(u"data\\"_s));
-    Program = [&](const QString& path) {
-        Write(path, "written");
-        editor.reset();
-    };
-    editor->ActivateRow(0);
-    EXPECT_EQ(Given.size(), 1);
-    EXPECT_TRUE(Speaker.Messages.empty());
 }
 
 TEST_F(EditorModify, AnEntryWithoutBytesOpensAsAnEmptyFile) {

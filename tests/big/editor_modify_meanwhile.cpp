@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// What the user does while another program has an entry's copy open.
+#include "tests/big/modify_fixture.h"
+
+#include <memory>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using Answer = Host::Answer;
+
+namespace {
+
+using EditorModifyMeanwhile = EditorModify;
+
+} // namespace
+
+TEST_F(EditorModifyMeanwhile, AnEntryThatIsOpenAlreadyGetsASecondCopy) {
+    OpenStrings();
+    bool again = false;
+    Program = [&](const QString& path) {
+        Write(path, again ? "second" : "first");
+        if (!std::exchange(again, true))
+            Editor.ActivateRow(0);
+        EXPECT_NE(World::ReadFile(path), "the first") << "Nobody writes over the copy that is open.";
+    };
+    Speaker.Answers = {Answer::No, Answer::Yes};
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Given, QStringList({Scratch(u"One.csf"_s), Scratch(u"One (2).csf"_s)}));
+    EXPECT_EQ(World::ReadFile(Entry(0).SourcePath), "first");
+}
+
+TEST_F(EditorModifyMeanwhile, AnotherArchiveOpenedMeanwhileIsLeftAlone) {
+    OpenStrings();
+    const QString other = Place.WriteFile(u"other.big"_s, ArchiveOf({{u"Data\\One.csf"_s, "1"}, {u"b"_s, "2"}}));
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        Editor.OpenBigFile(other);
+    };
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(Entry(0).IsNew);
+    EXPECT_FALSE(State().Modified);
+    EXPECT_EQ(World::ReadFile(Scratch(u"One.csf"_s)), "written") << "What was written stays on the disk.";
+}
+
+TEST_F(EditorModifyMeanwhile, AShorterTableMeanwhileIsSafe) {
+    OpenStrings();
+    Editor.ClickNode(NodeOf(u"other\\"_s));
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        mBIG::BigEntries.resize(1);
+    };
+    Editor.ActivateRow(0);
+    ModifyByMenu(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(State().Modified);
+}
+
+TEST_F(EditorModifyMeanwhile, ANewArchiveMeanwhileIsLeftAlone) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        Speaker.FileNames = {Place.Root() + u"\\fresh.big"_s};
+        Editor.New();
+    };
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModifyMeanwhile, AnEntryThatWasRenamedMeanwhileStillGetsItsFile) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        EXPECT_TRUE(Editor.RenameRow(0, u"Renamed.csf"_s));
+    };
+    Speaker.Answers = {Answer::Yes};
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Entry(0).Name, u"Data\\Renamed.csf"_s);
+    EXPECT_TRUE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModifyMeanwhile, AnEntryThatWasDeletedMeanwhileIsNotAskedFor) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        Entry(0).Deleted = true;
+    };
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_FALSE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModifyMeanwhile, AFileThatIsWrittenAfterASaveGoesToTheEntryOfItsName) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Entry(0).Deleted = true;
+        Editor.Save();
+        EXPECT_FALSE(Files::FileExists(path));
+        Write(path, "written");
+    };
+    Speaker.Answers = {Answer::Yes};
+    Editor.ActivateRow(1);
+    EXPECT_EQ(Entry(0).Name, u"Data\\two.csf"_s) << "It has moved up.";
+    EXPECT_TRUE(Entry(0).IsNew);
+    EXPECT_FALSE(Entry(1).IsNew);
+}
+
+TEST_F(EditorModifyMeanwhile, ClosingTheWindowMeanwhileEndsTheCommand) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        EXPECT_TRUE(Editor.MayClose());
+    };
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_TRUE(Files::FileExists(Scratch(u"One.csf"_s)));
+    Program = {};
+    Editor.ActivateRow(1);
+    EXPECT_EQ(Given.size(), 2) << "A window that stayed all the same works on.";
+}
+
+TEST_F(EditorModifyMeanwhile, TheDocumentMayGoMeanwhile) {
+    OpenStrings();
+    CountingView view;
+    auto editor = std::make_unique<BigEditor>(view);
+    editor->OpenBigFile(mBIG::BigFileName);
+    editor->ClickNode(editor->Tree().Find(u"data\\"_s));
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        editor.reset();
+    };
+    editor->ActivateRow(0);
+    EXPECT_EQ(Given.size(), 1);
+    EXPECT_TRUE(Speaker.Messages.empty());
+}
