@@ -3,11 +3,12 @@
 
 #include "big/Extraction.h"
 
-#include "big/ArchiveExtractor.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "tests/big/Archives.h"
 #include "tests/big/document_support.h"
+
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 using Extraction::DoExtract;
