@@ -21,6 +21,7 @@ class ExtractionGrowth : public ArchiveTest {};
 
 TEST_F(ExtractionGrowth, ThousandsOfEntriesIntoOneFolderTakeATimeThatGrowsWithTheirNumber) {
     std::vector<NamedBytes> entries;
+    entries.reserve(3000);
     for (int i = 0; i < 3000; ++i)
         entries.emplace_back(u"Data\\file %1.ini"_s.arg(i), "x");
     mBIG::BigFileName = Put(u"my.big"_s, ArchiveOf(entries));
