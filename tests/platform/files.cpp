@@ -222,3 +222,31 @@ TEST_F(NumberedFilesTest, CopiesBetweenFilesAndTellsHowManyBytesThereWere) {
     NumberedFiles::CloseAll();
     EXPECT_EQ(BytesOf(At(u"to"_s)), "il" + bytes.first(299'999));
 }
+
+TEST_F(InAFolder, WhatStandsAtAPathIsTold) {
+    Make(u"file"_s, "x");
+    Files::MakeFolder(At(u"folder"_s));
+    EXPECT_EQ(Files::StandingAsGiven(At(u"file"_s)), Files::Standing::File);
+    EXPECT_EQ(Files::StandingAsGiven(At(u"folder"_s)), Files::Standing::Folder);
+    EXPECT_EQ(Files::StandingAsGiven(At(u"nothing"_s)), Files::Standing::Nothing);
+}
+
+TEST_F(InAFolder, ACopyToAPathAsGivenReplacesWhatStandsThere) {
+    const QString from = Make(u"from"_s, "new");
+    const QString to = Make(u"to"_s, "a longer one");
+    Files::CopyAsGiven(from, to);
+    EXPECT_EQ(BytesOf(to), "new");
+    EXPECT_EQ(NumberRaisedBy([&] { Files::CopyAsGiven(from, At(u"none\\to"_s)); }), ErrorNumber::PathNotFound);
+    EXPECT_EQ(NumberRaisedBy([&] { Files::CopyAsGiven(At(u"none"_s), to); }), ErrorNumber::FileNotFound);
+    EXPECT_EQ(Files::ListFolder(At(u"*.*"_s)).size(), 2) << "nothing is left aside";
+}
+
+TEST_F(InAFolder, AFolderIsRemovedWithEverythingInIt) {
+    Files::MakeFolders(At(u"folder\\below\\empty"_s));
+    Make(u"folder\\a"_s, "1");
+    Make(u"folder\\below\\b"_s, "2");
+    Make(u"beside"_s, "3");
+    Files::DeleteFolder(At(u"folder\\"_s));
+    EXPECT_EQ(Files::ListFolder(At(u"*.*"_s), true), QStringList{u"beside"_s});
+    Files::DeleteFolder(At(u"folder"_s)); // once more: nothing
+}

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/Files.h"
+#include "tests/platform/Scratch.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void Link(const Scratch& scratch, const QString& name, const QByteArray& target) {
+    ASSERT_EQ(::symlink(target.constData(), scratch.Native(name).toUtf8().constData()), 0);
+}
+
+} // namespace
+
+TEST(FilesAndLinks, WhatALinkLeadsToStandsThere) {
+    const Scratch scratch;
+    scratch.Write(u"folder/file"_s, "x");
+    Link(scratch, u"to file"_s, "folder/file");
+    Link(scratch, u"to folder"_s, "folder");
+    Link(scratch, u"to nowhere"_s, "nothing");
+    Link(scratch, u"circle"_s, "circle");
+    EXPECT_EQ(Files::StandingAsGiven(scratch.Inside(u"to file"_s)), Files::Standing::File);
+    EXPECT_EQ(Files::StandingAsGiven(scratch.Inside(u"to folder"_s)), Files::Standing::Folder);
+    EXPECT_EQ(Files::StandingAsGiven(scratch.Inside(u"to nowhere"_s)), Files::Standing::LinkToNowhere);
+    EXPECT_EQ(Files::StandingAsGiven(scratch.Inside(u"circle"_s)), Files::Standing::LinkToNowhere);
+}
+
+TEST(FilesAndLinks, RemovingAFolderFollowsNoLink) {
+    const Scratch scratch;
+    scratch.Write(u"outside/keep"_s, "keep");
+    scratch.Write(u"folder/file"_s, "x");
+    Link(scratch, u"folder/way"_s, "../outside");
+    Link(scratch, u"folder/circle"_s, ".");
+    Files::DeleteFolder(scratch.Inside(u"folder"_s));
+    EXPECT_EQ(scratch.Read(u"outside/keep"_s), "keep");
+    EXPECT_FALSE(Files::FileExists(scratch.Inside(u"folder/file"_s)));
+}
