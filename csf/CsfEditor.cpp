@@ -210,7 +210,7 @@ void CsfEditor::FindNextByKey() {
 }
 
 QString CsfEditor::CountText() const {
-    const QString rows = GetText(u"RowCount"_s).replace(u"%1"_s, Grouped(list_.Count()));
+    QString rows = GetText(u"RowCount"_s).replace(u"%1"_s, Grouped(list_.Count()));
     if (state_.FindIsGrey || state_.FindText.isEmpty())
         return rows;
     const QString matches = GetText(u"MatchCount"_s).replace(u"%1"_s, Grouped(list_.Matches(state_.FindText)));

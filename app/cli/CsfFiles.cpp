@@ -50,7 +50,7 @@ void WriteTableFile(const QString& path, CsfTable table) {
 
 QByteArray ReadWholeFile(const QString& path) {
     NumberedFiles::Open(FileNumber, path, Access::Read);
-    const QByteArray bytes = NumberedFiles::Read(FileNumber, 0, std::numeric_limits<qint64>::max());
+    QByteArray bytes = NumberedFiles::Read(FileNumber, 0, std::numeric_limits<qint64>::max());
     NumberedFiles::Close(FileNumber);
     return bytes;
 }

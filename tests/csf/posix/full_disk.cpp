@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// A device that fails at every write: the process's own limit on the length of files stands in for a full disk.
-#include "tests/csf/Tables.h"
+#include "tests/csf/editor_support.h"
 
-#include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 
 #include <sys/resource.h>
@@ -33,7 +32,7 @@ private:
     rlimit before_{};
 };
 
-class CsfFullDisk : public TableTest {};
+class CsfFullDisk : public EditorTest {};
 
 } // namespace
 
@@ -61,4 +60,19 @@ TEST_F(CsfFullDisk, AtEveryByteTheOldFileStaysAside) {
         }
     }
     EXPECT_EQ(host_.Messages.size(), 24U);
+}
+
+TEST_F(CsfFullDisk, WhatTheEditorCouldNotSaveStaysAChangeAndKeepsTheWindow) {
+    const QString path = OpenTable({{"a", "1"}, {"b", "2"}});
+    const QByteArray before = World::ReadFile(path);
+    Editor.NameTyped(u"x"_s);
+    Answer(Host::Answer::Yes);
+    {
+        const FileLengthLimit limit(40);
+        EXPECT_FALSE(Editor.MayClose());
+    }
+    EXPECT_TRUE(State().Modified);
+    EXPECT_EQ(World::ReadFile(path + u".sav"_s), before);
+    EXPECT_EQ(host_.Messages.size(), 1U) << "the question alone: what fails among the entries is passed over";
+    EXPECT_EQ(View.Busy, 0);
 }
