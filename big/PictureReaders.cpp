@@ -56,7 +56,7 @@ QByteArray Pictures::ToBitmap(const QImage& picture) {
     const QImage plain = picture.convertToFormat(QImage::Format_ARGB32);
     const auto pixels = static_cast<quint32>(plain.sizeInBytes());
     QByteArray bitmap("BM");
-    bitmap.reserve(static_cast<qsizetype>(fileHeader + header + pixels));
+    bitmap.reserve(qsizetype{fileHeader} + header + pixels);
     for (const quint32 value :
          {fileHeader + header + pixels, 0U, fileHeader + header, header, static_cast<quint32>(plain.width()),
           static_cast<quint32>(plain.height()), planesAndBits, withMasks, pixels, 0U, 0U, 0U, 0U, 0x00FF0000U,

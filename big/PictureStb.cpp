@@ -35,6 +35,7 @@ QImage Pictures::ReadWithStb(const QByteArray& bytes) {
         stbi_image_free);
     if (!pixels)
         return {};
-    return QImage(pixels.get(), size.width(), size.height(), size.width() * channels, QImage::Format_RGBA8888)
+    return QImage(pixels.get(), size.width(), size.height(), qsizetype{channels} * size.width(),
+                  QImage::Format_RGBA8888)
         .convertToFormat(QImage::Format_ARGB32);
 }

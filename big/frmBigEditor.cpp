@@ -69,7 +69,7 @@ void frmBigEditor::Dress() {
     Mnemonics::AddTo(*ui_->menuBar);
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
     ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
-    ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
+    ui_->lvFiles->JoinTabOrder(ui_->tvDirs, ui_->picSplitter->Bar());
     status_->setTextFormat(Qt::PlainText);
     status_->setContentsMargins(6, 0, 0, 0);
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window

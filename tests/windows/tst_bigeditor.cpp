@@ -111,7 +111,7 @@ private Q_SLOTS:
         const QPoint place = list->visualRect(list->model()->index(0, 0)).center();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
-        QCOMPARE(Rows(), QStringList({u"ini"_s, u"map.tga"_s}));
+        QTRY_COMPARE(Rows(), QStringList({u"ini"_s, u"map.tga"_s}));
         QCOMPARE(Tree()->currentIndex().data().toString(), u"data"_s);
         QTest::keyClick(list, Qt::Key_Home);
         QTest::keyClick(list, Qt::Key_Return);
