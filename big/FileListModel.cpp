@@ -25,6 +25,11 @@ void FileListModel::Reset(bool systemIcons) {
     endResetModel();
 }
 
+void FileListModel::RowChanged(int row) {
+    if (row < list_.Count())
+        Q_EMIT dataChanged(index(row, 0), index(row, FileList::ColumnCount - 1));
+}
+
 void FileListModel::SortBy(int column) {
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
     const QModelIndexList before = persistentIndexList();

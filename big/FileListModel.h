@@ -19,6 +19,9 @@ public:
     /// Takes the list as it is now, with system icons or without. To be called after each change of its rows.
     void Reset(bool systemIcons);
 
+    /// The texts of a row are others.
+    void RowChanged(int row);
+
     /// A click on a header; rows keep their selection.
     void SortBy(int column);
 

@@ -202,10 +202,9 @@ void FileListView::SetAccessibleNames(const QString& name) {
         part->setAccessibleName(name);
 }
 
-void FileListView::JoinTabOrder(QWidget* before, QWidget* behind) {
-    setTabOrder(before, details_);
+void FileListView::FollowInTabOrder(QWidget* control) {
+    setTabOrder(control, details_);
     setTabOrder(details_, icons_);
-    setTabOrder(icons_, behind);
 }
 
 QItemSelectionModel* FileListView::Selection() const {

@@ -33,8 +33,8 @@ public:
     /// What a screen reader calls the list.
     void SetAccessibleNames(const QString& name);
 
-    /// The Tab key comes here from one control and goes on to the other, whatever the mode.
-    void JoinTabOrder(QWidget* before, QWidget* behind);
+    /// The Tab key comes here from that control, whatever the mode.
+    void FollowInTabOrder(QWidget* control);
 
     [[nodiscard]] QItemSelectionModel* Selection() const;
     /// The places of the selected rows, in the order shown.

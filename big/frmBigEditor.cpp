@@ -23,6 +23,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QScopedValueRollback>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -69,7 +70,7 @@ void frmBigEditor::Dress() {
     Mnemonics::AddTo(*ui_->menuBar);
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
     ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
-    ui_->lvFiles->JoinTabOrder(ui_->tvDirs, ui_->picSplitter->Bar());
+    ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
     status_->setTextFormat(Qt::PlainText);
     status_->setContentsMargins(6, 0, 0, 0);
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
@@ -100,7 +101,7 @@ std::vector<frmBigEditor::Command> frmBigEditor::Commands() {
         {ui_->mnuSaveAs, NoLink, u"save-as"_s, of(&BigEditor::SaveAs)},
         {ui_->mnuFileVersion, 7, u"version"_s, of(&BigEditor::FileVersion)},
         {ui_->mnuExit, NoLink, u"exit"_s, [this] { close(); }},
-        {ui_->mnuModify, NoLink, u"modify"_s, of(&BigEditor::Modify)},
+        {ui_->mnuModify, NoLink, u"modify"_s, [this] { Later([this] { editor_.Modify(); }); }},
         {ui_->mnuExtract, 0, u"extract"_s, of(&BigEditor::Extract)},
         {ui_->mnuAdd, 1, u"add"_s, of(&BigEditor::Add)},
         {ui_->mnuDelete, 2, u"delete"_s, of(&BigEditor::Delete)},
@@ -158,13 +159,17 @@ void frmBigEditor::ConnectTree() {
 void frmBigEditor::ConnectList() {
     FileListView* const list = ui_->lvFiles;
     connect(list, &FileListView::RowClicked, this, [this](int place) { editor_.ClickRow(place); });
-    connect(list, &FileListView::RowActivated, this, [this](int place) { editor_.ActivateRow(place); });
+    connect(list, &FileListView::RowActivated, this,
+            [this](int place) { Later([this, place] { editor_.ActivateRow(place); }); });
     connect(list, &FileListView::Entered, this, [this] { editor_.EnterList(); });
     connect(list, &FileListView::MenuWanted, this, &frmBigEditor::ShowMenu);
     connect(list, &FileListView::DragStarted, this, &frmBigEditor::DragOut);
     connect(list, &FileListView::FilesDropped, this, [this](const QStringList& paths) { editor_.DropFiles(paths); });
     connect(list->Selection(), &QItemSelectionModel::selectionChanged, this, &frmBigEditor::TellSelection);
-    const auto rename = [this](int place, const QString& text) { editor_.RenameRow(place, text); };
+    const auto rename = [this](int place, const QString& text) {
+        if (editor_.RenameRow(place, text))
+            listModel_->RowChanged(place);
+    };
     connect(listModel_, &FileListModel::RenameWanted, this, rename, Qt::QueuedConnection);
 }
 
@@ -213,6 +218,12 @@ bool frmBigEditor::eventFilter(QObject* watched, QEvent* event) {
             editor_.ClickNode(editor_.State().SelectedNode);
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+// While an entry is open in another program this window may be closed, and what called must not return into it: a
+// timer's call has nothing to return to.
+void frmBigEditor::Later(const std::function<void()>& command) {
+    QTimer::singleShot(0, this, command);
 }
 
 void frmBigEditor::ShowOptions() {

@@ -73,6 +73,7 @@ private:
     void ShowMenu(int place, QPoint globalPlace);
     void DragOut();
     void TellSelection();
+    void Later(const std::function<void()>& command);
     void ShowOptions();
     void SelectNode();
     void ChooseView(ViewMode mode);

@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(Tree()->currentIndex().data().toString(), u"data"_s);
         QTest::keyClick(list, Qt::Key_Home);
         QTest::keyClick(list, Qt::Key_Return);
-        QCOMPARE(Rows(), QStringList({u"Object.ini"_s}));
+        QTRY_COMPARE(Rows(), QStringList({u"Object.ini"_s}));
     }
 
     void linksAreUnderlinedByThePointersMoves() {
@@ -194,7 +194,9 @@ private Q_SLOTS:
         QVERIFY(visited.contains(u"Label2_3"_s));
         QVERIFY(visited.contains(u"Label2_5"_s));
         QVERIFY(visited.contains(u"tvDirs"_s));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        // The bar between the panes comes first.
+        for (int step = 0; step < 2; ++step)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QVERIFY(Files()->isAncestorOf(QApplication::focusWidget()));
     }
 
