@@ -147,6 +147,9 @@ public:
     /// What decodes pictures and plays sounds for the preview; both outlive the editor.
     void UsePreview(PictureDecoder* decoder, SoundPlayer* player) { preview_.Use(decoder, player); }
 
+    /// How many rows the list has, or how many are selected and how much they hold; empty without an archive.
+    [[nodiscard]] QString SelectionText() const;
+
     [[nodiscard]] static ViewMode View();
     /// Stores the view mode at once.
     static void SetView(ViewMode mode);

@@ -76,3 +76,17 @@ bool BigEditor::ShowDetails(int index, const QString& rowText) {
         state_.FocusPane = FocusedPane::List;
     return true;
 }
+
+QString BigEditor::SelectionText() const {
+    if (!state_.ArchiveOpen)
+        return {};
+    const std::vector<int> places = view_.SelectedRows();
+    if (places.empty())
+        return GetText(u"RowCount"_s).replace("%1"_L1, QLocale().toString(list_.Count()));
+    qint64 bytes = 0;
+    for (const int place : places)
+        bytes += list_.Row(place).Size;
+    return GetText(u"RowsSelected"_s)
+        .replace("%1"_L1, QLocale().toString(places.size()))
+        .replace("%2"_L1, KiloBytes(bytes));
+}

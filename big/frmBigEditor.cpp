@@ -21,7 +21,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QScopedValueRollback>
 #include <QTimer>
 
@@ -193,21 +192,7 @@ void frmBigEditor::DragOut() {
 }
 
 void frmBigEditor::TellSelection() {
-    const std::vector<int> places = SelectedRows();
-    const FileList& list = editor_.List();
-    const QLocale locale;
-    if (!editor_.State().ArchiveOpen) {
-        selection_->clear();
-    } else if (places.empty()) {
-        selection_->setText(mTraduction::GetText(u"RowCount"_s).replace("%1"_L1, locale.toString(list.Count())));
-    } else {
-        qint64 bytes = 0;
-        for (const int place : places)
-            bytes += list.Row(place).Size;
-        selection_->setText(mTraduction::GetText(u"RowsSelected"_s)
-                                .replace("%1"_L1, locale.toString(places.size()))
-                                .replace("%2"_L1, locale.formattedDataSize(bytes)));
-    }
+    selection_->setText(editor_.SelectionText());
 }
 
 bool frmBigEditor::eventFilter(QObject* watched, QEvent* event) {

@@ -242,14 +242,18 @@ private Q_SLOTS:
     }
 
     void theStatusBarCountsRowsAndSelection() {
-        world_->UseLanguage("[LNG]\r\nRowCount=%1 rows\r\nRowsSelected=%1 chosen, %2\r\n");
+        world_->UseLanguage("[LNG]\r\nRowCount=%1 rows\r\nRowsSelected=%1 chosen, %2\r\nKiloBytes=KB\r\n");
         world_->Start();
-        Work();
+        Open();
         const auto told = [this] { return Part<QLabel>("lblSelection")->text(); };
+        QCOMPARE(told(), QString());
+        Work();
         QCOMPARE(told(), u"2 rows"_s);
         Select(u"data\\"_s);
         List()->selectAll();
-        QCOMPARE(told(), u"2 chosen, "_s + QLocale().formattedDataSize(3000));
+        QCOMPARE(told(), u"2 chosen, 2 KB"_s);
+        List()->clearSelection();
+        QCOMPARE(told(), u"2 rows"_s);
     }
 
     void commandsFollowTheKeyboardFocus() {
