@@ -104,6 +104,9 @@ public:
     void NewFolder();
     void FileVersion();
 
+    /// Takes files and folders that lie in a drag's scratch folder into one of this program's, as they are gone with
+    /// the next drag, and returns where they are now; others stay where they are. To be called within the drop itself.
+    static QStringList AdoptDragged(QStringList paths);
     /// Files and folders dropped on the list, inside paths.
     void DropFiles(const QStringList& paths);
 
@@ -198,6 +201,7 @@ private:
     void RenameFolder(int node, const QString& text);
     void RenameFile(int place, const QString& text);
     void DropPaths(const QStringList& paths);
+    static void ForgetAdopted();
     void EndWaits();
     void ModifyRow(int place, Trigger trigger);
     void ModifySource(int index, Trigger trigger);

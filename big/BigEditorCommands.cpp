@@ -157,6 +157,7 @@ void BigEditor::ShowWritten(const QString& path) {
         mBIG::ReadBigFile(path);
         ++table_;
     }
+    ForgetAdopted();
     state_.StatusText = statusText;
     state_.DetailsVisible = false;
     state_.ModifyEnabled = false;

@@ -35,6 +35,7 @@ bool IsSamePath(const QString& first, const QString& second) {
 
 BigEditor::~BigEditor() {
     *waiting_ = false;
+    ForgetAdopted();
 }
 
 void BigEditor::EndWaits() {

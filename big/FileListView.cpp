@@ -14,7 +14,6 @@
 #include <QListView>
 #include <QMimeData>
 #include <QStyledItemDelegate>
-#include <QTimer>
 #include <QTreeView>
 #include <QUrl>
 
@@ -273,8 +272,7 @@ bool FileListView::DropEvent(QDropEvent& event) {
         if (url.isLocalFile())
             paths += Paths::FromNative(QDir::toNativeSeparators(url.toLocalFile()));
     }
-    // The program that the files come from waits for the end of the drop: the work begins behind it.
-    QTimer::singleShot(0, this, [this, paths] { Q_EMIT FilesDropped(paths); });
+    Q_EMIT FilesDropped(paths);
     return true;
 }
 

@@ -163,7 +163,10 @@ void frmBigEditor::ConnectList() {
     connect(list, &FileListView::Entered, this, [this] { editor_.EnterList(); });
     connect(list, &FileListView::MenuWanted, this, &frmBigEditor::ShowMenu);
     connect(list, &FileListView::DragStarted, this, &frmBigEditor::DragOut);
-    connect(list, &FileListView::FilesDropped, this, [this](const QStringList& paths) { editor_.DropFiles(paths); });
+    // The program that the files come from waits for the end of the drop: the work begins behind it.
+    connect(list, &FileListView::FilesDropped, this, [this](const QStringList& paths) {
+        Later([this, kept = BigEditor::AdoptDragged(paths)] { editor_.DropFiles(kept); });
+    });
     connect(list->Selection(), &QItemSelectionModel::selectionChanged, this, &frmBigEditor::TellSelection);
     const auto rename = [this](int place, const QString& text) {
         if (editor_.RenameRow(place, text))

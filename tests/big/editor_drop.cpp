@@ -237,3 +237,30 @@ TEST_F(EditorDrop, WhatWasDroppedIsSaved) {
     EXPECT_FALSE(mBIG::BigEntries[index].IsNew);
     EXPECT_GE(mBIG::FindEntry(u"empty"_s), 0);
 }
+
+TEST_F(EditorDrop, RowsOfAnotherEditorAreKeptBeyondItsNextDrag) {
+    const QString path = OpenSample();
+    const QString file = Put(u"Program\\Temp\\Drag7\\wall.dds"_s, "wall");
+    Put(u"Program\\Temp\\Drag7\\maps\\desert.map"_s, "sand");
+    const QString other = Put(u"elsewhere.txt"_s, "text");
+    const QStringList kept = BigEditor::AdoptDragged({file, Place.ProgramFolder() + u"\\Temp\\Drag7\\maps"_s, other});
+    EXPECT_EQ(kept.last(), other);
+    Files::DeleteFolder(Place.ProgramFolder() + u"\\Temp\\Drag7"_s);
+    Editor.DropFiles(kept);
+    Editor.Save();
+    EXPECT_EQ(Names().mid(3), QStringList({u"wall.dds"_s, u"maps\\desert.map"_s, u"elsewhere.txt"_s}));
+    EXPECT_TRUE(World::ReadFile(path).contains("wall"));
+    EXPECT_TRUE(World::ReadFile(path).contains("sand"));
+    // Saved, they are kept no longer.
+    EXPECT_FALSE(Files::FileExists(kept.first()));
+    EXPECT_TRUE(Files::FileExists(other));
+}
+
+TEST_F(EditorDrop, TwoDropsOfOneNameKeepBothFiles) {
+    const QString path = Put(u"Program\\Temp\\Drag7\\a.txt"_s, "first");
+    const QStringList first = BigEditor::AdoptDragged({path});
+    Put(u"Program\\Temp\\Drag7\\a.txt"_s, "second");
+    const QStringList second = BigEditor::AdoptDragged({path});
+    EXPECT_EQ(World::ReadFile(first.first()), "first");
+    EXPECT_EQ(World::ReadFile(second.first()), "second");
+}
