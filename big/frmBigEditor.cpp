@@ -12,7 +12,6 @@
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Processes.h"
-#include "ui/DrawnIcon.h"
 #include "ui/Localisation.h"
 #include "ui/Mnemonics.h"
 #include "ui_frmBigEditor.h"
@@ -35,15 +34,13 @@ frmBigEditor::frmBigEditor(QWidget* parent)
       status_(new QLabel),
       selection_(new QLabel) {
     ui_->setupUi(this);
-    links_ = {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3,
-              ui_->Label2_4, ui_->Label2_5, ui_->Label2_6, ui_->Label2_7};
     mTraduction::ApplyLanguage(this);
     Dress();
     ui_->tvDirs->setModel(treeModel_);
     ui_->lvFiles->SetModel(listModel_);
     editor_.UsePreview(&decoder_, &player_);
     ui_->picDetails->Use(&player_);
-    ConnectCommands();
+    ConnectCommands(this, Commands());
     ConnectTree();
     ConnectList();
     const ViewMode mode = BigEditor::View();
@@ -86,50 +83,32 @@ void frmBigEditor::Dress() {
     auto* views = new QActionGroup(this);
     for (QAction* action : ui_->mnuView->actions())
         views->addAction(action);
-    for (SideLink* link : links_)
-        connect(link, &SideLink::MouseMoved, this, [this, link] { UnderlineLink(link); });
-    connect(ui_->picLeftMenu, &SidePane::MouseMoved, this, [this] { UnderlineLink(nullptr); });
+    UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4,
+                                        ui_->Label2_5, ui_->Label2_6, ui_->Label2_7});
 }
 
-std::vector<frmBigEditor::Command> frmBigEditor::Commands() {
+std::vector<ToolCommand> frmBigEditor::Commands() {
     const auto of = [this](void (BigEditor::*run)()) { return [this, run] { (editor_.*run)(); }; };
     return {
-        {ui_->mnuNew, 3, u"new"_s, of(&BigEditor::New)},
-        {ui_->mnuOpen, 4, u"open"_s, of(&BigEditor::Open)},
-        {ui_->mnuSave, 5, u"save"_s, of(&BigEditor::Save)},
-        {ui_->mnuSaveAs, NoLink, u"save-as"_s, of(&BigEditor::SaveAs)},
-        {ui_->mnuFileVersion, 7, u"version"_s, of(&BigEditor::FileVersion)},
-        {ui_->mnuExit, NoLink, u"exit"_s, [this] { close(); }},
-        {ui_->mnuModify, NoLink, u"modify"_s, [this] { Later([this] { editor_.Modify(); }); }},
-        {ui_->mnuExtract, 0, u"extract"_s, of(&BigEditor::Extract)},
-        {ui_->mnuAdd, 1, u"add"_s, of(&BigEditor::Add)},
-        {ui_->mnuDelete, 2, u"delete"_s, of(&BigEditor::Delete)},
-        {ui_->mnuNewFolder, 6, u"new-folder"_s, of(&BigEditor::NewFolder)},
-        {ui_->mnuLvView_0, NoLink, {}, [this] { ChooseView(ViewMode::LargeIcons); }},
-        {ui_->mnuLvView_1, NoLink, {}, [this] { ChooseView(ViewMode::Details); }},
-        {ui_->mnuLvView_2, NoLink, {}, [this] { ChooseView(ViewMode::SmallIcons); }},
-        {ui_->mnuLvView_3, NoLink, {}, [this] { ChooseView(ViewMode::List); }},
-        {ui_->mnuOptions, NoLink, u"options"_s, [this] { ShowOptions(); }},
-        {ui_->mnuCheckForUpdates, NoLink, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }},
-        {ui_->mnuAbout, NoLink, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }},
+        {ui_->mnuNew, ui_->Label2_3, u"new"_s, of(&BigEditor::New)},
+        {ui_->mnuOpen, ui_->Label2_4, u"open"_s, of(&BigEditor::Open)},
+        {ui_->mnuSave, ui_->Label2_5, u"save"_s, of(&BigEditor::Save)},
+        {ui_->mnuSaveAs, nullptr, u"save-as"_s, of(&BigEditor::SaveAs)},
+        {ui_->mnuFileVersion, ui_->Label2_7, u"version"_s, of(&BigEditor::FileVersion)},
+        {ui_->mnuExit, nullptr, u"exit"_s, [this] { close(); }},
+        {ui_->mnuModify, nullptr, u"modify"_s, [this] { Later([this] { editor_.Modify(); }); }},
+        {ui_->mnuExtract, ui_->Label2_0, u"extract"_s, of(&BigEditor::Extract)},
+        {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
+        {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, of(&BigEditor::Delete)},
+        {ui_->mnuNewFolder, ui_->Label2_6, u"new-folder"_s, of(&BigEditor::NewFolder)},
+        {ui_->mnuLvView_0, nullptr, {}, [this] { ChooseView(ViewMode::LargeIcons); }},
+        {ui_->mnuLvView_1, nullptr, {}, [this] { ChooseView(ViewMode::Details); }},
+        {ui_->mnuLvView_2, nullptr, {}, [this] { ChooseView(ViewMode::SmallIcons); }},
+        {ui_->mnuLvView_3, nullptr, {}, [this] { ChooseView(ViewMode::List); }},
+        {ui_->mnuOptions, nullptr, u"options"_s, [this] { ShowOptions(); }},
+        {ui_->mnuCheckForUpdates, nullptr, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }},
+        {ui_->mnuAbout, nullptr, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }},
     };
-}
-
-// A link is its menu entry once more: it is enabled with it and triggers it.
-void frmBigEditor::ConnectCommands() {
-    for (const Command& command : Commands()) {
-        if (!command.Picture.isEmpty())
-            command.Action->setIcon(DrawnIcon::Named(command.Picture));
-        connect(command.Action, &QAction::triggered, this, command.Run);
-        if (command.Link == NoLink)
-            continue;
-        SideLink* link = links_.at(static_cast<std::size_t>(command.Link));
-        link->setIcon(command.Action->icon());
-        const auto follow = [link, action = command.Action] { link->setEnabled(action->isEnabled()); };
-        connect(command.Action, &QAction::enabledChanged, link, follow);
-        follow();
-        connect(link, &SideLink::clicked, command.Action, &QAction::trigger);
-    }
 }
 
 void frmBigEditor::ConnectTree() {
@@ -223,11 +202,6 @@ void frmBigEditor::ShowOptions() {
 void frmBigEditor::ChooseView(ViewMode mode) {
     ui_->lvFiles->SetMode(mode);
     BigEditor::SetView(mode);
-}
-
-void frmBigEditor::UnderlineLink(const SideLink* link) {
-    for (SideLink* each : links_)
-        each->SetUnderlined(each == link);
 }
 
 void frmBigEditor::closeEvent(QCloseEvent* event) {

@@ -8,9 +8,10 @@
 #include "big/PictureProcess.h"
 #include "big/SoundPlayer.h"
 
+#include "ui/ToolCommands.h"
+
 #include <QMainWindow>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -18,7 +19,6 @@
 class FileListModel;
 class FolderTreeModel;
 class QLabel;
-class SideLink;
 
 namespace Ui {
 class frmBigEditor;
@@ -55,19 +55,8 @@ private:
     void EnableWindow(bool enabled) override;
     [[nodiscard]] quintptr Handle() const override;
 
-    /// A menu entry and the link that does the same, with their picture.
-    struct Command {
-        QAction* Action;
-        int Link; ///< index of Label2, or NoLink
-        QString Picture;
-        std::function<void()> Run;
-    };
-
-    static constexpr int NoLink = -1;
-
     void Dress();
-    std::vector<Command> Commands();
-    void ConnectCommands();
+    std::vector<ToolCommand> Commands();
     void ConnectTree();
     void ConnectList();
     void ShowMenu(int place, QPoint globalPlace);
@@ -77,7 +66,6 @@ private:
     void ShowOptions();
     void SelectNode();
     void ChooseView(ViewMode mode);
-    void UnderlineLink(const SideLink* link);
 
     PictureProcess decoder_;
     FilePlayer player_;
@@ -85,8 +73,7 @@ private:
     BigEditor editor_;
     FolderTreeModel* treeModel_;
     FileListModel* listModel_;
-    QLabel* status_;    ///< the status bar's text
-    QLabel* selection_; ///< how many rows there are and are selected
-    std::array<SideLink*, 8> links_;
+    QLabel* status_;         ///< the status bar's text
+    QLabel* selection_;      ///< how many rows there are and are selected
     bool following_ = false; ///< the views follow the document, not the other way round
 };

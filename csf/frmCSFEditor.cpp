@@ -9,7 +9,6 @@
 #include "csf/LabelListModel.h"
 #include "csf/ValueText.h"
 #include "platform/Processes.h"
-#include "ui/DrawnIcon.h"
 #include "ui/Localisation.h"
 #include "ui/Mnemonics.h"
 #include "ui/SideMenu.h"
@@ -37,11 +36,10 @@ frmCSFEditor::frmCSFEditor(QWidget* parent)
       model_(new LabelListModel(editor_, this)),
       count_(new QLabel) {
     ui_->setupUi(this);
-    links_ = {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4};
     mTraduction::ApplyLanguage(this);
     ui_->lvStrings2->setModel(model_);
     Dress();
-    ConnectCommands();
+    ConnectCommands(this, Commands());
     ConnectControls();
     StateChanged();
 }
@@ -72,39 +70,24 @@ void frmCSFEditor::Dress() {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         ui_->lvStrings2->addAction(action);
     }
-    for (SideLink* link : links_)
-        connect(link, &SideLink::MouseMoved, this, [this, link] { UnderlineLink(link); });
-    connect(ui_->picLeftMenu, &SidePane::MouseMoved, this, [this] { UnderlineLink(nullptr); });
+    UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4});
 }
 
-std::vector<frmCSFEditor::Command> frmCSFEditor::Commands() {
+std::vector<ToolCommand> frmCSFEditor::Commands() {
     const auto of = [this](void (CsfEditor::*run)()) { return [this, run] { (editor_.*run)(); }; };
     return {
-        {ui_->mnuNew, 2, u"new"_s, of(&CsfEditor::New)},
-        {ui_->mnuOpen, 3, u"open"_s, of(&CsfEditor::Open)},
-        {ui_->mnuSave, 4, u"save"_s, of(&CsfEditor::Save)},
-        {ui_->mnuSaveAs, NoLink, u"save-as"_s, of(&CsfEditor::SaveAs)},
-        {ui_->mnuExit, NoLink, u"exit"_s, [this] { close(); }},
-        {ui_->mnuAdd, 0, u"add"_s, of(&CsfEditor::Add)},
-        {ui_->mnuDelete, 1, u"delete"_s, of(&CsfEditor::Delete)},
-        {ui_->mnuFind, NoLink, u"find"_s, [this] { ShowFind(); }},
-        {ui_->mnuOptions, NoLink, u"options"_s, [this] { ShowOptions(); }},
-        {ui_->mnuCheckForUpdates, NoLink, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }},
-        {ui_->mnuAbout, NoLink, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }},
+        {ui_->mnuNew, ui_->Label2_2, u"new"_s, of(&CsfEditor::New)},
+        {ui_->mnuOpen, ui_->Label2_3, u"open"_s, of(&CsfEditor::Open)},
+        {ui_->mnuSave, ui_->Label2_4, u"save"_s, of(&CsfEditor::Save)},
+        {ui_->mnuSaveAs, nullptr, u"save-as"_s, of(&CsfEditor::SaveAs)},
+        {ui_->mnuExit, nullptr, u"exit"_s, [this] { close(); }},
+        {ui_->mnuAdd, ui_->Label2_0, u"add"_s, of(&CsfEditor::Add)},
+        {ui_->mnuDelete, ui_->Label2_1, u"delete"_s, of(&CsfEditor::Delete)},
+        {ui_->mnuFind, nullptr, u"find"_s, [this] { ShowFind(); }},
+        {ui_->mnuOptions, nullptr, u"options"_s, [this] { ShowOptions(); }},
+        {ui_->mnuCheckForUpdates, nullptr, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }},
+        {ui_->mnuAbout, nullptr, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }},
     };
-}
-
-// A link is its menu entry once more.
-void frmCSFEditor::ConnectCommands() {
-    for (const Command& command : Commands()) {
-        command.Action->setIcon(DrawnIcon::Named(command.Picture));
-        connect(command.Action, &QAction::triggered, this, command.Run);
-        if (command.Link == NoLink)
-            continue;
-        SideLink* link = links_.at(static_cast<std::size_t>(command.Link));
-        link->setIcon(command.Action->icon());
-        connect(link, &SideLink::clicked, command.Action, &QAction::trigger);
-    }
 }
 
 void frmCSFEditor::ConnectControls() {
@@ -162,11 +145,6 @@ void frmCSFEditor::ShowOptions() {
     Navigator::Current().ShowOptions(this);
     if (mMain::RestartRequested)
         Processes::End(0);
-}
-
-void frmCSFEditor::UnderlineLink(const SideLink* link) {
-    for (SideLink* each : links_)
-        each->SetUnderlined(each == link);
 }
 
 void frmCSFEditor::closeEvent(QCloseEvent* event) {

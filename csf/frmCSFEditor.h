@@ -6,16 +6,16 @@
 
 #include "csf/CsfEditor.h"
 
+#include "ui/ToolCommands.h"
+
 #include <QMainWindow>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <vector>
 
 class LabelListModel;
 class QLabel;
-class SideLink;
 
 namespace Ui {
 class frmCSFEditor;
@@ -45,31 +45,18 @@ private:
     void StateChanged() override;
     void ShowBusy(bool busy) override;
 
-    /// A menu entry and the link that does the same, with their picture.
-    struct Command {
-        QAction* Action;
-        int Link; ///< index of Label2, or NoLink
-        QString Picture;
-        std::function<void()> Run;
-    };
-
-    static constexpr int NoLink = -1;
-
     void Dress();
-    std::vector<Command> Commands();
-    void ConnectCommands();
+    std::vector<ToolCommand> Commands();
     void ConnectControls();
     bool FindEvent(QEvent& event);
     void ShowFind();
     void ShowOptions();
     void MarkSortedColumn();
-    void UnderlineLink(const SideLink* link);
 
     std::unique_ptr<Ui::frmCSFEditor> ui_;
     CsfEditor editor_;
     LabelListModel* model_;
     QLabel* count_; ///< the status bar's text
-    std::array<SideLink*, 5> links_;
     int languageShown_ = CsfEditorState::None;
     bool following_ = false; ///< the controls follow the document, not the other way round
 };
