@@ -125,6 +125,8 @@ void frmCSFEditor::ConnectControls() {
     connect(ui_->cmdFindNext, &QPushButton::clicked, this, [this] { editor_.FindNext(); });
     ui_->txtFind->installEventFilter(this);
     ui_->lvStrings2->installEventFilter(this);
+    connect(ui_->cmbLanguage, &QComboBox::currentIndexChanged, this,
+            [this](int entry) { editor_.LanguageChosen(entry); });
 }
 
 bool frmCSFEditor::eventFilter(QObject* watched, QEvent* event) {
@@ -234,10 +236,7 @@ void frmCSFEditor::StateChanged() {
     ui_->fraFileInfos->setTitle(state.Caption);
     ui_->lblSize->setText(state.SizeText);
     ui_->lblLanguage->setText(state.LanguageText);
-    if (state.LanguageShown != languageShown_) {
-        languageShown_ = state.LanguageShown;
-        ui_->cmbLanguage->setCurrentIndex(languageShown_);
-    }
+    ui_->cmbLanguage->setCurrentIndex(state.LanguageShown);
     ui_->mnuActions->setVisible(state.ActionsVisible);
     ui_->txtName->setEnabled(state.BoxesEnabled);
     ui_->txtValue->setEnabled(state.BoxesEnabled);

@@ -70,6 +70,5 @@ private:
     LabelListModel* model_;
     QLabel* count_; ///< the status bar's text
     std::array<SideLink*, 5> links_;
-    int languageShown_ = CsfEditorState::None;
     bool following_ = false; ///< the controls follow the document, not the other way round
 };

@@ -302,6 +302,48 @@ private Q_SLOTS:
         QCOMPARE(mCSF::ReadCSF(path_), 3);
     }
 
+    void anotherFileShowsItsLanguageWhateverWasChosen() {
+        OpenThree();
+        auto* const list = Part<QComboBox>("cmbLanguage");
+        list->setCurrentIndex(8);
+        NameBox()->setFocus();
+        QTest::keyClicks(NameBox(), u"!"_s);
+        QCOMPARE(list->currentIndex(), 8);
+        window_->OpenCSFFile(path_);
+        QCOMPARE(list->currentText(), u"3 - French"_s);
+    }
+
+    void aSaveAndASortLeaveTheFocusInTheList() {
+        OpenThree();
+        List()->setFocus();
+        QTest::keyClick(List(), Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(List()->hasFocus());
+        QTest::mouseClick(List()->header()->viewport(), Qt::LeftButton, {}, {20, 8});
+        QVERIFY(List()->hasFocus());
+        QCOMPARE(FindBox()->text(), u"Suchen"_s);
+    }
+
+    void theFirstRowOfANewDocumentIsNotSelectedUntilItIsClicked() {
+        Show();
+        Part<QAction>("mnuNew")->trigger();
+        QVERIFY(!Part<QWidget>("mnuActions")->isVisible()); // only an opened file shows them
+        Part<QAction>("mnuAdd")->trigger();
+        List()->setFocus();
+        QVERIFY(!List()->selectionModel()->hasSelection());
+        QVERIFY(!NameBox()->isEnabled() && !ValueBox()->isEnabled());
+        ClickRow(0);
+        QVERIFY(List()->selectionModel()->isRowSelected(0));
+        QVERIFY(NameBox()->isEnabled() && ValueBox()->isEnabled());
+        QCOMPARE(NameBox()->text(), u"Neu"_s);
+    }
+
+    void aClickWithControlSelectsToo() {
+        OpenThree();
+        QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          List()->visualRect(List()->model()->index(0, 0)).center());
+        QVERIFY(List()->selectionModel()->isRowSelected(0));
+    }
+
     void closingAsksAboutChanges() {
         OpenThree();
         Part<QAction>("mnuAdd")->trigger();
