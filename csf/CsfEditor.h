@@ -42,7 +42,7 @@ public:
     virtual void BoxesChanged() = 0;
     /// Something else in CsfEditorState is different.
     virtual void StateChanged() = 0;
-    /// The busy pointer, on and off again; the list takes nothing in between. Pairs nest.
+    /// The busy pointer, on and off again. Pairs nest.
     virtual void ShowBusy(bool busy) = 0;
 };
 

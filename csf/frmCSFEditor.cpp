@@ -253,9 +253,9 @@ void frmCSFEditor::StateChanged() {
 }
 
 void frmCSFEditor::ShowBusy(bool busy) {
-    ui_->lvStrings2->setEnabled(!busy);
     if (busy)
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else
+// No event reaches the list meanwhile. Were it disabled, the keyboard's focus would leave it for good.
         QApplication::restoreOverrideCursor();
 }
