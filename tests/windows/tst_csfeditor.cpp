@@ -187,6 +187,15 @@ private Q_SLOTS:
         QCOMPARE(mCSF::CsfStrings[0].Name, all + u'?');
     }
 
+    void anEndlessLineIsWrappedWithoutLookingForWords() {
+        const QString endless(200'000, u'x');
+        Open({{endless, u"a"_s}, {u"short words"_s, u"b"_s}});
+        QCOMPARE(ValueBox()->wordWrapMode(), QTextOption::WrapAnywhere);
+        QCOMPARE(ValueBox()->toPlainText(), endless);
+        ClickRow(1);
+        QCOMPARE(ValueBox()->wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    }
+
     void aChangeInABoxCanBeTakenBack() {
         OpenThree();
         NameBox()->setFocus();
