@@ -42,7 +42,7 @@ public:
     virtual void BoxesChanged() = 0;
     /// Something else in CsfEditorState is different.
     virtual void StateChanged() = 0;
-    /// The busy pointer, on and off again; the list takes nothing in between. Pairs nest.
+    /// The busy pointer, on and off again. Pairs nest.
     virtual void ShowBusy(bool busy) = 0;
 };
 
@@ -55,7 +55,7 @@ struct CsfEditorState {
     QString Caption;             ///< of fraFileInfos
     QString SizeText;            ///< lblSize
     QString LanguageText;        ///< lblLanguage: the number that saves use
-    int LanguageShown = None;    ///< the entry of cmbLanguage; saves ignore it
+    int LanguageShown = None;    ///< the entry of cmbLanguage, read or chosen; saves ignore it
     bool ActionsVisible = false; ///< mnuActions
     bool BoxesEnabled = false;   ///< txtName and txtValue
     QString NameText;            ///< txtName, as the document set it last
@@ -96,6 +96,9 @@ public:
 
     /// The new place of each row by its old one, as the last ClickHeader sorted them.
     [[nodiscard]] const std::vector<int>& NewPlaces() const { return newPlaces_; }
+
+    /// The user chose an entry of cmbLanguage: no change of the document.
+    void LanguageChosen(int entry) { state_.LanguageShown = entry; }
 
     /// The user changed a box; what it holds now. Line breaks may be CR LF or LF.
     void NameTyped(const QString& text);

@@ -3,15 +3,25 @@
 
 #include "csf/ValueText.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr QChar returnSign = u'\u240D';
+
+/// Whether a line is longer than words can be sought in: the time for a line without blanks grows with its square.
+bool HasEndlessLine(const QString& text) {
+    constexpr qsizetype longest = 10'000;
+    return std::ranges::any_of(QStringView(text).split(u'\n'), [](QStringView line) { return line.size() > longest; });
+}
+
 } // namespace
 
 void ShowValue(QPlainTextEdit& box, const QString& value) {
     QString shown = value;
     shown.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', returnSign);
+    box.setWordWrapMode(HasEndlessLine(shown) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
     box.setPlainText(shown);
 }
 

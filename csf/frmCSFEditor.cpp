@@ -91,12 +91,16 @@ std::vector<ToolCommand> frmCSFEditor::Commands() {
 }
 
 void frmCSFEditor::ConnectControls() {
-    const auto click = [this](const QModelIndex& row) {
-        if (!following_ && row.isValid())
+    connect(ui_->lvStrings2, &QTreeView::clicked, this, [this](const QModelIndex& row) {
+        SelectRow(row.row(), false); // Ctrl and a click would leave it without a selection
+        editor_.ClickRow(row.row());
+    });
+    // The focus makes a row the current one too, without a selection.
+    QItemSelectionModel* const selection = ui_->lvStrings2->selectionModel();
+    connect(selection, &QItemSelectionModel::currentRowChanged, this, [this, selection](const QModelIndex& row) {
+        if (!following_ && selection->isRowSelected(row.row()))
             editor_.ClickRow(row.row());
-    };
-    connect(ui_->lvStrings2, &QTreeView::clicked, this, click);
-    connect(ui_->lvStrings2->selectionModel(), &QItemSelectionModel::currentRowChanged, this, click);
+    });
     connect(ui_->lvStrings2->header(), &QHeaderView::sectionClicked, this,
             [this](int column) { editor_.ClickHeader(static_cast<LabelList::Column>(column)); });
     connect(ui_->txtName, &QLineEdit::textEdited, this, [this](const QString& text) { editor_.NameTyped(text); });
@@ -104,6 +108,8 @@ void frmCSFEditor::ConnectControls() {
         if (!following_)
             editor_.ValueTyped(ShownValue(*ui_->txtValue));
     });
+    connect(ui_->cmbLanguage, &QComboBox::currentIndexChanged, this,
+            [this](int entry) { editor_.LanguageChosen(entry); });
     connect(ui_->txtFind, &QLineEdit::textEdited, this, [this](const QString& text) { editor_.FindTyped(text); });
     connect(ui_->cmdFindNext, &QPushButton::clicked, this, [this] { editor_.FindNext(); });
     ui_->txtFind->installEventFilter(this);
@@ -163,6 +169,7 @@ void frmCSFEditor::ShowWindow() {
 }
 
 void frmCSFEditor::ListChanging(LabelChange change, int place) {
+    const QScopedValueRollback following(following_, true);
     model_->Begin(change, place);
 }
 
@@ -212,10 +219,7 @@ void frmCSFEditor::StateChanged() {
     ui_->fraFileInfos->setTitle(state.Caption);
     ui_->lblSize->setText(state.SizeText);
     ui_->lblLanguage->setText(state.LanguageText);
-    if (state.LanguageShown != languageShown_) {
-        languageShown_ = state.LanguageShown;
-        ui_->cmbLanguage->setCurrentIndex(languageShown_);
-    }
+    ui_->cmbLanguage->setCurrentIndex(state.LanguageShown);
     ui_->mnuActions->setVisible(state.ActionsVisible);
     ui_->txtName->setEnabled(state.BoxesEnabled);
     ui_->txtValue->setEnabled(state.BoxesEnabled);
@@ -231,8 +235,8 @@ void frmCSFEditor::StateChanged() {
     setWindowModified(state.Modified);
 }
 
+// No event reaches the list meanwhile. Were it disabled, the keyboard's focus would leave it for good.
 void frmCSFEditor::ShowBusy(bool busy) {
-    ui_->lvStrings2->setEnabled(!busy);
     if (busy)
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else

@@ -57,6 +57,5 @@ private:
     CsfEditor editor_;
     LabelListModel* model_;
     QLabel* count_; ///< the status bar's text
-    int languageShown_ = CsfEditorState::None;
     bool following_ = false; ///< the controls follow the document, not the other way round
 };

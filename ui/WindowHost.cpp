@@ -20,6 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// Loops yield once an item, and a look at an empty queue costs more than most items do. No one sees a pause this long.
+constexpr qint64 yieldedEvery = 5;
+
 // Boxes stand over the window that the user works in, or the one that has just come up.
 QWidget* Owner() {
     if (QWidget* const modal = QApplication::activeModalWidget(); modal != nullptr)
@@ -172,5 +175,9 @@ void WindowHost::UnloadProgress() {
 }
 
 void WindowHost::Yield() {
+    if (yielded_.isValid() && yielded_.elapsed() < yieldedEvery)
+        return;
+    yielded_.start(); // before and after: what runs now may yield too
     QCoreApplication::processEvents();
+    yielded_.start();
 }

@@ -7,6 +7,8 @@
 #include "core/Host.h"
 #include "ui/ProgressWindow.h"
 
+#include <QElapsedTimer>
+
 class QFileDialog;
 
 class WindowHost : public Host {
@@ -28,9 +30,11 @@ public:
     [[nodiscard]] bool ProgressCancelled() const override;
     void CancelProgress() override;
     void StopProgressTimer() override;
+    /// At most once in a few milliseconds, however often it is called.
     void Yield() override;
 
 private:
     ProgressWindowMaker maker_;
+    QElapsedTimer yielded_; ///< since the last time; not valid before the first
     std::unique_ptr<ProgressWindow> progress_;
 };

@@ -72,6 +72,17 @@ TEST(CsfCompare, AConflictKeepsOurs) {
                                                           {u"we drop"_s, u"deleted in ours, changed in theirs"_s}}));
 }
 
+TEST(CsfCompare, DuplicatesAreMergedInTheirOrder) {
+    const CsfTable base = TableOf({u"a=1"_s, u"a=2"_s, u"a=3"_s});
+    const CsfMerged merged = Merge(base, TableOf({u"a=x"_s, u"a=2"_s, u"a=3"_s}), TableOf({u"a=1"_s, u"a=y"_s}));
+    EXPECT_EQ(Texts(merged.Table), (QStringList{u"a=x"_s, u"a=y"_s}));
+    EXPECT_TRUE(merged.Conflicts.empty());
+    const CsfMerged both =
+        Merge(base, TableOf({u"a=1"_s, u"a=x"_s, u"a=3"_s, u"a=4"_s}), TableOf({u"a=1"_s, u"a=y"_s, u"a=3"_s}));
+    EXPECT_EQ(Texts(both.Table), (QStringList{u"a=1"_s, u"a=x"_s, u"a=3"_s, u"a=4"_s}));
+    EXPECT_EQ(both.Conflicts, (std::vector<CsfConflict>{{u"a"_s, u"changed in both"_s}}));
+}
+
 TEST(CsfCompare, TheLanguageIsMergedToo) {
     const auto languageOf = [](int base, int ours, int theirs) { return Merge({base, {}}, {ours, {}}, {theirs, {}}); };
     EXPECT_EQ(languageOf(0, 0, 3).Table.Language, 3);

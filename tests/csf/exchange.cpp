@@ -82,6 +82,15 @@ TEST(CsfExchange, WhatWasExportedComesBackTheSame) {
     }
 }
 
+TEST(CsfExchange, AsManyRowsAsATableHoldsComeBackTheSame) {
+    CsfTable table{3, {}};
+    for (int row = 0; row < mCSF::MaximumStrings; ++row)
+        table.Strings.push_back({row % 3 == 0 ? QString() : u"Caf\u00E9\r\n%1"_s.arg(row),
+                                 row % 5 == 0 ? QString() : u"GUI:%1"_s.arg(row / 2)});
+    for (const Format format : AllFormats)
+        EXPECT_TRUE(CsfExchange::Import(CsfExchange::Export(table, format), format) == table);
+}
+
 TEST(CsfExchange, TheEndingOfAFilesNameTellsTheFormat) {
     EXPECT_EQ(CsfExchange::FormatOf(u"a.json"_s), Format::Json);
     EXPECT_EQ(CsfExchange::FormatOf(u"C:\\A.CSV"_s), Format::Csv);

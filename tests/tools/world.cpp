@@ -242,3 +242,14 @@ TEST(MeasuredArchive, EntriesLieInOneFolderOrInMany) {
     EXPECT_TRUE(FileBytes(file).contains("Art\\Textures 12\\"));
     EXPECT_TRUE(MakeTinyArchive(folder.path() + u"/missing/a.big"_s, 1, false).contains(u"missing"_s));
 }
+
+TEST(MeasuredStrings, ATableHasAsManyRowsAsAsked) {
+    const QTemporaryDir folder;
+    const QString file = folder.path() + u"/many.csf"_s;
+    ASSERT_EQ(MakeStrings(file, 20000), QString());
+    const QByteArray table = FileBytes(file);
+    EXPECT_EQ(table.first(12), " FSC" + Hex("03000000 204e0000"));
+    EXPECT_EQ(table.count(" LBL"), 20000);
+    EXPECT_EQ(table.count(" RTS"), 20000);
+    EXPECT_TRUE(MakeStrings(folder.path() + u"/missing/a.csf"_s, 1).contains(u"missing"_s));
+}

@@ -4,6 +4,7 @@
 #include "core/mMain.h"
 #include "csf/LabelListModel.h"
 #include "csf/frmCSFEditor.h"
+#include "platform/AnsiCodec.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
 #include "tests/windows/RecordingNavigator.h"
@@ -170,21 +171,29 @@ private Q_SLOTS:
         QVERIFY(!window_->isWindowModified());
     }
 
-    void everyCharacterOfAValueComesThroughTheBox() {
-        QString value;
-        for (int byte = 1; byte < 256; ++byte)
-            value += QString::fromLatin1(QByteArray(1, static_cast<char>(byte)));
-        // What the code page has in place of the control characters from 0x80 to 0x9F.
-        value.replace(0x80 - 1, 0x20,
-                      u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152"
-                      u"\u008D\u017D\u008F\u0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122"
-                      u"\u0161\u203A\u0153\u009D\u017E\u0178"_s);
-        Open({{value, u"all"_s}, {u"z"_s, u"z"_s}});
+    void everyCharacterComesThroughTheBoxes() {
+        QByteArray bytes;
+        for (int byte = 0; byte < 256; ++byte)
+            bytes += static_cast<char>(byte);
+        const QString all = AnsiCodec::Decode(bytes);
+        Open({{all, all}});
         ValueBox()->moveCursor(QTextCursor::End);
         QTest::keyClicks(ValueBox(), u"!"_s);
+        NameBox()->end(false);
+        QTest::keyClicks(NameBox(), u"?"_s);
         Part<QAction>("mnuSave")->trigger();
         mCSF::ReadCSF(path_);
-        QCOMPARE(mCSF::CsfStrings[0].Value, value + u'!');
+        QCOMPARE(mCSF::CsfStrings[0].Value, all + u'!');
+        QCOMPARE(mCSF::CsfStrings[0].Name, all + u'?');
+    }
+
+    void anEndlessLineIsWrappedWithoutLookingForWords() {
+        const QString endless(200'000, u'x');
+        Open({{endless, u"a"_s}, {u"short words"_s, u"b"_s}});
+        QCOMPARE(ValueBox()->wordWrapMode(), QTextOption::WrapAnywhere);
+        QCOMPARE(ValueBox()->toPlainText(), endless);
+        ClickRow(1);
+        QCOMPARE(ValueBox()->wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
     }
 
     void aChangeInABoxCanBeTakenBack() {
@@ -300,6 +309,48 @@ private Q_SLOTS:
         Part<QComboBox>("cmbLanguage")->setCurrentIndex(8);
         Part<QAction>("mnuSave")->trigger();
         QCOMPARE(mCSF::ReadCSF(path_), 3);
+    }
+
+    void anotherFileShowsItsLanguageWhateverWasChosen() {
+        OpenThree();
+        auto* const list = Part<QComboBox>("cmbLanguage");
+        list->setCurrentIndex(8);
+        NameBox()->setFocus();
+        QTest::keyClicks(NameBox(), u"!"_s);
+        QCOMPARE(list->currentIndex(), 8);
+        window_->OpenCSFFile(path_);
+        QCOMPARE(list->currentText(), u"3 - French"_s);
+    }
+
+    void aSaveAndASortLeaveTheFocusInTheList() {
+        OpenThree();
+        List()->setFocus();
+        QTest::keyClick(List(), Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(List()->hasFocus());
+        QTest::mouseClick(List()->header()->viewport(), Qt::LeftButton, {}, {20, 8});
+        QVERIFY(List()->hasFocus());
+        QCOMPARE(FindBox()->text(), u"Suchen"_s);
+    }
+
+    void theFirstRowOfANewDocumentIsNotSelectedUntilItIsClicked() {
+        Show();
+        Part<QAction>("mnuNew")->trigger();
+        QVERIFY(!Part<QWidget>("mnuActions")->isVisible()); // only an opened file shows them
+        Part<QAction>("mnuAdd")->trigger();
+        List()->setFocus();
+        QVERIFY(!List()->selectionModel()->hasSelection());
+        QVERIFY(!NameBox()->isEnabled() && !ValueBox()->isEnabled());
+        ClickRow(0);
+        QVERIFY(List()->selectionModel()->isRowSelected(0));
+        QVERIFY(NameBox()->isEnabled() && ValueBox()->isEnabled());
+        QCOMPARE(NameBox()->text(), u"Neu"_s);
+    }
+
+    void aClickWithControlSelectsToo() {
+        OpenThree();
+        QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          List()->visualRect(List()->model()->index(0, 0)).center());
+        QVERIFY(List()->selectionModel()->isRowSelected(0));
     }
 
     void closingAsksAboutChanges() {

@@ -9,6 +9,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -204,6 +205,20 @@ private Q_SLOTS:
         QTimer::singleShot(0, this, [&] { ran = true; });
         host_->Yield();
         QVERIFY(ran);
+    }
+
+    void aLoopThatYieldsAtEachItemIsServedEveryFewMilliseconds() {
+        int served = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] { ++served; });
+        timer.start(0);
+        QElapsedTimer clock;
+        clock.start();
+        int items = 0;
+        for (; clock.elapsed() < 100; ++items)
+            host_->Yield();
+        QVERIFY(served >= 2);
+        QVERIFY2(served <= 25 && served < items, "and not once an item");
     }
 
     void filtersAreTurnedIntoTheToolkitsForm() {

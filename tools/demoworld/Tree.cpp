@@ -136,4 +136,12 @@ QString MakeTinyArchive(const QString& file, int entries, bool nested) {
     return written ? QString() : u"%1 can't be written."_s.arg(file);
 }
 
+QString MakeStrings(const QString& file, int rows) {
+    constexpr int french = 3;
+    const QByteArray table = Csf(french, CsfEntries(french, rows, 2005));
+    QFile output(file);
+    const bool written = output.open(QIODevice::WriteOnly) && output.write(table) == table.size() && output.flush();
+    return written ? QString() : u"%1 can't be written."_s.arg(file);
+}
+
 } // namespace Demo

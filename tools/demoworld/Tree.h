@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// Folders and archives to measure with.
+/// Folders, archives and string tables to measure with.
 #pragma once
 
 #include <QString>
@@ -14,5 +14,8 @@ QString MakeTree(const QString& folder, int files, qint64 bytes);
 
 /// An archive of tiny entries in one folder, or spread over nested folders. `file` is a native path.
 QString MakeTinyArchive(const QString& file, int entries, bool nested);
+
+/// A French string table. `file` is a native path.
+QString MakeStrings(const QString& file, int rows);
 
 } // namespace Demo

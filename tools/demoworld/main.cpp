@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// demoworld: makes the demo world, the tree that is measured with, and an archive of many entries.
+/// demoworld: makes the demo world, the tree that is measured with, an archive of many entries, and a string table of
+/// many rows.
 #include "tools/demoworld/Tree.h"
 #include "tools/demoworld/World.h"
 
@@ -77,17 +78,22 @@ int main(int argc, char* argv[]) {
     const QCommandLineOption archive(u"archive"_s, u"make an archive of tiny entries instead"_s, u"file"_s);
     const QCommandLineOption entries(u"entries"_s, u"number of entries in the archive"_s, u"number"_s, u"32768"_s);
     const QCommandLineOption folders(u"folders"_s, u"spread the entries over nested folders"_s);
-    parser.addOptions({language, small, again, tree, files, bytes, archive, entries, folders});
+    const QCommandLineOption strings(u"strings"_s, u"make a string table instead"_s, u"file"_s);
+    const QCommandLineOption rows(u"rows"_s, u"number of rows in the string table"_s, u"number"_s, u"20000"_s);
+    parser.addOptions({language, small, again, tree, files, bytes, archive, entries, folders, strings, rows});
     parser.process(application);
 
     const std::optional<qint64> size = ByteCount(parser.value(bytes));
     const int fileCount = parser.value(files).toInt(), entryCount = parser.value(entries).toInt();
-    if (!size || fileCount <= 0 || entryCount <= 0)
+    const int rowCount = parser.value(rows).toInt();
+    if (!size || fileCount <= 0 || entryCount <= 0 || rowCount <= 0)
         return WrongUsage(parser);
     if (parser.isSet(tree))
         return Report(Demo::MakeTree(parser.value(tree), fileCount, *size));
     if (parser.isSet(archive))
         return Report(Demo::MakeTinyArchive(parser.value(archive), entryCount, parser.isSet(folders)));
+    if (parser.isSet(strings))
+        return Report(Demo::MakeStrings(parser.value(strings), rowCount));
     if (parser.positionalArguments().size() != 1)
         return WrongUsage(parser);
     return Report(Demo::MakeWorld(
