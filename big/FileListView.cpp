@@ -266,8 +266,8 @@ bool FileListView::KeyEvent(const QKeyEvent& event) {
 }
 
 bool FileListView::DropEvent(QDropEvent& event) {
-    // Rows of this list that come back to it change nothing.
-    if (!event.mimeData()->hasUrls() || event.source() == Current()) {
+    // Rows of this list that come back to it change nothing. Only other programs' drags have no source.
+    if (!event.mimeData()->hasUrls() || event.source() != nullptr) {
         event.ignore();
         return true;
     }
