@@ -233,6 +233,23 @@ TEST_F(PreviewTest, AnEntryWithoutBytesGivesNoPictureAndHarmsNoLaterOne) {
     EXPECT_EQ(Shown().GroupHeight, 200);
 }
 
+TEST_F(PreviewTest, AClickDuringASaveHarmsNeitherTheSaveNorItself) {
+    OpenWith({{u"a.png"_s, "picture"}, {u"b.wav"_s, "sound"}});
+    Speaker.OnYield = [&] {
+        Click(u"a.png"_s);
+        Click(u"b.wav"_s);
+    };
+    Editor.Save();
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_TRUE(Decoder.Sources.empty());
+    EXPECT_TRUE(Player.Opened.empty());
+    Speaker.OnYield = {};
+    Click(u"a.png"_s);
+    EXPECT_EQ(Decoder.SourceBytes, "picture");
+    Click(u"b.wav"_s);
+    EXPECT_EQ(Player.OpenedBytes, "sound");
+}
+
 TEST_F(PreviewTest, ANameThatMayNotBeWrittenHasNoPreview) {
     Decoder.Bitmap = BitmapOf(1, 1);
     for (const QString& name :
