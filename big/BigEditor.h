@@ -166,6 +166,8 @@ private:
         std::vector<qint32> ExtractList; ///< indices in the table
         ExtractionTarget Target;
         QStringList Dragged; ///< inside paths of files and folders
+
+        void Offer(const QString& name);
     };
 
     /// What began a Modify.

@@ -132,7 +132,8 @@ void BigEditor::SaveAs() {
 
 bool BigEditor::WriteLocked(const QString& path) {
     const QScopedValueRollback lock(busy_, true);
-    return mBIG::WriteBigFile(path);
+    // What another program still has open may hold work that is not taken in yet.
+    return mBIG::WriteBigFile(path, openCopies_);
 }
 
 BigEditor::Saved BigEditor::SaveTo(const QString& path) {

@@ -3,6 +3,7 @@
 
 #include "big/BigEditor.h"
 
+#include "core/FolderGateway.h"
 #include "core/Host.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
@@ -91,6 +92,12 @@ bool BigEditor::ExtractBigFile(const QString& path) {
     return true;
 }
 
+// A name that may not be written is not handed out either: ".." would have the target copy what stands above.
+void BigEditor::DragPlan::Offer(const QString& name) {
+    if (FolderGateway::RefusalOf(name).isEmpty())
+        Dragged += Target.ExtractFolder + name;
+}
+
 BigEditor::DragPlan BigEditor::PlanDrag() const {
     DragPlan plan;
     plan.Target = {.ExtractFolder = DragFolder(), .ExtractCancelled = false, .RecreateFolders = false};
@@ -98,14 +105,14 @@ BigEditor::DragPlan BigEditor::PlanDrag() const {
         const FileRow& row = list_.Row(place);
         if (!row.IsFolder && row.Index <= mBIG::HighestIndex()) {
             Extraction::Take(plan.ExtractList, row.Index);
-            plan.Dragged += plan.Target.ExtractFolder + LastPart(row.Name);
+            plan.Offer(LastPart(row.Name));
         } else if (row.IsFolder && tree_.Has(row.Index)) {
             const QString& key = tree_.Node(row.Index).Key;
             Extraction::TakeFolder(plan.ExtractList, key, Qt::CaseInsensitive);
             // One folder among the rows has the files extracted into their folders too, where they are not looked for.
             // This is meant.
             plan.Target.RecreateFolders = true;
-            plan.Dragged += plan.Target.ExtractFolder + key.chopped(1);
+            plan.Offer(key.chopped(1));
         }
     }
     return plan;

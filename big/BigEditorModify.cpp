@@ -86,8 +86,10 @@ bool BigEditor::IsSourceMissing(int index) {
 
 void BigEditor::ModifyCopy(int index, const QString& text, Trigger trigger) {
     const QString copy = CopyForProgram(index, text);
-    if (copy.isEmpty())
+    if (copy.isEmpty()) {
+        Host::Current().Beep();
         return;
+    }
     const QString name = mBIG::BigEntries[static_cast<std::size_t>(index)].Name;
     const Opened opened{.Index = index, .Table = table_, .Name = name, .Archive = mBIG::BigFileName, .Copy = copy};
     const ChangeMark mark(copy);

@@ -43,6 +43,11 @@ void BigEditor::ClearPreview() {
 void BigEditor::ClickRow(int place) {
     if (place < 0 || place >= list_.Count())
         return;
+    // A preview opens files under the numbers that the save or the extraction under way is using.
+    if (busy_) {
+        EnterList();
+        return;
+    }
     const FileRow row = list_.Row(place);
     if (row.IsFolder) {
         preview_.ShowFolderRow();

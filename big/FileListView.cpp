@@ -105,6 +105,12 @@ bool IsEnter(int key) {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
+/// Whether a text is being edited inside the view: its keys come by here too.
+bool HasField(const QAbstractItemView& view) {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus != nullptr && focus != &view && view.isAncestorOf(focus);
+}
+
 } // namespace
 
 FileListView::FileListView(QWidget* parent)
@@ -243,12 +249,14 @@ void FileListView::ShowMenu(QPoint place) {
 
 bool FileListView::KeyEvent(const QKeyEvent& event) {
     const QModelIndex row = Selection() == nullptr ? QModelIndex() : Selection()->currentIndex();
-    if (!row.isValid())
+    if (!row.isValid() || HasField(*Current()))
         return false;
     const int key = event.key();
     const bool press = event.type() == QEvent::KeyPress;
     if (press && IsEnter(key)) {
-        Q_EMIT RowActivated(row.row());
+        // A key that is held down opens a file once.
+        if (!event.isAutoRepeat())
+            Q_EMIT RowActivated(row.row());
         return true;
     }
     // A key has moved the selection by the time it is let go of.
@@ -258,8 +266,8 @@ bool FileListView::KeyEvent(const QKeyEvent& event) {
 }
 
 bool FileListView::DropEvent(QDropEvent& event) {
-    // Rows of this list that come back to it change nothing.
-    if (!event.mimeData()->hasUrls() || event.source() == Current()) {
+    // Rows of this list that come back to it change nothing. Only other programs' drags have no source.
+    if (!event.mimeData()->hasUrls() || event.source() != nullptr) {
         event.ignore();
         return true;
     }

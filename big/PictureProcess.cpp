@@ -28,6 +28,7 @@ QByteArray Word(const QString& path) {
 
 PictureProcess::PictureProcess() {
     limit_.setSingleShot(true);
+    limit_.setTimerType(Qt::PreciseTimer); // a coarse one would end up to a twentieth early
     connect(&limit_, &QTimer::timeout, this, [this] { Finish(false); });
     preparation_.setSingleShot(true);
     preparation_.setInterval(PreparationDelay);

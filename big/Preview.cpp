@@ -58,6 +58,17 @@ QString SoundFileFor(int number, const QString& rowText) {
     return SoundFolder() + u'\\' + SoundName(number, rowText);
 }
 
+/// Copies an entry of the archive to a temporary file; what can't be copied is passed over.
+void ExtractTo(int index, const QString& path) {
+    // What an earlier day left would show behind a shorter entry.
+    Ignoring([&] { Files::DeleteForced(path); });
+    // An entry of no bytes leaves numbers open, which would cost every later preview and keep the files from being
+    // deleted.
+    mBIG::CloseExtraction();
+    Ignoring([&] { mBIG::ExtractEntryAsGiven(index, mBIG::BigFileName, path); });
+    mBIG::CloseExtraction();
+}
+
 QByteArray BytesOf(const QString& path) {
     constexpr int number = 8;
     NumberedFiles::Open(number, path, NumberedFiles::Access::Read);
@@ -157,7 +168,7 @@ void Preview::ShowPicture(int index, const QString& rowText) {
         return;
     }
     if (!entry.IsNew)
-        Ignoring([&] { mBIG::ExtractEntry(index, mBIG::BigFileName, source); });
+        ExtractTo(index, source);
     decoder_->Decode(source, bitmap_, [this](bool decoded) { PictureCame(decoded); });
 }
 
@@ -202,10 +213,11 @@ bool Preview::ShowSound(int index, const QString& rowText) {
     if (!entry.IsNew) {
         state_.SoundFile = SoundFileFor(soundFileNumber_, rowText);
         // A name that may not be written is not opened nor deleted either: there is no sound.
-        if (!Ignoring([&] { TargetIn(SoundFolder(), SoundName(soundFileNumber_, rowText)); }))
+        QString target;
+        if (!Ignoring([&] { target = TargetIn(SoundFolder(), SoundName(soundFileNumber_, rowText)); }))
             state_.SoundFile.clear();
         else
-            Ignoring([&] { mBIG::ExtractEntry(index, mBIG::BigFileName, state_.SoundFile); });
+            ExtractTo(index, target);
     }
     if (player_ != nullptr)
         player_->Open(entry.IsNew ? entry.SourcePath : state_.SoundFile);

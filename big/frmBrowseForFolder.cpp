@@ -26,7 +26,8 @@ frmBrowseForFolder::frmBrowseForFolder(QWidget* parent, std::unique_ptr<FileBoxS
     mTraduction::ApplyLanguage(this);
     if (system)
         ui_->cfbFolders->UseSystem(std::move(system));
-    ui_->cfbFolders->View()->setAccessibleName(ui_->lblFolders->text());
+    for (QWidget* part : {static_cast<QWidget*>(ui_->cfbFolders->View()), static_cast<QWidget*>(ui_->txtPath)})
+        part->setAccessibleName(ui_->lblFolders->text());
     connect(ui_->cfbFolders, &CoolFileBox::PathChanged, this, &frmBrowseForFolder::ShowPath);
     connect(ui_->cmdOK, &QPushButton::clicked, this, &frmBrowseForFolder::Choose);
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmBrowseForFolder::reject);

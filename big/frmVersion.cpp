@@ -33,6 +33,9 @@ frmVersion::frmVersion(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
         ui_->cbVersion->setCurrentIndex(variant.Row);
         (variant.Translated ? ui_->optYes : ui_->optNo)->setChecked(true);
     }
+    // Yes and No say nothing without their question.
+    for (QRadioButton* answer : {ui_->optYes, ui_->optNo})
+        answer->setAccessibleName(ui_->lblTranslated->text() + u' ' + answer->text());
     connect(ui_->cmdOK, &QPushButton::clicked, this, [this] {
         Store();
         accept();

@@ -11,6 +11,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -41,8 +42,9 @@ bool ReadBigFile(const QString& path);
 
 /// Writes BigEntries as an archive of the variant BigVersion, old entries from BigFileName, new ones from their
 /// SourcePath. False when the table has one record or none, and when the target can't be written: then whatever stood
-/// at the target stands there still, and LastFailure tells why.
-bool WriteBigFile(const QString& path);
+/// at the target stands there still, and LastFailure tells why. Behind it the scratch folder is emptied, but for the
+/// files `kept` (inside paths).
+bool WriteBigFile(const QString& path, const QStringList& kept = {});
 
 /// Why the last WriteBigFile returned false, for a person; empty when the table had nothing to save.
 QString LastFailure();

@@ -205,11 +205,21 @@ void SaveTo(const QString& path) {
         entry.IsNew = entry.IsNew && entry.Deleted;
 }
 
+/// Empties the scratch folder but for some files; what can't be deleted stays.
+void EmptyScratch(const QStringList& kept) {
+    const QString folder = mMain::ProgramFolder + u"\\Temp\\"_s;
+    for (const QString& name : Files::ListFolder(folder + u"*.*"_s)) {
+        const QString file = folder + name;
+        if (std::ranges::none_of(kept, [&](const QString& each) { return Files::SameFile(each, file); }))
+            Ignoring([&] { Files::DeleteForced(file); });
+    }
+}
+
 } // namespace
 
 namespace mBIG {
 
-bool WriteBigFile(const QString& path) {
+bool WriteBigFile(const QString& path, const QStringList& kept) {
     Host& host = Host::Current();
     host.ShowProgress();
     const QString fileName = path.sliced(path.lastIndexOf(u'\\') + 1);
@@ -224,7 +234,7 @@ bool WriteBigFile(const QString& path) {
         lastFailure = error.Description();
         return false;
     }
-    Ignoring([] { Files::Delete(mMain::ProgramFolder + u"\\Temp\\*.*"_s); });
+    Ignoring([&] { EmptyScratch(kept); });
     host.UnloadProgress();
     return true;
 }

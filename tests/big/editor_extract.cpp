@@ -251,6 +251,15 @@ TEST_F(Extracting, AFolderAmongTheRowsMovesTheFilesIntoTheirFolders) {
     EXPECT_FALSE(Files::FolderExists(folder + u"Top"_s));
 }
 
+TEST_F(Extracting, ANameThatLeadsOutOfTheScratchFolderIsNotHandedOut) {
+    OpenArchive({{u".."_s, "1"}, {u"b"_s, "2"}, {u"..\\c"_s, "3"}});
+    Select({u".."_s, u"b"_s});
+    View.Selected = {0, 1, 2};
+    ASSERT_EQ(Shown(), (QStringList{u".."_s, u".."_s, u"b"_s})) << "The folder stands before the files.";
+    EXPECT_EQ(Below(Editor.DragNames()), QStringList{u"b"_s});
+    EXPECT_EQ(Below(Editor.ExtractForDrag()), QStringList{u"b"_s});
+}
+
 TEST_F(Extracting, AFolderWithoutEntriesIsHandedOutWithoutAnExtraction) {
     OpenSample();
     Editor.Extract();

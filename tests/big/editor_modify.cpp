@@ -215,13 +215,14 @@ TEST_F(EditorModify, FileNumbersThatWereLeftOpenAreNoHindrance) {
     EXPECT_EQ(GivenBytes, QList<QByteArray>({"2"}));
 }
 
-TEST_F(EditorModify, AnArchiveThatHasGoneOpensNothing) {
+TEST_F(EditorModify, AnArchiveThatHasGoneOpensNothingAndBeeps) {
     OpenStrings();
     Files::Delete(mBIG::BigFileName);
     Editor.ActivateRow(0);
     ModifyByMenu(0);
     EXPECT_TRUE(Given.isEmpty());
     EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_EQ(Speaker.Beeps, 2) << "Neither is passed over in silence.";
 }
 
 TEST_F(EditorModify, TheCSFEditorKnowsWhoOpensIt) {

@@ -98,7 +98,6 @@ TEST_F(EditorModifyMeanwhile, AFileThatIsWrittenAfterASaveGoesToTheEntryOfItsNam
     Program = [&](const QString& path) {
         Entry(0).Deleted = true;
         Editor.Save();
-        EXPECT_FALSE(Files::FileExists(path));
         Write(path, "written");
     };
     Speaker.Answers = {Answer::Yes};
@@ -106,6 +105,22 @@ TEST_F(EditorModifyMeanwhile, AFileThatIsWrittenAfterASaveGoesToTheEntryOfItsNam
     EXPECT_EQ(Entry(0).Name, u"Data\\two.csf"_s) << "It has moved up.";
     EXPECT_TRUE(Entry(0).IsNew);
     EXPECT_FALSE(Entry(1).IsNew);
+}
+
+TEST_F(EditorModifyMeanwhile, WhatWasWrittenBeforeASaveIsNotLost) {
+    OpenStrings();
+    Entry(2).Deleted = true;
+    const QString other = Place.WriteFile(u"program\\Temp\\other.txt"_s, "x");
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        Editor.Save();
+        EXPECT_FALSE(Files::FileExists(other));
+    };
+    Speaker.Answers = {Answer::Yes};
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(Entry(0).IsNew);
+    EXPECT_EQ(World::ReadFile(Entry(0).SourcePath), "written");
+    EXPECT_TRUE(State().Modified);
 }
 
 TEST_F(EditorModifyMeanwhile, ClosingTheWindowMeanwhileEndsTheCommand) {

@@ -223,14 +223,31 @@ TEST_F(PreviewTest, ANewEntryWhoseFileHasGoneLeavesTheListAfterAMessage) {
     EXPECT_TRUE(Decoder.Sources.isEmpty());
 }
 
-TEST_F(PreviewTest, AnEntryWithoutBytesGivesNoPictureAndKeepsTheFileNumbers) {
+TEST_F(PreviewTest, AnEntryWithoutBytesGivesNoPictureAndHarmsNoLaterOne) {
     OpenWith({{u"a.png"_s, ""}, {u"b.png"_s, "2"}});
     Decoder.Waits = true;
     Click(u"a.png"_s);
     EXPECT_EQ(Decoder.SourceBytes, QByteArray());
     Click(u"b.png"_s);
-    EXPECT_EQ(Decoder.SourceBytes, QByteArray()) << "The numbers that the first one left open are taken.";
+    EXPECT_EQ(Decoder.SourceBytes, "2");
     EXPECT_EQ(Shown().GroupHeight, 200);
+}
+
+TEST_F(PreviewTest, AClickDuringASaveHarmsNeitherTheSaveNorItself) {
+    OpenWith({{u"a.png"_s, "picture"}, {u"b.wav"_s, "sound"}});
+    Speaker.OnYield = [&] {
+        Click(u"a.png"_s);
+        Click(u"b.wav"_s);
+    };
+    Editor.Save();
+    EXPECT_TRUE(Speaker.Messages.empty());
+    EXPECT_TRUE(Decoder.Sources.empty());
+    EXPECT_TRUE(Player.Opened.empty());
+    Speaker.OnYield = {};
+    Click(u"a.png"_s);
+    EXPECT_EQ(Decoder.SourceBytes, "picture");
+    Click(u"b.wav"_s);
+    EXPECT_EQ(Player.OpenedBytes, "sound");
 }
 
 TEST_F(PreviewTest, ANameThatMayNotBeWrittenHasNoPreview) {

@@ -118,6 +118,13 @@ TEST_F(PreviewTest, ASoundWithoutBytesIsOpenedAllTheSame) {
     EXPECT_EQ(Shown().GroupHeight, 141);
 }
 
+TEST_F(PreviewTest, WhatAnEarlierDayLeftIsNotHeardBehindAShorterSound) {
+    Place.WriteFile(u"program\\Temp\\snd0a.mp3"_s, "a much longer sound");
+    OpenWith({{u"a.mp3"_s, "short"}});
+    Click(u"a.mp3"_s);
+    EXPECT_EQ(Player.OpenedBytes, "short");
+}
+
 TEST_F(PreviewTest, ASoundsNameThatMayNotBeWrittenIsNeitherOpenedNorDeleted) {
     const QString victim = Place.WriteFile(u"program\\victim.wav"_s, "mine");
     for (const QString& name : {u"/../../victim.wav"_s, u"*.wav"_s, u"\\..\\..\\victim.wav"_s}) {

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 using Answer = Host::Answer;
@@ -160,6 +161,26 @@ private Q_SLOTS:
         QCOMPARE(Rows(), QStringList({u"data"_s, u"Notes.txt"_s}));
         QCOMPARE(mBIG::BigEntries[0].Name, u"Notes.txt"_s);
         QVERIFY(window_->isWindowModified());
+    }
+
+    void theKeysOfAFieldAreNoneOfTheList() {
+        Work();
+        ClickRow(1);
+        QSignalSpy activated(Files(), &FileListView::RowActivated);
+        QTest::keyClick(List(), Qt::Key_F2);
+        TypeInto(List(), u"Notes.txt"_s);
+        QCOMPARE(activated.size(), 0);
+    }
+
+    void aHeldEnterKeyOpensARowOnce() {
+        Work();
+        ClickRow(0);
+        QSignalSpy activated(Files(), &FileListView::RowActivated);
+        for (const bool repeated : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, repeated);
+            QApplication::sendEvent(List(), &press);
+        }
+        QCOMPARE(activated.size(), 1);
     }
 
     void aNameWithABackslashIsRefused() {

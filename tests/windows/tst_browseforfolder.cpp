@@ -51,6 +51,7 @@ private Q_SLOTS:
         QCOMPARE(Part<QPushButton>("cmdOK")->text(), u"Gut"_s);
         QCOMPARE(Part<QPushButton>("cmdCancel")->text(), u"Nein"_s);
         QCOMPARE(View()->accessibleName(), u"Nach:"_s);
+        QCOMPARE(Part<QLineEdit>("txtPath")->accessibleName(), u"Nach:"_s);
     }
 
     void itStartsAtTheDocumentsWithTheTreeInFocus() {

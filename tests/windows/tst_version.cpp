@@ -44,6 +44,8 @@ private Q_SLOTS:
         QCOMPARE(Part<QPushButton>("cmdOK")->text(), u"D'accord"_s);
         QCOMPARE(Part<QPushButton>("cmdDefault")->text(), u"Annuler"_s);
         QCOMPARE(Part<QRadioButton>("optYes")->text(), u"Oui"_s);
+        QCOMPARE(Part<QRadioButton>("optYes")->accessibleName(), Part<QLabel>("lblTranslated")->text() + u" Oui"_s);
+        QCOMPARE(Part<QRadioButton>("optNo")->accessibleName(), Part<QLabel>("lblTranslated")->text() + u" Non"_s);
     }
 
     void theControlsShowTheVersion_data() { Versions(); }
