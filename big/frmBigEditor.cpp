@@ -151,7 +151,8 @@ void frmBigEditor::ConnectList() {
         if (editor_.RenameRow(place, text))
             listModel_->RowChanged(place);
     };
-    connect(listModel_, &FileListModel::RenameWanted, this, rename, Qt::QueuedConnection);
+    // At once: the click that ends an edit may show another folder, whose row of that place would be renamed.
+    connect(listModel_, &FileListModel::RenameWanted, this, rename);
 }
 
 // The menu for the row under the pointer, or that of the views.

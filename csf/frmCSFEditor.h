@@ -56,6 +56,6 @@ private:
     std::unique_ptr<Ui::frmCSFEditor> ui_;
     CsfEditor editor_;
     LabelListModel* model_;
-    QLabel* count_; ///< the status bar's text
+    QLabel* count_;          ///< the status bar's text
     bool following_ = false; ///< the controls follow the document, not the other way round
 };

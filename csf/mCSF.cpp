@@ -21,7 +21,6 @@ using NumberedFiles::Access;
 
 namespace {
 
-constexpr int FileNumber = 1;
 constexpr std::size_t ReadingSize = 65537;
 constexpr qsizetype LanguageOffset = 20;
 constexpr qsizetype FirstRecord = 24;
@@ -121,8 +120,8 @@ FileBytes WholeFile(const QString& path) {
         throw RuntimeError(ErrorNumber::Subscript, u"the file is empty"_s);
     mCSF::CsfStrings.clear();
     mCSF::CsfStrings.resize(ReadingSize);
-    NumberedFiles::Open(FileNumber, path, Access::Read);
-    return FileBytes(NumberedFiles::Read(FileNumber, 0, length));
+    NumberedFiles::Open(mCSF::FileNumber, path, Access::Read);
+    return FileBytes(NumberedFiles::Read(mCSF::FileNumber, 0, length));
 }
 
 qint32 ReadOpened(const FileBytes& file) {
@@ -133,7 +132,7 @@ qint32 ReadOpened(const FileBytes& file) {
     const int byte = static_cast<unsigned char>(file.At(LanguageOffset, 1).front());
     // Meant so: the number's decimal text is read as a hexadecimal one.
     const qint32 language = mBIG::BaseConvert(QString::number(byte), 16, 0).toInt();
-    NumberedFiles::Close(FileNumber);
+    NumberedFiles::Close(mCSF::FileNumber);
     if (count == 0)
         throw RuntimeError(ErrorNumber::Subscript, u"no strings"_s);
     mCSF::CsfStrings.resize(count);
@@ -150,7 +149,7 @@ qint32 ReadTable(const QString& path) {
     try {
         return ReadOpened(WholeFile(path));
     } catch (...) {
-        Ignoring([] { NumberedFiles::Close(FileNumber); });
+        Ignoring([] { NumberedFiles::Close(mCSF::FileNumber); });
         throw;
     }
 }

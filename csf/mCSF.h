@@ -25,6 +25,9 @@ namespace mCSF {
 /// The table of the last file read, or the one to be written, in the file's order.
 extern std::vector<CsfString> CsfStrings;
 
+/// The number that tables are opened under. It is theirs alone: an archive may be being written at the same time.
+inline constexpr int FileNumber = 8;
+
 /// What ReadCSF returns for a refused file.
 inline constexpr qint32 Refused = 65536;
 

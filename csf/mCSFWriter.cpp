@@ -20,7 +20,6 @@ using NumberedFiles::Access;
 
 namespace {
 
-constexpr int FileNumber = 1;
 constexpr quint32 Version = 3;
 constexpr qint64 CountOffset = 8;
 constexpr qint64 FirstRecord = 24;
@@ -40,11 +39,11 @@ QByteArray LanguageField(qint16 language) {
 }
 
 void WriteHeader(const QByteArray& language) {
-    NumberedFiles::Write(FileNumber, 0, " FSC" + Number(Version));
+    NumberedFiles::Write(mCSF::FileNumber, 0, " FSC" + Number(Version));
     if (mCSF::CsfStrings.empty())
         throw RuntimeError(ErrorNumber::Subscript, u"a table without strings"_s);
     const QByteArray count = Number(static_cast<qsizetype>(mCSF::CsfStrings.size()));
-    NumberedFiles::Write(FileNumber, CountOffset, count + count + Number(0) + language);
+    NumberedFiles::Write(mCSF::FileNumber, CountOffset, count + count + Number(0) + language);
 }
 
 /// How many entries are written. Meant so: the upper bound is a 16-bit number, and one that does not fit stays 0.
@@ -75,7 +74,7 @@ public:
     }
 
     void WriteGathered() {
-        NumberedFiles::Write(FileNumber, at_, QByteArrayView(buffer_).first(filled_));
+        NumberedFiles::Write(mCSF::FileNumber, at_, QByteArrayView(buffer_).first(filled_));
         at_ += filled_;
         filled_ = 0;
     }
@@ -112,8 +111,8 @@ void WriteRecords(bool replacing) {
         records.Append(mCSF::CsfStrings[i]);
     records.WriteGathered();
     if (replacing)
-        NumberedFiles::Flush(FileNumber);
-    NumberedFiles::Close(FileNumber);
+        NumberedFiles::Flush(mCSF::FileNumber);
+    NumberedFiles::Close(mCSF::FileNumber);
     if (count < mCSF::CsfStrings.size())
         throw RuntimeError(ErrorNumber::Overflow, u"more than 32,768 strings"_s);
 }
@@ -123,10 +122,10 @@ void OpenTarget(const QString& path, const QString& aside, const QByteArray& lan
     try {
         if (Files::FileExists(path))
             Files::Rename(path, aside);
-        NumberedFiles::Open(FileNumber, path, Access::ReadWrite);
+        NumberedFiles::Open(mCSF::FileNumber, path, Access::ReadWrite);
         WriteHeader(language);
     } catch (...) {
-        Ignoring([] { NumberedFiles::Close(FileNumber); });
+        Ignoring([] { NumberedFiles::Close(mCSF::FileNumber); });
         throw;
     }
 }
@@ -153,7 +152,7 @@ QString WriteTable(const QString& path, qint16 language) {
         if (replacing)
             Files::DeleteForced(aside);
     } catch (const RuntimeError& error) {
-        Ignoring([] { NumberedFiles::Close(FileNumber); });
+        Ignoring([] { NumberedFiles::Close(mCSF::FileNumber); });
         return error.Description();
     }
     return {};

@@ -51,5 +51,5 @@ void TableTest::ExpectRefused(const QByteArray& bytes) {
     EXPECT_EQ(host_.Messages[0].Text, QStringLiteral("CSFError"));
     EXPECT_EQ(host_.Messages[0].Title, QStringLiteral("Brindock 2005"));
     EXPECT_EQ(host_.Messages[0].Sign, Host::Icon::Critical);
-    EXPECT_FALSE(NumberedFiles::IsOpen(1));
+    EXPECT_FALSE(NumberedFiles::IsOpen(mCSF::FileNumber));
 }

@@ -47,7 +47,7 @@ protected:
     /// Reads the bytes as "a.csf"; the language number or mCSF::Refused.
     qint32 Read(const QByteArray& bytes) { return mCSF::ReadCSF(Put(QStringLiteral("a.csf"), bytes)); }
 
-    /// A refusal: told once, and file number 1 is free.
+    /// A refusal: told once, and the file number is free.
     void ExpectRefused(const QByteArray& bytes);
 
     World world_;

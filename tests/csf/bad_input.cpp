@@ -31,7 +31,7 @@ protected:
                 length += 8 + 2 * entry.Value.size();
             ASSERT_LE(length, bytes.size());
         }
-        ASSERT_FALSE(NumberedFiles::IsOpen(1));
+        ASSERT_FALSE(NumberedFiles::IsOpen(mCSF::FileNumber));
     }
 };
 

@@ -174,7 +174,7 @@ TEST_F(CsfReader, ATableThatIsReplacedMeanwhileRefusesTheFile) {
 }
 
 TEST_F(CsfReader, AFileNumberThatIsTakenRefusesTheFile) {
-    NumberedFiles::Open(1, Put(u"other"_s, "x"), NumberedFiles::Access::Read);
+    NumberedFiles::Open(mCSF::FileNumber, Put(u"other"_s, "x"), NumberedFiles::Access::Read);
     ExpectRefused(CsfHeader(1) + EntryRecords("a", "b"));
 }
 

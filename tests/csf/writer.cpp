@@ -124,7 +124,7 @@ TEST_F(CsfWriter, AFolderThatIsMissingEndsTheProgram) {
 
 TEST_F(CsfWriter, AFileNumberThatIsTakenEndsTheProgramAndTheBackupStays) {
     const QString path = Put(u"out.csf"_s, "old");
-    NumberedFiles::Open(1, Put(u"other"_s, "x"), NumberedFiles::Access::Read);
+    NumberedFiles::Open(mCSF::FileNumber, Put(u"other"_s, "x"), NumberedFiles::Access::Read);
     ExpectFatal(path, 0, 55);
     EXPECT_EQ(World::ReadFile(path + u".sav"_s), "old");
     EXPECT_FALSE(Files::FileExists(path));

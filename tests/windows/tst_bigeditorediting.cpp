@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using Answer = Host::Answer;
@@ -161,6 +162,22 @@ private Q_SLOTS:
         QCOMPARE(Rows(), QStringList({u"data"_s, u"Notes.txt"_s}));
         QCOMPARE(mBIG::BigEntries[0].Name, u"Notes.txt"_s);
         QVERIFY(window_->isWindowModified());
+    }
+
+    void aClickOnAnotherFolderEndsARenameOfTheRightFile() {
+        Work();
+        ClickRow(1);
+        QTest::keyClick(List(), Qt::Key_F2);
+        QTRY_VERIFY(Field(List()) != nullptr);
+        Field(List())->setText(u"Notes.txt"_s);
+        const QRect data = Tree()->visualRect(Tree()->model()->index(0, 0, Tree()->model()->index(0, 0)));
+        // Through the window, as the click takes the focus first.
+        QTest::mouseClick(window_->windowHandle(), Qt::LeftButton, {},
+                          Tree()->viewport()->mapTo(window_.get(), data.center()));
+        QCoreApplication::processEvents();
+        QCOMPARE(Rows(), QStringList({u"ini"_s, u"map.tga"_s}));
+        QCOMPARE(mBIG::BigEntries[0].Name, u"Notes.txt"_s);
+        QCOMPARE(mBIG::BigEntries[2].Name, u"Data\\map.tga"_s);
     }
 
     void theKeysOfAFieldAreNoneOfTheList() {
