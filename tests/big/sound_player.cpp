@@ -151,7 +151,7 @@ TEST_F(SoundTest, Mp3ComesOutDecoded) {
 }
 
 TEST_F(SoundTest, PositionAndLengthFollowTheSound) {
-    Open(PcmWav(QByteArray(4 * 44100 * 3, 'x')));
+    Open(PcmWav(QByteArray(qsizetype{4} * 44100 * 3, 'x')));
     ASSERT_TRUE(WaitFor([](const SoundStatus& status) { return status.Position > 0; }));
     EXPECT_EQ(Player->Status().Length, 3000);
     EXPECT_EQ(Player->Status().What, Stage::Playing);

@@ -50,7 +50,7 @@ private:
         QContextMenuEvent event(QContextMenuEvent::Mouse, place, view->mapToGlobal(place));
         QApplication::sendEvent(view, &event);
         QWidget* menu = QApplication::activePopupWidget();
-        const QString name = menu == nullptr ? QString() : menu->objectName();
+        QString name = menu == nullptr ? QString() : menu->objectName();
         if (menu != nullptr)
             menu->close();
         return name;
