@@ -66,10 +66,9 @@ public:
         place = PutNumber(place, nameLength) + nameLength;
         const qsizetype valueLength = EncodeValue(entry.Value);
         place = PutMark(place, " RTS", valueLength);
-        for (qsizetype i = 0; i < valueLength; ++i) {
-            place[2 * i] = static_cast<char>(~value_.constData()[i]);
-            place[2 * i + 1] = '\xFF';
-        }
+        const char* bytes = value_.constData();
+        for (qsizetype i = 0; i < valueLength; ++i)
+            qToLittleEndian(static_cast<quint16>(~static_cast<unsigned char>(bytes[i])), place + 2 * i);
         filled_ = place + 2 * valueLength - buffer_.data();
     }
 

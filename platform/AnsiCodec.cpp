@@ -42,6 +42,20 @@ const std::vector<unsigned char>& BytesOfUnits() {
     return bytes;
 }
 
+/// For texts with units that the page lacks, which become question marks.
+qsizetype EncodeWithMarks(QStringView text, char* bytes) {
+    const std::vector<unsigned char>& table = BytesOfUnits();
+    char* out = bytes;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t unit = text[i].unicode();
+        const unsigned char byte = table[unit];
+        *out++ = byte != 0 || unit == 0 ? static_cast<char>(byte) : '?';
+        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
+            ++i;
+    }
+    return out - bytes;
+}
+
 } // namespace
 
 namespace AnsiCodec {
@@ -62,15 +76,13 @@ qsizetype EncodeInto(QStringView text, char* bytes) {
         return text.size();
     }
     const std::vector<unsigned char>& table = BytesOfUnits();
-    char* out = bytes;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const char16_t unit = text[i].unicode();
-        const unsigned char byte = table[unit];
-        *out++ = byte != 0 || unit == 0 ? static_cast<char>(byte) : '?';
-        if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate())
-            ++i;
-    }
-    return out - bytes;
+    bool lacks = false;
+    std::transform(text.begin(), text.end(), bytes, [&](QChar unit) {
+        const unsigned char byte = table[unit.unicode()];
+        lacks |= byte == 0;
+        return static_cast<char>(byte);
+    });
+    return lacks ? EncodeWithMarks(text, bytes) : text.size();
 }
 
 QString Decode(QByteArrayView bytes) {
