@@ -95,7 +95,7 @@ void CsfEditor::Load(const QString& path, qint32 language) {
         view_.ListChanged(LabelChange::Reset, 0);
     }
     state_.ActionsVisible = true;
-    SelectAndClick(0, false);
+    SelectAndClick(0, true);
     state_.Modified = false;
     view_.StateChanged();
     view_.ShowWindow();

@@ -140,6 +140,7 @@ TEST_F(CsfEditorCommands, NumbersSortAsText) {
 
 TEST_F(CsfEditorCommands, FindWalksThroughTheMatchesAndStopsAtTheLast) {
     OpenTable({{"1", ""}, {"2 GUI", ""}, {"3 gui", ""}, {"4", "GUI"}});
+    View.Focused = 0;
     Find(u"Gui"_s);
     Editor.FindNext();
     EXPECT_EQ(State().SelectedRow, 1);
@@ -170,6 +171,7 @@ TEST_F(CsfEditorCommands, FindWithoutRowsOrMatchesDoesNothing) {
     Editor.FindNext();
     EXPECT_EQ(State().SelectedRow, CsfEditorState::None);
     OpenTable({{"a", ""}});
+    View.Focused = 0;
     Editor.FindNext();
     EXPECT_EQ(State().SelectedRow, 0);
     EXPECT_EQ(View.Focused, 0);

@@ -161,6 +161,13 @@ private Q_SLOTS:
         QCOMPARE(mCSF::CsfStrings[1].Value, u"x\ny"_s);
     }
 
+    void theKeysWalkThroughTheRowsAsSoonAsAFileIsOpen() {
+        OpenThree();
+        QVERIFY(List()->hasFocus());
+        QTest::keyClick(window_->focusWidget(), Qt::Key_Down);
+        QCOMPARE(NameBox()->text(), u"beta"_s);
+    }
+
     void walkingThroughTheRowsChangesNothing() {
         OpenThree();
         List()->setFocus();
@@ -324,7 +331,6 @@ private Q_SLOTS:
 
     void aSaveAndASortLeaveTheFocusInTheList() {
         OpenThree();
-        List()->setFocus();
         QTest::keyClick(List(), Qt::Key_S, Qt::ControlModifier);
         QVERIFY(List()->hasFocus());
         QTest::mouseClick(List()->header()->viewport(), Qt::LeftButton, {}, {20, 8});
