@@ -5,9 +5,15 @@
 
 #include "ui/Picture.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QPainter>
+#include <QPainterPath>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -81,6 +87,24 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* answer) const override {
         return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+
+    // The frame of a list or a text box, flush with its outer edge: on a screen of 125 or 150 % what the box holds
+    // covers a part of the line that the frame was given, and two of its sides were not seen.
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override {
+        const qreal density = painter->deviceTransform().m11();
+        if (element != PE_Frame || density == std::floor(density) ||
+            qobject_cast<const QAbstractScrollArea*>(widget) == nullptr) {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+            return;
+        }
+        const QRectF outside = option->rect;
+        const qreal line = std::floor(density) / density;
+        QPainterPath frame;
+        frame.addRect(outside);
+        frame.addRect(outside.adjusted(line, line, -line, -line));
+        painter->fillPath(frame, option->palette.window().color().darker(140));
     }
 };
 
