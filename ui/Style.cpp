@@ -13,6 +13,7 @@
 #include <QProxyStyle>
 #include <QStyleOption>
 
+#include <array>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +43,10 @@ QFont FontOf(const QStringList& families, qreal points) {
     font.setPointSizeF(points);
     return font;
 }
+
+/// The classes that systems have faces of their own for, which go before the application's.
+constexpr std::array classesWithFaces{"QMenu",      "QMenuBar",          "QMessageBox", "QTipLabel",
+                                      "QStatusBar", "QAbstractItemView", "QHeaderView", "QToolButton"};
 
 QPalette FamilyPalette() {
     using namespace Style;
@@ -128,6 +133,9 @@ QFont Style::LinkFont(bool underlined) {
 void Style::Apply(QApplication& application) {
     QApplication::setStyle(new FamilyStyle);
     QApplication::setPalette(FamilyPalette());
-    QApplication::setFont(TextFont());
     application.setStyleSheet(sheet);
+    const QFont font = TextFont(); // after the style sheet, which brings the system's back
+    QApplication::setFont(font);
+    for (const char* name : classesWithFaces)
+        QApplication::setFont(font, name);
 }

@@ -6,7 +6,9 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QTreeView>
 #include <QtMath>
 
 class tst_style : public QObject {
@@ -22,6 +24,14 @@ private:
     }
 
 private Q_SLOTS:
+
+    void listsAndMenusHaveTheFamilysFaceWhereTheSystemHasAnother() {
+        for (const char* name : {"QMenuBar", "QAbstractItemView"})
+            QApplication::setFont(QFont(QStringLiteral("another"), 20), name);
+        Style::Apply(*qApp);
+        QCOMPARE(QMenuBar().font(), Style::TextFont());
+        QCOMPARE(QTreeView().font(), Style::TextFont());
+    }
 
     void everyDensityShowsAllFourSidesOfABox_data() {
         QTest::addColumn<qreal>("density");
