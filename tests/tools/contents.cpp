@@ -15,9 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Content AllContents[]{Content::Definitions, Content::Textures, Content::Effects,   Content::Music,
-                                Content::Models,      Content::Terrain,  Content::Windows,   Content::Maps,
-                                Content::Strings,     Content::Shaders,  Content::Everything};
+constexpr Content AllContents[]{Content::Definitions,    Content::Textures,      Content::Effects, Content::Music,
+                                Content::Models,         Content::Terrain,       Content::Windows, Content::Maps,
+                                Content::EnglishStrings, Content::FrenchStrings, Content::Shaders, Content::Everything};
 
 QByteArray FakeJpeg(const Picture&) {
     return "jpeg";
@@ -62,4 +62,16 @@ TEST(SampleContents, TheStockHasJpegFilesOnlyWithAnEncoder) {
     };
     EXPECT_EQ(jpegCount(MakeStock(true, FakeJpeg)), 1);
     EXPECT_EQ(jpegCount(MakeStock(true, {})), 0);
+}
+
+TEST(SampleContents, StringTablesAreInTheLanguageOfTheirFolder) {
+    const Stock stock = MakeStock(true, FakeJpeg);
+    for (quint64 seed = 1; seed < 4; ++seed) {
+        const ArchiveEntry english = MakeEntries(stock, Content::EnglishStrings, 0, 1, seed).front();
+        EXPECT_EQ(english.Name, u"Data\\English\\generals.csf"_s);
+        EXPECT_EQ(english.Data.at(20), 0);
+        const ArchiveEntry french = MakeEntries(stock, Content::FrenchStrings, 0, 1, seed).front();
+        EXPECT_EQ(french.Name, u"Data\\French\\generals.csf"_s);
+        EXPECT_EQ(french.Data.at(20), 3);
+    }
 }

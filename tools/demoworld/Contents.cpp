@@ -26,10 +26,10 @@ ArchiveEntry FromStock(const std::vector<Asset>& assets, const QString& folder, 
     return {folder + LeafName(number, seed) + asset.Extension, asset.Data};
 }
 
-ArchiveEntry StringsEntry(int number, quint64 seed) {
-    constexpr int english = 0, french = 3;
+constexpr int english = 0, french = 3; // as string tables number them
+
+ArchiveEntry StringsEntry(int language, int number, quint64 seed) {
     static const QStringList names{u"generals"_s, u"campaign"_s, u"tooltips"_s, u"credits"_s};
-    const int language = seed % 2 == 0 ? english : french;
     const QString folder = language == english ? u"Data\\English\\"_s : u"Data\\French\\"_s;
     if (number % 4 == 3)
         return {folder + u"Notes_%1.txt"_s.arg(number), ReadMe(u"Notes %1"_s.arg(number))};
@@ -89,8 +89,10 @@ ArchiveEntry MakeEntry(const Stock& stock, Content content, int number, quint64 
         return {u"Window\\Menus\\"_s + LeafName(number, seed) + u".wnd"_s, WindowText(entrySeed)};
     case Content::Maps:
         return MapEntry(number, seed);
-    case Content::Strings:
-        return StringsEntry(number, seed);
+    case Content::EnglishStrings:
+        return StringsEntry(english, number, seed);
+    case Content::FrenchStrings:
+        return StringsEntry(french, number, seed);
     case Content::Shaders:
         return {u"shaders\\"_s + LeafName(number, seed) + u".pso"_s, ShaderText(entrySeed)};
     case Content::Everything:

@@ -46,7 +46,8 @@ enum class Content {
     Terrain,
     Windows,
     Maps,
-    Strings,
+    EnglishStrings,
+    FrenchStrings,
     Shaders,
     Everything, ///< nested folders with capitals, blanks, accented letters and forward slashes
 };

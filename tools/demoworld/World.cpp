@@ -94,7 +94,7 @@ private:
         for (const ModPlan& mod : PlanOf(game).Mods) {
             std::vector<ArchiveEntry> entries =
                 MakeEntries(stock_, Content::Definitions, options_.Small ? 0 : 100000, 5, seed);
-            for (const Content content : {Content::Textures, Content::Effects, Content::Strings}) {
+            for (const Content content : {Content::Textures, Content::Effects, Content::EnglishStrings}) {
                 const auto more = MakeEntries(stock_, content, options_.Small ? 0 : 700000, 4, ++seed);
                 entries.insert(entries.end(), more.begin(), more.end());
             }
@@ -185,7 +185,7 @@ QString StampFile(const WorldOptions& options) {
 
 /// Says what a complete world is like; the number goes up whenever the world changes.
 QByteArray Stamp(const WorldOptions& options) {
-    return u"demoworld 1\nsmall %1\njpeg %2\nlanguage %3\nfolder %4\n"_s.arg(options.Small)
+    return u"demoworld 2\nsmall %1\njpeg %2\nlanguage %3\nfolder %4\n"_s.arg(options.Small)
         .arg(static_cast<bool>(options.EncodeJpeg))
         .arg(options.Language, QDir(options.Folder).absolutePath())
         .toUtf8();
