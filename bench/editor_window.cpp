@@ -1,15 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// What a user waits for in the BIG Editor, from the click to the painted list.
+/// What a user waits for in the editors, from the click or the key to the painted list.
 ///
 ///     editor_window ARCHIVE           selects each folder of the archive in turn
 ///     editor_window ARCHIVE FOLDER    drops a folder on the list
+///     editor_window TABLE sort        clicks the headers of a string table
+///     editor_window TABLE walk        walks down its list, page by page
+///     editor_window TABLE find        types into its search box
+///     editor_window TABLE type        types into its value box
 ///
 /// Prints the median and the longest time in milliseconds.
+#include "bench/PaintTimes.h"
 #include "big/FileListView.h"
 #include "big/frmBigEditor.h"
 #include "core/mMain.h"
+#include "csf/frmCSFEditor.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "ui/Style.h"
@@ -17,72 +23,70 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTreeView>
-
-#include <algorithm>
-#include <cstdio>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Sees the list being painted.
-class PaintWatch : public QObject {
-public:
-    bool Painted = false;
+constexpr int rounds = 40;
 
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-        Painted = Painted || event->type() == QEvent::Paint;
-        return false;
+void SwitchFolders(PaintTimes& times, QTreeView& tree) {
+    for (int round = 0; round < 5; ++round) {
+        for (QModelIndex node = tree.model()->index(0, 0); node.isValid(); node = tree.indexBelow(node))
+            // The folder that is shown already would never be painted again.
+            if (node != tree.currentIndex())
+                times.Time([&] { tree.setCurrentIndex(node); });
     }
-};
+}
 
-class Bench {
-public:
-    explicit Bench(frmBigEditor& window)
-        : tree_(*window.findChild<QTreeView*>(u"tvDirs"_s)),
-          files_(*window.findChild<FileListView*>(u"lvFiles"_s)) {
-        files_.Current()->viewport()->installEventFilter(&watch_);
-        QApplication::processEvents();
+[[noreturn]] void TimeArchive(const QString& path, const QString& dropped) {
+    frmBigEditor window;
+    window.OpenBigFile(path);
+    auto* const files = window.findChild<FileListView*>(u"lvFiles"_s);
+    PaintTimes times(*files->Current()->viewport());
+    if (dropped.isEmpty())
+        SwitchFolders(times, *window.findChild<QTreeView*>(u"tvDirs"_s));
+    else
+        times.Time([&] { Q_EMIT files->FilesDropped({dropped}); });
+    times.PrintAndEnd();
+}
+
+void Press(QWidget& widget, int key, const QString& text = {}) {
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QApplication::sendEvent(&widget, &down);
+    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QApplication::sendEvent(&widget, &up);
+}
+
+[[noreturn]] void TimeTable(const QString& path, const QString& what) {
+    frmCSFEditor window;
+    window.OpenCSFFile(path);
+    auto* const list = window.findChild<QTreeView*>(u"lvStrings2"_s);
+    auto* const search = window.findChild<QLineEdit*>(u"txtFind"_s);
+    auto* const value = window.findChild<QPlainTextEdit*>(u"txtValue"_s);
+    const auto letter = [](int round) { return QString(QLatin1Char("brindock"[round % 8])); };
+    PaintTimes times(what == "find"_L1 ? *search : *list->viewport());
+    QApplication::setActiveWindow(&window);
+    if (what == "find"_L1)
+        search->setFocus(); // it gives up its prompt
+    for (int round = 0; round < rounds; ++round) {
+        times.Time([&] {
+            if (what == "sort"_L1)
+                Q_EMIT list->header()->sectionClicked(round / 2 % 2);
+            else if (what == "walk"_L1)
+                Press(*list, Qt::Key_PageDown);
+            else
+                Press(what == "find"_L1 ? static_cast<QWidget&>(*search) : *value, 0, letter(round));
+        });
+        if (what == "find"_L1 && round % 4 == 3)
+            search->selectAll();
     }
-
-    template <typename Action>
-    void Time(const Action& action) {
-        watch_.Painted = false;
-        QElapsedTimer timer;
-        timer.start();
-        action();
-        while (!watch_.Painted)
-            QApplication::processEvents();
-        times_.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
-    }
-
-    void SwitchFolders(int rounds) {
-        for (int round = 0; round < rounds; ++round) {
-            for (QModelIndex node = tree_.model()->index(0, 0); node.isValid(); node = tree_.indexBelow(node))
-                // The folder that is shown already would never be painted again.
-                if (node != tree_.currentIndex())
-                    Time([&] { tree_.setCurrentIndex(node); });
-        }
-    }
-
-    void Drop(const QString& path) {
-        Time([&] { Q_EMIT files_.FilesDropped({path}); });
-    }
-
-    void Print() {
-        std::ranges::sort(times_);
-        std::printf("%.1f %.1f\n", times_.at(times_.size() / 2), times_.back());
-    }
-
-private:
-    QTreeView& tree_;
-    FileListView& files_;
-    PaintWatch watch_;
-    std::vector<double> times_;
-};
+    times.PrintAndEnd();
+}
 
 } // namespace
 
@@ -94,15 +98,9 @@ int main(int argc, char** argv) {
     Style::Apply(application);
     WindowHost host({});
     Host::Use(&host);
-    frmBigEditor window;
-    window.OpenBigFile(Paths::Absolute(Paths::DecodeNative(argv[1])));
-    Bench bench(window);
-    if (argc == 2)
-        bench.SwitchFolders(5);
-    else
-        bench.Drop(Paths::Absolute(Paths::DecodeNative(argv[2])));
-    bench.Print();
-    // Closing would ask about unsaved changes.
-    std::fflush(stdout);
-    std::_Exit(0);
+    const QString path = Paths::Absolute(Paths::DecodeNative(argv[1]));
+    const QString second = argc == 3 ? Paths::DecodeNative(argv[2]) : QString();
+    if (path.endsWith(".csf"_L1))
+        TimeTable(path, second);
+    TimeArchive(path, argc == 3 ? Paths::Absolute(second) : QString());
 }
