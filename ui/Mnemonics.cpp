@@ -19,15 +19,23 @@ qsizetype MarkedLetter(const QString& text) {
     return -1;
 }
 
+/// The place of the best letter that is left; -1 when none is.
 qsizetype FreeLetter(const QString& text, const QString& taken) {
-    const auto isFree = [&](qsizetype place) {
-        return text[place].isLetterOrNumber() && !taken.contains(text[place], Qt::CaseInsensitive);
-    };
-    for (const bool wordsOnly : {true, false})
-        for (qsizetype place = 0; place < text.size(); ++place)
-            if (isFree(place) && (!wordsOnly || place == 0 || text[place - 1].isSpace()))
-                return place;
-    return -1;
+    constexpr char16_t plainEnd = 0x80;
+    constexpr int beyondAscii = 2, inWord = 1, none = 4;
+    qsizetype best = -1;
+    int leastBad = none;
+    for (qsizetype place = 0; place < text.size(); ++place) {
+        if (!text[place].isLetterOrNumber() || taken.contains(text[place], Qt::CaseInsensitive))
+            continue;
+        const bool startsWord = place == 0 || text[place - 1].isSpace();
+        const int bad = (text[place].unicode() < plainEnd ? 0 : beyondAscii) + (startsWord ? 0 : inWord);
+        if (bad < leastBad) {
+            leastBad = bad;
+            best = place;
+        }
+    }
+    return best;
 }
 
 void SpreadOver(const QList<QAction*>& actions) {
