@@ -85,6 +85,7 @@ void frmBigEditor::Dress() {
         views->addAction(action);
     UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4,
                                         ui_->Label2_5, ui_->Label2_6, ui_->Label2_7});
+    ui_->tvDirs->setFocus();
 }
 
 std::vector<ToolCommand> frmBigEditor::Commands() {

@@ -71,6 +71,7 @@ void frmCSFEditor::Dress() {
         ui_->lvStrings2->addAction(action);
     }
     UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4});
+    ui_->lvStrings2->setFocus();
 }
 
 std::vector<ToolCommand> frmCSFEditor::Commands() {

@@ -11,8 +11,8 @@ class QMenuBar;
 namespace Mnemonics {
 
 /// Each text with an "&" before a letter that none of the others has taken: the first letter of a word before any other
-/// letter, and plain letters before accented ones, which not every keyboard has a key for. A text that has its own keeps
-/// it; one that finds no letter stays as it is.
+/// letter, and plain letters before accented ones, which not every keyboard has a key for. A text that has its own
+/// keeps it; one that finds no letter stays as it is.
 QStringList Spread(const QStringList& texts);
 
 /// Spreads keys over a menu bar and over each of its menus.

@@ -62,6 +62,13 @@ private Q_SLOTS:
         }
     }
 
+    void theKeysWalkThroughTheFoldersAsSoonAsAnArchiveIsOpen() {
+        OpenArchive();
+        QTest::keyClick(window_->focusWidget(), Qt::Key_Down);
+        QCOMPARE(Tree()->currentIndex().data().toString(), u"data"_s);
+        QCOMPARE(Rows(), QStringList({u"ini"_s, u"map.tga"_s}));
+    }
+
     void anArchiveShowsItsTreeAndListWithEverythingEnabled() {
         OpenArchive();
         QVERIFY(window_->isVisible());

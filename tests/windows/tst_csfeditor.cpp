@@ -338,6 +338,13 @@ private Q_SLOTS:
         QCOMPARE(FindBox()->text(), u"Suchen"_s);
     }
 
+    void aNewDocumentTakesRowsByKeyAtOnce() {
+        Show();
+        QTest::keyClick(window_->focusWidget(), Qt::Key_N, Qt::ControlModifier);
+        QTest::keyClick(window_->focusWidget(), Qt::Key_Insert);
+        QCOMPARE(Names(), QStringList({u"Neu"_s}));
+    }
+
     void theFirstRowOfANewDocumentIsNotSelectedUntilItIsClicked() {
         Show();
         Part<QAction>("mnuNew")->trigger();
