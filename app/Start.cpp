@@ -8,6 +8,7 @@
 #include "big/frmProgress.h"
 #include "core/mMain.h"
 #include "platform/Processes.h"
+#include "ui/ControlTexts.h"
 #include "ui/Picture.h"
 #include "ui/Style.h"
 #include "ui/WindowHost.h"
@@ -27,6 +28,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     if (watcher != nullptr)
         application.installEventFilter(watcher);
     Style::Apply(application);
+    Application::installTranslator(new ControlTexts(&application));
     // The icon's readers take longer than the first window: it comes up without it.
     constexpr int untilTheWindowStands = 100;
     QTimer::singleShot(untilTheWindowStands, &application, [] { Application::setWindowIcon(Picture::ProgramIcon()); });
