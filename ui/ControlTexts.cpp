@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <string_view>
 
 using namespace Qt::StringLiterals;
@@ -14,28 +15,40 @@ using mTraduction::GetText;
 
 namespace {
 
-struct MenuEntry {
+struct ToolkitText {
     std::string_view Text;
     QString (*InUsersLanguage)();
 };
 
-constexpr std::array menuEntries{
-    MenuEntry{"&Undo", [] { return GetText(u"Undo"_s); }},
-    MenuEntry{"&Redo", [] { return GetText(u"Redo"_s); }},
-    MenuEntry{"Cu&t", [] { return GetText(u"Cut"_s); }},
-    MenuEntry{"&Copy", [] { return GetText(u"Copy"_s); }},
-    MenuEntry{"&Paste", [] { return GetText(u"Paste"_s); }},
-    MenuEntry{"Delete", [] { return GetText(u"Delete"_s); }},
-    MenuEntry{"Select All", [] { return GetText(u"SelectAll"_s); }},
+/// Entries of the menus of text boxes.
+constexpr std::array entries{
+    ToolkitText{"&Undo", [] { return GetText(u"Undo"_s); }},
+    ToolkitText{"&Redo", [] { return GetText(u"Redo"_s); }},
+    ToolkitText{"Cu&t", [] { return GetText(u"Cut"_s); }},
+    ToolkitText{"&Copy", [] { return GetText(u"Copy"_s); }},
+    ToolkitText{"&Paste", [] { return GetText(u"Paste"_s); }},
+    ToolkitText{"Delete", [] { return GetText(u"Delete"_s); }},
+    ToolkitText{"Select All", [] { return GetText(u"SelectAll"_s); }},
 };
+
+/// Keys, as menus name them.
+constexpr std::array keys{
+    ToolkitText{"Ins", [] { return GetText(u"KeyInsert"_s); }},
+    ToolkitText{"Del", [] { return GetText(u"KeyDelete"_s); }},
+    ToolkitText{"Shift", [] { return GetText(u"KeyShift"_s); }},
+};
+
+QString Find(std::span<const ToolkitText> texts, std::string_view wanted) {
+    const auto found = std::ranges::find(texts, wanted, &ToolkitText::Text);
+    return found == texts.end() ? QString() : found->InUsersLanguage();
+}
 
 } // namespace
 
 QString ControlTexts::translate(const char* context, const char* text, const char* /*disambiguation*/,
                                 int /*count*/) const {
-    const std::string_view control(context);
-    if (control != "QLineEdit" && control != "QWidgetTextControl")
-        return {};
-    const auto* const entry = std::ranges::find(menuEntries, std::string_view(text), &MenuEntry::Text);
-    return entry == menuEntries.end() ? QString() : entry->InUsersLanguage();
+    const std::string_view asking(context);
+    if (asking == "QLineEdit" || asking == "QWidgetTextControl")
+        return Find(entries, text);
+    return asking == "QShortcut" ? Find(keys, text) : QString();
 }

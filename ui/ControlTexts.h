@@ -5,14 +5,15 @@
 
 #include <QTranslator>
 
-/// The texts that text boxes bring along in their context menus, from the user's language file.
+/// The texts that the toolkit brings along, from the user's language file: the context menus of text boxes, and the
+/// names of keys in menus.
 class ControlTexts : public QTranslator {
 public:
     using QTranslator::QTranslator;
 
     [[nodiscard]] bool isEmpty() const override { return false; }
 
-    /// A null text for all that is not such an entry.
+    /// A null text for all others.
     [[nodiscard]] QString translate(const char* context, const char* text, const char* disambiguation,
                                     int count) const override;
 };

@@ -94,7 +94,6 @@ WindowHost::~WindowHost() = default;
 
 Host::Answer WindowHost::Message(const QString& text, Icon icon, Buttons buttons, const QString& title) {
     QMessageBox box(Owner());
-    box.setFont(QApplication::font()); // else a font of the system's own, on Windows
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
     box.setText(mTraduction::DisplayText(text));
