@@ -18,11 +18,13 @@ using mTraduction::GetText;
 
 namespace {
 
+/// Begins beside the open archive.
 Host::FileDialog ArchiveDialog() {
     return {.Title = u"Big Editor"_s,
             .Filter = u"Fichiers BIG (*.big)|*.big|Tous les fichiers (*.*)|*.*"_s,
             .DefaultExtension = u"big"_s,
-            .DefaultName = u"*.big"_s};
+            .DefaultName = u"*.big"_s,
+            .Folder = mBIG::BigFileName.first(mBIG::BigFileName.lastIndexOf(u'\\') + 1)};
 }
 
 Host::FileDialog AnyFileDialog() {

@@ -20,6 +20,7 @@ public:
         QString Filter;
         QString DefaultExtension;
         QString DefaultName;
+        QString Folder{}; ///< where to begin; empty: where the toolkit thinks best
     };
 
     Host() = default;

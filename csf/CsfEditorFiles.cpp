@@ -15,11 +15,20 @@ using mTraduction::GetText;
 
 namespace {
 
-Host::FileDialog TableDialog() {
+/// Where a dialog begins: beside the open file. A new one has no folder, and in the scratch folder, where tables out of
+/// archives stand, nothing lasts.
+QString FolderBeside(const QString& path) {
+    const QString folder = path.first(path.lastIndexOf(u'\\') + 1);
+    const QString scratch = Paths::ProgramFolder() + u"\\Temp\\"_s;
+    return folder.startsWith(scratch, Qt::CaseInsensitive) ? QString() : folder;
+}
+
+Host::FileDialog TableDialog(const QString& path) {
     return {.Title = u"CSF Editor"_s,
             .Filter = u"Fichiers CSF (*.csf)|*.csf"_s,
             .DefaultExtension = u"csf"_s,
-            .DefaultName = u"*.csf"_s};
+            .DefaultName = u"*.csf"_s,
+            .Folder = FolderBeside(path)};
 }
 
 QString NewName() {
@@ -72,7 +81,7 @@ void CsfEditor::New() {
 void CsfEditor::Open() {
     if (Locked() || !GoOnWithoutChanges(LastPart(state_.Path)))
         return;
-    if (const auto path = Host::Current().OpenFileName(TableDialog()))
+    if (const auto path = Host::Current().OpenFileName(TableDialog(state_.Path)))
         OpenCSFFile(*path);
 }
 
@@ -95,7 +104,7 @@ CsfEditor::Saved CsfEditor::SaveToFileOrName() {
 CsfEditor::Saved CsfEditor::SaveUnderName() {
     if (list_.Count() == 0)
         return Saved::NothingToSave;
-    const auto path = Host::Current().SaveFileName(TableDialog());
+    const auto path = Host::Current().SaveFileName(TableDialog(state_.Path));
     if (!path)
         return Saved::Cancelled;
     state_.Path = *path;

@@ -79,6 +79,8 @@ std::optional<QString> Ask(const Host::FileDialog& wanted, QFileDialog::AcceptMo
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setNameFilters(ToNameFilters(wanted.Filter));
     dialog.setDefaultSuffix(wanted.DefaultExtension);
+    if (!wanted.Folder.isEmpty())
+        dialog.setDirectory(Paths::ToNative(wanted.Folder));
     if (!wanted.DefaultName.isEmpty())
         dialog.selectFile(Paths::ToNative(wanted.DefaultName));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())

@@ -45,6 +45,14 @@ TEST_F(EditorCommands, TheArchiveDialogsAreTheSameForNewOpenAndSaveAs) {
     EXPECT_EQ(mBIG::BigFileName, QString());
 }
 
+TEST_F(EditorCommands, TheDialogsBeginBesideTheOpenArchive) {
+    MakeNew();
+    EXPECT_EQ(Speaker.Dialogs.back().Folder, QString());
+    Speaker.FileNames = {std::nullopt};
+    Editor.SaveAs();
+    EXPECT_EQ(Speaker.Dialogs.back().Folder, Place.Root() + u'\\');
+}
+
 TEST_F(EditorCommands, NewNamesTheArchiveAndWritesNothing) {
     mBIG::BigVersion = 0;
     qint32 offered = -1;

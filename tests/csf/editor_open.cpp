@@ -145,6 +145,22 @@ TEST_F(CsfEditorOpen, OpenAsksForTheFile) {
     EXPECT_EQ(host_.Dialogs[0].DefaultName, u"*.csf"_s);
 }
 
+TEST_F(CsfEditorOpen, TheDialogBeginsBesideTheFileButNotInTheScratchFolder) {
+    ChooseFile(std::nullopt);
+    Editor.Open();
+    EXPECT_EQ(host_.Dialogs.back().Folder, QString()) << "a new table has no folder";
+    OpenTable({{"a", "b"}});
+    const QString folder = State().Path.first(State().Path.lastIndexOf(u'\\') + 1);
+    ChooseFile(std::nullopt);
+    Editor.Open();
+    EXPECT_EQ(host_.Dialogs.back().Folder, folder);
+    Editor.OpenCSFFile(Put(u"program\\Temp\\b.csf"_s, CsfHeader(1) + EntryRecords("n", "v")));
+    EXPECT_EQ(State().Caption, u"b.csf"_s);
+    ChooseFile(std::nullopt);
+    Editor.Open();
+    EXPECT_EQ(host_.Dialogs.back().Folder, QString());
+}
+
 TEST_F(CsfEditorOpen, WhileAFileIsReadTheRowsCanBeChangedButNoOtherFileBegun) {
     const QString path = OpenTable({{"a", "b"}});
     const QByteArray before = World::ReadFile(path);

@@ -167,6 +167,17 @@ private Q_SLOTS:
         QCOMPARE(name, std::optional(file));
     }
 
+    void aFileDialogBeginsInTheFolderThatWasAskedFor() {
+        const QString file = world_->WriteFile(u"in\\Here.big"_s, "x");
+        WhenUp<QFileDialog>([](QFileDialog* box) {
+            box->findChild<QLineEdit*>()->setText(u"Here.big"_s);
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        Host::FileDialog dialog{.Title = {}, .Filter = u"*|*.*"_s, .DefaultExtension = {}, .DefaultName = {}};
+        dialog.Folder = world_->Root() + u"\\in\\"_s;
+        QCOMPARE(host_->OpenFileName(dialog), std::optional(file));
+    }
+
     void aFileDialogThatIsCancelledGivesNothing() {
         WhenUp<QFileDialog>([](QFileDialog* box) { box->reject(); });
         QCOMPARE(host_->OpenFileName({}), std::optional<QString>());
