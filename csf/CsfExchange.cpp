@@ -115,7 +115,7 @@ CsfTable Import(const QByteArray& bytes, Format format) {
     case Format::Po:
         break;
     }
-    return CsfFormats::FromPo(DecodeUtf8(bytes));
+    return CsfFormats::FromPo(bytes);
 }
 
 QString Escaped(const QString& text) {

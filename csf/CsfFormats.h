@@ -16,7 +16,7 @@ QByteArray ToPo(const CsfTable& table);
 
 CsfTable FromJson(const QByteArray& bytes);
 CsfTable FromCsv(const QString& text);
-CsfTable FromPo(const QString& text);
+CsfTable FromPo(const QByteArray& bytes);
 
 /// Raises 13 for a line, counted from 1.
 [[noreturn]] void Refuse(qsizetype line, const QString& reason);

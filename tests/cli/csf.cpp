@@ -189,23 +189,32 @@ TEST_F(CsfCommands, AnExportReplacesTheFileThatStoodThere) {
     EXPECT_EQ(Files::ListFolder(At(u"~brindock*"_s)), QStringList{});
 }
 
-TEST_F(CsfCommands, GettextTakesTheExportedCatalogue) {
-    QByteArray upper;
-    for (int code = 128; code < 256; ++code)
-        upper += static_cast<char>(code);
-    Output({u"export"_s,
-            Put(u"t.csf"_s, Head(5, 3) + Entry("a", "x\n") + Entry("a", "x\n") + Entry("", "") + Entry("", "") +
-                                Entry(upper, upper)),
-            Native(u"t.po"_s)});
-    QProcess msgfmt;
-    msgfmt.start(u"msgfmt"_s, {u"-o"_s, Native(u"t.mo"_s), Native(u"t.po"_s)});
-    ASSERT_TRUE(msgfmt.waitForFinished()) << "gettext has to be installed";
-    EXPECT_EQ(msgfmt.exitCode(), 0) << msgfmt.readAllStandardError().constData();
+TEST_F(CsfCommands, GettextTakesTheExportedCatalogueAndItsCopyIsTheSameTable) {
+    QByteArray entries =
+        Entry("a", "x\n") + Entry("a", "x\n") + Entry("", "") + Entry("", "") + Entry("a#2", "%s \r\n");
+    for (int code = 0; code < 250; ++code) {
+        const QByteArray letter(1, static_cast<char>(code));
+        entries += Entry(letter, "a" + letter);
+    }
+    const QByteArray table = Head('\xFF', 3) + entries;
+    Output({u"export"_s, Put(u"t.csf"_s, table), Native(u"t.po"_s)});
+    const auto run = [](const QString& program, const QStringList& arguments) {
+        QProcess gettext;
+        gettext.start(program, arguments);
+        ASSERT_TRUE(gettext.waitForFinished()) << "gettext has to be installed";
+        EXPECT_EQ(gettext.exitCode(), 0) << gettext.readAllStandardError().constData();
+    };
+    run(u"msgfmt"_s, {u"--check"_s, u"-o"_s, Native(u"t.mo"_s), Native(u"t.po"_s)});
+    run(u"msgcat"_s, {u"-o"_s, Native(u"copy.po"_s), Native(u"t.po"_s)});
+    Output({u"import"_s, Native(u"copy.po"_s), Native(u"back.csf"_s)});
+    EXPECT_EQ(Contents(u"back.csf"_s), table);
 }
 
 TEST_F(CsfCommands, ImportNamesTheLineThatItRefuses) {
     EXPECT_TRUE(
         Failure({u"import"_s, Put(u"in.csv"_s, "name,value\na\n"), Native(u"out.csf"_s)}).contains("in.csv: line 2: "));
+    EXPECT_TRUE(Failure({u"import"_s, Put(u"in.po"_s, "\nmsgid \"a\"\nmsgstr \"\"\n"), Native(u"out.csf"_s)})
+                    .contains("in.po: line 2: "));
     EXPECT_TRUE(Failure({u"import"_s, Native(u"missing.po"_s), Native(u"out.csf"_s)}).contains("missing.po: "));
     EXPECT_TRUE(
         Failure({u"import"_s, Put(u"in.json"_s, "{\"strings\":[]}"), Native(u"out.csf"_s)}).contains("out.csf: "));

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "csf/CsfExchange.h"
+#include "tests/csf/exchange_support.h"
 
 #include "platform/AnsiCodec.h"
-#include "platform/RuntimeError.h"
-#include "tests/csf/Tables.h"
+
+#include <random>
 
 using namespace Qt::StringLiterals;
 using CsfExchange::Format;
@@ -13,10 +13,6 @@ using CsfExchange::Format;
 namespace {
 
 constexpr Format AllFormats[] = {Format::Json, Format::Csv, Format::Po};
-
-CsfTable Small() {
-    return {3, {{u"Caf\u00E9\nnoir"_s, u"GUI:A"_s}, {u"say \"hi\", you"_s, {}}, {{}, u"GUI:A"_s}}};
-}
 
 /// Every 8-bit character in names and values, and what the formats have to keep apart.
 CsfTable Awkward() {
@@ -58,16 +54,6 @@ CsfTable Awkward() {
     return table;
 }
 
-QString RefusalOf(const QByteArray& bytes, Format format) {
-    try {
-        CsfExchange::Import(bytes, format);
-    } catch (const RuntimeError& error) {
-        EXPECT_EQ(error.Number(), 13);
-        return error.Description();
-    }
-    return u"read"_s;
-}
-
 } // namespace
 
 TEST(CsfExchange, WhatWasExportedComesBackTheSame) {
@@ -79,6 +65,35 @@ TEST(CsfExchange, WhatWasExportedComesBackTheSame) {
         ASSERT_EQ(back.Strings.size(), awkward.Strings.size());
         for (std::size_t i = 0; i < awkward.Strings.size(); ++i)
             EXPECT_EQ(back.Strings[i], awkward.Strings[i]) << i;
+    }
+}
+
+TEST(CsfExchange, TablesPutTogetherAtRandomComeBackTheSame) {
+    static const QStringList pieces{u"a"_s,          u"#1"_s,         u"\n"_s, u"\r"_s, u"\r\n"_s,
+                                    u"\t"_s,         u" "_s,          u"\""_s, u"\\"_s, u","_s,
+                                    u"msgid \""_s,   u"language 5"_s, u"\0"_s, u"#~"_s, u"\u00EF\u00BB\u00BF"_s,
+                                    u"name,value"_s, u"\\n"_s,        {}};
+    std::mt19937 random(2005);
+    const auto below = [&](std::size_t bound) { return random() % static_cast<std::uint32_t>(bound); };
+    const auto text = [&] {
+        QString made;
+        for (auto left = below(5); left > 0; --left) {
+            const QChar letter = AnsiCodec::Decode(QByteArray(1, static_cast<char>(below(256)))).front();
+            made += below(2) == 0 ? QString(letter) : pieces[static_cast<qsizetype>(below(pieces.size()))];
+        }
+        return made;
+    };
+    for (int round = 0; round < 500; ++round) {
+        CsfTable table{static_cast<int>(below(256)), {}};
+        for (auto rows = below(20); rows > 0; --rows) {
+            table.Strings.push_back({text(), text()});
+            if (below(3) == 0)
+                table.Strings.push_back({text(), table.Strings[below(table.Strings.size())].Name});
+        }
+        for (const Format format : AllFormats) {
+            const QByteArray exported = CsfExchange::Export(table, format);
+            ASSERT_TRUE(CsfExchange::Import(exported, format) == table) << round << ": " << exported.constData();
+        }
     }
 }
 
@@ -107,42 +122,6 @@ TEST(CsfExchange, WritesJson) {
 TEST(CsfExchange, WritesCsvWithQuotesOnlyWhereTheyAreNeeded) {
     EXPECT_EQ(CsfExchange::Export(Small(), Format::Csv),
               "name,language 3\r\nGUI:A,\"Caf\xC3\xA9\nnoir\"\r\n,\"say \"\"hi\"\", you\"\r\nGUI:A,\r\n");
-}
-
-TEST(CsfExchange, WritesPoWithTheNameAsContext) {
-    EXPECT_EQ(CsfExchange::Export(Small(), Format::Po), "msgid \"\"\n"
-                                                        "msgstr \"\"\n"
-                                                        "\"MIME-Version: 1.0\\n\"\n"
-                                                        "\"Content-Type: text/plain; charset=UTF-8\\n\"\n"
-                                                        "\"Content-Transfer-Encoding: 8bit\\n\"\n"
-                                                        "\"Language: fr\\n\"\n"
-                                                        "\"X-CSF-Language: 3\\n\"\n"
-                                                        "\n"
-                                                        "msgctxt \"GUI:A\"\n"
-                                                        "msgid \"\"\n"
-                                                        "\"Caf\xC3\xA9\\n\"\n"
-                                                        "\"noir\"\n"
-                                                        "msgstr \"\"\n"
-                                                        "\n"
-                                                        "msgctxt \"\"\n"
-                                                        "msgid \"say \\\"hi\\\", you\"\n"
-                                                        "msgstr \"\"\n"
-                                                        "\n"
-                                                        "msgctxt \"GUI:A#2\"\n"
-                                                        "msgid \"\"\n"
-                                                        "msgstr \"\"\n");
-}
-
-TEST(CsfExchange, ATranslationTakesThePlaceOfItsSource) {
-    const CsfTable table = CsfExchange::Import("# by hand\n"
-                                               "msgid \"\"\nmsgstr \"x-csf-language: 2\\n\"\n"
-                                               "#: GUI\nmsgctxt \"A\"\nmsgid \"Yes\"\nmsgstr \"J\"\n\"a\"\n\n"
-                                               "#, fuzzy, c-format\n#| msgid \"old\"\nmsgctxt \"B\"\nmsgid \"No\"\n"
-                                               "msgstr \"Nein?\"\n"
-                                               "msgctxt \"C\"\nmsgid \"\\x41\\101\\1018\"\nmsgstr \"\"\n"
-                                               "#~ msgctxt \"gone\"\n#~ msgid \"x\"\n#~ msgstr \"y\"\r\n",
-                                               Format::Po);
-    EXPECT_EQ(table, (CsfTable{2, {{u"Ja"_s, u"A"_s}, {u"No"_s, u"B"_s}, {u"AAA8"_s, u"C"_s}}}));
 }
 
 TEST(CsfExchange, ReadsCsvOfOtherPrograms) {
@@ -176,24 +155,6 @@ TEST(CsfExchange, RefusesWhatIsNoCsvTable) {
     EXPECT_EQ(RefusalOf("name,value\na,\"b\"c\n", Format::Csv), u"line 2: text behind a closing quote"_s);
     EXPECT_EQ(RefusalOf("name,language x\n", Format::Csv), u"line 1: \"x\" is no language number"_s);
     EXPECT_EQ(RefusalOf("name,value\na,\xE9\n", Format::Csv), u"not UTF-8"_s);
-}
-
-TEST(CsfExchange, RefusesWhatIsNoPoTable) {
-    EXPECT_EQ(RefusalOf("msgid \"a\"\nmsgstr \"b\"\n", Format::Po),
-              u"line 3: an entry without msgctxt ends here; it would have no name"_s);
-    EXPECT_EQ(RefusalOf("msgctxt \"a\"\nmsgstr \"b\"\n\n", Format::Po),
-              u"line 3: an entry without msgid or msgstr ends here"_s);
-    EXPECT_EQ(RefusalOf("msgctxt \"a\"\nmsgid \"b\"\n", Format::Po),
-              u"line 3: an entry without msgid or msgstr ends here"_s);
-    EXPECT_EQ(RefusalOf("\"a\"\n", Format::Po), u"line 1: a quoted text is expected"_s);
-    EXPECT_EQ(RefusalOf("msgctxt a\n", Format::Po), u"line 1: a quoted text is expected"_s);
-    EXPECT_EQ(RefusalOf("msgctxt \"\n", Format::Po), u"line 1: a quoted text is expected"_s);
-    EXPECT_EQ(RefusalOf("msgctxt \"a\" \"b\"\n", Format::Po), u"line 1: text behind a closing quote"_s);
-    EXPECT_EQ(RefusalOf("msgctxt \"\\q\"\n", Format::Po), u"line 1: an unknown escape sequence"_s);
-    EXPECT_EQ(RefusalOf("msgctxt \"\\\"\n", Format::Po), u"line 1: an unknown escape sequence"_s);
-    EXPECT_EQ(RefusalOf("msgctxt \"a\"\nmsgid \"b\"\nmsgid_plural \"c\"\n", Format::Po),
-              u"line 3: \"msgid_plural\" is not expected here"_s);
-    EXPECT_EQ(RefusalOf("nonsense\n", Format::Po), u"line 1: \"nonsense\" is not expected here"_s);
 }
 
 TEST(CsfExchange, EveryCutOfAnExportIsReadOrRefused) {

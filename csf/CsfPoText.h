@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// What the writer and the reader of PO catalogues agree on.
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+namespace CsfPo {
+
+/// The field of the head that holds the language's number.
+inline constexpr QLatin1StringView LanguageField("X-CSF-Language:");
+
+struct Escape {
+    char Letter; ///< behind the backslash
+    char Code;   ///< what it stands for
+};
+
+inline constexpr std::array<Escape, 9> Escapes{{{'n', '\n'},
+                                                {'t', '\t'},
+                                                {'r', '\r'},
+                                                {'a', '\a'},
+                                                {'b', '\b'},
+                                                {'f', '\f'},
+                                                {'v', '\v'},
+                                                {'\\', '\\'},
+                                                {'"', '"'}}};
+
+/// The context of a name that comes for the `occurrence`-th time, from 1 on. Contexts have to differ: behind a name
+/// that comes again stands its number in lowered digits, which no name can hold.
+QString ContextOf(const QString& name, int occurrence);
+
+/// The name out of a context; any other context is the name itself.
+QString NameOf(const QString& context);
+
+/// gettext ends a text at the character 0 and keeps 4 for itself: their pictures, which no table can hold, stand for
+/// them.
+QString WithPictures(QString text);
+QString WithoutPictures(QString text);
+
+} // namespace CsfPo
