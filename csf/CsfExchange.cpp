@@ -9,7 +9,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -18,11 +17,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString DecodeUtf8(const QByteArray& bytes) {
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    QString text = decoder(bytes);
-    if (decoder.hasError())
-        throw RuntimeError(ErrorNumber::TypeMismatch, u"not UTF-8"_s);
-    return text;
+    qsizetype line = 1;
+    for (qsizetype at = 0; at < bytes.size(); ++line) {
+        const qsizetype lineFeed = bytes.indexOf('\n', at);
+        const qsizetype end = lineFeed < 0 ? bytes.size() : lineFeed;
+        if (!QByteArrayView(bytes).sliced(at, end - at).isValidUtf8())
+            CsfFormats::Refuse(line, u"not UTF-8"_s);
+        at = end + 1;
+    }
+    return QString::fromUtf8(bytes);
 }
 
 [[noreturn]] void RefuseJson(const QString& reason) {
@@ -32,7 +35,7 @@ QString DecodeUtf8(const QByteArray& bytes) {
 QString TextOf(const QJsonValue& entry, const QString& key, qsizetype index) {
     const QJsonValue text = entry[key];
     if (!text.isString())
-        RefuseJson(u"string %1 has no text \"%2\""_s.arg(index).arg(key));
+        RefuseJson(u"strings[%1] has no text \"%2\""_s.arg(index).arg(key));
     return text.toString();
 }
 
@@ -63,7 +66,8 @@ CsfTable FromJson(const QByteArray& bytes) {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)
-        RefuseJson(u"byte %1: %2"_s.arg(error.offset).arg(error.errorString()));
+        Refuse(QByteArrayView(bytes).first(std::clamp<qsizetype>(error.offset, 0, bytes.size())).count('\n') + 1,
+               error.errorString());
     const QJsonValue language = document[u"language"_s];
     if (!document[u"strings"_s].isArray())
         RefuseJson(u"there is no list \"strings\""_s);

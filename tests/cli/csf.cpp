@@ -215,6 +215,8 @@ TEST_F(CsfCommands, ImportNamesTheLineThatItRefuses) {
         Failure({u"import"_s, Put(u"in.csv"_s, "name,value\na\n"), Native(u"out.csf"_s)}).contains("in.csv: line 2: "));
     EXPECT_TRUE(Failure({u"import"_s, Put(u"in.po"_s, "\nmsgid \"a\"\nmsgstr \"\"\n"), Native(u"out.csf"_s)})
                     .contains("in.po: line 2: "));
+    EXPECT_TRUE(Failure({u"import"_s, Put(u"cut.json"_s, "{\n\"strings\":\n"), Native(u"out.csf"_s)})
+                    .contains("cut.json: line 3: "));
     EXPECT_TRUE(Failure({u"import"_s, Native(u"missing.po"_s), Native(u"out.csf"_s)}).contains("missing.po: "));
     EXPECT_TRUE(
         Failure({u"import"_s, Put(u"in.json"_s, "{\"strings\":[]}"), Native(u"out.csf"_s)}).contains("out.csf: "));

@@ -137,11 +137,12 @@ TEST(CsfExchange, ReadsJsonWithoutALanguage) {
 }
 
 TEST(CsfExchange, RefusesWhatIsNoJsonTable) {
-    EXPECT_TRUE(RefusalOf("{\"strings\":[", Format::Json).startsWith(u"byte "_s));
+    EXPECT_TRUE(RefusalOf("{\"strings\":[", Format::Json).startsWith(u"line 1: "_s));
+    EXPECT_TRUE(RefusalOf("{\n\"strings\":\n[}\n", Format::Json).startsWith(u"line 3: "_s));
     EXPECT_EQ(RefusalOf("[]", Format::Json), u"there is no list \"strings\""_s);
     EXPECT_EQ(RefusalOf("{\"strings\":{}}", Format::Json), u"there is no list \"strings\""_s);
     EXPECT_EQ(RefusalOf("{\"strings\":[{\"name\":\"a\",\"value\":\"b\"},{\"name\":\"a\"}]}", Format::Json),
-              u"string 1 has no text \"value\""_s);
+              u"strings[1] has no text \"value\""_s);
     EXPECT_EQ(RefusalOf("{\"language\":\"fr\",\"strings\":[]}", Format::Json), u"\"language\" is no language number"_s);
 }
 
@@ -154,7 +155,7 @@ TEST(CsfExchange, RefusesWhatIsNoCsvTable) {
     EXPECT_EQ(RefusalOf("name,value\na,\"b", Format::Csv), u"line 2: a quote is not closed"_s);
     EXPECT_EQ(RefusalOf("name,value\na,\"b\"c\n", Format::Csv), u"line 2: text behind a closing quote"_s);
     EXPECT_EQ(RefusalOf("name,language x\n", Format::Csv), u"line 1: \"x\" is no language number"_s);
-    EXPECT_EQ(RefusalOf("name,value\na,\xE9\n", Format::Csv), u"not UTF-8"_s);
+    EXPECT_EQ(RefusalOf("name,value\na,b\na,\xE9\n", Format::Csv), u"line 3: not UTF-8"_s);
 }
 
 TEST(CsfExchange, EveryCutOfAnExportIsReadOrRefused) {
