@@ -62,9 +62,10 @@ void WriteWholeFile(const QString& path, const QByteArray& bytes) {
         NumberedFiles::Write(FileNumber, 0, bytes);
         NumberedFiles::Close(FileNumber);
         Files::Replace(aside, path);
-    } catch (const RuntimeError&) {
+    } catch (const RuntimeError& error) {
         Ignoring([] { NumberedFiles::Close(FileNumber); });
         Ignoring([&] { Files::DeleteForced(aside); });
-        throw;
+        QString told = error.Description();
+        throw RuntimeError(error.Number(), told.replace(Paths::ToNative(aside), Paths::ToNative(path)));
     }
 }

@@ -189,6 +189,16 @@ TEST_F(CsfCommands, AnExportReplacesTheFileThatStoodThere) {
     EXPECT_EQ(Files::ListFolder(At(u"~brindock*"_s)), QStringList{});
 }
 
+TEST_F(CsfCommands, AnExportThatFailsNamesItsTarget) {
+    for (const QString& target : {u"gone/out.po"_s, u"folder.po"_s}) {
+        Put(u"folder.po\\file"_s, "x");
+        EXPECT_TRUE(Failure({u"export"_s, Three(), Native(target)})
+                        .startsWith("brindock-cli: " + Native(target).toUtf8() + ": "));
+    }
+    EXPECT_EQ(Files::ListFolder(At(u"~brindock*"_s)), QStringList{});
+    EXPECT_EQ(Contents(u"folder.po\\file"_s), "x");
+}
+
 TEST_F(CsfCommands, GettextTakesTheExportedCatalogueAndItsCopyIsTheSameTable) {
     QByteArray entries =
         Entry("a", "x\n") + Entry("a", "x\n") + Entry("", "") + Entry("", "") + Entry("a#2", "%s \r\n");

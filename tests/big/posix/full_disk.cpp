@@ -1,37 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// A device that fails at every write: the process's own limit on the length of files stands in for a full disk.
+/// Saves and extractions on a device that fails at every write.
 #include "tests/big/Archives.h"
 
 #include "platform/Files.h"
 #include "platform/Paths.h"
-
-#include <sys/resource.h>
-
-#include <csignal>
+#include "tests/support/posix/FileLengthLimit.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class FileLengthLimit {
-public:
-    explicit FileLengthLimit(rlim_t bytes) {
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limited{bytes, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limited);
-    }
-
-    ~FileLengthLimit() { ::setrlimit(RLIMIT_FSIZE, &before_); }
-
-    FileLengthLimit(const FileLengthLimit&) = delete;
-    FileLengthLimit& operator=(const FileLengthLimit&) = delete;
-
-private:
-    rlimit before_{};
-};
 
 class FullDisk : public ArchiveTest {
 protected:

@@ -1,36 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// A device that fails at every write: the process's own limit on the length of files stands in for a full disk.
+/// Saves on a device that fails at every write.
 #include "tests/csf/editor_support.h"
 
 #include "platform/NumberedFiles.h"
-
-#include <sys/resource.h>
-
-#include <csignal>
+#include "tests/support/posix/FileLengthLimit.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class FileLengthLimit {
-public:
-    explicit FileLengthLimit(rlim_t bytes) {
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limited{bytes, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limited);
-    }
-
-    ~FileLengthLimit() { ::setrlimit(RLIMIT_FSIZE, &before_); }
-
-    FileLengthLimit(const FileLengthLimit&) = delete;
-    FileLengthLimit& operator=(const FileLengthLimit&) = delete;
-
-private:
-    rlimit before_{};
-};
 
 class CsfFullDisk : public EditorTest {};
 
@@ -52,7 +31,7 @@ TEST_F(CsfFullDisk, AtEveryByteTheOldFileStaysAside) {
         EXPECT_EQ(ended, room < 24) << room << ": the header is fatal, what follows is passed over";
         EXPECT_EQ(written, room == static_cast<rlim_t>(whole.size())) << room;
         EXPECT_EQ(World::ReadFile(path), whole.first(static_cast<qsizetype>(room)));
-        EXPECT_FALSE(NumberedFiles::IsOpen(1));
+        EXPECT_FALSE(NumberedFiles::IsOpen(mCSF::FileNumber));
         ASSERT_EQ(Files::FileExists(path + u".sav"_s), !written) << room;
         if (!written) {
             EXPECT_EQ(World::ReadFile(path + u".sav"_s), "old");
