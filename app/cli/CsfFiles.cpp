@@ -19,6 +19,15 @@ namespace {
 constexpr int FileNumber = 7;
 constexpr int HighestLanguage = 255;
 
+/// Writes the program's table; returns why it was not all written, with the file's name. Empty when it was.
+QString Write(const QString& path, qint16 language) {
+    try {
+        return mCSF::WriteTable(path, language);
+    } catch (const RuntimeError& error) {
+        return error.Description();
+    }
+}
+
 } // namespace
 
 CsfTable ReadTableArgument(const std::string& argument) {
@@ -43,9 +52,14 @@ void WriteTableFile(const QString& path, CsfTable table) {
     if (table.Language < 0 || table.Language > HighestLanguage)
         Fail(shown, u"the language number %1 can't be stored; --language gives another"_s.arg(table.Language));
     mCSF::CsfStrings = std::move(table.Strings);
-    const QString reason = mCSF::WriteTable(path, static_cast<qint16>(table.Language));
-    if (!reason.isEmpty())
-        Fail(shown, reason + u" (a file that stood there before has now the ending .sav)"_s);
+    const QString aside = path + u".sav"_s;
+    const bool stale = Files::FileExists(aside);
+    const QString reason = Write(path, static_cast<qint16>(table.Language));
+    if (reason.isEmpty())
+        return;
+    const bool stands = !stale && Files::FileExists(aside);
+    throw RuntimeError(ErrorNumber::PathFileAccess,
+                       stands ? reason + u"; the file that stood there is now "_s + Paths::ToNative(aside) : reason);
 }
 
 QByteArray ReadWholeFile(const QString& path) {

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Commands for string tables on a device that fails at every write.
+#include "tests/cli/CsfCommandTest.h"
+#include "tests/support/posix/FileLengthLimit.h"
+
+#include "platform/Files.h"
+
+using namespace Qt::StringLiterals;
+
+TEST_F(CsfCommands, ASaveThatFailsMidwayTellsWhereTheOldFileIs) {
+    const QString three = Three();
+    const QByteArray before = Contents(u"three.csf"_s);
+    for (const rlim_t room : {0, 23, 24, 60}) {
+        QByteArray told;
+        {
+            const FileLengthLimit limit(room);
+            told = Failure({u"save"_s, three, three, u"--set"_s, u"b=x"_s});
+        }
+        EXPECT_TRUE(told.startsWith("brindock-cli: " + three.toUtf8() + ": ")) << told.constData();
+        EXPECT_EQ(told.count(three.toUtf8()), 2) << told.constData();
+        EXPECT_TRUE(told.endsWith("; the file that stood there is now " + three.toUtf8() + ".sav\n"))
+            << told.constData();
+        EXPECT_EQ(Contents(u"three.csf.sav"_s), before);
+        EXPECT_EQ(Contents(u"three.csf"_s).size(), static_cast<qsizetype>(room));
+        Put(u"three.csf"_s, before);
+        Files::Delete(At(u"three.csf.sav"_s));
+    }
+}
+
+TEST_F(CsfCommands, ANewFileThatFailsMidwayHasNoOldOneToName) {
+    const QString three = Three();
+    const FileLengthLimit limit(60);
+    const QByteArray told = Failure({u"save"_s, three, Native(u"new.csf"_s)});
+    EXPECT_TRUE(told.startsWith("brindock-cli: " + Native(u"new.csf"_s).toUtf8() + ": "));
+    EXPECT_FALSE(told.contains(".sav")) << told.constData();
+}
+
+TEST_F(CsfCommands, AnExportThatFailsMidwayKeepsWhatStoodThere) {
+    const QString three = Three();
+    const QString target = Put(u"out.csv"_s, "old");
+    const FileLengthLimit limit(10);
+    EXPECT_TRUE(Failure({u"export"_s, three, target}).startsWith("brindock-cli: " + target.toUtf8() + ": "));
+    EXPECT_EQ(Contents(u"out.csv"_s), "old");
+    EXPECT_EQ(Files::ListFolder(At(u"~brindock*"_s)), QStringList{});
+}
