@@ -6,6 +6,9 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStringList>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +21,14 @@ QHash<QString, const CsfString*> ByName(const CsfTable& table) {
             entries.insert(name, &entry);
     }
     return entries;
+}
+
+/// Placeholders that all have numbers may stand in any order.
+QStringList Comparable(const QString& placeholders) {
+    QStringList list = placeholders.split(u' ');
+    if (std::ranges::all_of(list, [](const QString& placeholder) { return placeholder.contains(u'$'); }))
+        list.sort();
+    return list;
 }
 
 } // namespace
@@ -57,7 +68,7 @@ std::vector<CsfFinding> Check(const CsfTable& table, const Checks& checks) {
         if (const CsfString* const other = others.value(name); other != nullptr) {
             const QString here = Placeholders(entry.Value);
             const QString there = Placeholders(other->Value);
-            if (here != there)
+            if (Comparable(here) != Comparable(there))
                 findings.push_back({Kind::Placeholders, entry.Name, here, there});
         }
         if (checks.Maximum > 0 && entry.Value.size() > checks.Maximum)

@@ -72,6 +72,42 @@ TEST(CsfCompare, AConflictKeepsOurs) {
                                                           {u"we drop"_s, u"deleted in ours, changed in theirs"_s}}));
 }
 
+TEST(CsfCompare, EveryPairOfSidesHasItsOutcome) {
+    struct Row {
+        QString Base, Ours, Theirs, Result, Reason; // "-" for no entry
+    };
+
+    const Row rows[] = {
+        {u"-"_s, u"1"_s, u"-"_s, u"1"_s, {}},
+        {u"-"_s, u"-"_s, u"1"_s, u"1"_s, {}},
+        {u"-"_s, u"1"_s, u"1"_s, u"1"_s, {}},
+        {u"-"_s, u"1"_s, u"2"_s, u"1"_s, u"added in both"_s},
+        {u"1"_s, u"1"_s, u"1"_s, u"1"_s, {}},
+        {u"1"_s, u"1"_s, u"2"_s, u"2"_s, {}},
+        {u"1"_s, u"1"_s, u"-"_s, u"-"_s, {}},
+        {u"1"_s, u"2"_s, u"1"_s, u"2"_s, {}},
+        {u"1"_s, u"2"_s, u"2"_s, u"2"_s, {}},
+        {u"1"_s, u"2"_s, u"3"_s, u"2"_s, u"changed in both"_s},
+        {u"1"_s, u"2"_s, u"-"_s, u"2"_s, u"changed in ours, deleted in theirs"_s},
+        {u"1"_s, u"-"_s, u"1"_s, u"-"_s, {}},
+        {u"1"_s, u"-"_s, u"2"_s, u"-"_s, u"deleted in ours, changed in theirs"_s},
+        {u"1"_s, u"-"_s, u"-"_s, u"-"_s, {}},
+        {u"1"_s, {}, u"1"_s, {}, {}},
+        {{}, u"-"_s, {}, u"-"_s, {}},
+        {{}, u"-"_s, u"1"_s, u"-"_s, u"deleted in ours, changed in theirs"_s},
+    };
+    const auto side = [](const QString& value) {
+        return value == u"-"_s ? CsfTable() : CsfTable{0, {{value, u"n"_s}}};
+    };
+    for (const Row& row : rows) {
+        const CsfMerged merged = Merge(side(row.Base), side(row.Ours), side(row.Theirs));
+        EXPECT_EQ(merged.Table, side(row.Result));
+        EXPECT_EQ(merged.Conflicts,
+                  row.Reason.isEmpty() ? std::vector<CsfConflict>() : std::vector<CsfConflict>({{u"n"_s, row.Reason}}))
+            << row.Base.toStdString() << ' ' << row.Ours.toStdString() << ' ' << row.Theirs.toStdString();
+    }
+}
+
 TEST(CsfCompare, DuplicatesAreMergedInTheirOrder) {
     const CsfTable base = TableOf({u"a=1"_s, u"a=2"_s, u"a=3"_s});
     const CsfMerged merged = Merge(base, TableOf({u"a=x"_s, u"a=2"_s, u"a=3"_s}), TableOf({u"a=1"_s, u"a=y"_s}));
@@ -106,6 +142,23 @@ TEST(CsfCompare, ChecksPlaceholdersAgainstAnotherTable) {
     const CsfTable other = TableOf({u"A=%d of %s"_s, u"b=%s"_s, u"c=50%"_s, u"d=x"_s});
     EXPECT_EQ(Check(TableOf({u"a=%s von %d"_s, u"b=%s!"_s, u"c=50% of 100%%"_s, u"e=%s"_s}), {&other, 0}),
               (std::vector<CsfFinding>{{Kind::Placeholders, u"a"_s, u"%s %d"_s, u"%d %s"_s}}));
+}
+
+TEST(CsfCompare, NumberedPlaceholdersMayStandInAnyOrder) {
+    const CsfTable other = TableOf({u"a=%1$s of %2$d"_s, u"b=%1$s of %2$d"_s, u"c=%1$s"_s, u"d=%1$s %d"_s});
+    using Kind = CsfFinding::Kind;
+    EXPECT_EQ(Check(TableOf({u"a=%2$d von %1$s"_s, u"b=%1$s von %2$s"_s, u"c=%s"_s, u"d=%d %1$s"_s}), {&other, 0}),
+              (std::vector<CsfFinding>{{Kind::Placeholders, u"b"_s, u"%1$s %2$s"_s, u"%1$s %2$d"_s},
+                                       {Kind::Placeholders, u"c"_s, u"%s"_s, u"%1$s"_s},
+                                       {Kind::Placeholders, u"d"_s, u"%d %1$s"_s, u"%1$s %d"_s}}));
+}
+
+TEST(CsfCompare, WidthAndPrecisionAreNoDifference) {
+    const CsfTable other = TableOf({u"a=%s %d %-5.2f %%"_s});
+    EXPECT_TRUE(Check(TableOf({u"a=%10s %03d %f 100%"_s}), {&other, 0}).empty());
+    EXPECT_EQ(Check(TableOf({u"a=%s %d"_s}), {&other, 0}).size(), 1U);
+    EXPECT_EQ(Check(TableOf({u"a=%s %d %f %s"_s}), {&other, 0}).size(), 1U);
+    EXPECT_EQ(Check(TableOf({u"a=%s %u %f"_s}), {&other, 0}).size(), 1U);
 }
 
 TEST(CsfCompare, FindsPlaceholders) {
