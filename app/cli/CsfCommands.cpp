@@ -9,7 +9,8 @@
 #include "platform/AnsiCodec.h"
 #include "platform/Console.h"
 #include "platform/Paths.h"
-#include "platform/Processes.h"
+
+#include <QStringList>
 
 #include <CLI/CLI.hpp>
 
@@ -37,11 +38,8 @@ struct Options {
 
 using SharedOptions = std::shared_ptr<Options>;
 
-/// Ends the command with the exit code for "yes, there is something", after all that it printed.
-[[noreturn]] void EndWithFindings() {
-    Flush();
-    Processes::End(1);
-}
+/// The exit code for "yes, there is something".
+constexpr int Findings = 1;
 
 void PrintLine(const QString& word, const QStringList& texts) {
     QString line = word;
@@ -84,11 +82,19 @@ void DeleteName(CsfTable& table, const QString& file, const QString& name) {
         table.Strings.erase(table.Strings.begin() + static_cast<std::ptrdiff_t>(places.back()));
 }
 
+/// Tells on standard error when an entry loses a letter, as the games' texts are of eight bits here.
+void WarnOfLostLetters(const CsfString& entry) {
+    const auto loses = [](const QString& text) { return AnsiCodec::Decode(AnsiCodec::Encode(text)) != text; };
+    if (loses(entry.Name) || loses(entry.Value))
+        Console::WriteError(Paths::EncodeNative(u"a letter becomes '?'\t"_s + Escaped(entry.Name) + u'\n'));
+}
+
 /// Every entry of that name gets the value; without any, one is appended.
 void SetValue(CsfTable& table, const std::string& given) {
     const auto split = given.find('=');
     const QString name = ArgumentText(given.substr(0, split));
     const QString value = CsfExchange::Unescaped(ArgumentText(given.substr(split + 1)));
+    WarnOfLostLetters({value, name});
     const std::vector<std::size_t> places = Named(table, name);
     for (const std::size_t place : places)
         table.Strings[place].Value = value;
@@ -116,15 +122,6 @@ void Export(const Options& options) {
     WriteWholeFile(ArgumentPath(options.Target), CsfExchange::Export(table, FormatOfArgument(options.Target)));
 }
 
-/// Tells which entries lose a letter, as the games' texts are of eight bits here.
-void WarnOfLostLetters(const CsfTable& table) {
-    const auto loses = [](const QString& text) { return AnsiCodec::Decode(AnsiCodec::Encode(text)) != text; };
-    for (const CsfString& entry : table.Strings) {
-        if (loses(entry.Name) || loses(entry.Value))
-            Console::WriteError(Paths::EncodeNative(u"a letter becomes '?'\t"_s + Escaped(entry.Name) + u'\n'));
-    }
-}
-
 void Import(const Options& options, bool languageGiven) {
     const QString path = ArgumentPath(options.File);
     const QByteArray bytes = ReadWholeFile(path);
@@ -136,7 +133,8 @@ void Import(const Options& options, bool languageGiven) {
     }
     if (languageGiven)
         table.Language = options.Language;
-    WarnOfLostLetters(table);
+    for (const CsfString& entry : table.Strings)
+        WarnOfLostLetters(entry);
     WriteTableFile(ArgumentPath(options.Target), std::move(table));
 }
 
@@ -156,7 +154,7 @@ void Diff(const Options& options) {
             PrintLine(u"changed"_s, {difference.Name, difference.Before, difference.After});
     }
     if (!sameLanguage || !differences.empty())
-        EndWithFindings();
+        EndWith(Findings);
 }
 
 void Merge(const Options& options) {
@@ -173,7 +171,7 @@ void Merge(const Options& options) {
     if (conflicts.isEmpty())
         return;
     Console::WriteError(Paths::EncodeNative(conflicts));
-    EndWithFindings();
+    EndWith(Findings);
 }
 
 void Check(const Options& options) {
@@ -196,7 +194,7 @@ void Check(const Options& options) {
             PrintLine(u"long"_s, {finding.Name, finding.Here});
     }
     if (!findings.empty())
-        EndWithFindings();
+        EndWith(Findings);
 }
 
 /// An argument whose ending tells the format.

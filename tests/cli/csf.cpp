@@ -172,6 +172,15 @@ TEST_F(CsfCommands, ImportTellsWhichEntriesLoseALetter) {
     EXPECT_EQ(Contents(u"out.csf"_s), Head(2, 0) + Entry("a", "?") + Entry("b", "\xE9"));
 }
 
+TEST_F(CsfCommands, SaveTellsWhichSettingLosesALetter) {
+    const Outcome outcome = RunCommand({u"csf"_s, u"save"_s, Three(), Native(u"out.csf"_s), u"--set"_s,
+                                        u"b=\u4E2D\u00E9"_s, u"--set"_s, u"c=\u00E9"_s});
+    EXPECT_EQ(outcome.Code, 0);
+    EXPECT_EQ(outcome.Error, "a letter becomes '?'\tb\n");
+    EXPECT_EQ(Contents(u"out.csf"_s),
+              Head(4, 3) + Entry("b", "?\xE9") + Entry("A:x", "\xE9\n\t\\") + Entry("", "3") + Entry("c", "\xE9"));
+}
+
 TEST_F(CsfCommands, DiffEndsWithOneWhenTheTablesDiffer) {
     const QString three = Three();
     EXPECT_EQ(Output({u"diff"_s, three, three}), QByteArray());
