@@ -89,6 +89,15 @@ TEST_F(CsfEditorCommands, AnAddedRowGoesToTheEndAndStaysThereUntilTheNextHeaderC
     EXPECT_EQ(Names(), (QStringList{u"Z"_s, u"New"_s, u"a"_s}));
 }
 
+TEST_F(CsfEditorCommands, AnAddedRowIsSortedInWhenItsFileIsOpenedAgain) {
+    const QString path = OpenTable({{"Z", "1"}, {"a", "2"}});
+    Editor.Add();
+    Editor.Save();
+    EXPECT_EQ(Names(), (QStringList{u"a"_s, u"Z"_s, u"New"_s})) << "a save leaves the rows";
+    Editor.OpenCSFFile(path);
+    EXPECT_EQ(Names(), (QStringList{u"a"_s, u"New"_s, u"Z"_s}));
+}
+
 TEST_F(CsfEditorCommands, DeleteRemovesTheRowAndClicksTheOneThatFollows) {
     OpenTable({{"a", "1"}, {"b", "2"}, {"c", "3"}});
     Editor.ClickRow(1);

@@ -51,6 +51,11 @@ TEST_F(CsfEditorSave, TheFirstRowOfANewDocumentMakesSaveAskForAName) {
     EXPECT_EQ(State().SizeText, u"0 KiloBytes"_s);
     EXPECT_FALSE(State().Modified);
     EXPECT_EQ(View.Busy, 0);
+    ASSERT_EQ(host_.Dialogs.size(), 1U);
+    EXPECT_EQ(host_.Dialogs[0].Title, u"CSF Editor"_s);
+    EXPECT_EQ(host_.Dialogs[0].Filter, u"Fichiers CSF (*.csf)|*.csf"_s);
+    EXPECT_EQ(host_.Dialogs[0].DefaultExtension, u"csf"_s);
+    EXPECT_EQ(host_.Dialogs[0].DefaultName, u"*.csf"_s);
 }
 
 TEST_F(CsfEditorSave, ACancelledDialogLeavesTheDocumentNewAndChanged) {

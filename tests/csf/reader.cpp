@@ -5,6 +5,8 @@
 
 #include "platform/NumberedFiles.h"
 
+#include <new>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -26,7 +28,7 @@ TEST_F(CsfReader, ReadsAFileWrittenOutByHand) {
                          " RTS\3\0\0\0\xBD\xFF\x16\xFF\xF5\xFF")),
               3);
     EXPECT_EQ(mCSF::CsfStrings, (Table{{u"B\u00E9\n"_s, u"GUI:OK"_s}}));
-    EXPECT_FALSE(NumberedFiles::IsOpen(1));
+    EXPECT_FALSE(NumberedFiles::IsOpen(mCSF::FileNumber));
     EXPECT_TRUE(host_.Messages.empty());
 }
 
@@ -170,6 +172,11 @@ TEST_F(CsfReader, YieldsOnceARecord) {
 
 TEST_F(CsfReader, ATableThatIsReplacedMeanwhileRefusesTheFile) {
     host_.OnYield = [] { mCSF::CsfStrings.clear(); };
+    ExpectRefused(CsfHeader(1) + EntryRecords("a", "b"));
+}
+
+TEST_F(CsfReader, NoRoomRefusesTheFile) {
+    host_.OnYield = [] { throw std::bad_alloc(); };
     ExpectRefused(CsfHeader(1) + EntryRecords("a", "b"));
 }
 

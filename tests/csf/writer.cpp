@@ -31,7 +31,7 @@ protected:
                              u"au concepteur du programme\r\n\r\nD\u00E9tails :\r\nErreur n\u00B0 %1 : "_s.arg(number);
         EXPECT_EQ(shown.Text.first(std::min(shown.Text.size(), head.size())), head);
         EXPECT_TRUE(shown.Text.endsWith(u", source : Brindock"_s));
-        EXPECT_FALSE(NumberedFiles::IsOpen(1));
+        EXPECT_FALSE(NumberedFiles::IsOpen(mCSF::FileNumber));
     }
 };
 
@@ -45,7 +45,7 @@ QByteArray WrittenByHand() {
 
 TEST_F(CsfWriter, WritesAFileWrittenOutByHand) {
     EXPECT_EQ(Saved(3), WrittenByHand());
-    EXPECT_FALSE(NumberedFiles::IsOpen(1));
+    EXPECT_FALSE(NumberedFiles::IsOpen(mCSF::FileNumber));
     EXPECT_TRUE(host_.Messages.empty());
 }
 
