@@ -16,6 +16,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QItemSelection>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScopedValueRollback>
@@ -96,12 +97,12 @@ void frmCSFEditor::ConnectControls() {
         SelectRow(row.row(), false); // Ctrl and a click would leave it without a selection
         editor_.ClickRow(row.row());
     });
-    // The focus makes a row the current one too, without a selection.
-    QItemSelectionModel* const selection = ui_->lvStrings2->selectionModel();
-    connect(selection, &QItemSelectionModel::currentRowChanged, this, [this, selection](const QModelIndex& row) {
-        if (!following_ && selection->isRowSelected(row.row()))
-            editor_.ClickRow(row.row());
-    });
+    // A key selects a row, the current one or another. The focus alone makes a row the current one without a selection.
+    connect(ui_->lvStrings2->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this](const QItemSelection& selected) {
+                if (!following_ && !selected.isEmpty())
+                    editor_.ClickRow(selected.first().top());
+            });
     connect(ui_->lvStrings2->header(), &QHeaderView::sectionClicked, this,
             [this](int column) { editor_.ClickHeader(static_cast<LabelList::Column>(column)); });
     connect(ui_->txtName, &QLineEdit::textEdited, this, [this](const QString& text) { editor_.NameTyped(text); });
