@@ -163,24 +163,26 @@ private:
         if (!entry.Context)
             CsfFormats::Refuse(entry.Line, u"an entry without msgctxt would have no name"_s);
         const bool translated = !entry.Fuzzy && !entry.Translation->isEmpty();
+        const QString context = Text(*entry.Context, entry.Line);
         table_.Strings.push_back({Text(translated ? *entry.Translation : *entry.Source, entry.Line),
-                                  CsfPo::NameOf(Text(*entry.Context, entry.Line))});
+                                  exported_ ? CsfPo::NameOf(context) : context});
     }
 
     [[nodiscard]] QString Text(const QByteArray& bytes, qsizetype line) const {
-        if (charset_ == Charset::Windows1252)
-            return CsfPo::WithoutPictures(FromWindows1252(bytes));
-        if (!QByteArrayView(bytes).isValidUtf8())
+        if (charset_ == Charset::Utf8 && !QByteArrayView(bytes).isValidUtf8())
             CsfFormats::Refuse(line, u"not UTF-8"_s);
-        return CsfPo::WithoutPictures(QString::fromUtf8(bytes));
+        const QString text = charset_ == Charset::Utf8 ? QString::fromUtf8(bytes) : FromWindows1252(bytes);
+        return exported_ ? CsfPo::WithoutPictures(text) : text;
     }
 
     void Head(const QByteArray& text, qsizetype line) {
         for (const QByteArray& field : text.split('\n')) {
             const QString plain = QString::fromUtf8(field);
-            if (plain.startsWith(CsfPo::LanguageField, Qt::CaseInsensitive))
-                table_.Language =
-                    CsfFormats::LanguageNumber(QStringView(plain).sliced(CsfPo::LanguageField.size()), line);
+            if (plain.startsWith(CsfPo::LanguageField, Qt::CaseInsensitive)) {
+                const QStringView number = QStringView(plain).sliced(CsfPo::LanguageField.size());
+                table_.Language = CsfFormats::LanguageNumber(number, line);
+                exported_ = true;
+            }
             const qsizetype name = field.toLower().indexOf("charset=");
             if (name >= 0 && plain.startsWith("Content-Type:"_L1, Qt::CaseInsensitive))
                 UseCharset(field.sliced(name + 8).trimmed(), line);
@@ -199,6 +201,7 @@ private:
     Entry entry_;
     std::optional<QByteArray>* current_ = nullptr;
     Charset charset_ = Charset::Utf8;
+    bool exported_ = false; ///< the head is ours: numbers and pictures stand for something
     qsizetype line_ = 0;
 };
 

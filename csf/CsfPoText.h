@@ -10,7 +10,7 @@
 
 namespace CsfPo {
 
-/// The field of the head that holds the language's number.
+/// The field of the head that holds the language's number; by it an exported catalogue is known.
 inline constexpr QLatin1StringView LanguageField("X-CSF-Language:");
 
 struct Escape {
@@ -32,7 +32,7 @@ inline constexpr std::array<Escape, 9> Escapes{{{'n', '\n'},
 /// that comes again stands its number in lowered digits, which no name can hold.
 QString ContextOf(const QString& name, int occurrence);
 
-/// The name out of a context; any other context is the name itself.
+/// The name out of a context of an exported catalogue.
 QString NameOf(const QString& context);
 
 /// gettext ends a text at the character 0 and keeps 4 for itself: their pictures, which no table can hold, stand for

@@ -64,8 +64,11 @@ TEST(CsfPo, ANameThatComesAgainGetsItsNumberInLoweredDigits) {
 TEST(CsfPo, TheContextsOfOtherProgramsAreTakenAsTheyAre) {
     const CsfTable table = Read("msgctxt \"Button #1\"\nmsgid \"a\"\nmsgstr \"\"\n\n"
                                 "msgctxt \"#2\"\nmsgid \"b\"\nmsgstr \"\"\n\n"
-                                "msgctxt \"x#3\"\nmsgid \"c\"\nmsgstr \"\"\n");
-    EXPECT_EQ(table, (CsfTable{0, {{u"a"_s, u"Button #1"_s}, {u"b"_s, u"#2"_s}, {u"c"_s, u"x#3"_s}}}));
+                                "msgctxt \"x#3\"\nmsgid \"c\"\nmsgstr \"\"\n\n"
+                                "msgctxt \"CO\xE2\x82\x82\"\nmsgid \"\xE2\x90\x80\"\nmsgstr \"\"\n");
+    EXPECT_EQ(
+        table,
+        (CsfTable{0, {{u"a"_s, u"Button #1"_s}, {u"b"_s, u"#2"_s}, {u"c"_s, u"x#3"_s}, {u"\u2400"_s, u"CO\u2082"_s}}}));
 }
 
 TEST(CsfPo, TheTwoCharactersThatGettextCantHoldStandAsTheirPictures) {
