@@ -71,11 +71,11 @@ private:
             return Append(line);
         if (line.isEmpty() || line.startsWith('#'))
             return PassOver(line);
-        const auto behind =
-            std::ranges::find_if(line, [](char letter) { return QByteArrayView(" \t\"").contains(letter); });
-        const QByteArrayView keyword = line.first(behind - line.begin());
-        Begin(keyword);
-        Append(line.sliced(keyword.size()).trimmed());
+        qsizetype length = 0;
+        while (length < line.size() && !QByteArrayView(" \t\"").contains(line[length]))
+            ++length;
+        Begin(line.first(length));
+        Append(line.sliced(length).trimmed());
     }
 
     /// A blank line or a comment.

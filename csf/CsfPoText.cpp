@@ -3,8 +3,6 @@
 
 #include "csf/CsfPoText.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -34,8 +32,10 @@ QString ContextOf(const QString& name, int occurrence) {
 
 QString NameOf(const QString& context) {
     const auto isLowered = [](QChar letter) { return letter >= QChar(LoweredZero) && letter <= QChar(LoweredNine); };
-    const auto end = std::find_if_not(context.rbegin(), context.rend(), isLowered).base();
-    return context.first(end - context.begin());
+    qsizetype length = context.size();
+    while (length > 0 && isLowered(context[length - 1]))
+        --length;
+    return context.first(length);
 }
 
 QString WithPictures(QString text) {

@@ -79,7 +79,8 @@ TEST(CsfExchange, TablesPutTogetherAtRandomComeBackTheSame) {
         QString made;
         for (auto left = below(5); left > 0; --left) {
             const QChar letter = AnsiCodec::Decode(QByteArray(1, static_cast<char>(below(256)))).front();
-            made += below(2) == 0 ? QString(letter) : pieces[static_cast<qsizetype>(below(pieces.size()))];
+            made += below(2) == 0 ? QString(letter)
+                                  : pieces[static_cast<qsizetype>(below(static_cast<std::size_t>(pieces.size())))];
         }
         return made;
     };

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 TEST_F(CsfCommands, ASaveThatFailsMidwayTellsWhereTheOldFileIs) {
     const QString three = Three();
     const QByteArray before = Contents(u"three.csf"_s);
-    for (const rlim_t room : {0, 23, 24, 60}) {
+    for (const rlim_t room : {0U, 23U, 24U, 60U}) {
         QByteArray told;
         {
             const FileLengthLimit limit(room);
