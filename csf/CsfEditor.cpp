@@ -4,43 +4,19 @@
 #include "csf/CsfEditor.h"
 
 #include "core/Host.h"
+#include "core/Sizes.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
-#include <QLocale>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
 namespace {
-
-/// The busy pointer for the length of a block.
-class Busy {
-public:
-    explicit Busy(CsfEditorView& view) : view_(view) { view_.ShowBusy(true); }
-
-    ~Busy() { view_.ShowBusy(false); }
-
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
-
-private:
-    CsfEditorView& view_;
-};
-
-QString LastPart(const QString& path) {
-    return path.sliced(path.lastIndexOf(u'\\') + 1);
-}
-
-/// A whole number with the user's thousands separator, which plain locales have but leave out.
-QString Grouped(qint64 number) {
-    QLocale locale;
-    locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
-    return locale.toString(number);
-}
 
 QString ForBox(QString value) {
     return value.replace(u'\n', u"\r\n"_s);
@@ -84,9 +60,9 @@ void CsfEditor::Load(const QString& path, qint32 language) {
         state_.LanguageShown = language;
     state_.LanguageText = QString::number(language);
     state_.Path = path;
-    state_.Caption = LastPart(path);
+    state_.Caption = Paths::LastPart(path);
     state_.FrameVisible = true;
-    Ignoring([&] { state_.SizeText = Grouped(Files::FileLength(path) / 1024) + u' ' + GetText(u"KiloBytes"_s); });
+    Ignoring([&] { state_.SizeText = Sizes::KiloBytes(Files::FileLength(path)); });
     {
         const Busy busy(view_);
         view_.ListChanging(LabelChange::Reset, 0);
@@ -210,10 +186,10 @@ void CsfEditor::FindNextByKey() {
 }
 
 QString CsfEditor::CountText() const {
-    QString rows = GetText(u"RowCount"_s).replace(u"%1"_s, Grouped(list_.Count()));
+    QString rows = GetText(u"RowCount"_s).replace(u"%1"_s, Sizes::Grouped(list_.Count()));
     if (state_.FindIsGrey || state_.FindText.isEmpty())
         return rows;
-    const QString matches = GetText(u"MatchCount"_s).replace(u"%1"_s, Grouped(list_.Matches(state_.FindText)));
+    const QString matches = GetText(u"MatchCount"_s).replace(u"%1"_s, Sizes::Grouped(list_.Matches(state_.FindText)));
     return rows + u", "_s + matches;
 }
 

@@ -5,6 +5,7 @@
 /// of the window is shown and enabled.
 #pragma once
 
+#include "core/Document.h"
 #include "csf/LabelList.h"
 
 #include <QString>
@@ -19,15 +20,9 @@ enum class LabelChange {
     Sort,   ///< the same rows in another order: CsfEditor::NewPlaces tells which
 };
 
-/// What the document asks of its window.
-class CsfEditorView {
+/// What the table asks of its window besides.
+class CsfEditorView : public DocumentView {
 public:
-    CsfEditorView() = default;
-    CsfEditorView(const CsfEditorView&) = delete;
-    CsfEditorView& operator=(const CsfEditorView&) = delete;
-    virtual ~CsfEditorView() = default;
-
-    virtual void ShowWindow() = 0;
     /// Around each change of the rows; `place` counts for Insert and Remove.
     virtual void ListChanging(LabelChange change, int place) = 0;
     virtual void ListChanged(LabelChange change, int place) = 0;
@@ -40,10 +35,6 @@ public:
     virtual void ScrollToRow(int place) = 0;
     /// Both boxes get the state's NameText and ValueText; that is no change by the user.
     virtual void BoxesChanged() = 0;
-    /// Something else in CsfEditorState is different.
-    virtual void StateChanged() = 0;
-    /// The busy pointer, on and off again. Pairs nest.
-    virtual void ShowBusy(bool busy) = 0;
 };
 
 struct CsfEditorState {
@@ -121,16 +112,13 @@ public:
     [[nodiscard]] static bool MenuFollows();
 
 private:
-    /// How a save ended.
-    enum class Saved { Yes, NothingToSave, Cancelled, Failed };
-
     /// True, with a beep, while a read is under way: it yields to the event loop, and table and file are its own.
     [[nodiscard]] bool Locked() const;
     bool GoOnWithoutChanges(const QString& name);
     void Load(const QString& path, qint32 language);
-    Saved SaveToFileOrName();
-    Saved SaveUnderName();
-    Saved Write();
+    Document::Saved SaveToFileOrName();
+    Document::Saved SaveUnderName();
+    Document::Saved Write();
     void SelectAndClick(int place, bool focus);
     void ShowBoxes(bool enabled, const QString& name, const QString& value);
 

@@ -8,53 +8,28 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
-#include <QScopeGuard>
-
 using namespace Qt::StringLiterals;
+using Document::Saved;
 using mTraduction::GetText;
 
 namespace {
-
-/// Where a dialog begins: beside the open file. A new one has no folder, and in the scratch folder, where tables out of
-/// archives stand, nothing lasts.
-QString FolderBeside(const QString& path) {
-    const QString folder = path.first(path.lastIndexOf(u'\\') + 1);
-    const QString scratch = Paths::ProgramFolder() + u"\\Temp\\"_s;
-    return folder.startsWith(scratch, Qt::CaseInsensitive) ? QString() : folder;
-}
 
 Host::FileDialog TableDialog(const QString& path) {
     return {.Title = u"CSF Editor"_s,
             .Filter = u"Fichiers CSF (*.csf)|*.csf"_s,
             .DefaultExtension = u"csf"_s,
             .DefaultName = u"*.csf"_s,
-            .Folder = FolderBeside(path)};
+            .Folder = Document::FolderForDialogs(path)};
 }
 
 QString NewName() {
     return GetText(u"New"_s) + u"CSF.csf"_s;
 }
 
-QString LastPart(const QString& path) {
-    return path.sliced(path.lastIndexOf(u'\\') + 1);
-}
-
 } // namespace
 
 bool CsfEditor::GoOnWithoutChanges(const QString& name) {
-    if (!state_.Modified)
-        return true;
-    const QString question = GetText(u"QuitSave"_s).replace(u"%1"_s, name);
-    switch (Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNoCancel)) {
-    case Host::Answer::Yes: {
-        const Saved saved = SaveToFileOrName();
-        return saved == Saved::Yes || saved == Saved::NothingToSave;
-    }
-    case Host::Answer::No:
-        return true;
-    default:
-        return false;
-    }
+    return !state_.Modified || Document::GoOnWithoutChanges(name, [this] { return SaveToFileOrName(); });
 }
 
 bool CsfEditor::MayClose() {
@@ -62,7 +37,7 @@ bool CsfEditor::MayClose() {
 }
 
 void CsfEditor::New() {
-    if (Locked() || !GoOnWithoutChanges(LastPart(state_.Path)))
+    if (Locked() || !GoOnWithoutChanges(Paths::LastPart(state_.Path)))
         return;
     mCSF::CsfStrings.assign(1, {});
     view_.ListChanging(LabelChange::Reset, 0);
@@ -79,7 +54,7 @@ void CsfEditor::New() {
 }
 
 void CsfEditor::Open() {
-    if (Locked() || !GoOnWithoutChanges(LastPart(state_.Path)))
+    if (Locked() || !GoOnWithoutChanges(Paths::LastPart(state_.Path)))
         return;
     if (const auto path = Host::Current().OpenFileName(TableDialog(state_.Path)))
         OpenCSFFile(*path);
@@ -95,27 +70,26 @@ void CsfEditor::SaveAs() {
         SaveUnderName();
 }
 
-CsfEditor::Saved CsfEditor::SaveToFileOrName() {
+Saved CsfEditor::SaveToFileOrName() {
     if (list_.Count() == 0)
         return Saved::NothingToSave;
     return state_.Path == NewName() ? SaveUnderName() : Write();
 }
 
-CsfEditor::Saved CsfEditor::SaveUnderName() {
+Saved CsfEditor::SaveUnderName() {
     if (list_.Count() == 0)
         return Saved::NothingToSave;
     const auto path = Host::Current().SaveFileName(TableDialog(state_.Path));
     if (!path)
         return Saved::Cancelled;
     state_.Path = *path;
-    state_.Caption = LastPart(*path);
+    state_.Caption = Paths::LastPart(*path);
     state_.FrameVisible = true;
     return Write();
 }
 
-CsfEditor::Saved CsfEditor::Write() {
-    view_.ShowBusy(true);
-    const auto idle = qScopeGuard([this] { view_.ShowBusy(false); });
+Saved CsfEditor::Write() {
+    const Busy busy(view_);
     mCSF::CsfStrings = list_.Table();
     // What was not written whole says nothing, but it stays a change: the old file stands aside as ".sav".
     const bool written = mCSF::WriteCSF(state_.Path, static_cast<qint16>(state_.LanguageText.toInt()));

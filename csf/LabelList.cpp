@@ -3,6 +3,8 @@
 
 #include "csf/LabelList.h"
 
+#include <QStringMatcher>
+
 #include <algorithm>
 #include <numeric>
 #include <utility>
@@ -62,14 +64,16 @@ std::vector<int> LabelList::Sort() {
 }
 
 int LabelList::Find(const QString& text, int from) const {
+    const QStringMatcher matcher(text, Qt::CaseInsensitive);
     for (int place = from; place < Count(); ++place) {
-        if (Row(place).Name.contains(text, Qt::CaseInsensitive))
+        if (matcher.indexIn(Row(place).Name) >= 0)
             return place;
     }
     return -1;
 }
 
 int LabelList::Matches(const QString& text) const {
-    return static_cast<int>(std::ranges::count_if(
-        rows_, [&](const LabelRow& row) { return row.Name.contains(text, Qt::CaseInsensitive); }));
+    const QStringMatcher matcher(text, Qt::CaseInsensitive);
+    return static_cast<int>(
+        std::ranges::count_if(rows_, [&](const LabelRow& row) { return matcher.indexIn(row.Name) >= 0; }));
 }

@@ -14,6 +14,15 @@
 
 namespace Paths {
 
+/// What stands behind the last backslash of an inside path, and what up to it, the backslash included.
+inline QString LastPart(const QString& path) {
+    return path.sliced(path.lastIndexOf(u'\\') + 1);
+}
+
+inline QString Folder(const QString& path) {
+    return path.first(path.lastIndexOf(u'\\') + 1);
+}
+
 /// The system's path for an inside path. A component that does not exist keeps the case given.
 QString ToNative(const QString& path);
 

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/Document.h"
+
+#include "core/Host.h"
+#include "core/mTraduction.h"
+#include "platform/Paths.h"
+
+using namespace Qt::StringLiterals;
+
+bool Document::GoOnWithoutChanges(const QString& name, const std::function<Saved()>& save) {
+    const QString question = mTraduction::GetText(u"QuitSave"_s).replace(u"%1"_s, name);
+    switch (Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNoCancel)) {
+    case Host::Answer::Yes: {
+        const Saved saved = save();
+        return saved == Saved::Yes || saved == Saved::NothingToSave;
+    }
+    case Host::Answer::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QString Document::FolderForDialogs(const QString& path) {
+    const QString folder = Paths::Folder(path);
+    const QString scratch = Paths::ProgramFolder() + u"\\Temp\\"_s;
+    return folder.startsWith(scratch, Qt::CaseInsensitive) ? QString() : folder;
+}

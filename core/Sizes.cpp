@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/Sizes.h"
+
+#include "core/mTraduction.h"
+
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+QString Sizes::Grouped(qint64 number) {
+    constexpr int group = 3;
+    QString text = QString::number(number);
+    for (qsizetype at = text.size() - group; at > 0; at -= group)
+        text.insert(at, QLocale().groupSeparator());
+    return text;
+}
+
+QString Sizes::KiloBytes(qint64 bytes) {
+    return Grouped(bytes / 1024) + u' ' + mTraduction::GetText(u"KiloBytes"_s);
+}
