@@ -3,6 +3,7 @@
 
 #include "big/mBIG.h"
 
+#include "big/Layout.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
@@ -21,9 +22,6 @@ namespace {
 constexpr int ArchiveNumber = 1;
 constexpr int ExtractTargetNumber = 3;
 constexpr int ExtractArchiveNumber = 4;
-
-constexpr qint64 CountOffset = 8;
-constexpr qint64 DirectoryOffset = 16;
 
 /// Reads an open file from front to back. Behind its end come zeros.
 class Scanner {
@@ -109,11 +107,11 @@ void ReadDirectory() {
     const QByteArray magic = NumberedFiles::Read(ArchiveNumber, 0, 4);
     if (magic != "BIGF" && magic != "BIG4")
         Refuse();
-    const QByteArray countBytes = NumberedFiles::Read(ArchiveNumber, CountOffset, sizeof(quint32));
+    const QByteArray countBytes = NumberedFiles::Read(ArchiveNumber, Layout::CountOffset, sizeof(quint32));
     const auto count = DirectoryNumber(qFromBigEndian<quint32>(countBytes.leftJustified(sizeof(quint32), '\0').data()));
     if (!count || *count > mBIG::MaximumEntries)
         Refuse();
-    Scanner scanner(ArchiveNumber, DirectoryOffset);
+    Scanner scanner(ArchiveNumber, Layout::DirectoryOffset);
     mBIG::BigEntries.assign(static_cast<std::size_t>(*count), BigEntry{});
     bool first = true;
     for (BigEntry& entry : mBIG::BigEntries) {
@@ -125,22 +123,9 @@ void ReadDirectory() {
         entry.Size = DirectoryNumber(scanner.BigEndian()).value_or(0);
         entry.Name = AnsiCodec::Decode(scanner.Name());
     }
-    switch (scanner.BigEndian()) {
-    case 0x4C323235: // "L225"
-        mBIG::BigVersion = 0;
-        break;
-    case 0x4C323331: // "L231"
-        mBIG::BigVersion = 1;
-        break;
-    case 0x4C323139: // "L219"
-        mBIG::BigVersion = 2;
-        break;
-    case 0x4C323533: // "L253"
-        mBIG::BigVersion = 3;
-        break;
-    default: // an unknown mark keeps the earlier variant, and the read still succeeds
-        break;
-    }
+    const QByteArray mark = mBIG::LongToBytes(static_cast<qint32>(scanner.BigEndian()));
+    // An unknown mark keeps the earlier variant, and the read still succeeds.
+    mBIG::BigVersion = Layout::VersionOfMark(mark).value_or(mBIG::BigVersion);
 }
 
 /// Fills the target with zeros from `from` to `to`, without writing behind its end more than its length.
