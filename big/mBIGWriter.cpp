@@ -43,8 +43,8 @@ public:
         for (const BigEntry& entry : mBIG::BigEntries) {
             if (entry.Deleted)
                 continue;
-            names_.push_back(mBIG::StringToBytes(entry.Name));
-            total_ += Layout::RecordOverhead + names_.back().size();
+            ++kept_;
+            total_ += Layout::RecordOverhead + mBIG::StringToBytes(entry.Name).size();
             Host::Current().Yield();
         }
         total_ = Layout::FirstFileField(variant_, total_);
@@ -69,10 +69,9 @@ private:
         header.reserve(static_cast<qsizetype>(total_));
         header += variant_.Magic;
         header += "    "; // the place of the length
-        header += mBIG::LongToBytes(static_cast<qint32>(names_.size()));
+        header += mBIG::LongToBytes(kept_);
         header += mBIG::LongToBytes(static_cast<qint32>(total_));
         qint64 cursor = total_;
-        auto name = names_.begin();
         for (const BigEntry& entry : mBIG::BigEntries) {
             if (entry.Deleted)
                 continue;
@@ -80,7 +79,7 @@ private:
             const qint64 size = LengthOfSource(entry);
             header += mBIG::LongToBytes(static_cast<qint32>(cursor));
             header += mBIG::LongToBytes(static_cast<qint32>(size));
-            header += *name++;
+            header += mBIG::StringToBytes(entry.Name);
             header += '\0';
             // The cursor is a signed 32-bit number: a sum beyond it is not stored.
             if (cursor + size <= std::numeric_limits<qint32>::max())
@@ -92,7 +91,7 @@ private:
 
     void WriteEntries(ArchiveData& data) {
         const QString writing = GetText(u"WritingFiles"_s) + u"\r\n"_s;
-        const auto steps = static_cast<qint64>(names_.size()) - 1;
+        const qint64 steps = kept_ - 1;
         for (std::size_t index = 0; index < mBIG::BigEntries.size(); ++index) {
             const BigEntry& entry = mBIG::BigEntries[index];
             if (entry.Deleted)
@@ -111,7 +110,7 @@ private:
     }
 
     const Layout::Variant& variant_;
-    std::vector<QByteArray> names_;
+    qint32 kept_ = 0;
     qint64 total_ = Layout::DirectoryOffset;
 };
 
