@@ -221,6 +221,7 @@ private:
     bool PutInto(const Opened& opened) const;
     [[nodiscard]] static bool IsSource(const QString& copy);
     bool TakeInChangedCopies();
+    bool TakeInChanged(const Opened& opened);
 
     EditorView& view_;
     EditorState state_;

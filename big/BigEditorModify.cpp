@@ -187,19 +187,19 @@ bool BigEditor::PutInto(const Opened& opened) const {
 /// Before the window goes: what other programs have written so far would be lost with the waits for them. False when
 /// the user wants to wait on.
 bool BigEditor::TakeInChangedCopies() {
-    for (const Opened& opened : openCopies_) {
-        const BigEntry* entry = StillThere(opened);
-        if (entry == nullptr || IsSource(opened.Copy) || !opened.Mark.Changed())
-            continue;
-        const QString question = entry->Name + "\r\n\r\n"_L1 + GetText(u"InsertModifiedFile"_s);
-        const Host::Answer answer = Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNoCancel);
-        if (answer == Host::Answer::Cancel)
-            return false;
-        // An unsaved change, whatever began the Modify: the question about those comes next.
-        if (answer == Host::Answer::Yes && PutInto(opened)) {
-            state_.Modified = true;
-            ShowFolder(SelectedKey());
-        }
+    return std::ranges::all_of(openCopies_, [this](const Opened& opened) { return TakeInChanged(opened); });
+}
+
+bool BigEditor::TakeInChanged(const Opened& opened) {
+    const BigEntry* entry = StillThere(opened);
+    if (entry == nullptr || IsSource(opened.Copy) || !opened.Mark.Changed())
+        return true;
+    const QString question = entry->Name + "\r\n\r\n"_L1 + GetText(u"InsertModifiedFile"_s);
+    const Host::Answer answer = Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNoCancel);
+    // An unsaved change, whatever began the Modify: the question about those comes next.
+    if (answer == Host::Answer::Yes && PutInto(opened)) {
+        state_.Modified = true;
+        ShowFolder(SelectedKey());
     }
-    return true;
+    return answer != Host::Answer::Cancel;
 }

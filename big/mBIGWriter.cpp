@@ -89,7 +89,7 @@ private:
         return header += variant_.Mark;
     }
 
-    void WriteEntries(ArchiveData& data) {
+    void WriteEntries(ArchiveData& data) const {
         const QString writing = GetText(u"WritingFiles"_s) + u"\r\n"_s;
         const qint64 steps = kept_ - 1;
         for (std::size_t index = 0; index < mBIG::BigEntries.size(); ++index) {

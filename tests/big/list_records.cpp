@@ -62,8 +62,8 @@ TEST_F(ListRecords, AnArchiveCutOffAtAnyByteIsListedAsItIsRead) {
 
 TEST_F(ListRecords, ALongDirectoryIsReadPieceByPieceWithoutLosingAByte) {
     QByteArray archive = HeaderOf("BIGF", 5001, 60);
-    for (int i = 0; i < 5000; ++i)
-        archive += Record(static_cast<quint32>(i + 1), i, QByteArray(i % 60, 'n') + QByteArray::number(i));
+    for (quint32 i = 0; i < 5000; ++i)
+        archive += Record(i + 1, i, QByteArray(i % 60, 'n') + QByteArray::number(i));
     archive += Record(7, 8, QByteArray(300'000, 'x')) + "L231";
     const QString path = Put(u"in.big"_s, archive);
     const QStringList lines = ListOf(path);

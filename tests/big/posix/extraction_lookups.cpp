@@ -52,6 +52,7 @@ private:
 class ExtractionLookups : public ArchiveTest {
 protected:
     static constexpr int Each = 500;
+    static constexpr int Both = 2 * Each;
 
     /// A table of as many entries of the archive as new ones, all in one folder.
     void Fill() {
@@ -82,15 +83,15 @@ TEST_F(ExtractionLookups, AFolderIsListedOnceHoweverManyEntriesGoIntoIt) {
     const Listings folder(At(u"out\\DATA"_s));
     Extract();
     EXPECT_EQ(folder.Count(), 1);
-    EXPECT_EQ(Files::ListFolder(At(u"out\\DATA\\*.*"_s)).size(), 2 * Each);
+    EXPECT_EQ(Files::ListFolder(At(u"out\\DATA\\*.*"_s)).size(), Both);
 }
 
 TEST_F(ExtractionLookups, FilesThatStandAlreadyAreFoundWithoutAnotherListing) {
     Fill();
     Extract();
     const Listings folder(At(u"out\\Data"_s));
-    host_.Answers.assign(2 * Each, Host::Answer::Yes);
+    host_.Answers.assign(Both, Host::Answer::Yes);
     Extract();
     EXPECT_EQ(folder.Count(), 1);
-    EXPECT_EQ(host_.Messages.size(), 2U * Each);
+    EXPECT_EQ(host_.Messages.size(), static_cast<std::size_t>(Both));
 }
