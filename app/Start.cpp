@@ -5,6 +5,7 @@
 
 #include "app/Application.h"
 #include "app/Suite.h"
+#include "big/ScratchFolders.h"
 #include "big/frmProgress.h"
 #include "core/mMain.h"
 #include "platform/Processes.h"
@@ -32,6 +33,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     // The icon's readers take longer than the first window: it comes up without it.
     constexpr int untilTheWindowStands = 100;
     QTimer::singleShot(untilTheWindowStands, &application, [] { Application::setWindowIcon(Picture::ProgramIcon()); });
+    QTimer::singleShot(untilTheWindowStands, &application, [] { ScratchFolders::RemoveAbandoned(); });
     WindowHost host([] { return std::make_unique<frmProgress>(); });
     Host::Use(&host);
     try {

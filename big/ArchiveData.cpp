@@ -14,6 +14,8 @@
 namespace {
 
 constexpr qsizetype BlockSize = qsizetype{512} * 1024;
+/// The gaps of a run are written behind it, while its bytes are still at hand.
+constexpr qint64 LongestRun = qint64{1} << 20;
 
 } // namespace
 
@@ -130,7 +132,7 @@ void ArchiveData::PutGap(qint64 length) {
 void ArchiveData::PutOld(qint64 offset, qint64 length) {
     if (length == 0)
         return;
-    if (run_.Length == 0 || offset != run_.Source + run_.Length) {
+    if (run_.Length == 0 || run_.Length > LongestRun || offset != run_.Source + run_.Length) {
         Flush();
         run_ = {blockStart_, offset, 0, {}};
     }

@@ -4,6 +4,7 @@
 /// The data part of an archive being written: entries are loaded into a copy buffer and put at the current position.
 #pragma once
 
+#include "big/Layout.h"
 #include "big/mBIG.h"
 
 #include <QByteArray>
@@ -20,15 +21,12 @@ public:
     /// so far, `position` where the data begins.
     ArchiveData(int target, int oldArchive, int source, qint64 length, qint64 position);
 
-    /// The next multiple of 4.
-    static constexpr qint64 RoundUp(qint64 value) { return (value + 3) / 4 * 4; }
-
     /// Sizes the copy buffer to the entry's data and fills it. Without a byte the buffer keeps its size; its beginning
     /// is read again from the entry's place. A new entry whose file is gone empties the buffer.
     void Load(const BigEntry& entry);
 
     /// Moves forward to a multiple of 4.
-    void Align() { position_ = RoundUp(position_); }
+    void Align() { position_ = Layout::RoundUp(position_); }
 
     /// Writes the buffer and moves behind it.
     void Put();

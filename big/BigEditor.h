@@ -9,10 +9,12 @@
 #include "big/FileList.h"
 #include "big/FolderTree.h"
 #include "big/Preview.h"
+#include "platform/ChangeMark.h"
 
 #include <QString>
 #include <QStringList>
 
+#include <list>
 #include <memory>
 #include <vector>
 
@@ -133,7 +135,8 @@ public:
     /// The drag is over, dropped or not.
     void DragEnded();
 
-    /// The question about unsaved changes; false when the window has to stay. True ends every wait for another program.
+    /// The questions about copies that other programs have changed so far, and about unsaved changes; false when the
+    /// window has to stay. True ends every wait for another program.
     bool MayClose();
 
     /// A click on a node of the tree.
@@ -180,6 +183,7 @@ private:
         QString Name;    ///< of the entry
         QString Archive; ///< inside path
         QString Copy;    ///< inside path of the copy
+        ChangeMark Mark; ///< of the copy, before the program had it
     };
 
     /// True, with a beep, while a save, an extraction or a drop is under way: they yield to the event loop or ask, and
@@ -214,15 +218,19 @@ private:
     [[nodiscard]] bool IsSourceMissing(int index);
     [[nodiscard]] BigEntry* StillThere(const Opened& opened) const;
     void TakeIn(const Opened& opened, Trigger trigger);
+    bool PutInto(const Opened& opened) const;
+    [[nodiscard]] static bool IsSource(const QString& copy);
+    bool TakeInChangedCopies();
+    bool TakeInChanged(const Opened& opened);
 
     EditorView& view_;
     EditorState state_;
     FolderTree tree_;
     FileList list_;
     Preview preview_{[this] { view_.StateChanged(); }};
-    bool busy_ = false;      ///< a save, an extraction or a drop is under way
-    int table_ = 0;          ///< number of the table in BigEntries; each that is read or made has another one
-    QStringList openCopies_; ///< inside paths that other programs are waited for with
+    bool busy_ = false;            ///< a save, an extraction or a drop is under way
+    int table_ = 0;                ///< number of the table in BigEntries; each that is read or made has another one
+    std::list<Opened> openCopies_; ///< those that other programs are waited for with
     /// False once the waits that hold it are to end.
     std::shared_ptr<bool> waiting_ = std::make_shared<bool>(true);
 };

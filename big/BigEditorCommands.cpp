@@ -75,7 +75,7 @@ bool BigEditor::GoOnWithoutChanges() {
 }
 
 bool BigEditor::MayClose() {
-    if (Locked() || !GoOnWithoutChanges())
+    if (Locked() || !TakeInChangedCopies() || !GoOnWithoutChanges())
         return false;
     EndWaits();
     return true;
@@ -135,7 +135,10 @@ void BigEditor::SaveAs() {
 bool BigEditor::WriteLocked(const QString& path) {
     const QScopedValueRollback lock(busy_, true);
     // What another program still has open may hold work that is not taken in yet.
-    return mBIG::WriteBigFile(path, openCopies_);
+    QStringList kept;
+    for (const Opened& opened : openCopies_)
+        kept += opened.Copy;
+    return mBIG::WriteBigFile(path, kept);
 }
 
 BigEditor::Saved BigEditor::SaveTo(const QString& path) {

@@ -4,13 +4,12 @@
 #include "big/BigEditor.h"
 
 #include "big/EntryIndex.h"
+#include "big/ScratchFolders.h"
 #include "core/Host.h"
-#include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -68,22 +67,13 @@ void DropFolder(mBIG::EntryIndex& names, const QString& prefix, const QString& f
         DropFile(names, prefix + LastPart(folder) + file.Path.sliced(folder.size()), file, Found::StaysDeleted);
 }
 
-QString ScratchFolder() {
-    return mMain::ProgramFolder + u"\\Temp\\"_s;
-}
-
-/// Where files dragged out of another BIG Editor are kept until they are saved.
-QString AdoptedFolder() {
-    return ScratchFolder() + u"Dropped%1\\"_s.arg(QCoreApplication::applicationPid());
-}
-
 } // namespace
 
 QStringList BigEditor::AdoptDragged(QStringList paths) {
     static int drops = 0;
-    const QString folder = AdoptedFolder() + QString::number(++drops) + u'\\';
+    const QString folder = ScratchFolders::Dropped() + QString::number(++drops) + u'\\';
     for (QString& path : paths) {
-        if (!path.startsWith(ScratchFolder() + u"Drag"_s, Qt::CaseInsensitive))
+        if (!path.startsWith(ScratchFolders::All() + u"Drag"_s, Qt::CaseInsensitive))
             continue;
         const QString kept = folder + LastPart(path);
         const bool moved = Ignoring([&] {
@@ -97,7 +87,7 @@ QStringList BigEditor::AdoptDragged(QStringList paths) {
 }
 
 void BigEditor::ForgetAdopted() {
-    Files::DeleteFolder(AdoptedFolder());
+    Files::DeleteFolder(ScratchFolders::Dropped());
 }
 
 void BigEditor::DropFiles(const QStringList& paths) {

@@ -3,14 +3,13 @@
 
 #include "big/BigEditor.h"
 
+#include "big/ScratchFolders.h"
 #include "core/FolderGateway.h"
 #include "core/Host.h"
-#include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
@@ -31,12 +30,6 @@ public:
 private:
     EditorView& view_;
 };
-
-/// Where the rows of a drag are extracted: below the scratch folder and apart from it, as the files of modified entries
-/// that are not saved yet stand there. Each running program has one of its own.
-QString DragFolder() {
-    return mMain::ProgramFolder + u"\\Temp\\Drag%1\\"_s.arg(QCoreApplication::applicationPid());
-}
 
 } // namespace
 
@@ -100,7 +93,7 @@ void BigEditor::DragPlan::Offer(const QString& name) {
 
 BigEditor::DragPlan BigEditor::PlanDrag() const {
     DragPlan plan;
-    plan.Target = {.ExtractFolder = DragFolder(), .ExtractCancelled = false, .RecreateFolders = false};
+    plan.Target = {.ExtractFolder = ScratchFolders::Dragged(), .ExtractCancelled = false, .RecreateFolders = false};
     for (const int place : view_.SelectedRows()) {
         const FileRow& row = list_.Row(place);
         if (!row.IsFolder && row.Index <= mBIG::HighestIndex()) {
@@ -134,5 +127,5 @@ QStringList BigEditor::ExtractForDrag() {
 }
 
 void BigEditor::DragEnded() {
-    Files::DeleteFolder(DragFolder());
+    Files::DeleteFolder(ScratchFolders::Dragged());
 }

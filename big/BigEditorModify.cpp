@@ -7,7 +7,6 @@
 #include "core/Host.h"
 #include "core/mShellExecuteWait.h"
 #include "core/mTraduction.h"
-#include "platform/ChangeMark.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -91,13 +90,19 @@ void BigEditor::ModifyCopy(int index, const QString& text, Trigger trigger) {
         return;
     }
     const QString name = mBIG::BigEntries[static_cast<std::size_t>(index)].Name;
-    const Opened opened{.Index = index, .Table = table_, .Name = name, .Archive = mBIG::BigFileName, .Copy = copy};
-    const ChangeMark mark(copy);
-    openCopies_ += copy;
+    const auto place = openCopies_.insert(openCopies_.end(), {.Index = index,
+                                                              .Table = table_,
+                                                              .Name = name,
+                                                              .Archive = mBIG::BigFileName,
+                                                              .Copy = copy,
+                                                              .Mark = ChangeMark(copy)});
     if (!OpenAndWait(copy))
         return;
-    openCopies_.removeOne(copy);
-    if (trigger == Trigger::Row && !mark.Changed())
+    const Opened opened = std::move(*place);
+    openCopies_.erase(place);
+    if (IsSource(copy)) // since the window was to be closed
+        return;
+    if (trigger == Trigger::Row && !opened.Mark.Changed())
         Ignoring([&] { Files::DeleteForced(copy); });
     else
         TakeIn(opened, trigger);
@@ -126,10 +131,13 @@ QString BigEditor::CopyForProgram(int index, const QString& text) const {
 
 /// Whether an unsaved entry or another program depends on the file.
 bool BigEditor::IsInUse(const QString& copy) const {
-    return std::ranges::any_of(openCopies_, [&](const QString& open) { return IsSamePath(open, copy); }) ||
-           std::ranges::any_of(mBIG::BigEntries, [&](const BigEntry& entry) {
-               return entry.IsNew && IsSamePath(entry.SourcePath, copy);
-           });
+    return IsSource(copy) ||
+           std::ranges::any_of(openCopies_, [&](const Opened& open) { return IsSamePath(open.Copy, copy); });
+}
+
+bool BigEditor::IsSource(const QString& copy) {
+    return std::ranges::any_of(
+        mBIG::BigEntries, [&](const BigEntry& entry) { return entry.IsNew && IsSamePath(entry.SourcePath, copy); });
 }
 
 /// False when the window was closed meanwhile and nothing of the editor may be touched any more.
@@ -158,13 +166,40 @@ void BigEditor::TakeIn(const Opened& opened, Trigger trigger) {
         Ignoring([&] { Files::DeleteForced(opened.Copy); });
         return;
     }
-    BigEntry* entry = StillThere(opened);
-    if (entry == nullptr)
+    if (!PutInto(opened))
         return;
-    entry->IsNew = true;
-    entry->SourcePath = opened.Copy;
     // Meant so: the menu's command is no unsaved change, and the size stays that of the archive until the save.
     if (trigger == Trigger::Row)
         state_.Modified = true;
     ShowFolder(SelectedKey());
+}
+
+/// The entry's bytes are those of its copy from now on; false when it has gone.
+bool BigEditor::PutInto(const Opened& opened) const {
+    BigEntry* entry = StillThere(opened);
+    if (entry == nullptr)
+        return false;
+    entry->IsNew = true;
+    entry->SourcePath = opened.Copy;
+    return true;
+}
+
+/// Before the window goes: what other programs have written so far would be lost with the waits for them. False when
+/// the user wants to wait on.
+bool BigEditor::TakeInChangedCopies() {
+    return std::ranges::all_of(openCopies_, [this](const Opened& opened) { return TakeInChanged(opened); });
+}
+
+bool BigEditor::TakeInChanged(const Opened& opened) {
+    const BigEntry* entry = StillThere(opened);
+    if (entry == nullptr || IsSource(opened.Copy) || !opened.Mark.Changed())
+        return true;
+    const QString question = entry->Name + "\r\n\r\n"_L1 + GetText(u"InsertModifiedFile"_s);
+    const Host::Answer answer = Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNoCancel);
+    // An unsaved change, whatever began the Modify: the question about those comes next.
+    if (answer == Host::Answer::Yes && PutInto(opened)) {
+        state_.Modified = true;
+        ShowFolder(SelectedKey());
+    }
+    return answer != Host::Answer::Cancel;
 }

@@ -3,7 +3,8 @@
 
 #include "big/Verification.h"
 
-#include "big/ArchiveData.h"
+#include "big/Layout.h"
+#include "big/mBIG.h"
 #include "core/FolderGateway.h"
 #include "platform/NumberedFiles.h"
 #include "platform/RuntimeError.h"
@@ -20,13 +21,6 @@ namespace Verification {
 namespace {
 
 constexpr int ArchiveNumber = 8;
-constexpr qint64 LengthOffset = 4;
-constexpr qint64 FirstFileOffset = 12;
-constexpr qint64 DirectoryOffset = 16;
-constexpr qint64 RecordOverhead = 9;
-constexpr qint64 MarkLength = 4;
-constexpr qint64 ReservedForMark = 8;
-constexpr int UnalignedVariant = 2;
 
 /// An entry's place as the directory's bytes have it.
 struct Place {
@@ -91,7 +85,7 @@ private:
 
     /// Takes the places of all entries that have bytes, and where the directory ends.
     void ReadDirectory() {
-        directoryEnd_ = DirectoryOffset;
+        directoryEnd_ = Layout::DirectoryOffset;
         int index = 0;
         for (const BigEntry& entry : mBIG::BigEntries) {
             const std::array<char, 8> bytes = OpenArchive::Bytes(directoryEnd_);
@@ -101,28 +95,26 @@ private:
                 Found(Kind::Number, index, u"has a number of 0x80000000 or more, which loses its top digit"_s);
             if (size > 0)
                 places_.push_back({index, offset, size});
-            directoryEnd_ += RecordOverhead + entry.Name.size();
+            directoryEnd_ += Layout::RecordOverhead + entry.Name.size();
             ++index;
         }
     }
 
     void LookAtHeader() {
-        const auto declared = qFromLittleEndian<quint32>(OpenArchive::Bytes(LengthOffset).data());
+        const auto declared = qFromLittleEndian<quint32>(OpenArchive::Bytes(Layout::LengthOffset).data());
         if (declared != archive_.Length)
             Found(Kind::Length, -1,
                   u"the header declares %1 bytes, the file has %2"_s.arg(declared).arg(archive_.Length));
-        const QByteArray mark(OpenArchive::Bytes(directoryEnd_).data(), MarkLength);
-        if (directoryEnd_ + MarkLength > archive_.Length)
+        const QByteArray mark(OpenArchive::Bytes(directoryEnd_).data(), Layout::MarkLength);
+        if (directoryEnd_ + Layout::MarkLength > archive_.Length)
             Found(Kind::Mark, -1, u"the directory is cut off"_s);
-        else if (mark != "L225" && mark != "L231" && mark != "L219" && mark != "L253")
+        else if (!Layout::VersionOfMark(mark))
             Found(Kind::Mark, -1, u"the mark behind the directory names no variant"_s);
-        qint64 expected = directoryEnd_ + ReservedForMark;
-        if (mBIG::BigVersion == 3)
-            expected = ArchiveData::RoundUp(expected) - 1;
-        const auto field = qFromBigEndian<quint32>(OpenArchive::Bytes(FirstFileOffset).data());
+        const qint64 expected = Layout::FirstFileField(variant_, directoryEnd_);
+        const auto field = qFromBigEndian<quint32>(OpenArchive::Bytes(Layout::FirstFileOffset).data());
         if (field != expected)
             Found(Kind::FirstFile, -1, u"the first-file field is %1, the layout has %2"_s.arg(field).arg(expected));
-        firstData_ = Aligned(directoryEnd_ + ReservedForMark);
+        firstData_ = Aligned(directoryEnd_ + Layout::ReservedForMark);
     }
 
     void LookAtOrder() {
@@ -149,7 +141,7 @@ private:
     }
 
     void LookAt(const Place& place, const Place* last) {
-        if (place.Offset < directoryEnd_ + MarkLength)
+        if (place.Offset < directoryEnd_ + Layout::MarkLength)
             Found(Kind::Overlap, place.Index, u"begins at %1, inside the directory"_s.arg(place.Offset));
         if (last != nullptr && place.Offset < last->End())
             Found(Kind::Overlap, place.Index, u"shares bytes with entry %1"_s.arg(last->Index));
@@ -185,11 +177,10 @@ private:
         }
     }
 
-    static qint64 Aligned(qint64 offset) {
-        return mBIG::BigVersion == UnalignedVariant ? offset : ArchiveData::RoundUp(offset);
-    }
+    [[nodiscard]] qint64 Aligned(qint64 offset) const { return Layout::Aligned(variant_, offset); }
 
     OpenArchive archive_;
+    const Layout::Variant& variant_ = Layout::VariantOf(mBIG::BigVersion);
     qint64 directoryEnd_ = 0;
     qint64 firstData_ = 0;
     std::vector<Place> places_;

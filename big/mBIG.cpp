@@ -3,16 +3,19 @@
 
 #include "big/mBIG.h"
 
+#include "big/Layout.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/RuntimeError.h"
 
+#include <QScopeGuard>
 #include <QtEndian>
 
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 
 using NumberedFiles::Access;
 
@@ -22,21 +25,20 @@ constexpr int ArchiveNumber = 1;
 constexpr int ExtractTargetNumber = 3;
 constexpr int ExtractArchiveNumber = 4;
 
-constexpr qint64 CountOffset = 8;
-constexpr qint64 DirectoryOffset = 16;
-
 /// Reads an open file from front to back. Behind its end come zeros.
 class Scanner {
 public:
     Scanner(int number, qint64 offset) : number_(number), windowStart_(offset) {}
 
     quint32 BigEndian() {
-        Need(sizeof(quint32));
-        std::array<char, sizeof(quint32)> bytes{};
-        const qsizetype there = std::min<qsizetype>(window_.size() - at_, sizeof(quint32));
-        std::copy_n(window_.constData() + at_, there, bytes.begin());
-        at_ += there;
-        return qFromBigEndian<quint32>(bytes.data());
+        constexpr qsizetype width = sizeof(quint32);
+        while (window_.size() - at_ < width) {
+            if (!Refill(at_))
+                window_.append(width, '\0');
+        }
+        const auto number = qFromBigEndian<quint32>(window_.constData() + at_);
+        at_ += width;
+        return number;
     }
 
     /// The bytes before the next NUL or the end of the file; the NUL is passed. Valid until the next call.
@@ -55,12 +57,7 @@ public:
     }
 
 private:
-    static constexpr qint64 Step = qint64{256} * 1024;
-
-    void Need(qsizetype count) {
-        if (window_.size() - at_ < count)
-            Refill(at_);
-    }
+    static constexpr qint64 Step = qint64{64} * 1024;
 
     [[nodiscard]] qsizetype FindEnd(qsizetype from) const {
         const char* begin = window_.constData();
@@ -104,43 +101,72 @@ std::optional<qint32> DirectoryNumber(quint32 value) {
     throw RuntimeError(ErrorNumber::TypeMismatch, QStringLiteral("not a number"));
 }
 
-/// Raises until the first entry's offset is known to be good; everything behind it reads as far as it makes sense.
-void ReadDirectory() {
-    const QByteArray magic = NumberedFiles::Read(ArchiveNumber, 0, 4);
-    if (magic != "BIGF" && magic != "BIG4")
-        Refuse();
-    const QByteArray countBytes = NumberedFiles::Read(ArchiveNumber, CountOffset, sizeof(quint32));
-    const auto count = DirectoryNumber(qFromBigEndian<quint32>(countBytes.leftJustified(sizeof(quint32), '\0').data()));
-    if (!count || *count > mBIG::MaximumEntries)
-        Refuse();
-    Scanner scanner(ArchiveNumber, DirectoryOffset);
-    mBIG::BigEntries.assign(static_cast<std::size_t>(*count), BigEntry{});
-    bool first = true;
-    for (BigEntry& entry : mBIG::BigEntries) {
-        const auto offset = DirectoryNumber(scanner.BigEndian());
-        if (first && !offset)
+/// The directory of the open archive, from its first record to the mark behind the last one.
+class Directory {
+public:
+    /// Raises when the archive is refused by its header.
+    Directory() {
+        const QByteArray magic = NumberedFiles::Read(ArchiveNumber, 0, 4);
+        if (magic != "BIGF" && magic != "BIG4")
             Refuse();
-        first = false;
+        const QByteArray bytes = NumberedFiles::Read(ArchiveNumber, Layout::CountOffset, sizeof(quint32));
+        const auto count = DirectoryNumber(qFromBigEndian<quint32>(bytes.leftJustified(sizeof(quint32), '\0').data()));
+        if (!count || *count > mBIG::MaximumEntries)
+            Refuse();
+        Count = *count;
+    }
+
+    /// Takes the next record but for its name, which is returned: valid until the next call. Raises when the first
+    /// entry's offset is not good; everything behind it reads as far as it makes sense.
+    QByteArrayView Next(BigEntry& entry) {
+        const auto offset = DirectoryNumber(scanner_.BigEndian());
+        if (std::exchange(first_, false) && !offset)
+            Refuse();
         entry.Offset = offset.value_or(0);
-        entry.Size = DirectoryNumber(scanner.BigEndian()).value_or(0);
-        entry.Name = AnsiCodec::Decode(scanner.Name());
+        entry.Size = DirectoryNumber(scanner_.BigEndian()).value_or(0);
+        return scanner_.Name();
     }
-    switch (scanner.BigEndian()) {
-    case 0x4C323235: // "L225"
-        mBIG::BigVersion = 0;
-        break;
-    case 0x4C323331: // "L231"
-        mBIG::BigVersion = 1;
-        break;
-    case 0x4C323139: // "L219"
-        mBIG::BigVersion = 2;
-        break;
-    case 0x4C323533: // "L253"
-        mBIG::BigVersion = 3;
-        break;
-    default: // an unknown mark keeps the earlier variant, and the read still succeeds
-        break;
+
+    /// An unknown mark keeps the earlier variant, and the read still succeeds.
+    void TakeMark() {
+        const QByteArray mark = mBIG::LongToBytes(static_cast<qint32>(scanner_.BigEndian()));
+        mBIG::BigVersion = Layout::VersionOfMark(mark).value_or(mBIG::BigVersion);
     }
+
+    int Count = 0;
+
+private:
+    Scanner scanner_{ArchiveNumber, Layout::DirectoryOffset};
+    bool first_ = true;
+};
+
+void FillTable() {
+    Directory directory;
+    mBIG::BigEntries.assign(static_cast<std::size_t>(directory.Count), BigEntry{});
+    for (BigEntry& entry : mBIG::BigEntries)
+        entry.Name = AnsiCodec::Decode(directory.Next(entry));
+    directory.TakeMark();
+}
+
+void FindMark() {
+    Directory directory;
+    BigEntry passed;
+    for (int index = 0; index < directory.Count; ++index)
+        directory.Next(passed);
+    directory.TakeMark();
+}
+
+void ShowRecords(const std::function<void(const BigEntry&)>& show) {
+    Directory directory;
+    BigEntry entry;
+    for (int index = 0; index < directory.Count; ++index) {
+        entry.Name = AnsiCodec::Decode(directory.Next(entry));
+        show(entry);
+    }
+}
+
+void CloseArchive() {
+    Ignoring([] { NumberedFiles::Close(ArchiveNumber); });
 }
 
 /// Fills the target with zeros from `from` to `to`, without writing behind its end more than its length.
@@ -192,9 +218,20 @@ QString BigFileName;
 bool ReadBigFile(const QString& path) {
     if (!Ignoring([&] { NumberedFiles::Open(ArchiveNumber, path, Access::Read); }))
         return false;
-    const bool read = Ignoring(ReadDirectory);
-    Ignoring([] { NumberedFiles::Close(ArchiveNumber); });
+    const bool read = Ignoring(FillTable);
+    CloseArchive();
     return read;
+}
+
+bool ListBigFile(const QString& path, const std::function<void(const BigEntry&)>& show) {
+    if (!Ignoring([&] { NumberedFiles::Open(ArchiveNumber, path, Access::Read); }))
+        return false;
+    const auto closed = qScopeGuard(CloseArchive);
+    // The variant stands behind the records, so that they are passed over once before they are shown.
+    if (!Ignoring(FindMark))
+        return false;
+    ShowRecords(show);
+    return true;
 }
 
 void ExtractEntry(int index, const QString& archivePath, const QString& targetPath) {

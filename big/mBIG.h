@@ -13,6 +13,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -39,6 +40,10 @@ inline constexpr int MaximumEntries = 32768;
 
 /// Fills BigEntries and sets BigVersion; false when the file was refused. Never touches BigFileName.
 bool ReadBigFile(const QString& path);
+
+/// Shows each record of an archive without taking it into the table. BigVersion is set before the first; false, with
+/// nothing shown, when the file was refused. What `show` raises ends the list and is raised.
+bool ListBigFile(const QString& path, const std::function<void(const BigEntry&)>& show);
 
 /// Writes BigEntries as an archive of the variant BigVersion, old entries from BigFileName, new ones from their
 /// SourcePath. False when the table has one record or none, and when the target can't be written: then whatever stood

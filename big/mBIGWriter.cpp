@@ -4,6 +4,7 @@
 #include "big/mBIG.h"
 
 #include "big/ArchiveData.h"
+#include "big/Layout.h"
 #include "core/Host.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
@@ -13,7 +14,6 @@
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -25,24 +25,6 @@ namespace {
 constexpr int TargetNumber = 1;
 constexpr int SourceNumber = 2;
 constexpr int OldArchiveNumber = 3;
-
-constexpr qint64 LengthOffset = 4;
-constexpr qint64 HeaderAndMark = 24;
-constexpr qint64 RecordOverhead = 9;
-
-struct Variant {
-    QByteArrayView Magic;
-    QByteArrayView Mark;
-    bool Aligned;
-};
-
-/// By BigVersion. Four blanks behind the magic hold the place of the length.
-constexpr std::array<Variant, 4> Variants{{
-    {"BIGF    ", "L225", true},
-    {"BIGF    ", "L231", true},
-    {"BIG4    ", "L219", false},
-    {"BIG4    ", "L253\x15\x05", true},
-}};
 
 QString lastFailure;
 
@@ -57,17 +39,15 @@ qint64 LengthOfSource(const BigEntry& entry) {
 /// One save: what is computed from the table, then written to a target that stands apart until it is whole.
 class Save {
 public:
-    Save() : variant_(Variants.at(static_cast<std::size_t>(std::clamp(mBIG::BigVersion, 0, 3)))) {
+    Save() : variant_(Layout::VariantOf(mBIG::BigVersion)) {
         for (const BigEntry& entry : mBIG::BigEntries) {
             if (entry.Deleted)
                 continue;
-            names_.push_back(mBIG::StringToBytes(entry.Name));
-            total_ += RecordOverhead + names_.back().size();
+            ++kept_;
+            total_ += Layout::RecordOverhead + mBIG::StringToBytes(entry.Name).size();
             Host::Current().Yield();
         }
-        total_ += HeaderAndMark;
-        if (mBIG::BigVersion == 3)
-            total_ = ArchiveData::RoundUp(total_) - 1;
+        total_ = Layout::FirstFileField(variant_, total_);
     }
 
     /// Writes the archive into the open target, old entries out of the open old archive.
@@ -80,7 +60,7 @@ public:
         const qint64 length = data.Finish();
         QByteArray reversed = mBIG::LongToBytes(static_cast<qint32>(length));
         std::ranges::reverse(reversed);
-        NumberedFiles::Write(TargetNumber, LengthOffset, reversed);
+        NumberedFiles::Write(TargetNumber, Layout::LengthOffset, reversed);
     }
 
 private:
@@ -88,19 +68,18 @@ private:
         QByteArray header;
         header.reserve(static_cast<qsizetype>(total_));
         header += variant_.Magic;
-        header += mBIG::LongToBytes(static_cast<qint32>(names_.size()));
+        header += "    "; // the place of the length
+        header += mBIG::LongToBytes(kept_);
         header += mBIG::LongToBytes(static_cast<qint32>(total_));
         qint64 cursor = total_;
-        auto name = names_.begin();
         for (const BigEntry& entry : mBIG::BigEntries) {
             if (entry.Deleted)
                 continue;
-            if (variant_.Aligned)
-                cursor = ArchiveData::RoundUp(cursor);
+            cursor = Layout::Aligned(variant_, cursor);
             const qint64 size = LengthOfSource(entry);
             header += mBIG::LongToBytes(static_cast<qint32>(cursor));
             header += mBIG::LongToBytes(static_cast<qint32>(size));
-            header += *name++;
+            header += mBIG::StringToBytes(entry.Name);
             header += '\0';
             // The cursor is a signed 32-bit number: a sum beyond it is not stored.
             if (cursor + size <= std::numeric_limits<qint32>::max())
@@ -110,9 +89,9 @@ private:
         return header += variant_.Mark;
     }
 
-    void WriteEntries(ArchiveData& data) {
+    void WriteEntries(ArchiveData& data) const {
         const QString writing = GetText(u"WritingFiles"_s) + u"\r\n"_s;
-        const auto steps = static_cast<qint64>(names_.size()) - 1;
+        const qint64 steps = kept_ - 1;
         for (std::size_t index = 0; index < mBIG::BigEntries.size(); ++index) {
             const BigEntry& entry = mBIG::BigEntries[index];
             if (entry.Deleted)
@@ -130,9 +109,9 @@ private:
         }
     }
 
-    const Variant& variant_;
-    std::vector<QByteArray> names_;
-    qint64 total_ = 0;
+    const Layout::Variant& variant_;
+    qint32 kept_ = 0;
+    qint64 total_ = Layout::DirectoryOffset;
 };
 
 void CloseNumbers() {

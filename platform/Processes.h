@@ -39,6 +39,9 @@ std::optional<int> ExitCode(Handle process);
 /// Gives the handle back; the process runs on.
 void Close(Handle process);
 
+/// Whether a process of that number runs. The system gives a number to another process in time.
+bool IsRunning(qint64 processId);
+
 /// The command line of this process without the executable's name, as it was typed where the system keeps that,
 /// otherwise its arguments joined by single blanks, those that name an existing file or folder as inside paths.
 QString CommandLine(int argc, char** argv);

@@ -42,39 +42,47 @@ struct Options {
 
 using SharedOptions = std::shared_ptr<Options>;
 
-/// Writes a number and a tab; returns the end.
-char16_t* PutNumber(char16_t* place, qint32 number) {
-    std::array<char, 16> digits{};
-    const auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    place = std::copy(static_cast<const char*>(digits.data()), end, place);
-    *place = u'\t';
-    return place + 1;
+/// Raises for a file that can't be opened, and tells why.
+void CheckReadable(const QString& path) {
+    constexpr int number = 7;
+    NumberedFiles::Open(number, path, NumberedFiles::Access::Read);
+    NumberedFiles::Close(number);
 }
 
-void List(const Options& options) {
+[[noreturn]] void FailAsNoArchive(const QString& path) {
+    Fail(path, u"not a BIG archive, or one without entries"_s);
+}
+
+void ListAsJson(const Options& options) {
     ReadArchive(ArgumentPath(options.Archive));
-    if (options.Json) {
-        QJsonArray entries;
-        for (const BigEntry& entry : mBIG::BigEntries)
-            entries.append(QJsonObject{{u"index"_s, entries.size()},
-                                       {u"offset"_s, entry.Offset},
-                                       {u"size"_s, entry.Size},
-                                       {u"name"_s, entry.Name}});
-        const QJsonObject archive{{u"version"_s, mBIG::BigVersion}, {u"entries"_s, entries}};
-        Print(QString::fromUtf8(QJsonDocument(archive).toJson(QJsonDocument::Indented)).trimmed());
-        return;
-    }
-    Print(u"version %1"_s.arg(mBIG::BigVersion));
+    QJsonArray entries;
+    for (const BigEntry& entry : mBIG::BigEntries)
+        entries.append(QJsonObject{{u"index"_s, entries.size()},
+                                   {u"offset"_s, entry.Offset},
+                                   {u"size"_s, entry.Size},
+                                   {u"name"_s, entry.Name}});
+    const QJsonObject archive{{u"version"_s, mBIG::BigVersion}, {u"entries"_s, entries}};
+    Print(QString::fromUtf8(QJsonDocument(archive).toJson(QJsonDocument::Indented)).trimmed());
+}
+
+/// Prints each record as it is read: a table of them all would take longer to fill than the lines to print.
+void ListAsLines(const Options& options) {
     int index = 0;
-    QString line;
-    std::array<char16_t, 48> numbers{};
-    for (const BigEntry& entry : mBIG::BigEntries) {
-        char16_t* end = numbers.data();
-        for (const qint32 number : {index++, entry.Offset, entry.Size})
-            end = PutNumber(end, number);
-        line.setUtf16(reinterpret_cast<const ushort*>(numbers.data()), end - numbers.data());
-        Print(line += entry.Name);
-    }
+    std::array<char, 48> numbers{};
+    const auto print = [&](const BigEntry& entry) {
+        if (index == 0)
+            Print(u"version %1"_s.arg(mBIG::BigVersion));
+        char* end = numbers.data();
+        for (const qint32 number : {index++, entry.Offset, entry.Size}) {
+            end = std::to_chars(end, numbers.data() + numbers.size(), number).ptr;
+            *end++ = '\t';
+        }
+        Print(QByteArrayView(numbers.data(), end), entry.Name);
+    };
+    const QString archive = ArgumentPath(options.Archive);
+    CheckReadable(archive);
+    if (!mBIG::ListBigFile(archive, print))
+        FailAsNoArchive(archive);
 }
 
 /// The entries that the names and patterns choose, in the archive's order; all of them without any.
@@ -210,7 +218,7 @@ void AddList(CLI::App* big, const SharedOptions& options) {
     CLI::App* list = big->add_subcommand("list", "Print the variant, then an entry a line: index, offset, size, name");
     list->add_option("ARCHIVE", options->Archive)->required();
     list->add_flag("--json", options->Json, "Print JSON");
-    list->callback([options] { List(*options); });
+    list->callback([options] { options->Json ? ListAsJson(*options) : ListAsLines(*options); });
 }
 
 void AddExtract(CLI::App* big, const SharedOptions& options) {
@@ -248,11 +256,9 @@ void AddCreate(CLI::App* big, const SharedOptions& options) {
 } // namespace
 
 void ReadArchive(const QString& path) {
-    constexpr int number = 7;
-    NumberedFiles::Open(number, path, NumberedFiles::Access::Read);
-    NumberedFiles::Close(number);
+    CheckReadable(path);
     if (!mBIG::ReadBigFile(path))
-        Fail(path, u"not a BIG archive, or one without entries"_s);
+        FailAsNoArchive(path);
     mBIG::BigFileName = path;
 }
 

@@ -7,8 +7,9 @@
 #include "platform/Paths.h"
 #include "platform/Processes.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,8 +24,9 @@ QByteArray& Gathered() {
 
 } // namespace
 
-void Print(const QString& line) {
+void Print(QByteArrayView head, const QString& line) {
     QByteArray& bytes = Gathered();
+    bytes += head;
     char16_t seen = 0;
     for (const QChar unit : line)
         seen = static_cast<char16_t>(seen | unit.unicode());
@@ -40,9 +42,13 @@ void Print(const QString& line) {
         Flush();
 }
 
+void Print(const QString& line) {
+    Print({}, line);
+}
+
 void Flush() {
-    const QByteArray bytes = std::exchange(Gathered(), {});
-    Console::Write(bytes);
+    const auto forget = qScopeGuard([] { Gathered().resize(0); }); // its memory is used again
+    Console::Write(Gathered());
 }
 
 void EndWith(int exitCode) {

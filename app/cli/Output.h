@@ -6,6 +6,7 @@
 
 #include "platform/RuntimeError.h"
 
+#include <QByteArrayView>
 #include <QString>
 
 #include <string>
@@ -13,6 +14,9 @@
 /// Prints one line on standard output, in UTF-8; a name that is no text comes out with the bytes that it has. Lines are
 /// gathered: Flush hands over the last ones.
 void Print(const QString& line);
+
+/// The same for a line that begins with plain letters, which are at hand as bytes.
+void Print(QByteArrayView head, const QString& line);
 
 /// Raises when standard output takes no more.
 void Flush();

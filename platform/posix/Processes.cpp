@@ -16,7 +16,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
+#include <limits>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -143,6 +145,13 @@ std::optional<int> Processes::ExitCode(Handle process) {
 void Processes::Close(Handle process) {
     if (process != 0 && !Reap(static_cast<pid_t>(process)))
         Abandoned().push_back(static_cast<pid_t>(process));
+}
+
+bool Processes::IsRunning(qint64 processId) {
+    // Zero and less would name groups of processes.
+    if (processId <= 0 || processId > std::numeric_limits<pid_t>::max())
+        return false;
+    return ::kill(static_cast<pid_t>(processId), 0) == 0 || errno == EPERM;
 }
 
 QString Processes::CommandLine(int argc, char** argv) {

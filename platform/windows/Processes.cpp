@@ -9,6 +9,7 @@
 
 #include <shellapi.h>
 
+#include <limits>
 #include <string>
 
 using namespace Qt::StringLiterals;
@@ -74,6 +75,17 @@ std::optional<int> Processes::ExitCode(Handle process) {
 void Processes::Close(Handle process) {
     if (process != 0)
         ::CloseHandle(SystemHandle(process));
+}
+
+bool Processes::IsRunning(qint64 processId) {
+    if (processId <= 0 || processId > std::numeric_limits<DWORD>::max())
+        return false;
+    const HANDLE process = ::OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(processId));
+    if (process == nullptr)
+        return ::GetLastError() == ERROR_ACCESS_DENIED;
+    const bool runs = ::WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
+    ::CloseHandle(process);
+    return runs;
 }
 
 QString Processes::CommandLine(int /*argc*/, char** /*argv*/) {

@@ -66,13 +66,14 @@ inline QStringList Texts(const FileList& list) {
 class CountingView : public EditorView {
 public:
     int Shown = 0;
+    int Trees = 0; ///< made anew or changed
     int Versions = 0;
     int Busy = 0;
     std::function<void()> OnVersion;
 
     void ShowWindow() override { ++Shown; }
 
-    void TreeChanged() override {}
+    void TreeChanged() override { ++Trees; }
 
     void ListChanged() override {}
 

@@ -123,20 +123,6 @@ TEST_F(EditorModifyMeanwhile, WhatWasWrittenBeforeASaveIsNotLost) {
     EXPECT_TRUE(State().Modified);
 }
 
-TEST_F(EditorModifyMeanwhile, ClosingTheWindowMeanwhileEndsTheCommand) {
-    OpenStrings();
-    Program = [&](const QString& path) {
-        Write(path, "written");
-        EXPECT_TRUE(Editor.MayClose());
-    };
-    Editor.ActivateRow(0);
-    EXPECT_TRUE(Speaker.Messages.empty());
-    EXPECT_TRUE(Files::FileExists(Scratch(u"One.csf"_s)));
-    Program = {};
-    Editor.ActivateRow(1);
-    EXPECT_EQ(Given.size(), 2) << "A window that stayed all the same works on.";
-}
-
 TEST_F(EditorModifyMeanwhile, TheDocumentMayGoMeanwhile) {
     OpenStrings();
     CountingView view;

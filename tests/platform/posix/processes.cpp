@@ -11,6 +11,8 @@
 #include <QThread>
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -143,6 +145,24 @@ TEST_F(ProcessesTest, ARunningProgramHasNoExitCodeYetAndASignalGivesOne) {
     EXPECT_FALSE(Processes::ExitCode(opened.Process).has_value());
     scratch_.Write(u"record"_s, "x");
     EXPECT_EQ(Waited(opened.Process), 128 + 9);
+}
+
+TEST_F(ProcessesTest, AProcessRunsUntilItHasEnded) {
+    EXPECT_TRUE(Processes::IsRunning(::getpid()));
+    EXPECT_TRUE(Processes::IsRunning(1)) << "Another user's may run too.";
+    const QString file = scratch_.Write(u"a.txt"_s, "text");
+    Associate("text/plain", Script(u"bin/app"_s, "while [ ! -e \"$RECORD\" ]; do sleep 0.01; done").toUtf8());
+    const Processes::Opened opened = Processes::OpenWithAssociation(file, 0);
+    ASSERT_NE(opened.Process, 0U);
+    EXPECT_TRUE(Processes::IsRunning(static_cast<qint64>(opened.Process)));
+    scratch_.Write(u"record"_s, "x");
+    EXPECT_EQ(Waited(opened.Process), 0);
+    EXPECT_FALSE(Processes::IsRunning(static_cast<qint64>(opened.Process)));
+}
+
+TEST_F(ProcessesTest, NumbersThatNoProcessHasRunNowhere) {
+    for (const qint64 number : {qint64{0}, qint64{-1}, qint64{2147483647}, (qint64{1} << 32) + ::getpid()})
+        EXPECT_FALSE(Processes::IsRunning(number)) << number;
 }
 
 TEST_F(ProcessesTest, ATypeWithoutItsOwnApplicationOpensWithThatOfAMoreGeneralType) {

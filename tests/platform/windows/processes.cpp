@@ -57,6 +57,24 @@ TEST(SystemProcesses, AnExitCodeComesOnceTheProgramHasEnded) {
     Processes::Close(opened.Process);
 }
 
+TEST(SystemProcesses, AProcessRunsUntilItHasEnded) {
+    EXPECT_TRUE(Processes::IsRunning(::GetCurrentProcessId()));
+    const Processes::Opened opened = Processes::OpenWithAssociation(u"C:\\windows\\system32\\whoami.exe"_s, 0);
+    ASSERT_NE(opened.Process, 0U);
+    const qint64 number = ::GetProcessId(reinterpret_cast<HANDLE>(opened.Process)); // NOLINT(performance-no-int-to-ptr)
+    QElapsedTimer waited;
+    waited.start();
+    while (!Processes::ExitCode(opened.Process) && waited.elapsed() < 20000)
+        QThread::msleep(20);
+    EXPECT_FALSE(Processes::IsRunning(number));
+    Processes::Close(opened.Process);
+}
+
+TEST(SystemProcesses, NumbersThatNoProcessHasRunNowhere) {
+    for (const qint64 number : {qint64{0}, qint64{-1}, qint64{2147483647}, qint64{1} << 40})
+        EXPECT_FALSE(Processes::IsRunning(number)) << number;
+}
+
 TEST(SystemProcesses, TheCommandLineIsWhatFollowsTheProgram) {
     const QString whole = QString::fromWCharArray(::GetCommandLineW());
     EXPECT_TRUE(whole.endsWith(Processes::CommandLine(0, nullptr)));
