@@ -7,30 +7,13 @@
 #include "core/Settings.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
-
-namespace {
-
-/// The busy pointer for the length of a block.
-class Busy {
-public:
-    explicit Busy(EditorView& view) : view_(view) { view_.ShowBusy(true); }
-
-    ~Busy() { view_.ShowBusy(false); }
-
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
-
-private:
-    EditorView& view_;
-};
-
-} // namespace
 
 BigEditor::BigEditor(EditorView& view) : view_(view) {
     state_.StatusText = GetText(u"Ready"_s);
@@ -80,7 +63,7 @@ void BigEditor::ArchiveOpened() {
 }
 
 void BigEditor::CreateDirs() {
-    tree_.CreateDirs(LastPart(mBIG::BigFileName), mBIG::BigEntries);
+    tree_.CreateDirs(Paths::LastPart(mBIG::BigFileName), mBIG::BigEntries);
     state_.SelectedNode = FolderTree::None;
     view_.TreeChanged();
     ShowFolder({});

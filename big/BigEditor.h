@@ -9,6 +9,7 @@
 #include "big/FileList.h"
 #include "big/FolderTree.h"
 #include "big/Preview.h"
+#include "core/Document.h"
 #include "platform/ChangeMark.h"
 
 #include <QString>
@@ -18,25 +19,15 @@
 #include <memory>
 #include <vector>
 
-/// What the document asks of its window.
-class EditorView {
+/// What the archive asks of its window besides.
+class EditorView : public DocumentView {
 public:
-    EditorView() = default;
-    EditorView(const EditorView&) = delete;
-    EditorView& operator=(const EditorView&) = delete;
-    virtual ~EditorView() = default;
-
-    virtual void ShowWindow() = 0;
     /// The tree was made anew; every node is shown expanded.
     virtual void TreeChanged() = 0;
     /// The list was made anew.
     virtual void ListChanged() = 0;
-    /// Something in EditorState or the root's text is different.
-    virtual void StateChanged() = 0;
     /// Shows `frmVersion` and returns when it is closed.
     virtual void ShowVersion() = 0;
-    /// The busy pointer, on and off again; pairs nest.
-    virtual void ShowBusy(bool busy) = 0;
     /// The places of the list's selected rows, in the order shown.
     [[nodiscard]] virtual std::vector<int> SelectedRows() const = 0;
     /// Shows a node and starts the edit of its label.
@@ -161,9 +152,6 @@ public:
     static void SetView(ViewMode mode);
 
 private:
-    /// How a save ended.
-    enum class Saved { Yes, NothingToSave, Cancelled, Failed };
-
     /// What dragging the selected rows out brings.
     struct DragPlan {
         std::vector<qint32> ExtractList; ///< indices in the table
@@ -195,8 +183,8 @@ private:
     void ClearPreview();
     bool ShowDetails(int index, const QString& rowText);
     bool WriteLocked(const QString& path);
-    Saved SaveTo(const QString& path);
-    Saved SaveUnderName();
+    Document::Saved SaveTo(const QString& path);
+    Document::Saved SaveUnderName();
     void ShowWritten(const QString& path);
     void AddFile(const QString& path);
     [[nodiscard]] std::vector<qint32> ChosenForExtraction() const;

@@ -14,17 +14,17 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
+using Document::Saved;
 using mTraduction::GetText;
 
 namespace {
 
-/// Begins beside the open archive.
 Host::FileDialog ArchiveDialog() {
     return {.Title = u"Big Editor"_s,
             .Filter = u"Fichiers BIG (*.big)|*.big|Tous les fichiers (*.*)|*.*"_s,
             .DefaultExtension = u"big"_s,
             .DefaultName = u"*.big"_s,
-            .Folder = mBIG::BigFileName.first(mBIG::BigFileName.lastIndexOf(u'\\') + 1)};
+            .Folder = Document::FolderForDialogs(mBIG::BigFileName)};
 }
 
 Host::FileDialog AnyFileDialog() {
@@ -59,19 +59,8 @@ bool BigEditor::Locked() const {
 }
 
 bool BigEditor::GoOnWithoutChanges() {
-    if (!state_.Modified)
-        return true;
-    const QString question = GetText(u"QuitSave"_s).replace("%1"_L1, Paths::ToNative(mBIG::BigFileName));
-    switch (Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNoCancel)) {
-    case Host::Answer::Yes: {
-        const Saved saved = SaveUnderName();
-        return saved == Saved::Yes || saved == Saved::NothingToSave;
-    }
-    case Host::Answer::No:
-        return true;
-    default:
-        return false;
-    }
+    return !state_.Modified ||
+           Document::GoOnWithoutChanges(Paths::ToNative(mBIG::BigFileName), [this] { return SaveUnderName(); });
 }
 
 bool BigEditor::MayClose() {
@@ -114,13 +103,13 @@ void BigEditor::Save() {
         SaveUnderName();
 }
 
-BigEditor::Saved BigEditor::SaveUnderName() {
+Saved BigEditor::SaveUnderName() {
     if (mBIG::BigFileName != GetText(u"New"_s) + "BIG.big"_L1)
         return SaveTo(mBIG::BigFileName);
     const auto path = Host::Current().SaveFileName(ArchiveDialog());
     if (!path)
         return Saved::Cancelled;
-    Ignoring([&] { tree_.SetRootText(LastPart(*path)); });
+    Ignoring([&] { tree_.SetRootText(Paths::LastPart(*path)); });
     view_.StateChanged();
     return SaveTo(*path);
 }
@@ -141,7 +130,7 @@ bool BigEditor::WriteLocked(const QString& path) {
     return mBIG::WriteBigFile(path, kept);
 }
 
-BigEditor::Saved BigEditor::SaveTo(const QString& path) {
+Saved BigEditor::SaveTo(const QString& path) {
     if (WriteLocked(path)) {
         ShowWritten(path);
         return Saved::Yes;
@@ -169,7 +158,7 @@ void BigEditor::ShowWritten(const QString& path) {
     state_.ModifyEnabled = false;
     ClearPreview();
     mBIG::BigFileName = path;
-    Ignoring([&] { tree_.SetRootText(LastPart(path)); });
+    Ignoring([&] { tree_.SetRootText(Paths::LastPart(path)); });
     ShowFolder(folderKey);
 }
 
@@ -181,7 +170,7 @@ void BigEditor::Add() {
 }
 
 void BigEditor::AddFile(const QString& path) {
-    const QString name = SelectedKey() + LastPart(path);
+    const QString name = SelectedKey() + Paths::LastPart(path);
     BigEntry* entry = RecordFor(name);
     if (entry == nullptr)
         return;

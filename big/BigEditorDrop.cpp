@@ -8,6 +8,7 @@
 #include "core/Host.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <QScopedValueRollback>
@@ -64,7 +65,7 @@ void DropFolder(mBIG::EntryIndex& names, const QString& prefix, const QString& f
     if (folder.isEmpty())
         return;
     for (const Files::FoundFile& file : Files::ListFolderFiles(folder, true))
-        DropFile(names, prefix + LastPart(folder) + file.Path.sliced(folder.size()), file, Found::StaysDeleted);
+        DropFile(names, prefix + Paths::LastPart(folder) + file.Path.sliced(folder.size()), file, Found::StaysDeleted);
 }
 
 } // namespace
@@ -75,7 +76,7 @@ QStringList BigEditor::AdoptDragged(QStringList paths) {
     for (QString& path : paths) {
         if (!path.startsWith(ScratchFolders::All() + u"Drag"_s, Qt::CaseInsensitive))
             continue;
-        const QString kept = folder + LastPart(path);
+        const QString kept = folder + Paths::LastPart(path);
         const bool moved = Ignoring([&] {
             Files::MakeFolders(folder);
             Files::Rename(path, kept);
@@ -117,7 +118,7 @@ void BigEditor::DropPaths(const QStringList& paths) {
         } else if (Files::FileExists(*path)) {
             Files::FoundFile file{*path, 0};
             Ignoring([&] { file.Size = Files::FileLength(*path); });
-            DropFile(names, prefix + LastPart(*path), file, Found::ComesBack);
+            DropFile(names, prefix + Paths::LastPart(*path), file, Found::ComesBack);
         }
     }
 }

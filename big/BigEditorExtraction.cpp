@@ -8,6 +8,7 @@
 #include "core/Host.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <QScopedValueRollback>
@@ -98,7 +99,7 @@ BigEditor::DragPlan BigEditor::PlanDrag() const {
         const FileRow& row = list_.Row(place);
         if (!row.IsFolder && row.Index <= mBIG::HighestIndex()) {
             Extraction::Take(plan.ExtractList, row.Index);
-            plan.Offer(LastPart(row.Name));
+            plan.Offer(Paths::LastPart(row.Name));
         } else if (row.IsFolder && tree_.Has(row.Index)) {
             const QString& key = tree_.Node(row.Index).Key;
             Extraction::TakeFolder(plan.ExtractList, key, Qt::CaseInsensitive);

@@ -3,30 +3,15 @@
 
 #include "big/BigEditor.h"
 #include "core/Host.h"
+#include "core/Sizes.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
-
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
 namespace {
-
-/// "#,##0" with the user's mark between the thousands, whatever groups the locale itself would make.
-QString WithThousands(qint64 number) {
-    constexpr int group = 3;
-    QString text = QString::number(number);
-    for (qsizetype at = text.size() - group; at > 0; at -= group)
-        text.insert(at, QLocale().groupSeparator());
-    return text;
-}
-
-/// Whole kilobytes; less than one shows as 0.
-QString KiloBytes(qint64 bytes) {
-    return WithThousands(bytes / 1024) + u' ' + GetText(u"KiloBytes"_s);
-}
 
 qint64 CurrentSize(const BigEntry& entry) {
     qint64 size = 0;
@@ -75,7 +60,7 @@ bool BigEditor::ShowDetails(int index, const QString& rowText) {
     state_.DetailsVisible = true;
     state_.StatusText = entry.Name;
     state_.DetailsName = rowText;
-    state_.DetailsSize = KiloBytes(CurrentSize(entry));
+    state_.DetailsSize = Sizes::KiloBytes(CurrentSize(entry));
     // Meant so: a sound that is in place already leaves the commands with the pane that they act on.
     if (preview_.ShowFile(index, rowText))
         state_.FocusPane = FocusedPane::List;
@@ -87,11 +72,11 @@ QString BigEditor::SelectionText() const {
         return {};
     const std::vector<int> places = view_.SelectedRows();
     if (places.empty())
-        return GetText(u"RowCount"_s).replace("%1"_L1, QLocale().toString(list_.Count()));
+        return GetText(u"RowCount"_s).replace("%1"_L1, Sizes::Grouped(list_.Count()));
     qint64 bytes = 0;
     for (const int place : places)
         bytes += list_.Row(place).Size;
     return GetText(u"RowsSelected"_s)
-        .replace("%1"_L1, QLocale().toString(places.size()))
-        .replace("%2"_L1, KiloBytes(bytes));
+        .replace("%1"_L1, Sizes::Grouped(static_cast<qint64>(places.size())))
+        .replace("%2"_L1, Sizes::KiloBytes(bytes));
 }

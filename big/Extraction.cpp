@@ -17,11 +17,6 @@ using mTraduction::GetText;
 
 namespace {
 
-/// What stands behind the last backslash.
-QString Behind(const QString& path) {
-    return path.sliced(path.lastIndexOf(u'\\') + 1);
-}
-
 /// One extraction: where names lead, and what becomes of each entry.
 class Run {
 public:
@@ -42,7 +37,7 @@ public:
 private:
     bool TryToExtract(qint32 index) {
         const BigEntry& entry = mBIG::BigEntries.at(static_cast<std::size_t>(index));
-        const QString name = target_.RecreateFolders ? entry.Name : Behind(entry.Name);
+        const QString name = target_.RecreateFolders ? entry.Name : Paths::LastPart(entry.Name);
         if (gateway_ == nullptr)
             return true;
         const QString path = gateway_->TargetFor(prefix_ + name);
@@ -81,7 +76,7 @@ private:
 /// False when the user ends the run.
 bool ExtractAll(const std::vector<qint32>& extractList, const ExtractionTarget& target) {
     Host& host = Host::Current();
-    const QString text = GetText(u"ProgressLbl"_s).replace("%1"_L1, Behind(mBIG::BigFileName));
+    const QString text = GetText(u"ProgressLbl"_s).replace("%1"_L1, Paths::LastPart(mBIG::BigFileName));
     const QString folder = Paths::ToNative(target.ExtractFolder);
     Run run(target);
     std::size_t done = 0;

@@ -9,10 +9,6 @@
 
 using namespace Qt::StringLiterals;
 
-QString LastPart(const QString& path) {
-    return path.sliced(path.lastIndexOf(u'\\') + 1);
-}
-
 void FolderTree::Reset(const QString& rootText) {
     nodes_.clear();
     knownFolders_.clear();

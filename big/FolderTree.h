@@ -26,9 +26,6 @@ struct FolderNode {
     [[nodiscard]] FolderImage SelectedImage() const { return Parent == 0 ? FolderImage::Archive : FolderImage::Open; }
 };
 
-/// The last backslash-separated part of a path.
-QString LastPart(const QString& path);
-
 /// Nodes are known by their index, from 1; node 1 is the root.
 class FolderTree {
 public:

@@ -8,6 +8,7 @@
 #include "big/PictureProcess.h"
 #include "platform/Limits.h"
 #include "platform/NumberedFiles.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <QCoreApplication>
@@ -42,7 +43,7 @@ QByteArray BytesOf(const QString& path) {
 }
 
 bool Decode(const QString& source, const QString& target) {
-    const QByteArray bitmap = DecodePicture(BytesOf(source), LastPart(source));
+    const QByteArray bitmap = DecodePicture(BytesOf(source), Paths::LastPart(source));
     if (bitmap.isEmpty())
         return false;
     NumberedFiles::Open(FileNumber, target, Access::Replace);

@@ -11,6 +11,7 @@
 #include "core/Navigator.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
+#include "platform/Paths.h"
 #include "platform/Processes.h"
 #include "ui/Localisation.h"
 #include "ui/Mnemonics.h"
@@ -249,7 +250,7 @@ void frmBigEditor::StateChanged() {
     status_->setText(state.StatusText);
     TellSelection();
     const QString tool = u"BIG Editor"_s;
-    setWindowTitle(state.ArchiveOpen ? LastPart(mBIG::BigFileName) + u"[*] - "_s + tool : tool);
+    setWindowTitle(state.ArchiveOpen ? Paths::LastPart(mBIG::BigFileName) + u"[*] - "_s + tool : tool);
     setWindowModified(state.Modified);
 }
 

@@ -201,7 +201,7 @@ namespace mBIG {
 bool WriteBigFile(const QString& path, const QStringList& kept) {
     Host& host = Host::Current();
     host.ShowProgress();
-    const QString fileName = path.sliced(path.lastIndexOf(u'\\') + 1);
+    const QString fileName = Paths::LastPart(path);
     host.SetProgressText(GetText(u"CreatingFile"_s) + u" '"_s + fileName + u"'\r\n"_s + GetText(u"WritingHeader"_s));
     lastFailure.clear();
     // A table of one record counts as empty. The progress window stays on the screen. This is meant.

@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST_F(Document, StartsEmptyAndReady) {
+TEST_F(EditorDocument, StartsEmptyAndReady) {
     EXPECT_FALSE(State().ArchiveOpen);
     EXPECT_FALSE(State().DetailsVisible);
     EXPECT_FALSE(State().Modified);
@@ -14,7 +14,7 @@ TEST_F(Document, StartsEmptyAndReady) {
     EXPECT_EQ(Editor.List().Count(), 0);
 }
 
-TEST_F(Document, AnArchiveOpensAtItsRootWithEverythingEnabled) {
+TEST_F(EditorDocument, AnArchiveOpensAtItsRootWithEverythingEnabled) {
     const QString path = OpenSample();
     EXPECT_EQ(View.Shown, 1);
     EXPECT_EQ(mBIG::BigFileName, path);
@@ -30,14 +30,14 @@ TEST_F(Document, AnArchiveOpensAtItsRootWithEverythingEnabled) {
     EXPECT_EQ(Speaker.Beeps, 0);
 }
 
-TEST_F(Document, AFileThatIsNotThereIsIgnored) {
+TEST_F(EditorDocument, AFileThatIsNotThereIsIgnored) {
     Editor.OpenBigFile(Place.Root() + u"\\none.big"_s);
     EXPECT_EQ(View.Shown, 0);
     EXPECT_EQ(Speaker.Beeps, 0);
     EXPECT_FALSE(State().ArchiveOpen);
 }
 
-TEST_F(Document, ARefusedFileShowsTheWindowAndBeeps) {
+TEST_F(EditorDocument, ARefusedFileShowsTheWindowAndBeeps) {
     Editor.OpenBigFile(Place.WriteFile(u"bad.big"_s, "no archive at all"));
     EXPECT_EQ(View.Shown, 1);
     EXPECT_EQ(Speaker.Beeps, 1);
@@ -46,7 +46,7 @@ TEST_F(Document, ARefusedFileShowsTheWindowAndBeeps) {
     EXPECT_EQ(mBIG::BigFileName, QString());
 }
 
-TEST_F(Document, OnlyAPathThatEndsInBigIsLoaded) {
+TEST_F(EditorDocument, OnlyAPathThatEndsInBigIsLoaded) {
     const QByteArray archive = ArchiveOf({{u"a"_s, "1"}, {u"b"_s, "2"}});
     EXPECT_FALSE(Editor.LoadBig(Place.WriteFile(u"a.dat"_s, archive)));
     EXPECT_TRUE(mBIG::BigEntries.empty()) << "It is not even read.";
@@ -56,7 +56,7 @@ TEST_F(Document, OnlyAPathThatEndsInBigIsLoaded) {
     EXPECT_FALSE(Editor.LoadBig({}));
 }
 
-TEST_F(Document, ARefusedFileLeavesTheOldArchiveInTheWindow) {
+TEST_F(EditorDocument, ARefusedFileLeavesTheOldArchiveInTheWindow) {
     const QString first = OpenSample();
     const QStringList shown = Shown();
     EXPECT_FALSE(Editor.LoadBig(Place.WriteFile(u"bad.big"_s, "BIGF")));
@@ -65,7 +65,7 @@ TEST_F(Document, ARefusedFileLeavesTheOldArchiveInTheWindow) {
     EXPECT_EQ(Editor.Tree().Node(1).Text, u"a.big"_s);
 }
 
-TEST_F(Document, AnArchiveOfOneEntryShowsItsFoldersAndAnEmptyList) {
+TEST_F(EditorDocument, AnArchiveOfOneEntryShowsItsFoldersAndAnEmptyList) {
     OpenArchive({{u"Data\\only.txt"_s, "x"}});
     EXPECT_TRUE(State().ArchiveOpen);
     EXPECT_EQ(Editor.Tree().Count(), 2);
@@ -74,7 +74,7 @@ TEST_F(Document, AnArchiveOfOneEntryShowsItsFoldersAndAnEmptyList) {
     EXPECT_EQ(Shown(), QStringList());
 }
 
-TEST_F(Document, ClickingANodeShowsItsFolderAndItsKey) {
+TEST_F(EditorDocument, ClickingANodeShowsItsFolderAndItsKey) {
     OpenSample();
     Editor.ClickRow(1);
     Editor.ClickNode(NodeOf(u"data\\"_s));
@@ -86,14 +86,14 @@ TEST_F(Document, ClickingANodeShowsItsFolderAndItsKey) {
     EXPECT_FALSE(State().ModifyEnabled);
 }
 
-TEST_F(Document, ClickingANodeThatIsNotThereChangesNothing) {
+TEST_F(EditorDocument, ClickingANodeThatIsNotThereChangesNothing) {
     OpenSample();
     Editor.ClickNode(99);
     EXPECT_EQ(State().SelectedNode, 1);
     EXPECT_EQ(State().StatusText, u"Ready"_s);
 }
 
-TEST_F(Document, AFileRowBringsItsDetailsAndEnablesModify) {
+TEST_F(EditorDocument, AFileRowBringsItsDetailsAndEnablesModify) {
     OpenArchive({{u"Data\\big.tga"_s, QByteArray(3000, 'x')}, {u"Data\\small.txt"_s, QByteArray(500, 'x')}});
     Editor.ClickNode(2);
     Editor.ClickRow(0);
@@ -107,7 +107,7 @@ TEST_F(Document, AFileRowBringsItsDetailsAndEnablesModify) {
     EXPECT_EQ(State().DetailsSize, u"0 KiloBytes"_s);
 }
 
-TEST_F(Document, AFolderRowHidesTheDetails) {
+TEST_F(EditorDocument, AFolderRowHidesTheDetails) {
     OpenSample();
     Editor.ClickRow(1);
     Editor.ClickRow(0);
@@ -116,7 +116,7 @@ TEST_F(Document, AFolderRowHidesTheDetails) {
     EXPECT_EQ(State().FocusPane, FocusedPane::List);
 }
 
-TEST_F(Document, RowsBeyondTheListAreIgnored) {
+TEST_F(EditorDocument, RowsBeyondTheListAreIgnored) {
     OpenSample();
     Editor.ClickRow(-1);
     Editor.ClickRow(99);
@@ -124,7 +124,7 @@ TEST_F(Document, RowsBeyondTheListAreIgnored) {
     EXPECT_EQ(State().FocusPane, FocusedPane::Tree);
 }
 
-TEST_F(Document, ARowOfARecordThatIsGoneCountsAsAFileThatIsGone) {
+TEST_F(EditorDocument, ARowOfARecordThatIsGoneCountsAsAFileThatIsGone) {
     Place.UseLanguage("[LNG]\r\nFileNotFound=Gone\r\n");
     Place.Start();
     OpenSample();
@@ -137,7 +137,7 @@ TEST_F(Document, ARowOfARecordThatIsGoneCountsAsAFileThatIsGone) {
     EXPECT_EQ(State().FocusPane, FocusedPane::Tree);
 }
 
-TEST_F(Document, ActivatingAFolderRowOpensIt) {
+TEST_F(EditorDocument, ActivatingAFolderRowOpensIt) {
     OpenSample();
     Editor.ActivateRow(0);
     EXPECT_EQ(State().SelectedNode, 2);
@@ -146,7 +146,7 @@ TEST_F(Document, ActivatingAFolderRowOpensIt) {
     EXPECT_EQ(Shown(), QStringList({u"ini"_s, u"map.tga"_s}));
 }
 
-TEST_F(Document, ADeletedEntrysFolderStaysUntilTheTreeIsMadeAnew) {
+TEST_F(EditorDocument, ADeletedEntrysFolderStaysUntilTheTreeIsMadeAnew) {
     OpenSample();
     mBIG::BigEntries[1].Deleted = true;
     Editor.ShowFolder(u"data\\"_s);
@@ -158,7 +158,7 @@ TEST_F(Document, ADeletedEntrysFolderStaysUntilTheTreeIsMadeAnew) {
     EXPECT_EQ(State().SelectedNode, 1);
 }
 
-TEST_F(Document, AFolderThatHasGoneLeavesTheSelectionAndShowsItsFolders) {
+TEST_F(EditorDocument, AFolderThatHasGoneLeavesTheSelectionAndShowsItsFolders) {
     OpenSample();
     Editor.ClickNode(2);
     Editor.ShowFolder(u"gone\\"_s);
@@ -166,7 +166,7 @@ TEST_F(Document, AFolderThatHasGoneLeavesTheSelectionAndShowsItsFolders) {
     EXPECT_EQ(Shown(), QStringList({u"ini"_s}));
 }
 
-TEST_F(Document, ShowingAFolderKeepsTheStatusText) {
+TEST_F(EditorDocument, ShowingAFolderKeepsTheStatusText) {
     OpenSample();
     Editor.ClickRow(1);
     Editor.ShowFolder(u"data\\"_s);
@@ -174,20 +174,20 @@ TEST_F(Document, ShowingAFolderKeepsTheStatusText) {
     EXPECT_EQ(View.Busy, 0);
 }
 
-TEST_F(Document, ShowingAFolderWithoutAnyArchiveIsHarmless) {
+TEST_F(EditorDocument, ShowingAFolderWithoutAnyArchiveIsHarmless) {
     Editor.ShowFolder({});
     Editor.ShowFolder(u"x\\"_s);
     EXPECT_EQ(Editor.List().Count(), 0);
 }
 
-TEST_F(Document, TheListWordForFoldersIsLocalised) {
+TEST_F(EditorDocument, TheListWordForFoldersIsLocalised) {
     Place.UseLanguage("[LNG]\r\nFolder=Dossier\r\n");
     Place.Start();
     OpenSample();
     EXPECT_EQ(Editor.List().Type(0), u"Dossier"_s);
 }
 
-TEST_F(Document, SystemIconsAreOnForTheSettingOneOnly) {
+TEST_F(EditorDocument, SystemIconsAreOnForTheSettingOneOnly) {
     OpenSample();
     EXPECT_FALSE(State().FileIcons);
     WriteSetting(u"ViewFileIcons"_s, u"1"_s);
@@ -198,11 +198,11 @@ TEST_F(Document, SystemIconsAreOnForTheSettingOneOnly) {
     EXPECT_FALSE(State().FileIcons);
 }
 
-TEST_F(Document, TheViewIsSmallIconsWhenNothingIsStored) {
+TEST_F(EditorDocument, TheViewIsSmallIconsWhenNothingIsStored) {
     EXPECT_EQ(BigEditor::View(), ViewMode::SmallIcons);
 }
 
-TEST_F(Document, TheStoredViewIsTaken) {
+TEST_F(EditorDocument, TheStoredViewIsTaken) {
     WriteSetting(u"BigView"_s, u"0"_s);
     EXPECT_EQ(BigEditor::View(), ViewMode::LargeIcons);
     WriteSetting(u"BigView"_s, u"1"_s);
@@ -215,7 +215,7 @@ TEST_F(Document, TheStoredViewIsTaken) {
     }
 }
 
-TEST_F(Document, ChoosingAViewStoresIt) {
+TEST_F(EditorDocument, ChoosingAViewStoresIt) {
     BigEditor::SetView(ViewMode::Details);
     EXPECT_EQ(ReadSetting(u"BigView"_s), u"1"_s);
     BigEditor::SetView(ViewMode::LargeIcons);

@@ -11,9 +11,9 @@
 
 #include <gtest/gtest.h>
 
-class Document : public testing::Test {
+class EditorDocument : public testing::Test {
 protected:
-    Document() {
+    EditorDocument() {
         mBIG::BigEntries.clear();
         mBIG::BigFileName.clear();
         mBIG::BigVersion = 0;

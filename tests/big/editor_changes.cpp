@@ -8,7 +8,7 @@ using Answer = Host::Answer;
 
 namespace {
 
-class EditorChanges : public Document {
+class EditorChanges : public EditorDocument {
 protected:
     /// The names of the records that are marked as deleted.
     [[nodiscard]] static QStringList DeletedNames() {

@@ -11,7 +11,7 @@ using Answer = Host::Answer;
 
 namespace {
 
-class EditorCommands : public Document {
+class EditorCommands : public EditorDocument {
 protected:
     /// Adds a file of the world under the selected folder.
     QString AddFile(const QString& path, const QByteArray& bytes) {

@@ -12,7 +12,7 @@ using Answer = Host::Answer;
 
 namespace {
 
-class EditorDrop : public Document {
+class EditorDrop : public EditorDocument {
 protected:
     void MakeNew() {
         Speaker.FileNames = {Place.Root() + u"\\fresh.big"_s};

@@ -4,6 +4,7 @@
 /// Dropping many files gives the table that a search from the first record on gives for each of them.
 #include "big/EntryIndex.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "tests/big/document_fixture.h"
 #include "tests/support/Printing.h"
 
@@ -54,11 +55,11 @@ public:
     void Drop(const QStringList& paths, QString prefix) {
         for (const QString& path : paths) {
             if (!Files::FolderExists(path)) {
-                DropFile(prefix + LastPart(path), path, Files::FileLength(path), true);
+                DropFile(prefix + Paths::LastPart(path), path, Files::FileLength(path), true);
                 continue;
             }
             for (const Files::FoundFile& file : Files::ListFolderFiles(path, true))
-                DropFile(prefix + LastPart(path) + file.Path.mid(path.size()), file.Path, file.Size, false);
+                DropFile(prefix + Paths::LastPart(path) + file.Path.mid(path.size()), file.Path, file.Size, false);
             prefix.clear();
         }
     }
@@ -67,7 +68,7 @@ private:
     std::deque<Answer> answers_;
 };
 
-class EditorDropMany : public Document {
+class EditorDropMany : public EditorDocument {
 protected:
     int Below(int bound) { return random_.bounded(bound); }
 

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Extracting : public Document {
+class Extracting : public EditorDocument {
 protected:
     Extracting() {
         Place.Start();

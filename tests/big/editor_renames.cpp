@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class EditorRenames : public Document {
+class EditorRenames : public EditorDocument {
 protected:
     [[nodiscard]] static QStringList Names() {
         QStringList names;

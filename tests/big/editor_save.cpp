@@ -9,7 +9,7 @@ using Answer = Host::Answer;
 
 namespace {
 
-class EditorSave : public Document {
+class EditorSave : public EditorDocument {
 protected:
     void AddFile(const QString& path, const QByteArray& bytes) {
         Speaker.FileNames = {Place.WriteFile(path, bytes)};

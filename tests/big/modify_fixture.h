@@ -13,7 +13,7 @@
 
 #include <functional>
 
-class EditorModify : public Document {
+class EditorModify : public EditorDocument {
 protected:
     EditorModify() {
         Programs.OnCall = [this](const QString& call) {

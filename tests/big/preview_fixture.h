@@ -83,7 +83,7 @@ public:
     [[nodiscard]] SoundStatus Status() const override { return {}; }
 };
 
-class PreviewTest : public Document {
+class PreviewTest : public EditorDocument {
 protected:
     PreviewTest() { Editor.UsePreview(&Decoder, &Player); }
 

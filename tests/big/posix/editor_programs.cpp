@@ -15,7 +15,7 @@ using Answer = Host::Answer;
 
 namespace {
 
-class EditorPrograms : public Document {
+class EditorPrograms : public EditorDocument {
 protected:
     EditorPrograms() {
         OpenArchive({{u"a.txt"_s, "before"}, {u"b.txt"_s, "2"}});
