@@ -9,6 +9,13 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Each folder keeps the whole path above it: without a bound, a name of a megabyte would cost hundreds of gigabytes.
+constexpr int DeepestFolder = 64;
+
+} // namespace
+
 QString LastPart(const QString& path) {
     return path.sliced(path.lastIndexOf(u'\\') + 1);
 }
@@ -38,7 +45,7 @@ void FolderTree::CreateDirs(const QString& rootText, const std::vector<BigEntry>
 void FolderTree::AddFolders(const QString& path) {
     int parent = Root;
     qsizetype begin = 0;
-    while (begin < path.size()) {
+    for (int depth = 0; begin < path.size() && depth < DeepestFolder; ++depth) {
         const qsizetype end = path.indexOf(u'\\', begin);
         const QString key = path.first(end + 1);
         const int known = knownFolders_.value(key, None);
