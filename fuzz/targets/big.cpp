@@ -4,10 +4,13 @@
 /// The reader of BIG archives, what the editor and the extraction make of its names, and the writer.
 #include "fuzz/Fuzzing.h"
 
+#include "big/FileList.h"
+#include "big/FolderTree.h"
 #include "big/Verification.h"
 #include "big/mBIG.h"
 #include "core/FolderGateway.h"
 #include "core/mMain.h"
+#include "platform/Files.h"
 #include "platform/RuntimeError.h"
 #include "tests/support/ScriptedHost.h"
 
@@ -17,6 +20,9 @@ using namespace Qt::StringLiterals;
 using Fuzzing::Expect;
 
 namespace {
+
+/// A count that lies makes empty records; so many are read, and no more than that.
+constexpr std::size_t Few = 500;
 
 /// Sizes that lie would be written as so many zeros.
 constexpr qint64 Affordable = 65536;
@@ -28,6 +34,25 @@ Rows NamesAndSizes() {
     for (const BigEntry& entry : mBIG::BigEntries)
         rows.emplace_back(entry.Name, entry.Size);
     return rows;
+}
+
+void ExpectWholeTree() {
+    FolderTree tree;
+    tree.CreateDirs(u"a.big"_s, mBIG::BigEntries);
+    FileList list;
+    for (int node = FolderTree::Root; node <= tree.Count(); ++node) {
+        Expect(tree.Node(node).Parent < node, "a folder comes behind the one that it is in");
+        list.ShowFolder(tree, node, tree.Node(node).Key, mBIG::BigEntries, {});
+    }
+}
+
+void ExpectExtracted(const QString& path) {
+    const auto first = std::ranges::find_if(mBIG::BigEntries, [](const BigEntry& entry) { return entry.Size > 0; });
+    if (first == mBIG::BigEntries.end() || first->Size > Affordable)
+        return;
+    const QString target = Fuzzing::Write(u"entry"_s, "what stood there");
+    mBIG::ExtractEntry(static_cast<int>(first - mBIG::BigEntries.begin()), path, target);
+    Expect(Files::FileLength(target) >= first->Size, "a file that was extracted has all the entry's bytes");
 }
 
 void ExpectTameNames() {
@@ -57,8 +82,10 @@ void Run(const QByteArray& bytes) {
     mMain::ProgramFolder = Fuzzing::PathOf(u"program"_s);
     mBIG::BigVersion = 0;
     const QString path = Fuzzing::Write(u"a.big"_s, bytes);
-    if (!mBIG::ReadBigFile(path))
+    if (!mBIG::ReadBigFile(path) || mBIG::BigEntries.size() > Few)
         return;
+    ExpectWholeTree();
+    ExpectExtracted(path);
     ExpectTameNames();
     Ignoring([&] { Verification::Verify(path); });
     ExpectSameAfterSave(path);
