@@ -16,6 +16,15 @@ using Fuzzing::Expect;
 
 namespace {
 
+void ExpectComparable(const CsfTable& table) {
+    CsfCompare::Check(table, {&table, 10});
+    Expect(CsfCompare::Diff(table, table).empty(), "a table does not differ from itself");
+    const CsfMerged merged = CsfCompare::Merge(table, table, table);
+    Expect(merged.Table == table && merged.Conflicts.empty(), "a table that nobody changed merges to itself");
+    for (const CsfString& entry : table.Strings)
+        Expect(CsfExchange::Unescaped(CsfExchange::Escaped(entry.Value)) == entry.Value, "escapes lead back");
+}
+
 void ExpectSameAfterSave() {
     const std::vector<CsfString> read = mCSF::CsfStrings;
     const QString copy = Fuzzing::PathOf(u"copy.csf"_s);
@@ -32,9 +41,7 @@ void Run(const QByteArray& bytes) {
     Expect(!NumberedFiles::IsOpen(mCSF::FileNumber), "the file's number is free again");
     if (!read)
         return;
-    const CsfTable table{0, mCSF::CsfStrings};
-    CsfCompare::Check(table, {&table, 10});
-    Expect(CsfCompare::Diff(table, table).empty(), "a table does not differ from itself");
+    ExpectComparable({0, mCSF::CsfStrings});
     ExpectSameAfterSave();
 }
 
