@@ -9,6 +9,14 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// More than a path of the games' systems has, which ends at 260 characters. Each folder keeps the whole path above it:
+/// without a bound, a name of a megabyte would cost hundreds of gigabytes.
+constexpr int DeepestFolder = 130;
+
+} // namespace
+
 void FolderTree::Reset(const QString& rootText) {
     nodes_.clear();
     knownFolders_.clear();
@@ -34,7 +42,7 @@ void FolderTree::CreateDirs(const QString& rootText, const std::vector<BigEntry>
 void FolderTree::AddFolders(const QString& path) {
     int parent = Root;
     qsizetype begin = 0;
-    while (begin < path.size()) {
+    for (int depth = 0; begin < path.size() && depth < DeepestFolder; ++depth) {
         const qsizetype end = path.indexOf(u'\\', begin);
         const QString key = path.first(end + 1);
         const int known = knownFolders_.value(key, None);

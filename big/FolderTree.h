@@ -35,7 +35,7 @@ public:
     /// Removes every node and adds the root.
     void Reset(const QString& rootText);
 
-    /// Rebuilds the tree from a table; deleted records add nothing.
+    /// Rebuilds the tree from a table; deleted records add nothing, nor do folders more than 130 levels down.
     void CreateDirs(const QString& rootText, const std::vector<BigEntry>& entries);
 
     /// Adds a folder behind the parent's other children and returns its index. Raises 91 for an unknown parent.

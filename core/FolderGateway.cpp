@@ -16,6 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// No system takes a longer path, and each folder in a name costs as much memory as the name above it.
+constexpr qsizetype LongestName = 4095;
+
 [[noreturn]] void Refuse(QStringView name, const QString& reason) {
     throw RuntimeError(ErrorNumber::PathFileAccess, u"%1: %2"_s.arg(name, reason));
 }
@@ -84,6 +87,8 @@ FolderGateway::~FolderGateway() = default;
 QString FolderGateway::RefusalOf(QStringView name) {
     if (name.isEmpty())
         return u"has no name"_s;
+    if (name.size() > LongestName)
+        return u"is longer than a path can be"_s;
     if (IsSeparator(name.front()))
         return u"begins at the root"_s;
     while (!name.isEmpty()) {

@@ -24,8 +24,8 @@ public:
     /// raises for a folder.
     QString TargetFor(const QString& name);
 
-    /// Why a name may not be written: it is empty, leaves the folder, names a device, or holds what file names can't.
-    /// Empty for a good name. Both separators count; the answer is the same on every system.
+    /// Why a name may not be written: it is empty or too long, leaves the folder, names a device, or holds what file
+    /// names can't. Empty for a good name. Both separators count; the answer is the same on every system.
     static QString RefusalOf(QStringView name);
 
 private:

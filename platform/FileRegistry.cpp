@@ -89,10 +89,12 @@ struct FileRegistry::Document {
         return line.Type == Line::Kind::DeletedKey && (Same(line.Key, key) || IsBelow(key, line.Key));
     }
 
-    /// All up to a place, the last line ended.
+    /// All up to a place, the last line ended, and by a blank one a list that would go on with the next line.
     [[nodiscard]] QString Before(qsizetype end) const {
-        const QString start = Text.first(end);
-        return start.isEmpty() || start.endsWith(u'\n') ? start : start + LineEnd;
+        QString start = Text.first(end);
+        if (!start.isEmpty() && !start.endsWith(u'\n'))
+            start += LineEnd;
+        return QStringView(start).trimmed().endsWith(u'\\') ? start + LineEnd : start;
     }
 
     enum class Encoding { Ansi, Utf8, Utf16 };

@@ -172,8 +172,10 @@ void ReadContinuation(QStringView text, Line& line) {
     if (!line.Data.startsWith(u"hex", Qt::CaseInsensitive))
         return;
     const qsizetype dataStart = line.Data.begin() - text.begin();
-    while (line.Data.endsWith(u'\\') && line.End < text.size()) {
+    for (bool goesOn = line.Data.endsWith(u'\\'); goesOn && line.End < text.size();) {
         const Extent next = LineAt(text, line.End);
+        // A blank line ends the list, whatever stands before it.
+        goesOn = text.sliced(line.End, next.TextEnd - line.End).trimmed().endsWith(u'\\');
         line.Data = text.sliced(dataStart, next.TextEnd - dataStart).trimmed();
         line.End = next.End;
     }

@@ -5,6 +5,8 @@
 
 #include "platform/AnsiCodec.h"
 
+#include <QStringDecoder>
+
 #include <algorithm>
 
 namespace {
@@ -185,7 +187,10 @@ QByteArray ProfileText::WithMark(const QByteArray& bytes) const {
     if (encoding_ == Encoding::Utf8)
         return Utf8Mark.toByteArray() + bytes;
     QByteArray wide = Utf16Mark.toByteArray();
-    for (const QChar character : QString::fromUtf8(bytes))
+    // A second mark is a part of the text, and stays.
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    const QString text = decode(bytes);
+    for (const QChar character : text)
         wide.append(static_cast<char>(character.cell())).append(static_cast<char>(character.row()));
     return wide;
 }

@@ -48,6 +48,14 @@ TEST_F(Gateway, NamesThatFilesCanNotHaveAreRefused) {
         EXPECT_TRUE(Refused(name)) << name.toStdString();
 }
 
+TEST_F(Gateway, NamesLongerThanAPathCanBeAreRefusedBeforeAnyFolderIsMade) {
+    EXPECT_FALSE(Refused(u"a\\"_s.repeated(2047) + u'x'));
+    EXPECT_TRUE(Refused(u"a\\"_s.repeated(2047) + u"xx"_s));
+    FolderGateway gateway(At(u"out"_s));
+    EXPECT_THROW(gateway.TargetFor(u"a\\"_s.repeated(500000) + u'x'), RuntimeError);
+    EXPECT_FALSE(Files::FolderExists(At(u"out\\a"_s)));
+}
+
 TEST_F(Gateway, MakesTheFoldersOfAName) {
     FolderGateway gateway(At(u"out"_s));
     EXPECT_EQ(Below(gateway.TargetFor(u"Data\\INI/x.ini"_s)), u"Data\\INI\\x.ini"_s);

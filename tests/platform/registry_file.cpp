@@ -217,6 +217,22 @@ TEST_F(FileRegistryTest, ARemovedValueIsGoneWithAllItsLines) {
     EXPECT_EQ(Bytes(), "[HKEY_CURRENT_USER\\A]\n\"j\"=\"3\"\n");
 }
 
+TEST_F(FileRegistryTest, ABlankLineEndsAListThatWasCutOff) {
+    Holds("[HKEY_CURRENT_USER\\A]\n\"h\"=hex:01,\\\n\n\"n\"=\"1\"\n");
+    EXPECT_EQ(Text(u"n"_s), "1");
+}
+
+TEST_F(FileRegistryTest, WhatIsWrittenBehindAListThatWasCutOffIsNoPartOfIt) {
+    for (const QByteArray lineEnd : {"", "\n"}) {
+        Holds("[HKEY_CURRENT_USER\\A]\n\"h\"=hex:01,\\" + lineEnd);
+        EXPECT_TRUE(Save(u"n"_s, u"1"_s));
+        EXPECT_EQ(Bytes(), "[HKEY_CURRENT_USER\\A]\n\"h\"=hex:01,\\\n\n\"n\"=\"1\"\n");
+        EXPECT_EQ(Text(u"n"_s), "1");
+        EXPECT_TRUE(Save(u"n"_s, u"2"_s, u"B"_s));
+        EXPECT_EQ(Text(u"n"_s, u"B"_s), "2");
+    }
+}
+
 TEST_F(FileRegistryTest, APlaceThatCanNotBeWrittenIsToldByTheResult) {
     scratch_.Write(u"file"_s, "x");
     FileRegistry belowAFile(scratch_.Native(u"file"_s) + u"/registry.reg"_s);

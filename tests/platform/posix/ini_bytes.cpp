@@ -25,6 +25,12 @@ TEST(ProfileBytes, AWriteKeepsEveryOtherByte) {
               " [ A ] x\n\n  k  =  5  \r\t\t j=2\r\n\r\n");
 }
 
+TEST(ProfileBytes, ASecondUtf16MarkStays) {
+    // The line with the mark names no section.
+    const QByteArray before("\xFF\xFE\xFF\xFE[\0A\0]\0\n\0k\0=\0", 16);
+    EXPECT_EQ(Changed(before + QByteArray("1\0", 2), {}, u"k"_s, u"2"_s), before + QByteArray("2\0", 2));
+}
+
 TEST(ProfileBytes, ANewKeyComesBeforeTheBlankLinesAtItsSectionsEnd) {
     EXPECT_EQ(Changed("[A]\n\nk=1\n\n \n[B]\n\nz=1\n", u"A"_s, u"j"_s, u"2"_s), "[A]\n\nk=1\nj=2\r\n\n \n[B]\n\nz=1\n");
     EXPECT_EQ(Changed("[A]\r\n;c\r\n\r\n", u"A"_s, u"j"_s, u"2"_s), "[A]\r\n;c\r\nj=2\r\n\r\n");
