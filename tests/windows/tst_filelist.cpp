@@ -9,7 +9,6 @@
 #include "tests/windows/WindowTests.h"
 
 #include <QAbstractItemModelTester>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QListView>
 #include <QSignalSpy>
@@ -189,7 +188,7 @@ private Q_SLOTS:
         QCOMPARE(view_->Selection()->selectedRows().size(), 2);
     }
 
-    void aFullArchiveIsShownAtOnceInEveryMode() {
+    void aFullArchiveIsShownInEveryMode() {
         QStringList names;
         for (int index = 0; index < mBIG::MaximumEntries; ++index)
             names += u"Entry number %1.tga"_s.arg(index);
@@ -197,11 +196,8 @@ private Q_SLOTS:
         tree_.CreateDirs(u"a.big"_s, table_);
         for (const ViewMode mode : {ViewMode::LargeIcons, ViewMode::Details, ViewMode::SmallIcons, ViewMode::List}) {
             view_->SetMode(mode);
-            QElapsedTimer timer;
-            timer.start();
             ShowRoot();
             view_->grab();
-            QVERIFY2(timer.elapsed() < 1500, "Slower than the sanitizers make it.");
             QTest::keyClick(view_->Current(), Qt::Key_Home);
             QTest::keyClick(view_->Current(), Qt::Key_End);
             QCOMPARE(view_->Selection()->currentIndex().row(), mBIG::MaximumEntries - 1);
