@@ -5,13 +5,37 @@
 #include "tests/csf/editor_support.h"
 
 #include "platform/NumberedFiles.h"
+#include "platform/Paths.h"
 #include "tests/support/posix/FileLengthLimit.h"
+
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 class CsfFullDisk : public EditorTest {};
+
+QByteArray vanishing;
+QByteArray vanished;
+
+/// Takes a folder away in the middle of a write: the system calls it where a file would get too long.
+class VanishingFolder {
+public:
+    VanishingFolder(const QString& folder, const QString& elsewhere, rlim_t room) : limit_(room) {
+        vanishing = Paths::EncodeNative(Paths::ToNative(folder));
+        vanished = Paths::EncodeNative(Paths::ToNative(elsewhere));
+        ::signal(SIGXFSZ, [](int) { std::rename(vanishing.constData(), vanished.constData()); });
+    }
+
+    ~VanishingFolder() { ::signal(SIGXFSZ, SIG_IGN); }
+
+    VanishingFolder(const VanishingFolder&) = delete;
+    VanishingFolder& operator=(const VanishingFolder&) = delete;
+
+private:
+    FileLengthLimit limit_;
+};
 
 } // namespace
 
@@ -39,6 +63,22 @@ TEST_F(CsfFullDisk, AtEveryByteTheOldFileStaysAside) {
         }
     }
     EXPECT_EQ(host_.Messages.size(), 24U);
+}
+
+TEST_F(CsfFullDisk, AFolderThatVanishesDuringASaveHasTheOldFileStillAside) {
+    const QByteArray whole = CsfHeader(1) + EntryRecords("a", "b");
+    mCSF::CsfStrings = {{u"b"_s, u"a"_s}};
+    const QString path = Put(u"mod\\texts.csf"_s, "old");
+    const QString folder = path.first(path.lastIndexOf(u'\\'));
+    {
+        const VanishingFolder vanishes(folder, folder + u" elsewhere"_s, 30);
+        EXPECT_FALSE(mCSF::WriteCSF(path, 0));
+    }
+    EXPECT_FALSE(Files::FolderExists(folder)) << "and nothing is made in its place";
+    EXPECT_EQ(World::ReadFile(folder + u" elsewhere\\texts.csf"_s), whole.first(30));
+    EXPECT_EQ(World::ReadFile(folder + u" elsewhere\\texts.csf.sav"_s), "old");
+    EXPECT_FALSE(NumberedFiles::IsOpen(mCSF::FileNumber));
+    EXPECT_TRUE(host_.Messages.empty());
 }
 
 TEST_F(CsfFullDisk, WhatTheEditorCouldNotSaveStaysAChangeAndKeepsTheWindow) {
