@@ -25,8 +25,9 @@ namespace mCSF {
 /// The table of the last file read, or the one to be written, in the file's order.
 extern std::vector<CsfString> CsfStrings;
 
-/// The number that tables are opened under. It is theirs alone: an archive may be being written at the same time.
-inline constexpr int FileNumber = 8;
+/// The number that tables are opened under. It is theirs alone: while one is read the event loop runs, and archives and
+/// previews open files under 1 to 9.
+inline constexpr int FileNumber = 10;
 
 /// What ReadCSF returns for a refused file.
 inline constexpr qint32 Refused = 65536;

@@ -165,6 +165,17 @@ TEST_F(CsfReader, TheLanguageByteIsReadAsHexadecimal) {
     EXPECT_EQ(languageOf(255), 597);
 }
 
+TEST_F(CsfReader, LeavesTheNumbersOfArchivesAndPreviewsFreeWhileItYields) {
+    const QString path = Put(u"numbers.csf"_s, CsfHeader(1) + EntryRecords("n", "v"));
+    host_.OnYield = [] {
+        EXPECT_TRUE(NumberedFiles::IsOpen(mCSF::FileNumber));
+        for (int number = 1; number <= 9; ++number)
+            EXPECT_FALSE(NumberedFiles::IsOpen(number)) << number;
+    };
+    EXPECT_EQ(mCSF::ReadCSF(path), 0);
+    EXPECT_GT(host_.Yields, 0);
+}
+
 TEST_F(CsfReader, YieldsOnceARecord) {
     Read(CsfHeader(2) + EntryRecords("a", "b") + "123" + EntryRecords("c", "d"));
     EXPECT_EQ(host_.Yields, 5);
