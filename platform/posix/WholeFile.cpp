@@ -71,7 +71,8 @@ bool WholeFile::Replace(const QByteArray& path, const QByteArray& bytes) {
     const QByteArray target = Target(path);
     if (::access(target.constData(), F_OK) == 0 && ::access(target.constData(), W_OK) != 0)
         return false;
-    QByteArray aside = target.first(target.lastIndexOf('/') + 1) + ".brindock-XXXXXX";
+    constexpr qsizetype toBeReplaced = 6; // letters X at the end, which mkostemp makes a name of its own of
+    QByteArray aside = target.first(target.lastIndexOf('/') + 1) + ".brindock-" + QByteArray(toBeReplaced, 'X');
     const Descriptor file(::mkostemp(aside.data(), O_CLOEXEC));
     if (!file.Valid())
         return false;
