@@ -8,9 +8,7 @@
 #include "big/frmBigEditor.h"
 #include "core/mMain.h"
 #include "tests/big/document_support.h"
-#include "tests/support/ScriptedHost.h"
-#include "tests/support/World.h"
-#include "tests/windows/RecordingNavigator.h"
+#include "tests/windows/ToolWindow.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/SideMenu.h"
 
@@ -23,29 +21,18 @@
 #include <QTimer>
 #include <QTreeView>
 
-class BigEditorWindow : public QObject {
+class BigEditorWindow : public ToolWindow<frmBigEditor> {
 protected:
     void Begin() {
-        world_ = std::make_unique<World>();
-        host_ = std::make_unique<ScriptedHost>();
-        navigator_ = std::make_unique<RecordingNavigator>();
-        world_->UseLanguage("[LNG]\r\nReady=Bereit\r\nFile=Datei\r\nNew=Neu\r\nOpen=Auf\r\nBIGFile=BIG-Datei\r\n"
-                            "Actions=Aktionen\r\nKiloBytes=KB\r\nSize2=Gr\xF6\xDF"
-                            "e:\r\n");
-        world_->Start();
+        BeginIn("[LNG]\r\nReady=Bereit\r\nFile=Datei\r\nNew=Neu\r\nOpen=Auf\r\nBIGFile=BIG-Datei\r\n"
+                "Actions=Aktionen\r\nKiloBytes=KB\r\nSize2=Gr\xF6\xDF"
+                "e:\r\n");
         mBIG::BigEntries.clear();
         mBIG::BigFileName.clear();
         archive_ = world_->WriteFile(QStringLiteral("a.big"),
                                      ArchiveOf({{QStringLiteral("readme.txt"), "hello"},
                                                 {QStringLiteral("Data\\INI\\Object.ini"), "Object"},
                                                 {QStringLiteral("Data\\map.tga"), QByteArray(3000, 'x')}}));
-    }
-
-    void End() {
-        window_.reset();
-        navigator_.reset();
-        host_.reset();
-        world_.reset();
     }
 
     void Open() {
@@ -58,11 +45,6 @@ protected:
         window_ = std::make_unique<frmBigEditor>();
         window_->OpenBigFile(archive_);
         QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
-    }
-
-    template <typename Control>
-    Control* Part(const char* name) {
-        return window_->findChild<Control*>(QString::fromLatin1(name));
     }
 
     SideLink* Link(int index) { return window_->findChild<SideLink*>(QStringLiteral("Label2_%1").arg(index)); }
@@ -99,11 +81,7 @@ protected:
         Tree()->setCurrentIndex(node);
     }
 
-    void ClickRow(int row) {
-        QAbstractItemView* list = Files()->Current();
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                          list->visualRect(list->model()->index(row, 0)).center());
-    }
+    void ClickRow(int row) { Click(*Files()->Current(), row); }
 
     /// Does something with the next modal dialog.
     void AnswerDialog(const std::function<void(QWidget*)>& answer) {
@@ -115,9 +93,5 @@ protected:
         });
     }
 
-    std::unique_ptr<World> world_;
-    std::unique_ptr<ScriptedHost> host_;
-    std::unique_ptr<RecordingNavigator> navigator_;
-    std::unique_ptr<frmBigEditor> window_;
     QString archive_;
 };

@@ -7,9 +7,7 @@
 #include "core/mMain.h"
 #include "csf/frmCSFEditor.h"
 #include "csf/mCSF.h"
-#include "tests/support/ScriptedHost.h"
-#include "tests/support/World.h"
-#include "tests/windows/RecordingNavigator.h"
+#include "tests/windows/ToolWindow.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/SideMenu.h"
 
@@ -21,25 +19,17 @@
 #include <QStatusBar>
 #include <QTreeView>
 
-class CsfEditorWindow : public QObject {
+class CsfEditorWindow : public ToolWindow<frmCSFEditor> {
 protected:
     void Begin() {
-        world_ = std::make_unique<World>();
-        host_ = std::make_unique<ScriptedHost>();
-        navigator_ = std::make_unique<RecordingNavigator>();
-        world_->UseLanguage(
-            "[LNG]\r\nNew=Neu\r\nFind=Suchen\r\nText=Wert\r\nKiloBytes=KB\r\nName=Name\r\nValue=Wert\r\n"
-            "RowCount=%1 rows\r\nMatchCount=%1 matches\r\n");
-        world_->Start();
+        BeginIn("[LNG]\r\nNew=Neu\r\nFind=Suchen\r\nText=Wert\r\nKiloBytes=KB\r\nName=Name\r\nValue=Wert\r\n"
+                "RowCount=%1 rows\r\nMatchCount=%1 matches\r\n");
         mMain::CsfOpenedByHost = false;
         mMain::CommandLine.clear();
     }
 
     void End() {
-        window_.reset();
-        navigator_.reset();
-        host_.reset();
-        world_.reset();
+        ToolWindow::End();
         mMain::CsfOpenedByHost = false;
     }
 
@@ -66,11 +56,6 @@ protected:
         QVERIFY(QTest::qWaitForWindowActive(window_.get()));
     }
 
-    template <typename Control>
-    Control* Part(const char* name) {
-        return window_->findChild<Control*>(QString::fromLatin1(name));
-    }
-
     QTreeView* List() { return Part<QTreeView>("lvStrings2"); }
 
     QLineEdit* NameBox() { return Part<QLineEdit>("txtName"); }
@@ -88,16 +73,9 @@ protected:
         return names;
     }
 
-    void ClickRow(int row) {
-        QTest::mouseClick(List()->viewport(), Qt::LeftButton, {},
-                          List()->visualRect(List()->model()->index(row, 0)).center());
-    }
+    void ClickRow(int row) { Click(*List(), row); }
 
     QString Told() { return window_->statusBar()->findChild<QLabel*>()->text(); }
 
-    std::unique_ptr<World> world_;
-    std::unique_ptr<ScriptedHost> host_;
-    std::unique_ptr<RecordingNavigator> navigator_;
-    std::unique_ptr<frmCSFEditor> window_;
     QString path_;
 };
