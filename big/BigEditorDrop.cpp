@@ -6,6 +6,7 @@
 #include "big/EntryIndex.h"
 #include "big/ScratchFolders.h"
 #include "core/Host.h"
+#include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -74,7 +75,7 @@ QStringList BigEditor::AdoptDragged(QStringList paths) {
     static int drops = 0;
     const QString folder = ScratchFolders::Dropped() + QString::number(++drops) + u'\\';
     for (QString& path : paths) {
-        if (!path.startsWith(ScratchFolders::All() + u"Drag"_s, Qt::CaseInsensitive))
+        if (!path.startsWith(mMain::ScratchFolder() + u"\\Drag"_s, Qt::CaseInsensitive))
             continue;
         const QString kept = folder + Paths::LastPart(path);
         const bool moved = Ignoring([&] {

@@ -11,28 +11,11 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
+#include <QScopeGuard>
 #include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
-
-namespace {
-
-/// The window takes no input for the length of a block.
-class Disabled {
-public:
-    explicit Disabled(EditorView& view) : view_(view) { view_.EnableWindow(false); }
-
-    ~Disabled() { view_.EnableWindow(true); }
-
-    Disabled(const Disabled&) = delete;
-    Disabled& operator=(const Disabled&) = delete;
-
-private:
-    EditorView& view_;
-};
-
-} // namespace
 
 std::vector<qint32> BigEditor::ChosenForExtraction() const {
     std::vector<qint32> extractList;
@@ -69,7 +52,8 @@ void BigEditor::Extract() {
     const ExtractionTarget target = view_.AskForFolder();
     if (target.ExtractCancelled)
         return;
-    const Disabled disabled(view_);
+    view_.EnableWindow(false);
+    const auto enabled = qScopeGuard([this] { view_.EnableWindow(true); });
     Extraction::DoExtract(extractList, target, true);
 }
 

@@ -5,10 +5,10 @@
 
 #include "core/FolderGateway.h"
 #include "core/Host.h"
+#include "core/mMain.h"
 #include "core/mShellExecuteWait.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
-#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
@@ -112,7 +112,7 @@ void BigEditor::ModifyCopy(int index, const QString& text, Trigger trigger) {
 QString BigEditor::CopyForProgram(int index, const QString& text) const {
     QString copy;
     Ignoring([&] {
-        FolderGateway scratch(Paths::ProgramFolder() + u"\\Temp"_s);
+        FolderGateway scratch(mMain::ScratchFolder());
         QString path = scratch.TargetFor(text);
         for (int number = 2; IsInUse(path); ++number)
             path = scratch.TargetFor(Numbered(text, number));

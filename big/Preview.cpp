@@ -4,6 +4,7 @@
 #include "big/Preview.h"
 
 #include "core/FolderGateway.h"
+#include "core/mMain.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/Paths.h"
@@ -39,10 +40,6 @@ QString PictureFolder() {
     return Paths::ProgramFolder() + u"\\TempPrev"_s;
 }
 
-QString SoundFolder() {
-    return Paths::ProgramFolder() + u"\\Temp"_s;
-}
-
 /// The path of a temporary file straight in one of the two folders; raises for a name that may not be written.
 QString TargetIn(const QString& folder, const QString& name) {
     if (name.contains(u'\\') || name.contains(u'/'))
@@ -55,7 +52,7 @@ QString SoundName(int number, const QString& rowText) {
 }
 
 QString SoundFileFor(int number, const QString& rowText) {
-    return SoundFolder() + u'\\' + SoundName(number, rowText);
+    return mMain::ScratchFolder() + u'\\' + SoundName(number, rowText);
 }
 
 /// Copies an entry of the archive to a temporary file; what can't be copied is passed over.
@@ -208,13 +205,13 @@ bool Preview::ShowSound(int index, const QString& rowText) {
     state_.PictureShown = false;
     state_.GroupHeight = SoundHeight;
     state_.PlayerShown = true;
-    Ignoring([] { Files::MakeFolder(SoundFolder()); });
+    Ignoring([] { Files::MakeFolder(mMain::ScratchFolder()); });
     const BigEntry& entry = mBIG::BigEntries[static_cast<std::size_t>(index)];
     if (!entry.IsNew) {
         state_.SoundFile = SoundFileFor(soundFileNumber_, rowText);
         // A name that may not be written is not opened nor deleted either: there is no sound.
         QString target;
-        if (!Ignoring([&] { target = TargetIn(SoundFolder(), SoundName(soundFileNumber_, rowText)); }))
+        if (!Ignoring([&] { target = TargetIn(mMain::ScratchFolder(), SoundName(soundFileNumber_, rowText)); }))
             state_.SoundFile.clear();
         else
             ExtractTo(index, target);

@@ -24,7 +24,7 @@ const QString& DropName() {
 }
 
 QString OwnFolder(const QString& name) {
-    return ScratchFolders::All() + name + QString::number(QCoreApplication::applicationPid()) + u'\\';
+    return mMain::ScratchFolder() + u'\\' + name + QString::number(QCoreApplication::applicationPid()) + u'\\';
 }
 
 /// The process that a folder of that name belongs to; 0 for any other name.
@@ -42,10 +42,6 @@ qint64 OwnerOf(const QString& folder) {
 
 namespace ScratchFolders {
 
-QString All() {
-    return mMain::ProgramFolder + u"\\Temp\\"_s;
-}
-
 QString Dragged() {
     return OwnFolder(DragName());
 }
@@ -55,9 +51,10 @@ QString Dropped() {
 }
 
 void RemoveAbandoned() {
-    for (const QString& name : Files::ListFolder(All() + u"*.*"_s, true)) {
+    const QString scratch = mMain::ScratchFolder() + u'\\';
+    for (const QString& name : Files::ListFolder(scratch + u"*.*"_s, true)) {
         const qint64 owner = OwnerOf(name);
-        const QString folder = All() + name;
+        const QString folder = scratch + name;
         if (owner > 0 && !Processes::IsRunning(owner) && Files::FolderExists(folder) && !Files::IsLink(folder))
             Files::DeleteFolder(folder);
     }

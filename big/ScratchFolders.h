@@ -8,10 +8,8 @@
 
 namespace ScratchFolders {
 
-/// `Temp` itself: an inside path with a trailing backslash, like the others.
-QString All();
-
-/// Where the rows of a drag are extracted: apart from the files of modified entries that are not saved yet.
+/// Where the rows of a drag are extracted: apart from the files of modified entries that are not saved yet. An inside
+/// path with a trailing backslash, like the other.
 QString Dragged();
 
 /// Where files dragged out of another BIG Editor are kept until they are saved.

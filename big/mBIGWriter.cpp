@@ -186,7 +186,7 @@ void SaveTo(const QString& path) {
 
 /// Empties the scratch folder but for some files; what can't be deleted stays.
 void EmptyScratch(const QStringList& kept) {
-    const QString folder = mMain::ProgramFolder + u"\\Temp\\"_s;
+    const QString folder = mMain::ScratchFolder() + u'\\';
     for (const QString& name : Files::ListFolder(folder + u"*.*"_s)) {
         const QString file = folder + name;
         if (std::ranges::none_of(kept, [&](const QString& each) { return Files::SameFile(each, file); }))

@@ -4,6 +4,7 @@
 #include "core/Document.h"
 
 #include "core/Host.h"
+#include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
 
@@ -25,6 +26,5 @@ bool Document::GoOnWithoutChanges(const QString& name, const std::function<Saved
 
 QString Document::FolderForDialogs(const QString& path) {
     const QString folder = Paths::Folder(path);
-    const QString scratch = Paths::ProgramFolder() + u"\\Temp\\"_s;
-    return folder.startsWith(scratch, Qt::CaseInsensitive) ? QString() : folder;
+    return folder.startsWith(mMain::ScratchFolder() + u'\\', Qt::CaseInsensitive) ? QString() : folder;
 }

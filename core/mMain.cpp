@@ -75,6 +75,10 @@ void ShowTool(const mMain::Dispatched& dispatched) {
 
 } // namespace
 
+QString mMain::ScratchFolder() {
+    return ProgramFolder + u"\\Temp"_s;
+}
+
 void mMain::UseRuntimes() {
     ini = std::make_unique<INIRuntime>();
     registry = std::make_unique<RegistryRuntime>();

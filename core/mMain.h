@@ -27,6 +27,8 @@ extern bool CsfOpenedByHost;
 extern QString LanguageFileName;
 /// The program's folder without a trailing backslash.
 extern QString ProgramFolder;
+/// "Temp" in the program's folder, where nothing lasts; no trailing backslash.
+QString ScratchFolder();
 
 /// Makes the shared registry and INI objects and sets ProgramFolder. Called by Main; programs without Main call it.
 void UseRuntimes();

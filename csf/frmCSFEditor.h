@@ -10,7 +10,6 @@
 
 #include <QMainWindow>
 
-#include <functional>
 #include <memory>
 #include <vector>
 

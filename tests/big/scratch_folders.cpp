@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "big/ScratchFolders.h"
+#include "core/mMain.h"
 
 #include "platform/Files.h"
 #include "tests/support/Printing.h"
@@ -22,7 +23,7 @@ protected:
     QString Put(const QString& name) { return world_.WriteFile(u"program\\Temp\\"_s + name, "x"); }
 
     [[nodiscard]] static QStringList Left() {
-        QStringList names = Files::ListFolder(ScratchFolders::All() + u"*.*"_s, true);
+        QStringList names = Files::ListFolder(mMain::ScratchFolder() + u"\\*.*"_s, true);
         names.sort();
         return names;
     }
@@ -37,9 +38,9 @@ protected:
 
 TEST_F(ScratchFoldersTest, AreBelowTempWithTheProcesssNumber) {
     const QString number = QString::number(QCoreApplication::applicationPid());
-    EXPECT_EQ(ScratchFolders::All(), world_.Root() + u"\\program\\Temp\\"_s);
-    EXPECT_EQ(ScratchFolders::Dragged(), ScratchFolders::All() + u"Drag"_s + number + u'\\');
-    EXPECT_EQ(ScratchFolders::Dropped(), ScratchFolders::All() + u"Dropped"_s + number + u'\\');
+    EXPECT_EQ(mMain::ScratchFolder(), world_.Root() + u"\\program\\Temp"_s);
+    EXPECT_EQ(ScratchFolders::Dragged(), mMain::ScratchFolder() + u"\\Drag"_s + number + u'\\');
+    EXPECT_EQ(ScratchFolders::Dropped(), mMain::ScratchFolder() + u"\\Dropped"_s + number + u'\\');
 }
 
 TEST_F(ScratchFoldersTest, ThoseOfProgramsThatHaveEndedAreRemovedWithAllInThem) {
@@ -72,11 +73,11 @@ TEST_F(ScratchFoldersTest, WhateverElseStandsInTempStays) {
     Put(u"Drag%1"_s.arg(Nobody));
     ScratchFolders::RemoveAbandoned();
     for (const QString& name : others)
-        EXPECT_TRUE(Files::FileExists(ScratchFolders::All() + name + u"\\file"_s)) << name.toStdString();
-    EXPECT_TRUE(Files::FileExists(ScratchFolders::All() + u"Drag%1"_s.arg(Nobody))) << "A file is no folder.";
+        EXPECT_TRUE(Files::FileExists(mMain::ScratchFolder() + u'\\' + name + u"\\file"_s)) << name.toStdString();
+    EXPECT_TRUE(Files::FileExists(mMain::ScratchFolder() + u"\\Drag%1"_s.arg(Nobody))) << "A file is no folder.";
 }
 
 TEST_F(ScratchFoldersTest, WithoutTempThereIsNothingToDo) {
     ScratchFolders::RemoveAbandoned();
-    EXPECT_FALSE(Files::FolderExists(ScratchFolders::All()));
+    EXPECT_FALSE(Files::FolderExists(mMain::ScratchFolder()));
 }
