@@ -5,14 +5,14 @@
 
 #include "app/Application.h"
 #include "app/Suite.h"
-#include "big/ScratchFolders.h"
-#include "big/frmProgress.h"
+#include "big/document/ScratchFolders.h"
 #include "core/mMain.h"
 #include "platform/Processes.h"
-#include "ui/ControlTexts.h"
-#include "ui/Picture.h"
-#include "ui/Style.h"
-#include "ui/WindowHost.h"
+#include "ui/look/Picture.h"
+#include "ui/look/Style.h"
+#include "ui/text/ControlTexts.h"
+#include "ui/window/WindowHost.h"
+#include "ui/window/frmProgress.h"
 
 #include <QTimer>
 

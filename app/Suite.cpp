@@ -3,10 +3,10 @@
 
 #include "app/Suite.h"
 
-#include "big/frmBigEditor.h"
-#include "core/frmAbout.h"
-#include "core/frmToolsMenu.h"
-#include "csf/frmCSFEditor.h"
+#include "big/window/frmBigEditor.h"
+#include "core/window/frmAbout.h"
+#include "core/window/frmToolsMenu.h"
+#include "csf/window/frmCSFEditor.h"
 #include "platform/Processes.h"
 
 #include <QApplication>

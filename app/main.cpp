@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/Start.h"
-#include "big/PictureChild.h"
+#include "media/PictureChild.h"
 
 int main(int argc, char** argv) {
     if (PictureChild::IsAsked(argc, argv))

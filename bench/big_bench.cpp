@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// The steps behind the editor's window, on tables as large as the format allows.
-#include "big/FileList.h"
-#include "big/FolderTree.h"
-#include "big/mBIG.h"
+#include "big/document/FileList.h"
+#include "big/document/FolderTree.h"
+#include "big/format/mBIG.h"
 
 #include <benchmark/benchmark.h>
 

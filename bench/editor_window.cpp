@@ -12,14 +12,14 @@
 ///
 /// Prints the median and the longest time in milliseconds.
 #include "bench/PaintTimes.h"
-#include "big/FileListView.h"
-#include "big/frmBigEditor.h"
+#include "big/window/FileListView.h"
+#include "big/window/frmBigEditor.h"
 #include "core/mMain.h"
-#include "csf/frmCSFEditor.h"
+#include "csf/window/frmCSFEditor.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "ui/Style.h"
-#include "ui/WindowHost.h"
+#include "ui/look/Style.h"
+#include "ui/window/WindowHost.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -3,8 +3,8 @@
 
 /// From the click on a texture of 1,024 by 1,024 pixels to its picture in memory. The aim is 150 ms with a child that
 /// is kept ready; the one that is started for it is measured beside it.
-#include "big/PictureChild.h"
-#include "big/PictureProcess.h"
+#include "media/PictureChild.h"
+#include "media/PictureProcess.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/Paths.h"

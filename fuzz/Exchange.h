@@ -4,7 +4,7 @@
 /// What the targets of the string tables' other formats share.
 #pragma once
 
-#include "csf/CsfExchange.h"
+#include "csf/exchange/CsfExchange.h"
 
 namespace Fuzzing {
 

@@ -8,7 +8,8 @@ import pathlib
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-ROOMS = ("app", "bench", "big", "core", "csf", "fuzz", "install", "personal", "platform", "tests", "tools", "ui", "update")
+ROOMS = ("app", "bench", "big", "core", "csf", "fuzz", "install", "media", "personal", "platform", "tests", "tools", "ui",
+         "update")
 
 
 def files(*suffixes):

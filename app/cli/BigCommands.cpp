@@ -4,8 +4,8 @@
 #include "app/cli/BigCommands.h"
 
 #include "app/cli/Output.h"
-#include "big/ArchiveExtractor.h"
-#include "big/mBIG.h"
+#include "big/document/ArchiveExtractor.h"
+#include "big/format/mBIG.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/Paths.h"

@@ -5,7 +5,7 @@
 
 #include "app/cli/BigCommands.h"
 #include "app/cli/Output.h"
-#include "big/mBIG.h"
+#include "big/format/mBIG.h"
 
 #include <CLI/CLI.hpp>
 

@@ -5,7 +5,7 @@
 
 #include "app/cli/CsfFiles.h"
 #include "app/cli/Output.h"
-#include "csf/CsfCompare.h"
+#include "csf/exchange/CsfCompare.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Console.h"
 #include "platform/Paths.h"

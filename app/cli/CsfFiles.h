@@ -4,7 +4,7 @@
 /// How the commands for string tables read and write their files. Each failure names the file.
 #pragma once
 
-#include "csf/CsfExchange.h"
+#include "csf/exchange/CsfExchange.h"
 
 #include <QByteArray>
 #include <QString>

@@ -5,8 +5,8 @@
 
 #include "app/cli/BigCommands.h"
 #include "app/cli/Output.h"
-#include "big/PictureProcess.h"
-#include "big/mBIG.h"
+#include "big/format/mBIG.h"
+#include "media/PictureProcess.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 

@@ -5,8 +5,8 @@
 
 #include "app/cli/BigCommands.h"
 #include "app/cli/Output.h"
-#include "big/Verification.h"
-#include "big/mBIG.h"
+#include "big/format/Verification.h"
+#include "big/format/mBIG.h"
 
 #include <CLI/CLI.hpp>
 #include <QJsonArray>

@@ -11,8 +11,8 @@
 #include "app/cli/ScriptHost.h"
 #include "app/cli/VerifyCommand.h"
 
-#include "big/PictureChild.h"
 #include "core/mMain.h"
+#include "media/PictureChild.h"
 #include "platform/Arguments.h"
 #include "platform/RuntimeError.h"
 

@@ -4,10 +4,10 @@
 /// The reader of BIG archives, what the editor and the extraction make of its names, and the writer.
 #include "fuzz/Fuzzing.h"
 
-#include "big/FileList.h"
-#include "big/FolderTree.h"
-#include "big/Verification.h"
-#include "big/mBIG.h"
+#include "big/document/FileList.h"
+#include "big/document/FolderTree.h"
+#include "big/format/Verification.h"
+#include "big/format/mBIG.h"
 #include "core/FolderGateway.h"
 #include "core/mMain.h"
 #include "platform/Files.h"

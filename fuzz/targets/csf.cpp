@@ -4,8 +4,8 @@
 /// The reader of CSF string tables, and its writer.
 #include "fuzz/Fuzzing.h"
 
-#include "csf/CsfCompare.h"
-#include "csf/mCSF.h"
+#include "csf/exchange/CsfCompare.h"
+#include "csf/format/mCSF.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/RuntimeError.h"

@@ -4,7 +4,7 @@
 /// The suite's own readers of pictures, and the bitmap that their child process writes.
 #include "fuzz/Fuzzing.h"
 
-#include "big/PictureReaders.h"
+#include "media/PictureReaders.h"
 
 using Fuzzing::Expect;
 

@@ -4,7 +4,7 @@
 /// A world in which to read and write them.
 #pragma once
 
-#include "big/mBIG.h"
+#include "big/format/mBIG.h"
 #include "platform/NumberedFiles.h"
 #include "tests/support/ArchiveBytes.h"
 #include "tests/support/ScriptedHost.h"

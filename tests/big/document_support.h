@@ -4,7 +4,7 @@
 /// What the tests of the editor's document share: archives made of names and bytes, and a view that counts.
 #pragma once
 
-#include "big/BigEditor.h"
+#include "big/document/BigEditor.h"
 #include "platform/AnsiCodec.h"
 
 #include <QByteArray>

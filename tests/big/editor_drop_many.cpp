@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// Dropping many files gives the table that a search from the first record on gives for each of them.
-#include "big/EntryIndex.h"
+#include "big/format/EntryIndex.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "tests/big/document_fixture.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "big/Extraction.h"
+#include "big/document/Extraction.h"
 
 #include "platform/Files.h"
 #include "platform/Paths.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "big/FolderTree.h"
+#include "big/document/FolderTree.h"
 #include "tests/big/document_support.h"
 
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 /// Folder trees made of names, and what is asked of them.
 #pragma once
 
-#include "big/FolderTree.h"
+#include "big/document/FolderTree.h"
 #include "tests/big/document_support.h"
 
 inline FolderTree TreeOf(const QStringList& names) {

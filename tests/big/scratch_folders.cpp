@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "big/ScratchFolders.h"
+#include "big/document/ScratchFolders.h"
 #include "core/mMain.h"
 
 #include "platform/Files.h"

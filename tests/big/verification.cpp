@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "big/Verification.h"
+#include "big/format/Verification.h"
 
 #include "platform/RuntimeError.h"
 #include "tests/big/Archives.h"

@@ -4,7 +4,7 @@
 /// Pieces of string tables, for tests that write them out byte by byte, and a world in which to read and write them.
 #pragma once
 
-#include "csf/mCSF.h"
+#include "csf/format/mCSF.h"
 #include "tests/support/ArchiveBytes.h"
 #include "tests/support/Printing.h"
 #include "tests/support/ScriptedHost.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "csf/CsfCompare.h"
+#include "csf/exchange/CsfCompare.h"
 
 #include "tests/csf/Tables.h"
 

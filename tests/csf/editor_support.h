@@ -4,7 +4,7 @@
 /// An editor's document in a world of its own, with a view that records. Texts are their keys.
 #pragma once
 
-#include "csf/CsfEditor.h"
+#include "csf/document/CsfEditor.h"
 #include "platform/Files.h"
 #include "tests/csf/Tables.h"
 

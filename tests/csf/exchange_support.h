@@ -4,7 +4,7 @@
 /// What the tests of JSON, CSV and PO share.
 #pragma once
 
-#include "csf/CsfExchange.h"
+#include "csf/exchange/CsfExchange.h"
 #include "platform/RuntimeError.h"
 #include "tests/csf/Tables.h"
 

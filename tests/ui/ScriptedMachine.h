@@ -4,7 +4,7 @@
 /// A machine for the folder tree that tests write down.
 #pragma once
 
-#include "ui/FileBoxSystem.h"
+#include "ui/folders/FileBoxSystem.h"
 
 #include <QMap>
 #include <QStringList>

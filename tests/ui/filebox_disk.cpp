@@ -4,8 +4,8 @@
 // The folder tree over folders that are really there.
 
 #include "tests/platform/Scratch.h"
-#include "ui/FileBoxKey.h"
-#include "ui/FileBoxTree.h"
+#include "ui/folders/FileBoxKey.h"
+#include "ui/folders/FileBoxTree.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include "platform/RuntimeError.h"
 #include "tests/support/Printing.h"
-#include "ui/cSplitter.h"
+#include "ui/splitter/cSplitter.h"
 
 #include <gtest/gtest.h>
 

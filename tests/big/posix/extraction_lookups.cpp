@@ -5,7 +5,7 @@
 #include "tests/big/Archives.h"
 #include "tests/big/document_support.h"
 
-#include "big/Extraction.h"
+#include "big/document/Extraction.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// Verifying reads no byte of an archive once an entry, however many entries claim it.
-#include "big/Verification.h"
+#include "big/format/Verification.h"
 
 #include "platform/Files.h"
 #include "tests/big/Archives.h"

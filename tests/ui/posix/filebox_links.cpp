@@ -5,8 +5,8 @@
 
 #include "tests/platform/Scratch.h"
 #include "tests/ui/ScriptedMachine.h"
-#include "ui/FileBoxKey.h"
-#include "ui/FileBoxTree.h"
+#include "ui/folders/FileBoxKey.h"
+#include "ui/folders/FileBoxTree.h"
 
 #include <gtest/gtest.h>
 

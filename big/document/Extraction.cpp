@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/document/Extraction.h"
+
+#include "core/FolderGateway.h"
+#include "core/Host.h"
+#include "core/mTraduction.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using mTraduction::GetText;
+
+namespace {
+
+/// One extraction: where names lead, and what becomes of each entry.
+class Run {
+public:
+    explicit Run(const ExtractionTarget& target) : target_(target) {
+        // A folder without its backslash is joined with the name to another path, as it stands. This is meant.
+        const qsizetype split = target.ExtractFolder.lastIndexOf(u'\\') + 1;
+        prefix_ = target.ExtractFolder.sliced(split);
+        Ignoring([&] { gateway_ = std::make_unique<FolderGateway>(target.ExtractFolder.first(split)); });
+    }
+
+    /// False when the user ends the run. Whatever else goes wrong passes the entry over.
+    bool Extract(qint32 index) {
+        bool goOn = true;
+        Ignoring([&] { goOn = TryToExtract(index); });
+        return goOn;
+    }
+
+private:
+    bool TryToExtract(qint32 index) {
+        const BigEntry& entry = mBIG::BigEntries.at(static_cast<std::size_t>(index));
+        const QString name = target_.RecreateFolders ? entry.Name : Paths::LastPart(entry.Name);
+        if (gateway_ == nullptr)
+            return true;
+        const QString path = gateway_->TargetFor(prefix_ + name);
+        if (Files::StandingAsGiven(path) == Files::Standing::File) {
+            if (IsNeeded(path, entry))
+                return true;
+            switch (AskToReplace(target_.ExtractFolder + name)) {
+            case Host::Answer::Cancel:
+                return false;
+            case Host::Answer::Yes:
+                Ignoring([&] { Files::DeleteForced(path); });
+                break;
+            default: // runs over the file as it stands; a longer one keeps its tail. This is meant.
+                break;
+            }
+        }
+        mBIG::ExtractEntryAsGiven(index, mBIG::BigFileName, path);
+        return true;
+    }
+
+    /// The open archive and the entry's own source can't be targets: they would be gone before they are read.
+    static bool IsNeeded(const QString& path, const BigEntry& entry) {
+        return Files::SameFile(path, mBIG::BigFileName) || (entry.IsNew && Files::SameFile(path, entry.SourcePath));
+    }
+
+    static Host::Answer AskToReplace(const QString& path) {
+        const QString question = Paths::ToNative(path) + "\r\n\r\n"_L1 + GetText(u"FileAlreadyExists"_s);
+        return Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNoCancel);
+    }
+
+    const ExtractionTarget& target_;
+    QString prefix_; ///< of every name
+    std::unique_ptr<FolderGateway> gateway_;
+};
+
+/// False when the user ends the run.
+bool ExtractAll(const std::vector<qint32>& extractList, const ExtractionTarget& target) {
+    Host& host = Host::Current();
+    const QString text = GetText(u"ProgressLbl"_s).replace("%1"_L1, Paths::LastPart(mBIG::BigFileName));
+    const QString folder = Paths::ToNative(target.ExtractFolder);
+    Run run(target);
+    std::size_t done = 0;
+    for (const qint32 index : extractList) {
+        if (host.ProgressCancelled())
+            return false;
+        const QString& name = mBIG::BigEntries.at(static_cast<std::size_t>(index)).Name;
+        host.SetProgressText(QString(text).replace("%2"_L1, name).replace("%3"_L1, folder));
+        host.Yield();
+        if (!run.Extract(index)) {
+            host.CancelProgress();
+            return false;
+        }
+        host.SetProgressValue(static_cast<int>(++done * 100 / extractList.size()));
+        host.Yield();
+    }
+    return true;
+}
+
+} // namespace
+
+namespace Extraction {
+
+void Take(std::vector<qint32>& extractList, qint32 index) {
+    if (extractList.size() < MostIndices)
+        extractList.push_back(index);
+}
+
+void TakeFolder(std::vector<qint32>& extractList, const QString& key, Qt::CaseSensitivity compare) {
+    for (std::size_t index = 0; index < mBIG::BigEntries.size(); ++index) {
+        const QString& name = mBIG::BigEntries[index].Name;
+        if (!name.isEmpty() && name.contains(key, compare))
+            Take(extractList, static_cast<qint32>(index));
+    }
+}
+
+void TakeAll(std::vector<qint32>& extractList) {
+    for (std::size_t index = 0; index < mBIG::BigEntries.size(); ++index)
+        Take(extractList, static_cast<qint32>(index));
+}
+
+void DoExtract(const std::vector<qint32>& extractList, const ExtractionTarget& target, bool showCompletion) {
+    Host& host = Host::Current();
+    host.ShowProgress();
+    mBIG::CloseExtraction();
+    const bool completed = ExtractAll(extractList, target);
+    // Within a run an entry of no bytes keeps all later ones from being extracted. The next run begins afresh.
+    mBIG::CloseExtraction();
+    if (completed) {
+        host.StopProgressTimer();
+        if (showCompletion)
+            host.Message(GetText(u"ExtractionComplete"_s), Host::Icon::Information);
+    } else {
+        host.HideProgress();
+        host.Message(GetText(u"ExtractionCanceled"_s), Host::Icon::Critical);
+    }
+    host.UnloadProgress();
+}
+
+} // namespace Extraction

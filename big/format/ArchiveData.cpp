@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/format/ArchiveData.h"
+
+#include "platform/NumberedFiles.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+namespace {
+
+constexpr qsizetype BlockSize = qsizetype{512} * 1024;
+/// The gaps of a run are written behind it, while its bytes are still at hand.
+constexpr qint64 LongestRun = qint64{1} << 20;
+
+} // namespace
+
+ArchiveData::ArchiveData(int target, int oldArchive, int source, qint64 length, qint64 position)
+    : target_(target),
+      oldArchive_(oldArchive),
+      source_(source),
+      length_(length),
+      position_(position),
+      block_(BlockSize, Qt::Uninitialized),
+      blockStart_(length) {
+    Ignoring([&] { oldLength_ = NumberedFiles::Length(oldArchive_); });
+}
+
+void ArchiveData::Load(const BigEntry& entry) {
+    if (entry.IsNew)
+        LoadNew(entry);
+    else
+        LoadOld(entry);
+}
+
+void ArchiveData::LoadOld(const BigEntry& entry) {
+    if (entry.Size > 0) {
+        const qint64 there = std::clamp<qint64>(oldLength_ - entry.Offset, 0, entry.Size);
+        buffer_ = {{Piece::Place::OldArchive, {}, entry.Offset, there},
+                   {Piece::Place::Zeros, {}, 0, entry.Size - there}};
+        return;
+    }
+    // An entry of no bytes leaves the buffer as it was, and reads its beginning again from its own place. This is
+    // meant.
+    qint64 size = 0;
+    for (const Piece& piece : buffer_)
+        size += piece.Length;
+    qint64 skipped = std::clamp<qint64>(oldLength_ - entry.Offset, 0, size);
+    std::vector<Piece> refreshed{{Piece::Place::OldArchive, {}, entry.Offset, skipped}};
+    for (const Piece& piece : buffer_) {
+        const qint64 cut = std::min(skipped, piece.Length);
+        skipped -= cut;
+        if (cut < piece.Length)
+            refreshed.push_back({piece.From, piece.Path, piece.Offset + cut, piece.Length - cut});
+    }
+    buffer_ = std::move(refreshed);
+}
+
+void ArchiveData::LoadNew(const BigEntry& entry) {
+    qint64 length = 0;
+    const bool opened = Ignoring([&] {
+        OpenSource(entry.SourcePath);
+        length = NumberedFiles::Length(source_);
+    });
+    if (!opened)
+        buffer_.clear();
+    else if (length > 0) // an empty file leaves the buffer as it was, and that is meant
+        buffer_ = {{Piece::Place::NewFile, entry.SourcePath, 0, length}};
+}
+
+void ArchiveData::OpenSource(const QString& path) {
+    if (path == openSource_)
+        return;
+    openSource_.clear();
+    NumberedFiles::Close(source_);
+    // Most paths have the case that the disk has, and a look at it can be saved.
+    if (!Ignoring([&] { NumberedFiles::OpenAsGiven(source_, path, NumberedFiles::Access::Read); }))
+        NumberedFiles::Open(source_, path, NumberedFiles::Access::Read);
+    openSource_ = path;
+}
+
+void ArchiveData::Put() {
+    qint64 size = 0;
+    for (const Piece& piece : buffer_)
+        size += piece.Length;
+    if (size == 0)
+        return;
+    // Positions in the format are signed 32-bit numbers. An old record whose size lies can't be put; a file that does
+    // not fit ends the save.
+    if (position_ + size > std::numeric_limits<qint32>::max()) {
+        if (buffer_.front().From != Piece::Place::NewFile)
+            return;
+        const QString file = Paths::ToNative(buffer_.front().Path);
+        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("%1: does not fit into an archive's 2 GiB").arg(file));
+    }
+    PutGap(position_ - End());
+    for (const Piece& piece : buffer_) {
+        switch (piece.From) {
+        case Piece::Place::OldArchive:
+            PutOld(piece.Offset, piece.Length);
+            break;
+        case Piece::Place::NewFile:
+            Ignoring([&] { OpenSource(piece.Path); });
+            PutNew(piece.Offset, piece.Length);
+            break;
+        case Piece::Place::Zeros:
+            PutZeros(piece.Length);
+            break;
+        }
+    }
+    position_ += size;
+    length_ = position_;
+}
+
+/// The bytes between two entries: part of a run that goes on behind them, else zeros of their own.
+void ArchiveData::PutGap(qint64 length) {
+    const Piece& next = buffer_.front();
+    const bool runGoesOn =
+        run_.Length > 0 && next.From == Piece::Place::OldArchive && next.Offset == run_.Source + run_.Length + length;
+    if (!runGoesOn) {
+        PutZeros(length);
+    } else if (length > 0) {
+        run_.Gaps.emplace_back(End(), length);
+        run_.Length += length;
+    }
+}
+
+void ArchiveData::PutOld(qint64 offset, qint64 length) {
+    if (length == 0)
+        return;
+    if (run_.Length == 0 || run_.Length > LongestRun || offset != run_.Source + run_.Length) {
+        Flush();
+        run_ = {blockStart_, offset, 0, {}};
+    }
+    run_.Length += length;
+}
+
+void ArchiveData::PutNew(qint64 offset, qint64 length) {
+    FlushRun();
+    for (qint64 done = 0; done < length;) {
+        if (filled_ == block_.size())
+            Flush();
+        const qint64 wanted = std::min<qint64>(length - done, block_.size() - filled_);
+        qint64 had = 0;
+        char* place = block_.data() + filled_;
+        Ignoring([&] { had = NumberedFiles::ReadInto(source_, offset + done, place, wanted); });
+        std::memset(place + had, 0, static_cast<std::size_t>(wanted - had));
+        filled_ += wanted;
+        done += wanted;
+    }
+}
+
+void ArchiveData::PutZeros(qint64 length) {
+    if (length == 0)
+        return;
+    if (length > block_.size() - filled_)
+        Flush();
+    FlushRun();
+    if (length > block_.size()) { // left to the file system, which reads it as zeros
+        blockStart_ += length;
+        return;
+    }
+    std::memset(block_.data() + filled_, 0, static_cast<std::size_t>(length));
+    filled_ += length;
+}
+
+void ArchiveData::FlushRun() {
+    if (run_.Length == 0)
+        return;
+    NumberedFiles::Copy(target_, run_.Target, oldArchive_, run_.Source, run_.Length);
+    for (const auto& [offset, length] : run_.Gaps)
+        NumberedFiles::Write(target_, offset, QByteArray(length, '\0'));
+    blockStart_ = run_.Target + run_.Length;
+    run_ = {};
+}
+
+void ArchiveData::Flush() {
+    FlushRun();
+    if (filled_ > 0)
+        NumberedFiles::Write(target_, blockStart_, QByteArrayView(block_).first(filled_));
+    blockStart_ += filled_;
+    filled_ = 0;
+}
+
+qint64 ArchiveData::Finish() {
+    Flush();
+    NumberedFiles::SetLength(target_, length_);
+    return length_;
+}

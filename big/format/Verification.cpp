@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/format/Verification.h"
+
+#include "big/format/Layout.h"
+#include "big/format/mBIG.h"
+#include "core/FolderGateway.h"
+#include "platform/NumberedFiles.h"
+#include "platform/RuntimeError.h"
+
+#include <QHash>
+#include <QtEndian>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace Verification {
+namespace {
+
+constexpr int ArchiveNumber = 8;
+
+/// An entry's place as the directory's bytes have it.
+struct Place {
+    int Index;
+    qint64 Offset;
+    qint64 Size;
+
+    [[nodiscard]] qint64 End() const { return Offset + Size; }
+};
+
+/// The archive file, open as long as this lives.
+class OpenArchive {
+public:
+    explicit OpenArchive(const QString& path) {
+        NumberedFiles::Open(ArchiveNumber, path, NumberedFiles::Access::Read);
+        Length = NumberedFiles::Length(ArchiveNumber);
+    }
+
+    ~OpenArchive() {
+        Ignoring([] { NumberedFiles::Close(ArchiveNumber); });
+    }
+
+    OpenArchive(const OpenArchive&) = delete;
+    OpenArchive& operator=(const OpenArchive&) = delete;
+
+    /// Up to eight bytes; behind the end of the file come zeros.
+    static std::array<char, 8> Bytes(qint64 offset) {
+        std::array<char, 8> bytes{};
+        NumberedFiles::ReadInto(ArchiveNumber, offset, bytes.data(), bytes.size());
+        return bytes;
+    }
+
+    /// False when the system fails to read the bytes that are there.
+    static bool CanRead(qint64 from, qint64 to) {
+        constexpr qint64 step = qint64{1} << 20;
+        static QByteArray block(step, Qt::Uninitialized);
+        return Ignoring([&] {
+            for (qint64 at = from; at < to; at += step)
+                NumberedFiles::ReadInto(ArchiveNumber, at, block.data(), std::min(step, to - at));
+        });
+    }
+
+    qint64 Length = 0;
+};
+
+class Look {
+public:
+    explicit Look(const QString& path) : archive_(path) {}
+
+    std::vector<Finding> All() && {
+        ReadDirectory();
+        LookAtHeader();
+        LookAtOrder();
+        LookAtPlaces();
+        LookAtNames();
+        std::ranges::stable_sort(findings_, {}, &Finding::Index);
+        return std::move(findings_);
+    }
+
+private:
+    void Found(Kind kind, int index, const QString& text) { findings_.push_back({kind, index, text}); }
+
+    /// Takes the places of all entries that have bytes, and where the directory ends.
+    void ReadDirectory() {
+        directoryEnd_ = Layout::DirectoryOffset;
+        int index = 0;
+        for (const BigEntry& entry : mBIG::BigEntries) {
+            const std::array<char, 8> bytes = OpenArchive::Bytes(directoryEnd_);
+            const auto offset = qFromBigEndian<quint32>(bytes.data());
+            const auto size = qFromBigEndian<quint32>(bytes.data() + 4);
+            if (offset >= 0x80000000U || size >= 0x80000000U)
+                Found(Kind::Number, index, u"has a number of 0x80000000 or more, which loses its top digit"_s);
+            if (size > 0)
+                places_.push_back({index, offset, size});
+            directoryEnd_ += Layout::RecordOverhead + entry.Name.size();
+            ++index;
+        }
+    }
+
+    void LookAtHeader() {
+        const auto declared = qFromLittleEndian<quint32>(OpenArchive::Bytes(Layout::LengthOffset).data());
+        if (declared != archive_.Length)
+            Found(Kind::Length, -1,
+                  u"the header declares %1 bytes, the file has %2"_s.arg(declared).arg(archive_.Length));
+        const QByteArray mark(OpenArchive::Bytes(directoryEnd_).data(), Layout::MarkLength);
+        if (directoryEnd_ + Layout::MarkLength > archive_.Length)
+            Found(Kind::Mark, -1, u"the directory is cut off"_s);
+        else if (!Layout::VersionOfMark(mark))
+            Found(Kind::Mark, -1, u"the mark behind the directory names no variant"_s);
+        const qint64 expected = Layout::FirstFileField(variant_, directoryEnd_);
+        const auto field = qFromBigEndian<quint32>(OpenArchive::Bytes(Layout::FirstFileOffset).data());
+        if (field != expected)
+            Found(Kind::FirstFile, -1, u"the first-file field is %1, the layout has %2"_s.arg(field).arg(expected));
+        firstData_ = Aligned(directoryEnd_ + Layout::ReservedForMark);
+    }
+
+    void LookAtOrder() {
+        for (std::size_t i = 1; i < places_.size(); ++i) {
+            if (places_[i].Offset < places_[i - 1].Offset)
+                Found(Kind::Order, places_[i].Index, u"lies before entry %1"_s.arg(places_[i - 1].Index));
+        }
+    }
+
+    /// Sweeps over the entries by their offsets; `last` is the one that reaches furthest so far.
+    void LookAtPlaces() {
+        std::ranges::stable_sort(places_, {}, &Place::Offset);
+        if (!places_.empty() && places_.front().Offset != firstData_)
+            Found(Kind::FirstFile, places_.front().Index,
+                  u"begins the data at %1, the layout has %2"_s.arg(places_.front().Offset).arg(firstData_));
+        const Place* last = nullptr;
+        for (const Place& place : places_) {
+            LookAt(place, last);
+            if (last == nullptr || place.End() > last->End())
+                last = &place;
+        }
+        if (last != nullptr && last->End() < archive_.Length)
+            Found(Kind::Gap, -1, u"%1 bytes behind the last entry belong to none"_s.arg(archive_.Length - last->End()));
+    }
+
+    void LookAt(const Place& place, const Place* last) {
+        if (place.Offset < directoryEnd_ + Layout::MarkLength)
+            Found(Kind::Overlap, place.Index, u"begins at %1, inside the directory"_s.arg(place.Offset));
+        if (last != nullptr && place.Offset < last->End())
+            Found(Kind::Overlap, place.Index, u"shares bytes with entry %1"_s.arg(last->Index));
+        if (last != nullptr && place.Offset > Aligned(last->End()))
+            Found(Kind::Gap, place.Index,
+                  u"%1 bytes before it belong to no entry"_s.arg(place.Offset - Aligned(last->End())));
+        if (place.Offset != Aligned(place.Offset))
+            Found(Kind::Misaligned, place.Index, u"begins at %1, no multiple of 4"_s.arg(place.Offset));
+        if (place.End() > archive_.Length)
+            Found(Kind::BeyondEnd, place.Index,
+                  u"ends %1 bytes behind the end of the file"_s.arg(place.End() - archive_.Length));
+        const qint64 readAlready = last == nullptr ? 0 : last->End();
+        if (!OpenArchive::CanRead(std::max(place.Offset, readAlready), std::min(place.End(), archive_.Length)))
+            Found(Kind::Unreadable, place.Index, u"can't be read"_s);
+    }
+
+    void LookAtNames() {
+        QHash<QString, int> known;
+        known.reserve(static_cast<qsizetype>(mBIG::BigEntries.size()));
+        int index = 0;
+        for (const BigEntry& entry : mBIG::BigEntries) {
+            QString refusal = FolderGateway::RefusalOf(entry.Name);
+            if (refusal.isEmpty() && (entry.Name.endsWith(u'\\') || entry.Name.endsWith(u'/')))
+                refusal = u"is a folder"_s;
+            if (!refusal.isEmpty())
+                Found(Kind::Name, index, refusal);
+            const QString folded = entry.Name.toCaseFolded();
+            if (const auto first = known.constFind(folded); first != known.constEnd())
+                Found(Kind::Collision, index, u"has the name of entry %1"_s.arg(*first));
+            else
+                known.insert(folded, index);
+            ++index;
+        }
+    }
+
+    [[nodiscard]] qint64 Aligned(qint64 offset) const { return Layout::Aligned(variant_, offset); }
+
+    OpenArchive archive_;
+    const Layout::Variant& variant_ = Layout::VariantOf(mBIG::BigVersion);
+    qint64 directoryEnd_ = 0;
+    qint64 firstData_ = 0;
+    std::vector<Place> places_;
+    std::vector<Finding> findings_;
+};
+
+} // namespace
+
+QString Word(Kind kind) {
+    switch (kind) {
+    case Kind::Length:
+        return u"length"_s;
+    case Kind::Mark:
+        return u"mark"_s;
+    case Kind::FirstFile:
+        return u"first-file"_s;
+    case Kind::Number:
+        return u"number"_s;
+    case Kind::BeyondEnd:
+        return u"beyond-end"_s;
+    case Kind::Overlap:
+        return u"overlap"_s;
+    case Kind::Gap:
+        return u"gap"_s;
+    case Kind::Misaligned:
+        return u"misaligned"_s;
+    case Kind::Order:
+        return u"order"_s;
+    case Kind::Unreadable:
+        return u"unreadable"_s;
+    case Kind::Name:
+        return u"name"_s;
+    case Kind::Collision:
+        return u"collision"_s;
+    }
+    return {};
+}
+
+std::vector<Finding> Verify(const QString& archive) {
+    return Look(archive).All();
+}
+
+} // namespace Verification

@@ -1,0 +1,300 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/window/frmBigEditor.h"
+
+#include "big/window/FileListModel.h"
+#include "big/window/FolderTreeModel.h"
+#include "big/window/RowDrag.h"
+#include "big/window/frmBrowseForFolder.h"
+#include "big/window/frmVersion.h"
+#include "core/Navigator.h"
+#include "core/mMain.h"
+#include "core/mTraduction.h"
+#include "platform/Paths.h"
+#include "platform/Processes.h"
+#include "ui/text/Localisation.h"
+#include "ui/text/Mnemonics.h"
+#include "ui_frmBigEditor.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+frmBigEditor::frmBigEditor(QWidget* parent)
+    : QMainWindow(parent),
+      ui_(std::make_unique<Ui::frmBigEditor>()),
+      editor_(*this),
+      treeModel_(new FolderTreeModel(editor_.Tree(), this)),
+      listModel_(new FileListModel(editor_.List(), this)),
+      status_(new QLabel),
+      selection_(new QLabel) {
+    ui_->setupUi(this);
+    mTraduction::ApplyLanguage(this);
+    Dress();
+    ui_->tvDirs->setModel(treeModel_);
+    ui_->lvFiles->SetModel(listModel_);
+    editor_.UsePreview(&decoder_, &player_);
+    ui_->picDetails->Use(&player_);
+    ConnectCommands(this, Commands());
+    ConnectTree();
+    ConnectList();
+    const ViewMode mode = BigEditor::View();
+    ui_->lvFiles->SetMode(mode);
+    ui_->mnuView->actions().at(static_cast<int>(mode))->setChecked(true);
+    StateChanged();
+}
+
+// The controls ask their models for rows as long as they stand: they go before the document does.
+frmBigEditor::~frmBigEditor() {
+    delete takeCentralWidget();
+}
+
+void frmBigEditor::OpenBigFile(const QString& path) {
+    editor_.OpenBigFile(path);
+}
+
+void frmBigEditor::ExtractBigFile(const QString& path) {
+    editor_.ExtractBigFile(path);
+}
+
+void frmBigEditor::Dress() {
+    Mnemonics::AddTo(*ui_->menuBar);
+    ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
+    ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
+    ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
+    status_->setTextFormat(Qt::PlainText);
+    status_->setContentsMargins(6, 0, 0, 0);
+    status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
+    ui_->StatusBar1->addWidget(status_, 1);
+    ui_->mnuExit->setShortcuts({ui_->mnuExit->shortcut(), QKeySequence(u"Alt+F4"_s)});
+    status_->setObjectName(u"lblStatus"_s);
+    selection_->setObjectName(u"lblSelection"_s);
+    selection_->setTextFormat(Qt::PlainText);
+    ui_->StatusBar1->addPermanentWidget(selection_);
+    // The Delete key belongs to the tree and the list; elsewhere it would remove what the user is not looking at.
+    ui_->mnuDelete->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    ui_->tvDirs->addAction(ui_->mnuDelete);
+    ui_->lvFiles->AddAction(ui_->mnuDelete);
+    auto* views = new QActionGroup(this);
+    for (QAction* action : ui_->mnuView->actions())
+        views->addAction(action);
+    UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4,
+                                        ui_->Label2_5, ui_->Label2_6, ui_->Label2_7});
+    ui_->tvDirs->setFocus();
+}
+
+std::vector<ToolCommand> frmBigEditor::Commands() {
+    const auto of = [this](void (BigEditor::*run)()) { return [this, run] { (editor_.*run)(); }; };
+    return {
+        {ui_->mnuNew, ui_->Label2_3, u"new"_s, of(&BigEditor::New)},
+        {ui_->mnuOpen, ui_->Label2_4, u"open"_s, of(&BigEditor::Open)},
+        {ui_->mnuSave, ui_->Label2_5, u"save"_s, of(&BigEditor::Save)},
+        {ui_->mnuSaveAs, nullptr, u"save-as"_s, of(&BigEditor::SaveAs)},
+        {ui_->mnuFileVersion, ui_->Label2_7, u"version"_s, of(&BigEditor::FileVersion)},
+        {ui_->mnuExit, nullptr, u"exit"_s, [this] { close(); }},
+        {ui_->mnuModify, nullptr, u"modify"_s, [this] { Later([this] { editor_.Modify(); }); }},
+        {ui_->mnuExtract, ui_->Label2_0, u"extract"_s, of(&BigEditor::Extract)},
+        {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
+        {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, of(&BigEditor::Delete)},
+        {ui_->mnuNewFolder, ui_->Label2_6, u"new-folder"_s, of(&BigEditor::NewFolder)},
+        {ui_->mnuLvView_0, nullptr, {}, [this] { ChooseView(ViewMode::LargeIcons); }},
+        {ui_->mnuLvView_1, nullptr, {}, [this] { ChooseView(ViewMode::Details); }},
+        {ui_->mnuLvView_2, nullptr, {}, [this] { ChooseView(ViewMode::SmallIcons); }},
+        {ui_->mnuLvView_3, nullptr, {}, [this] { ChooseView(ViewMode::List); }},
+        {ui_->mnuOptions, nullptr, u"options"_s, [this] { ShowOptions(); }},
+        {ui_->mnuCheckForUpdates, nullptr, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }},
+        {ui_->mnuAbout, nullptr, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }},
+    };
+}
+
+void frmBigEditor::ConnectTree() {
+    connect(ui_->tvDirs->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& node) {
+        if (!following_)
+            editor_.ClickNode(FolderTreeModel::NodeOf(node));
+    });
+    // A click on the node that is selected already brings the tree back into play.
+    connect(ui_->tvDirs, &QTreeView::clicked, this, [this](const QModelIndex& node) {
+        if (editor_.State().FocusPane != FocusedPane::Tree)
+            editor_.ClickNode(FolderTreeModel::NodeOf(node));
+    });
+    connect(ui_->tvDirs, &QWidget::customContextMenuRequested, this, [this](QPoint place) {
+        const QModelIndex node = ui_->tvDirs->indexAt(place);
+        if (!node.isValid())
+            return;
+        editor_.ClickNode(FolderTreeModel::NodeOf(node));
+        ui_->mnuEdit->popup(ui_->tvDirs->viewport()->mapToGlobal(place));
+    });
+    // The edit ends first: a rename makes the tree anew.
+    const auto rename = [this](int node, const QString& text) { editor_.RenameNode(node, text); };
+    connect(treeModel_, &FolderTreeModel::RenameWanted, this, rename, Qt::QueuedConnection);
+    ui_->tvDirs->installEventFilter(this);
+}
+
+void frmBigEditor::ConnectList() {
+    FileListView* const list = ui_->lvFiles;
+    connect(list, &FileListView::RowClicked, this, [this](int place) { editor_.ClickRow(place); });
+    connect(list, &FileListView::RowActivated, this,
+            [this](int place) { Later([this, place] { editor_.ActivateRow(place); }); });
+    connect(list, &FileListView::Entered, this, [this] { editor_.EnterList(); });
+    connect(list, &FileListView::MenuWanted, this, &frmBigEditor::ShowMenu);
+    connect(list, &FileListView::DragStarted, this, &frmBigEditor::DragOut);
+    // The program that the files come from waits for the end of the drop: the work begins behind it.
+    connect(list, &FileListView::FilesDropped, this, [this](const QStringList& paths) {
+        Later([this, kept = BigEditor::AdoptDragged(paths)] { editor_.DropFiles(kept); });
+    });
+    connect(list->Selection(), &QItemSelectionModel::selectionChanged, this, &frmBigEditor::TellSelection);
+    const auto rename = [this](int place, const QString& text) {
+        if (editor_.RenameRow(place, text))
+            listModel_->RowChanged(place);
+    };
+    // At once: the click that ends an edit may show another folder, whose row of that place would be renamed.
+    connect(listModel_, &FileListModel::RenameWanted, this, rename);
+}
+
+// The menu for the row under the pointer, or that of the views.
+void frmBigEditor::ShowMenu(int place, QPoint globalPlace) {
+    editor_.EnterList();
+    editor_.OfferRow(place);
+    (place < 0 ? ui_->mnuView : ui_->mnuEdit)->popup(globalPlace);
+}
+
+void frmBigEditor::DragOut() {
+    const std::vector<int> places = SelectedRows();
+    if (places.empty())
+        return;
+    editor_.EnterList();
+    const auto picture = listModel_->index(places.front(), 0).data(Qt::DecorationRole).value<QIcon>();
+    DragRows(this, picture.pixmap(32),
+             {.Names = [this] { return editor_.DragNames(); },
+              .Extract = [this] { return editor_.ExtractForDrag(); },
+              .Ended = [this] { editor_.DragEnded(); }});
+}
+
+void frmBigEditor::TellSelection() {
+    selection_->setText(editor_.SelectionText());
+}
+
+bool frmBigEditor::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ui_->tvDirs && event->type() == QEvent::FocusIn) {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        // Coming with the Tab key is a click on the selected node: the commands act on what has the focus.
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+            editor_.ClickNode(editor_.State().SelectedNode);
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// While an entry is open in another program this window may be closed, and what called must not return into it: a
+// timer's call has nothing to return to.
+void frmBigEditor::Later(const std::function<void()>& command) {
+    QTimer::singleShot(0, this, command);
+}
+
+void frmBigEditor::ShowOptions() {
+    Navigator::Current().ShowOptions(this);
+    if (mMain::RestartRequested)
+        Processes::End(0);
+}
+
+void frmBigEditor::ChooseView(ViewMode mode) {
+    ui_->lvFiles->SetMode(mode);
+    BigEditor::SetView(mode);
+}
+
+void frmBigEditor::closeEvent(QCloseEvent* event) {
+    if (!editor_.MayClose()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (isVisible() && !mMain::CommandLine.contains(u"/tbig"_s))
+        Navigator::Current().ShowToolsMenu();
+}
+
+void frmBigEditor::ShowWindow() {
+    show();
+}
+
+void frmBigEditor::TreeChanged() {
+    const QScopedValueRollback following(following_, true);
+    treeModel_->Reset();
+    ui_->tvDirs->expandAll();
+}
+
+void frmBigEditor::ListChanged() {
+    listModel_->Reset(editor_.State().FileIcons);
+    ui_->lvFiles->RowsChanged();
+    TellSelection();
+}
+
+void frmBigEditor::StateChanged() {
+    const EditorState& state = editor_.State();
+    SelectNode();
+    for (QAction* action : {ui_->mnuSave, ui_->mnuSaveAs, ui_->mnuFileVersion, ui_->mnuAdd, ui_->mnuDelete,
+                            ui_->mnuExtract, ui_->mnuNewFolder})
+        action->setEnabled(state.ArchiveOpen);
+    ui_->mnuModify->setEnabled(state.ModifyEnabled);
+    ui_->mnuEdit->setEnabled(state.ArchiveOpen);
+    ui_->lvFiles->setEnabled(state.ArchiveOpen);
+    ui_->mnuActions->setVisible(state.ArchiveOpen);
+    ui_->mnuDetails->setVisible(state.DetailsVisible);
+    ui_->lblFName->setText(state.DetailsName);
+    ui_->lblFSize->setText(state.DetailsSize);
+    ui_->picDetails->Follow(editor_.Previewed());
+    status_->setText(state.StatusText);
+    TellSelection();
+    const QString tool = u"BIG Editor"_s;
+    setWindowTitle(state.ArchiveOpen ? Paths::LastPart(mBIG::BigFileName) + u"[*] - "_s + tool : tool);
+    setWindowModified(state.Modified);
+}
+
+void frmBigEditor::SelectNode() {
+    const int node = editor_.State().SelectedNode;
+    if (!editor_.Tree().Has(node))
+        return;
+    const QScopedValueRollback following(following_, true);
+    treeModel_->RootTextChanged();
+    ui_->tvDirs->setCurrentIndex(treeModel_->IndexOf(node));
+}
+
+void frmBigEditor::ShowVersion() {
+    frmVersion(this).exec();
+}
+
+void frmBigEditor::ShowBusy(bool busy) {
+    if (busy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+std::vector<int> frmBigEditor::SelectedRows() const {
+    return ui_->lvFiles->SelectedRows();
+}
+
+void frmBigEditor::EditNode(int node) {
+    const QModelIndex index = treeModel_->IndexOf(node);
+    ui_->tvDirs->setFocus();
+    ui_->tvDirs->scrollTo(index);
+    ui_->tvDirs->edit(index);
+}
+
+ExtractionTarget frmBigEditor::AskForFolder() {
+    frmBrowseForFolder chooser(isVisible() ? this : nullptr);
+    chooser.exec();
+    return chooser.Target();
+}
+
+void frmBigEditor::EnableWindow(bool enabled) {
+    setEnabled(enabled);
+}
+
+quintptr frmBigEditor::Handle() const {
+    return winId();
+}

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The BIG Editor: one archive as folder tree and file list, with its commands in menus and side links.
+#pragma once
+
+#include "big/document/BigEditor.h"
+#include "media/PictureProcess.h"
+#include "media/SoundPlayer.h"
+
+#include "ui/window/ToolCommands.h"
+
+#include <QMainWindow>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class FileListModel;
+class FolderTreeModel;
+class QLabel;
+
+namespace Ui {
+class frmBigEditor;
+}
+
+class frmBigEditor : public QMainWindow, private EditorView {
+    Q_OBJECT
+public:
+    explicit frmBigEditor(QWidget* parent = nullptr);
+    ~frmBigEditor() override;
+
+    /// Shows the window and opens an archive (inside path); a file that doesn't exist is ignored, and the window stays
+    /// as it is.
+    void OpenBigFile(const QString& path);
+
+    /// Opens an archive without showing the window and extracts it into a folder that the user chooses. Returns when
+    /// that is done; a file that doesn't exist is ignored, a refused one beeps.
+    void ExtractBigFile(const QString& path);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void ShowWindow() override;
+    void TreeChanged() override;
+    void ListChanged() override;
+    void StateChanged() override;
+    void ShowVersion() override;
+    void ShowBusy(bool busy) override;
+    [[nodiscard]] std::vector<int> SelectedRows() const override;
+    void EditNode(int node) override;
+    ExtractionTarget AskForFolder() override;
+    void EnableWindow(bool enabled) override;
+    [[nodiscard]] quintptr Handle() const override;
+
+    void Dress();
+    std::vector<ToolCommand> Commands();
+    void ConnectTree();
+    void ConnectList();
+    void ShowMenu(int place, QPoint globalPlace);
+    void DragOut();
+    void TellSelection();
+    void Later(const std::function<void()>& command);
+    void ShowOptions();
+    void SelectNode();
+    void ChooseView(ViewMode mode);
+
+    PictureProcess decoder_;
+    FilePlayer player_;
+    std::unique_ptr<Ui::frmBigEditor> ui_;
+    BigEditor editor_;
+    FolderTreeModel* treeModel_;
+    FileListModel* listModel_;
+    QLabel* status_;         ///< the status bar's text
+    QLabel* selection_;      ///< how many rows there are and are selected
+    bool following_ = false; ///< the views follow the document, not the other way round
+};

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The chooser of the folder that is extracted to.
+#pragma once
+
+#include "big/document/Extraction.h"
+#include "ui/folders/FileBoxSystem.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class frmBrowseForFolder;
+}
+
+class frmBrowseForFolder : public QDialog {
+    Q_OBJECT
+public:
+    /// Another machine than the one that the program runs on can be given.
+    explicit frmBrowseForFolder(QWidget* parent = nullptr, std::unique_ptr<FileBoxSystem> system = nullptr);
+    ~frmBrowseForFolder() override;
+
+    /// What was chosen; before the window is left, and after Cancel, ExtractCancelled is true.
+    [[nodiscard]] const ExtractionTarget& Target() const { return target_; }
+
+public Q_SLOTS:
+    /// Escape and the window's own close button are the same as cmdCancel.
+    void reject() override;
+
+private:
+    void Choose();
+    void MakeNewFolder();
+    void ShowPath();
+
+    std::unique_ptr<Ui::frmBrowseForFolder> ui_;
+    ExtractionTarget target_;
+};

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/window/frmAbout.h"
+
+#include "core/mMain.h"
+#include "ui/look/Picture.h"
+#include "ui/look/Style.h"
+#include "ui/text/Localisation.h"
+#include "ui_frmAbout.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+void Dress(QLabel* label, const QFont& font, const QColor& colour) {
+    label->setFont(font);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, colour);
+    label->setPalette(palette);
+}
+
+} // namespace
+
+frmAbout::frmAbout(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::frmAbout>()) {
+    ui_->setupUi(this);
+    setFixedSize(size());
+    Dress(ui_->lblTitle, Style::HeadingFont(15), Style::Colour::EntryPlain);
+    Dress(ui_->lblVersion, Style::TextFont(), Style::Colour::TextOnPicture);
+    Dress(ui_->Label2, Style::HeadingFont(12), Style::Colour::EntryHover);
+    Dress(ui_->Label3, Style::HeadingFont(12), Style::Colour::ShadowOnPicture);
+    mTraduction::ApplyLanguage(this);
+    ui_->lblVersion->setText(mMain::VersionText());
+}
+
+frmAbout::~frmAbout() = default;
+
+void frmAbout::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    close();
+}
+
+void frmAbout::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        close();
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void frmAbout::paintEvent(QPaintEvent* /*event*/) {
+    if (const qreal ratio = devicePixelRatio(); picture_.isNull() || picture_.devicePixelRatio() < ratio)
+        picture_ = Picture::Load(QStringLiteral("about"), ratio);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(rect(), picture_);
+}

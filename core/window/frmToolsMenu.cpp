@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/window/frmToolsMenu.h"
+
+#include "core/Navigator.h"
+#include "core/mMain.h"
+#include "platform/Processes.h"
+#include "platform/RuntimeError.h"
+#include "ui/look/Picture.h"
+#include "ui/look/Style.h"
+#include "ui/look/ucShadow.h"
+#include "ui/text/Localisation.h"
+#include "ui_frmToolsMenu.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace {
+constexpr QPoint shadowOffset{7, 2}; // of the dark copies, from their entries' corners
+} // namespace
+
+frmToolsMenu::frmToolsMenu(QWidget* parent)
+    : QWidget(parent, Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint | Qt::WindowSystemMenuHint),
+      ui_(std::make_unique<Ui::frmToolsMenu>()) {
+    setAttribute(Qt::WA_TranslucentBackground);
+    ui_->setupUi(this);
+    entries_ = {ui_->Label1_0, ui_->Label1_1, ui_->Label1_2, ui_->Label1_3, ui_->Label1_4};
+    descriptions_ = {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3};
+    shadows_ = {ui_->Label3_0, ui_->Label3_1, ui_->Label3_2, ui_->Label3_3};
+    Dress();
+
+    mTraduction::ApplyLanguage(this);
+    if (mMain::NoGameOfFirstThree())
+        ui_->Label1_2->setEnabled(false);
+    ui_->lblVersion->setText(mMain::VersionText());
+    PlaceTexts();
+
+    for (int index = 0; index < static_cast<int>(entries_.size()); ++index) {
+        PictureButton* const entry = entries_.at(static_cast<std::size_t>(index));
+        connect(entry, &PictureButton::clicked, this, [this, index] { EntryClicked(index); });
+        connect(entry, &PictureButton::MouseMoved, this, [this, index] { EntryHovered(index); });
+    }
+    connect(ui_->lblVersion, &PictureButton::clicked, this, [this] { Navigator::Current().ShowAbout(this); });
+    ui_->Label1_0->setFocus();
+}
+
+frmToolsMenu::~frmToolsMenu() = default;
+
+void frmToolsMenu::Dress() {
+    setMouseTracking(true);
+    setMask(ucShadow::Area(rect()));
+    ui_->lblTitle->setFont(Style::HeadingFont(24));
+    ui_->lblTitle->setAttribute(Qt::WA_TransparentForMouseEvents);
+    ui_->lblVersion->setFont(Style::TextFont(8));
+    ui_->lblVersion->SetTextColour(Style::Colour::TextOnPicture);
+    const auto colour = [](QLabel* label, const QColor& text) {
+        QPalette palette = label->palette();
+        palette.setColor(QPalette::WindowText, text);
+        label->setPalette(palette);
+    };
+    colour(ui_->lblTitle, Style::Colour::EntryPlain);
+    for (PictureButton* entry : entries_)
+        entry->setFont(Style::HeadingFont(15));
+    for (QLabel* shadow : shadows_) {
+        shadow->setFont(Style::HeadingFont(15));
+        shadow->setAttribute(Qt::WA_TransparentForMouseEvents);
+        colour(shadow, Style::Colour::ShadowOnPicture);
+    }
+    for (QLabel* description : descriptions_) {
+        description->setFont(Style::TextFont());
+        description->setMouseTracking(true);
+        description->installEventFilter(this);
+        colour(description, Style::Colour::TextOnPicture);
+    }
+}
+
+// An entry is as wide as its text, so that what lies beside it is background. Its dark copy lies behind it.
+void frmToolsMenu::PlaceTexts() {
+    for (PictureButton* entry : entries_)
+        entry->resize(entry->sizeHint().width(), entry->height());
+    for (std::size_t index = 0; index < shadows_.size(); ++index) {
+        shadows_.at(index)->setGeometry(entries_.at(index)->geometry().translated(shadowOffset));
+        entries_.at(index)->setAccessibleDescription(descriptions_.at(index)->text());
+    }
+    const int right = ui_->lblVersion->geometry().right();
+    ui_->lblVersion->resize(ui_->lblVersion->sizeHint().width(), ui_->lblVersion->height());
+    ui_->lblVersion->move(right - ui_->lblVersion->width() + 1, ui_->lblVersion->y());
+}
+
+void frmToolsMenu::EntryClicked(int index) {
+    Navigator& navigator = Navigator::Current();
+
+    struct Opened {
+        Navigator::Tool Tool;
+        void (Navigator::*Show)();
+    };
+
+    static constexpr std::array<Opened, 3> tools{{{Navigator::Tool::BigEditor, &Navigator::ShowBigEditor},
+                                                  {Navigator::Tool::CSFEditor, &Navigator::ShowCSFEditor},
+                                                  {Navigator::Tool::PersonalFiles, &Navigator::ShowPersonalFiles}}};
+    if (index == 3)
+        ShowOptions();
+    else if (index == 4)
+        EndProgram();
+    else if (const Opened& tool = tools.at(static_cast<std::size_t>(index)); navigator.IsBuilt(tool.Tool)) {
+        (navigator.*tool.Show)();
+        close();
+    }
+}
+
+void frmToolsMenu::ShowOptions() {
+    Navigator::Current().ShowOptions(this);
+    if (mMain::RestartRequested)
+        Processes::End(0);
+}
+
+void frmToolsMenu::EndProgram() {
+    close();
+    for (QWidget* window : QApplication::topLevelWidgets())
+        Ignoring([&] { window->close(); });
+    QApplication::quit();
+}
+
+void frmToolsMenu::EntryHovered(int index) {
+    for (std::size_t entry = 0; entry < entries_.size(); ++entry)
+        entries_.at(entry)->SetTextColour(static_cast<int>(entry) == index ? Style::Colour::EntryHover
+                                                                           : Style::Colour::EntryPlain);
+}
+
+void frmToolsMenu::PaintEntriesWhite() {
+    EntryHovered(-1);
+}
+
+bool frmToolsMenu::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::MouseMove)
+        return QWidget::eventFilter(watched, event);
+    PaintEntriesWhite(); // a description; it does not move the window
+    return true;
+}
+
+void frmToolsMenu::mousePressEvent(QMouseEvent* event) {
+    heldAt_ = event->position().toPoint();
+}
+
+void frmToolsMenu::mouseMoveEvent(QMouseEvent* event) {
+    PaintEntriesWhite();
+    if (!event->buttons().testFlag(Qt::LeftButton))
+        return;
+    // Where the system has no move of its own, the window follows the pointer.
+    if (!windowHandle()->startSystemMove())
+        move(event->globalPosition().toPoint() - heldAt_);
+}
+
+void frmToolsMenu::paintEvent(QPaintEvent* /*event*/) {
+    if (const qreal ratio = devicePixelRatio(); picture_.isNull() || picture_.devicePixelRatio() < ratio)
+        picture_ = Picture::Load(QStringLiteral("menu"), ratio);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(rect().adjusted(0, 0, -ucShadow::Reach, -ucShadow::Reach), picture_);
+}

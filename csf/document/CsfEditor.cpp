@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "csf/document/CsfEditor.h"
+
+#include "core/Host.h"
+#include "core/Sizes.h"
+#include "core/mMain.h"
+#include "core/mTraduction.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+using mTraduction::GetText;
+
+namespace {
+
+QString ForBox(QString value) {
+    return value.replace(u'\n', u"\r\n"_s);
+}
+
+} // namespace
+
+bool CsfEditor::reading_ = false;
+
+CsfEditor::CsfEditor(CsfEditorView& view) : view_(view) {
+    state_.Path = GetText(u"New"_s) + u"CSF.csf"_s;
+    state_.FindText = GetText(u"Find"_s);
+}
+
+QStringList CsfEditor::Languages() {
+    return {u"0 - English"_s, u"1 - Unknown"_s, u"2 - German"_s,  u"3 - French"_s, u"4 - Unknown"_s,
+            u"5 - Unknown"_s, u"6 - Unknown"_s, u"7 - Unknown"_s, u"8 - Corean"_s};
+}
+
+bool CsfEditor::Locked() const {
+    if (reading_)
+        Host::Current().Beep();
+    return reading_;
+}
+
+void CsfEditor::OpenCSFFile(const QString& path) {
+    if (!Files::FileExists(path) || Locked())
+        return;
+    qint32 language = mCSF::Refused;
+    {
+        const QScopedValueRollback lock(reading_, true);
+        language = mCSF::ReadCSF(path);
+    }
+    if (language != mCSF::Refused)
+        Load(path, language);
+}
+
+void CsfEditor::Load(const QString& path, qint32 language) {
+    // Meant so: a number beyond the list leaves the list as it was.
+    if (language < Languages().size())
+        state_.LanguageShown = language;
+    state_.LanguageText = QString::number(language);
+    state_.Path = path;
+    state_.Caption = Paths::LastPart(path);
+    state_.FrameVisible = true;
+    Ignoring([&] { state_.SizeText = Sizes::KiloBytes(Files::FileLength(path)); });
+    {
+        const Busy busy(view_);
+        view_.ListChanging(LabelChange::Reset, 0);
+        list_.Load(mCSF::CsfStrings);
+        state_.SelectedRow = CsfEditorState::None;
+        view_.ListChanged(LabelChange::Reset, 0);
+    }
+    state_.ActionsVisible = true;
+    SelectAndClick(0, true);
+    state_.Modified = false;
+    view_.StateChanged();
+    view_.ShowWindow();
+}
+
+void CsfEditor::SelectAndClick(int place, bool focus) {
+    state_.SelectedRow = place;
+    view_.SelectRow(place, focus);
+    ClickRow(place);
+}
+
+void CsfEditor::ClickRow(int place) {
+    if (!list_.Has(place))
+        return;
+    state_.SelectedRow = place;
+    ShowBoxes(true, list_.Row(place).Name, ForBox(list_.Row(place).Value));
+}
+
+void CsfEditor::ShowBoxes(bool enabled, const QString& name, const QString& value) {
+    state_.BoxesEnabled = enabled;
+    state_.NameText = name;
+    state_.ValueText = value;
+    view_.BoxesChanged();
+    view_.StateChanged();
+}
+
+void CsfEditor::ClickHeader(LabelList::Column column) {
+    const Busy busy(view_);
+    view_.ListChanging(LabelChange::Sort, 0);
+    newPlaces_ = list_.SortBy(column);
+    if (list_.Has(state_.SelectedRow))
+        state_.SelectedRow = newPlaces_[static_cast<std::size_t>(state_.SelectedRow)];
+    view_.ListChanged(LabelChange::Sort, 0);
+    view_.StateChanged();
+}
+
+void CsfEditor::NameTyped(const QString& text) {
+    if (!list_.Has(state_.SelectedRow))
+        return;
+    list_.SetName(state_.SelectedRow, text);
+    state_.Modified = true;
+    view_.RowChanged(state_.SelectedRow);
+    view_.StateChanged();
+}
+
+void CsfEditor::ValueTyped(const QString& text) {
+    if (!list_.Has(state_.SelectedRow))
+        return;
+    list_.SetValue(state_.SelectedRow, QString(text).replace(u"\r\n"_s, u"\n"_s));
+    state_.Modified = true;
+    view_.RowChanged(state_.SelectedRow);
+    view_.StateChanged();
+}
+
+void CsfEditor::Add() {
+    const int place = list_.Count();
+    view_.ListChanging(LabelChange::Insert, place);
+    list_.Add(GetText(u"New"_s), GetText(u"Text"_s));
+    view_.ListChanged(LabelChange::Insert, place);
+    view_.ScrollToRow(place);
+    state_.Modified = true;
+    view_.StateChanged();
+}
+
+void CsfEditor::Delete() {
+    const int place = state_.SelectedRow;
+    if (!list_.Has(place))
+        throw RuntimeError(ErrorNumber::ObjectNotSet, u"no row is selected"_s);
+    view_.ListChanging(LabelChange::Remove, place);
+    list_.Remove(place);
+    state_.SelectedRow = CsfEditorState::None;
+    view_.ListChanged(LabelChange::Remove, place);
+    // Meant so: behind the last row there is none to select, and the program ends.
+    if (!list_.Has(place))
+        throw RuntimeError(ErrorNumber::Subscript, u"no row follows the one that was deleted"_s);
+    state_.Modified = true;
+    SelectAndClick(place, false);
+}
+
+void CsfEditor::FindTyped(const QString& text) {
+    state_.FindText = text;
+    view_.StateChanged();
+}
+
+void CsfEditor::FindFocused() {
+    if (state_.FindText != GetText(u"Find"_s))
+        return;
+    state_.FindText.clear();
+    state_.FindIsGrey = false;
+    view_.StateChanged();
+}
+
+void CsfEditor::FindLeft() {
+    if (!state_.FindText.isEmpty())
+        return;
+    state_.FindText = GetText(u"Find"_s);
+    state_.FindIsGrey = true;
+    view_.StateChanged();
+}
+
+void CsfEditor::FindNext() {
+    const int next = state_.SelectedRow + 1;
+    // Meant so: only the last row starts at the top again; what is not found behind the selection is not found.
+    const int found = list_.Find(state_.FindText, next < list_.Count() ? next : 0);
+    if (found >= 0)
+        SelectAndClick(found, true);
+}
+
+void CsfEditor::FindNextByKey() {
+    if (state_.FindText != GetText(u"Find"_s))
+        FindNext();
+}
+
+QString CsfEditor::CountText() const {
+    QString rows = GetText(u"RowCount"_s).replace(u"%1"_s, Sizes::Grouped(list_.Count()));
+    if (state_.FindIsGrey || state_.FindText.isEmpty())
+        return rows;
+    const QString matches = GetText(u"MatchCount"_s).replace(u"%1"_s, Sizes::Grouped(list_.Matches(state_.FindText)));
+    return rows + u", "_s + matches;
+}
+
+bool CsfEditor::MenuFollows() {
+    return !mMain::CommandLine.contains(u"/tcsf"_s) && !mMain::CsfOpenedByHost;
+}

@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The document of the CSF Editor and its commands, without any control: the rows, the two boxes, the search, and what
+/// of the window is shown and enabled.
+#pragma once
+
+#include "core/Document.h"
+#include "csf/document/LabelList.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+enum class LabelChange {
+    Reset,  ///< all rows are others
+    Insert, ///< one row comes in at the place
+    Remove, ///< the row at the place goes
+    Sort,   ///< the same rows in another order: CsfEditor::NewPlaces tells which
+};
+
+/// What the table asks of its window besides.
+class CsfEditorView : public DocumentView {
+public:
+    /// Around each change of the rows; `place` counts for Insert and Remove.
+    virtual void ListChanging(LabelChange change, int place) = 0;
+    virtual void ListChanged(LabelChange change, int place) = 0;
+    /// The texts of one row are others.
+    virtual void RowChanged(int place) = 0;
+    /// Selects a row alone and scrolls it into view, with the focus on the list when `focus`. The document treats the
+    /// row as clicked by itself.
+    virtual void SelectRow(int place, bool focus) = 0;
+    /// Scrolls a row into view and leaves the selection.
+    virtual void ScrollToRow(int place) = 0;
+    /// Both boxes get the state's NameText and ValueText; that is no change by the user.
+    virtual void BoxesChanged() = 0;
+};
+
+struct CsfEditorState {
+    static constexpr int None = -1;
+
+    QString Path;                ///< inside path of the file; the new-file name while there is none
+    bool Modified = false;       ///< unsaved changes exist
+    bool FrameVisible = false;   ///< fraFileInfos
+    QString Caption;             ///< of fraFileInfos
+    QString SizeText;            ///< lblSize
+    QString LanguageText;        ///< lblLanguage: the number that saves use
+    int LanguageShown = None;    ///< the entry of cmbLanguage, read or chosen; saves ignore it
+    bool ActionsVisible = false; ///< mnuActions
+    bool BoxesEnabled = false;   ///< txtName and txtValue
+    QString NameText;            ///< txtName, as the document set it last
+    QString ValueText;           ///< txtValue, as the document set it last; line breaks are CR LF
+    int SelectedRow = None;      ///< a place in the list
+    QString FindText;            ///< txtFind
+    bool FindIsGrey = true;      ///< txtFind in grey (0x808080): it holds its prompt
+};
+
+class CsfEditor {
+public:
+    /// The view outlives the editor. A new editor has no document.
+    explicit CsfEditor(CsfEditorView& view);
+
+    [[nodiscard]] const CsfEditorState& State() const { return state_; }
+
+    [[nodiscard]] const LabelList& List() const { return list_; }
+
+    /// The entries of cmbLanguage, by number.
+    [[nodiscard]] static QStringList Languages();
+
+    /// Opens a file and shows the window; one that is missing or refused changes nothing. Asks nothing about changes.
+    void OpenCSFFile(const QString& path);
+
+    void New();
+    void Open();
+    void Save();
+    void SaveAs();
+    void Add();
+    /// Removes the selected row without a question. Raises 91 when none is selected, and 9 when it was the last one of
+    /// the list: the row has gone by then.
+    void Delete();
+
+    /// A row was selected, by a click or by walking with the keys.
+    void ClickRow(int place);
+    /// A click on a column's header.
+    void ClickHeader(LabelList::Column column);
+
+    /// The new place of each row by its old one, as the last ClickHeader sorted them.
+    [[nodiscard]] const std::vector<int>& NewPlaces() const { return newPlaces_; }
+
+    /// The user chose an entry of cmbLanguage: no change of the document.
+    void LanguageChosen(int entry) { state_.LanguageShown = entry; }
+
+    /// The user changed a box; what it holds now. Line breaks may be CR LF or LF.
+    void NameTyped(const QString& text);
+    void ValueTyped(const QString& text);
+
+    void FindTyped(const QString& text);
+    void FindFocused();
+    void FindLeft();
+    /// The button: selects the next row whose name contains the search text, the prompt too.
+    void FindNext();
+    /// F3 in the list or the search box, Enter in the latter: nothing while the prompt stands there.
+    void FindNextByKey();
+
+    /// How many rows the list has, and how many of them the search text is in, for the status bar.
+    [[nodiscard]] QString CountText() const;
+
+    /// The question about unsaved changes; false when the window has to stay.
+    bool MayClose();
+    /// Whether the tools menu comes back after the window: not with "/tcsf", and not after a hand-over by another tool.
+    [[nodiscard]] static bool MenuFollows();
+
+private:
+    /// True, with a beep, while a read is under way: it yields to the event loop, and table and file are its own.
+    [[nodiscard]] bool Locked() const;
+    bool GoOnWithoutChanges(const QString& name);
+    void Load(const QString& path, qint32 language);
+    Document::Saved SaveToFileOrName();
+    Document::Saved SaveUnderName();
+    Document::Saved Write();
+    void SelectAndClick(int place, bool focus);
+    void ShowBoxes(bool enabled, const QString& name, const QString& value);
+
+    CsfEditorView& view_;
+    CsfEditorState state_;
+    LabelList list_;
+    std::vector<int> newPlaces_;
+    static bool reading_; ///< in any window: table and file are one for all
+};

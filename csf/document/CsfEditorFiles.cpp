@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/Host.h"
+#include "core/mTraduction.h"
+#include "csf/document/CsfEditor.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+using Document::Saved;
+using mTraduction::GetText;
+
+namespace {
+
+Host::FileDialog TableDialog(const QString& path) {
+    return {.Title = u"CSF Editor"_s,
+            .Filter = u"Fichiers CSF (*.csf)|*.csf"_s,
+            .DefaultExtension = u"csf"_s,
+            .DefaultName = u"*.csf"_s,
+            .Folder = Document::FolderForDialogs(path)};
+}
+
+QString NewName() {
+    return GetText(u"New"_s) + u"CSF.csf"_s;
+}
+
+} // namespace
+
+bool CsfEditor::GoOnWithoutChanges(const QString& name) {
+    return !state_.Modified || Document::GoOnWithoutChanges(name, [this] { return SaveToFileOrName(); });
+}
+
+bool CsfEditor::MayClose() {
+    return !Locked() && GoOnWithoutChanges(Paths::ToNative(state_.Path));
+}
+
+void CsfEditor::New() {
+    if (Locked() || !GoOnWithoutChanges(Paths::LastPart(state_.Path)))
+        return;
+    mCSF::CsfStrings.assign(1, {});
+    view_.ListChanging(LabelChange::Reset, 0);
+    list_.Clear();
+    state_.SelectedRow = CsfEditorState::None;
+    view_.ListChanged(LabelChange::Reset, 0);
+    state_.Path = NewName();
+    state_.Caption = state_.Path;
+    state_.FrameVisible = true;
+    state_.SizeText = u"-"_s;
+    state_.LanguageText = u"0"_s;
+    state_.Modified = false;
+    ShowBoxes(false, {}, {});
+}
+
+void CsfEditor::Open() {
+    if (Locked() || !GoOnWithoutChanges(Paths::LastPart(state_.Path)))
+        return;
+    if (const auto path = Host::Current().OpenFileName(TableDialog(state_.Path)))
+        OpenCSFFile(*path);
+}
+
+void CsfEditor::Save() {
+    if (!Locked())
+        SaveToFileOrName();
+}
+
+void CsfEditor::SaveAs() {
+    if (!Locked())
+        SaveUnderName();
+}
+
+Saved CsfEditor::SaveToFileOrName() {
+    if (list_.Count() == 0)
+        return Saved::NothingToSave;
+    return state_.Path == NewName() ? SaveUnderName() : Write();
+}
+
+Saved CsfEditor::SaveUnderName() {
+    if (list_.Count() == 0)
+        return Saved::NothingToSave;
+    const auto path = Host::Current().SaveFileName(TableDialog(state_.Path));
+    if (!path)
+        return Saved::Cancelled;
+    state_.Path = *path;
+    state_.Caption = Paths::LastPart(*path);
+    state_.FrameVisible = true;
+    return Write();
+}
+
+Saved CsfEditor::Write() {
+    const Busy busy(view_);
+    mCSF::CsfStrings = list_.Table();
+    // What was not written whole says nothing, but it stays a change: the old file stands aside as ".sav".
+    const bool written = mCSF::WriteCSF(state_.Path, static_cast<qint16>(state_.LanguageText.toInt()));
+    Ignoring([&] {
+        state_.SizeText = QString::number(Files::FileLength(state_.Path) / 1024) + u' ' + GetText(u"KiloBytes"_s);
+    });
+    state_.Modified = !written;
+    view_.StateChanged();
+    return written ? Saved::Yes : Saved::Failed;
+}

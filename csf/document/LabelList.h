@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The rows of the CSF Editor's list as plain data: name and value, in the order shown.
+#pragma once
+
+#include "csf/format/mCSF.h"
+
+#include <QString>
+
+#include <array>
+#include <vector>
+
+struct LabelRow {
+    QString Name;   ///< the row's text
+    QString Value;  ///< sub-item 1 and the row's tip; line breaks are line feeds
+    int Index = -1; ///< in the table at load; -1 for a row that was added since
+};
+
+class LabelList {
+public:
+    enum Column { Name, Value };
+
+    static constexpr int ColumnCount = 2;
+
+    enum class Order { None, Ascending, Descending };
+
+    /// Takes the table's entries as rows, sorted by name upwards.
+    void Load(const std::vector<CsfString>& table);
+
+    void Clear() { rows_.clear(); }
+
+    [[nodiscard]] int Count() const { return static_cast<int>(rows_.size()); }
+
+    [[nodiscard]] bool Has(int place) const { return place >= 0 && place < Count(); }
+
+    /// The row at a place from 0 to Count() - 1.
+    [[nodiscard]] const LabelRow& Row(int place) const { return rows_[static_cast<std::size_t>(place)]; }
+
+    /// "I" and the index in the table at load; empty for a row that was added since.
+    [[nodiscard]] QString Key(int place) const;
+
+    void SetName(int place, const QString& name) { rows_[static_cast<std::size_t>(place)].Name = name; }
+
+    void SetValue(int place, const QString& value) { rows_[static_cast<std::size_t>(place)].Value = value; }
+
+    /// Puts a row at the end, whatever the order.
+    void Add(const QString& name, const QString& value) { rows_.push_back({name, value}); }
+
+    void Remove(int place) { rows_.erase(rows_.begin() + place); }
+
+    /// The rows as a table, in the order shown.
+    [[nodiscard]] std::vector<CsfString> Table() const;
+
+    /// A click on a column's header: from no order to ascending, then descending and ascending in turn; the other
+    /// column loses its mark. Text without regard to case, equal texts in the order that they had. Returns the new
+    /// place of each row by its old one.
+    std::vector<int> SortBy(Column column);
+
+    [[nodiscard]] Order OrderOf(Column column) const { return orders_.at(column); }
+
+    /// The first place from `from` on whose name contains the text, in any case; -1 when there is none.
+    [[nodiscard]] int Find(const QString& text, int from) const;
+
+    /// How many names contain the text, in any case.
+    [[nodiscard]] int Matches(const QString& text) const;
+
+private:
+    std::vector<int> Sort();
+
+    std::vector<LabelRow> rows_;
+    std::array<Order, ColumnCount> orders_{};
+};

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Two string tables compared, three merged, one checked. Entries belong together by their name, letter by letter, and
+/// where a name comes again by how often it has come.
+#pragma once
+
+#include "csf/exchange/CsfExchange.h"
+
+#include <QString>
+
+#include <vector>
+
+struct CsfDifference {
+    enum class Kind { Added, Removed, Changed };
+
+    Kind What = Kind::Added;
+    QString Name;
+    QString Before; ///< the value; empty for an added entry
+    QString After;  ///< the value; empty for a removed entry
+
+    bool operator==(const CsfDifference&) const = default;
+};
+
+struct CsfConflict {
+    QString Name;
+    QString Reason;
+
+    bool operator==(const CsfConflict&) const = default;
+};
+
+struct CsfMerged {
+    CsfTable Table;
+    std::vector<CsfConflict> Conflicts; ///< ours was kept in each
+    bool LanguageConflict = false;
+};
+
+struct CsfFinding {
+    enum class Kind { Duplicate, Empty, Placeholders, Long };
+
+    Kind What = Kind::Duplicate;
+    QString Name;
+    QString Here;  ///< the value's placeholders, or its length
+    QString There; ///< the other value's placeholders
+
+    bool operator==(const CsfFinding&) const = default;
+};
+
+namespace CsfCompare {
+
+/// What was removed and changed, in the order of `before`, then what was added, in the order of `after`. The order of
+/// the entries is no difference.
+std::vector<CsfDifference> Diff(const CsfTable& before, const CsfTable& after);
+
+/// What either side changed against `base`. The result has the order of `ours`; what only `theirs` added comes last.
+CsfMerged Merge(const CsfTable& base, const CsfTable& ours, const CsfTable& theirs);
+
+struct Checks {
+    const CsfTable* Against = nullptr; ///< placeholders have to be those of the entry of that name, in any case
+    qsizetype Maximum = 0;             ///< characters a value may have; 0 for any number
+};
+
+/// Names that come again without regard to case, empty values, and what `checks` asks for, in the table's order.
+std::vector<CsfFinding> Check(const CsfTable& table, const Checks& checks);
+
+/// The printf-style placeholders of a text, without width and precision, joined by blanks.
+QString Placeholders(const QString& text);
+
+} // namespace CsfCompare

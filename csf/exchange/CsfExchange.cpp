@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "csf/exchange/CsfExchange.h"
+
+#include "csf/exchange/CsfFormats.h"
+#include "platform/RuntimeError.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString DecodeUtf8(const QByteArray& bytes) {
+    qsizetype line = 1;
+    for (qsizetype at = 0; at < bytes.size(); ++line) {
+        const qsizetype lineFeed = bytes.indexOf('\n', at);
+        const qsizetype end = lineFeed < 0 ? bytes.size() : lineFeed;
+        if (!QByteArrayView(bytes).sliced(at, end - at).isValidUtf8())
+            CsfFormats::Refuse(line, u"not UTF-8"_s);
+        at = end + 1;
+    }
+    return QString::fromUtf8(bytes);
+}
+
+[[noreturn]] void RefuseJson(const QString& reason) {
+    throw RuntimeError(ErrorNumber::TypeMismatch, reason);
+}
+
+QString TextOf(const QJsonValue& entry, const QString& key, qsizetype index) {
+    const QJsonValue text = entry[key];
+    if (!text.isString())
+        RefuseJson(u"strings[%1] has no text \"%2\""_s.arg(index).arg(key));
+    return text.toString();
+}
+
+} // namespace
+
+namespace CsfFormats {
+
+void Refuse(qsizetype line, const QString& reason) {
+    throw RuntimeError(ErrorNumber::TypeMismatch, u"line %1: %2"_s.arg(line).arg(reason));
+}
+
+int LanguageNumber(QStringView text, qsizetype line) {
+    bool isNumber = false;
+    const int number = text.trimmed().toInt(&isNumber);
+    if (!isNumber || number < 0)
+        Refuse(line, u"\"%1\" is no language number"_s.arg(text));
+    return number;
+}
+
+QByteArray ToJson(const CsfTable& table) {
+    QJsonArray strings;
+    for (const CsfString& entry : table.Strings)
+        strings.append(QJsonObject{{u"name"_s, entry.Name}, {u"value"_s, entry.Value}});
+    return QJsonDocument(QJsonObject{{u"language"_s, table.Language}, {u"strings"_s, strings}}).toJson();
+}
+
+CsfTable FromJson(const QByteArray& bytes) {
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    if (error.error != QJsonParseError::NoError)
+        Refuse(QByteArrayView(bytes).first(std::clamp<qsizetype>(error.offset, 0, bytes.size())).count('\n') + 1,
+               error.errorString());
+    const QJsonValue language = document[u"language"_s];
+    if (!document[u"strings"_s].isArray())
+        RefuseJson(u"there is no list \"strings\""_s);
+    if (!language.isUndefined() && language.toInt(-1) < 0)
+        RefuseJson(u"\"language\" is no language number"_s);
+    CsfTable table{language.toInt(), {}};
+    const QJsonArray strings = document[u"strings"_s].toArray();
+    table.Strings.reserve(static_cast<std::size_t>(strings.size()));
+    qsizetype index = 0;
+    for (const auto& entry : strings) {
+        table.Strings.push_back({TextOf(entry, u"value"_s, index), TextOf(entry, u"name"_s, index)});
+        ++index;
+    }
+    return table;
+}
+
+} // namespace CsfFormats
+
+namespace CsfExchange {
+
+std::optional<Format> FormatOf(const QString& path) {
+    if (path.endsWith(u".json"_s, Qt::CaseInsensitive))
+        return Format::Json;
+    if (path.endsWith(u".csv"_s, Qt::CaseInsensitive))
+        return Format::Csv;
+    if (path.endsWith(u".po"_s, Qt::CaseInsensitive))
+        return Format::Po;
+    return std::nullopt;
+}
+
+QByteArray Export(const CsfTable& table, Format format) {
+    switch (format) {
+    case Format::Json:
+        return CsfFormats::ToJson(table);
+    case Format::Csv:
+        return CsfFormats::ToCsv(table);
+    case Format::Po:
+        break;
+    }
+    return CsfFormats::ToPo(table);
+}
+
+CsfTable Import(const QByteArray& bytes, Format format) {
+    switch (format) {
+    case Format::Json:
+        return CsfFormats::FromJson(bytes);
+    case Format::Csv:
+        return CsfFormats::FromCsv(DecodeUtf8(bytes));
+    case Format::Po:
+        break;
+    }
+    return CsfFormats::FromPo(bytes);
+}
+
+QString Escaped(const QString& text) {
+    const auto special = [](QChar letter) { return letter == u'\n' || letter == u'\t' || letter == u'\\'; };
+    if (std::ranges::none_of(text, special))
+        return text;
+    return QString(text).replace(u'\\', u"\\\\"_s).replace(u'\n', u"\\n"_s).replace(u'\t', u"\\t"_s);
+}
+
+QString Unescaped(const QString& text) {
+    QString plain;
+    plain.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar next = text[i] == u'\\' && i + 1 < text.size() ? text[i + 1] : QChar();
+        const bool escape = next == u'n' || next == u't' || next == u'\\';
+        plain += !escape ? text[i] : next == u'n' ? u'\n' : next == u't' ? u'\t' : u'\\';
+        i += escape ? 1 : 0;
+    }
+    return plain;
+}
+
+} // namespace CsfExchange

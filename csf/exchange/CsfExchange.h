@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// String tables as texts that other programs read and version control compares: JSON, CSV and PO, all in UTF-8. What
+/// was exported comes back the same: order, duplicate and empty names, every character, line breaks and language.
+#pragma once
+
+#include "csf/format/mCSF.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+/// A table apart from the program's own.
+struct CsfTable {
+    int Language = 0;
+    std::vector<CsfString> Strings;
+
+    bool operator==(const CsfTable&) const = default;
+};
+
+namespace CsfExchange {
+
+enum class Format {
+    Json, ///< an object with "language" and "strings", those with "name" and "value"
+    Csv,  ///< RFC 4180: two fields, name and value; the head's second field is "language" and the number
+    Po,   ///< gettext: name as context, value as source text; a translation that is there and not fuzzy counts instead
+};
+
+/// By the extension of a file's name, in any case.
+std::optional<Format> FormatOf(const QString& path);
+
+QByteArray Export(const CsfTable& table, Format format);
+
+/// Raises 13 with the reason, and the line where there is one.
+CsfTable Import(const QByteArray& bytes, Format format);
+
+/// Line feed, tab and backslash as `\n`, `\t` and `\\`, for texts on one line.
+QString Escaped(const QString& text);
+/// The way back; any other backslash stands for itself.
+QString Unescaped(const QString& text);
+
+} // namespace CsfExchange

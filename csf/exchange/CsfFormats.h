@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The formats of CsfExchange, one a file.
+#pragma once
+
+#include "csf/exchange/CsfExchange.h"
+
+#include <QStringView>
+
+namespace CsfFormats {
+
+QByteArray ToJson(const CsfTable& table);
+QByteArray ToCsv(const CsfTable& table);
+QByteArray ToPo(const CsfTable& table);
+
+CsfTable FromJson(const QByteArray& bytes);
+CsfTable FromCsv(const QString& text);
+CsfTable FromPo(const QByteArray& bytes);
+
+/// Raises 13 for a line, counted from 1.
+[[noreturn]] void Refuse(qsizetype line, const QString& reason);
+
+/// A language's number out of a text. Raises 13 for what is none.
+int LanguageNumber(QStringView text, qsizetype line);
+
+} // namespace CsfFormats

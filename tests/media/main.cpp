@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "media/PictureChild.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    // The preview starts its own executable as the child that decodes: here that is the tests'.
+    if (PictureChild::IsAsked(argc, argv))
+        return PictureChild::Run(argc, argv);
+    const QCoreApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

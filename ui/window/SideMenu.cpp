@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/window/SideMenu.h"
+
+#include "ui/look/Drawing.h"
+#include "ui/look/Style.h"
+
+#include <QKeyEvent>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+constexpr int linkPicture = 16;
+constexpr int linkPadding = 4;
+constexpr int textIndent = linkPadding + linkPicture + 8;
+
+bool IsEnter(const QKeyEvent* event) {
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+void DrawFocus(QPainter& painter, const QRectF& area) {
+    painter.setPen(QPen(Style::Colour::Focus, 1, Qt::DotLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(area, 2, 2);
+}
+
+/// The bar at the head of a group, with a mark that tells whether the group is folded.
+class Heading : public QAbstractButton {
+public:
+    explicit Heading(QWidget* parent) : QAbstractButton(parent) {
+        setCheckable(true);
+        setChecked(true);
+        setCursor(Qt::PointingHandCursor);
+        setFocusPolicy(Qt::StrongFocus);
+        setAttribute(Qt::WA_Hover);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        PaintBar(painter);
+        QFont bold = font();
+        bold.setBold(true);
+        painter.setFont(bold);
+        painter.setPen(underMouse() ? Style::Colour::EntryHover : Style::Colour::Border);
+        painter.drawText(rect().adjusted(10, 0, -28, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
+        PaintMark(painter);
+        if (hasFocus())
+            DrawFocus(painter, QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5));
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        if (IsEnter(event))
+            click();
+        else
+            QAbstractButton::keyPressEvent(event);
+    }
+
+private:
+    void PaintBar(QPainter& painter) {
+        const QRectF bar = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+        QLinearGradient face(bar.topLeft(), bar.topRight());
+        face.setColorAt(0, Qt::white);
+        face.setColorAt(1, QColor(199, 212, 247));
+        QPainterPath outline;
+        outline.setFillRule(Qt::WindingFill);
+        outline.addRoundedRect(bar, 4, 4);
+        outline.addRect(bar.adjusted(0, bar.height() / 2, 0, 0)); // only the upper corners are round
+        painter.fillPath(outline.simplified(), face);
+    }
+
+    void PaintMark(QPainter& painter) {
+        const QPointF middle(width() - 15.0, height() / 2.0);
+        const qreal down = isChecked() ? -1 : 1; // points up while the group is open
+        QPen pen = painter.pen();
+        pen.setWidthF(1.6);
+        pen.setCapStyle(Qt::RoundCap);
+        painter.setPen(pen);
+        for (const qreal shift : {-2.5, 1.5}) {
+            const QPointF tip = middle + QPointF(0, shift + down * 1.5);
+            painter.drawLine(tip, tip + QPointF(-3.5, -down * 3));
+            painter.drawLine(tip, tip + QPointF(3.5, -down * 3));
+        }
+    }
+};
+
+} // namespace
+
+SidePane::SidePane(QWidget* parent) : QWidget(parent) {
+    setMouseTracking(true);
+}
+
+void SidePane::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    DrawGradient(painter, rect(), Style::Colour::SideMenuTop, Style::Colour::SideMenuBottom);
+}
+
+void SidePane::mouseMoveEvent(QMouseEvent* event) {
+    QWidget::mouseMoveEvent(event);
+    Q_EMIT MouseMoved();
+}
+
+SideGroup::SideGroup(QWidget* parent) : QWidget(parent), heading_(new Heading(this)) {
+    setMouseTracking(true);
+    setContentsMargins(0, HeadingHeight, 0, 0);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    connect(heading_, &QAbstractButton::toggled, this, [this](bool open) { SetFolded(!open); });
+}
+
+QString SideGroup::Caption() const {
+    return heading_->text();
+}
+
+void SideGroup::SetCaption(const QString& caption) {
+    heading_->setText(caption);
+}
+
+bool SideGroup::IsFolded() const {
+    return !heading_->isChecked();
+}
+
+void SideGroup::SetFolded(bool folded) {
+    heading_->setChecked(!folded);
+    // Children out of sight leave the tab order too.
+    for (QWidget* child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (child != heading_)
+            child->setVisible(!folded);
+    setMaximumHeight(folded ? HeadingHeight : QWIDGETSIZE_MAX);
+    updateGeometry();
+}
+
+void SideGroup::paintEvent(QPaintEvent* /*event*/) {
+    if (IsFolded())
+        return;
+    QPainter painter(this);
+    painter.setPen(Qt::white);
+    painter.setBrush(QColor(240, 245, 255));
+    painter.drawRect(rect().adjusted(0, HeadingHeight / 2, -1, -1));
+}
+
+void SideGroup::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    heading_->setGeometry(0, 0, width(), HeadingHeight);
+}
+
+SideLink::SideLink(QWidget* parent) : QAbstractButton(parent) {
+    setMouseTracking(true);
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    setIconSize(QSize(linkPicture, linkPicture));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void SideLink::SetUnderlined(bool underlined) {
+    underlined_ = underlined;
+    update();
+}
+
+QSize SideLink::sizeHint() const {
+    const QFontMetrics metrics(Style::LinkFont(false));
+    return {textIndent + metrics.horizontalAdvance(text()) + linkPadding, qMax(linkPicture, metrics.height()) + 6};
+}
+
+void SideLink::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRect picture(linkPadding, (height() - linkPicture) / 2, linkPicture, linkPicture);
+    icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    painter.setFont(Style::LinkFont(underlined_ && isEnabled()));
+    painter.setPen(isEnabled() ? Style::Colour::Link : Style::Colour::DisabledText);
+    painter.drawText(rect().adjusted(textIndent, 0, -linkPadding, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
+    if (hasFocus())
+        DrawFocus(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+}
+
+void SideLink::mouseMoveEvent(QMouseEvent* event) {
+    QAbstractButton::mouseMoveEvent(event);
+    event->accept(); // else the ground would take it for a move of its own
+    Q_EMIT MouseMoved();
+}
+
+void SideLink::keyPressEvent(QKeyEvent* event) {
+    if (IsEnter(event))
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
