@@ -211,10 +211,6 @@ void ExtractFromArchive(const BigEntry& entry, const QString& archivePath, const
 
 namespace mBIG {
 
-std::vector<BigEntry> BigEntries;
-qint32 BigVersion = 0;
-QString BigFileName;
-
 bool ReadBigFile(const QString& path) {
     if (!Ignoring([&] { NumberedFiles::Open(ArchiveNumber, path, Access::Read); }))
         return false;
@@ -256,10 +252,7 @@ void CloseExtraction() {
 }
 
 int FindEntry(const QString& name) {
-    const auto found = std::ranges::find_if(BigEntries, [&](const BigEntry& entry) {
-        return entry.Name.size() == name.size() && entry.Name.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    return found == BigEntries.end() ? -1 : static_cast<int>(found - BigEntries.begin());
+    return Archives::Find(Open(), name);
 }
 
 QByteArray StringToBytes(const QString& text) {
