@@ -17,6 +17,7 @@
 
 #include <list>
 #include <memory>
+#include <optional>
 #include <vector>
 
 /// What the archive asks of its window besides.
@@ -182,7 +183,7 @@ private:
     void ArchiveOpened();
     void ClearPreview();
     bool ShowDetails(int index, const QString& rowText);
-    bool WriteLocked(const QString& path);
+    std::optional<OffsetShift::Shift> WriteLocked(const QString& path);
     Document::Saved SaveTo(const QString& path);
     Document::Saved SaveUnderName();
     void ShowWritten(const QString& path);

@@ -121,26 +121,26 @@ void BigEditor::SaveAs() {
         SaveTo(*path);
 }
 
-bool BigEditor::WriteLocked(const QString& path) {
+std::optional<OffsetShift::Shift> BigEditor::WriteLocked(const QString& path) {
     const QScopedValueRollback lock(busy_, true);
     // What another program still has open may hold work that is not taken in yet.
     QStringList kept;
     for (const Opened& opened : openCopies_)
         kept += opened.Copy;
-    return mBIG::WriteBigFile(path, kept);
+    return mBIG::Save(path, {.Kept = kept});
 }
 
 Saved BigEditor::SaveTo(const QString& path) {
-    if (WriteLocked(path)) {
-        ShowWritten(path);
-        return Saved::Yes;
+    try {
+        // With nothing to save no message comes, and the progress window stays on the screen. This is meant.
+        if (!WriteLocked(path))
+            return Saved::NothingToSave;
+    } catch (const RuntimeError& error) {
+        Host::Current().Message(GetText(u"SaveFailed"_s) + "\r\n"_L1 + error.Description(), Host::Icon::Critical);
+        return Saved::Failed;
     }
-    // Meant so: with nothing to save no message comes, and the progress window stays on the screen.
-    if (mBIG::LastFailure().isEmpty())
-        return Saved::NothingToSave;
-    Host::Current().UnloadProgress();
-    Host::Current().Message(GetText(u"SaveFailed"_s) + "\r\n"_L1 + mBIG::LastFailure(), Host::Icon::Critical);
-    return Saved::Failed;
+    ShowWritten(path);
+    return Saved::Yes;
 }
 
 void BigEditor::ShowWritten(const QString& path) {

@@ -5,6 +5,7 @@
 
 #include "big/document/ScratchFolders.h"
 #include "big/format/EntryIndex.h"
+#include "big/format/mBIG.h"
 #include "core/Host.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
@@ -41,7 +42,7 @@ bool MayReplace(const QString& name) {
     return Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNo) == Host::Answer::Yes;
 }
 
-void DropFile(mBIG::EntryIndex& names, const QString& name, const Files::FoundFile& file, Found found) {
+void DropFile(EntryIndex& names, const QString& name, const Files::FoundFile& file, Found found) {
     int index = names.Find(name);
     if (index >= 0 && !MayReplace(name))
         return;
@@ -61,7 +62,7 @@ void DropFile(mBIG::EntryIndex& names, const QString& name, const Files::FoundFi
 }
 
 // Meant so: a file over a deleted entry of a dropped folder stays hidden.
-void DropFolder(mBIG::EntryIndex& names, const QString& prefix, const QString& folder) {
+void DropFolder(EntryIndex& names, const QString& prefix, const QString& folder) {
     // The root of all folders has no name to stand under.
     if (folder.isEmpty())
         return;
@@ -105,7 +106,7 @@ void BigEditor::DropFiles(const QStringList& paths) {
 }
 
 void BigEditor::DropPaths(const QStringList& paths) {
-    mBIG::EntryIndex names;
+    EntryIndex names(mBIG::Open());
     QString prefix = SelectedKey();
     const auto lastFolder = std::find_if(paths.rbegin(), paths.rend(), &Files::FolderExists).base();
     for (auto path = paths.begin(); path != paths.end(); ++path) {

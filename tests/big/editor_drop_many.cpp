@@ -154,14 +154,14 @@ TEST_F(EditorDropMany, TheIndexFindsWhatASearchFinds) {
         names.push_back(SomeName() + SomeName());
     for (int name = 0; name < 150; ++name)
         mBIG::BigEntries.push_back(EntryOf(names[static_cast<std::size_t>(name)]));
-    const mBIG::EntryIndex index;
+    const EntryIndex index(mBIG::Open());
     for (const QString& name : names)
         EXPECT_EQ(index.Find(name), mBIG::FindEntry(name)) << name.toStdString();
 }
 
 TEST_F(EditorDropMany, TheLastRecordsNameIsForgottenWhenAnotherTakesItsPlace) {
     mBIG::BigEntries = TableOf({u"a"_s, u"b"_s});
-    mBIG::EntryIndex index;
+    EntryIndex index(mBIG::Open());
     index.SetLast(1, u"c"_s);
     EXPECT_EQ(index.Find(u"B"_s), -1);
     EXPECT_EQ(index.Find(u"C"_s), 1);
@@ -172,7 +172,7 @@ TEST_F(EditorDropMany, TheLastRecordsNameIsForgottenWhenAnotherTakesItsPlace) {
 
 TEST_F(EditorDropMany, AnOverwrittenNameThatStandsEarlierTooIsStillFound) {
     mBIG::BigEntries = TableOf({u"a"_s, u"A"_s});
-    mBIG::EntryIndex index;
+    EntryIndex index(mBIG::Open());
     index.SetLast(1, u"c"_s);
     EXPECT_EQ(index.Find(u"a"_s), 0);
 }
