@@ -6,9 +6,12 @@
 #include "app/cli/CsfFiles.h"
 #include "app/cli/Output.h"
 #include "csf/exchange/CsfCompare.h"
+#include "csf/exchange/CsfExchange.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Console.h"
+#include "platform/File.h"
 #include "platform/Paths.h"
+#include "platform/WriteAside.h"
 
 #include <QStringList>
 
@@ -110,7 +113,7 @@ void SaveTable(const Options& options, bool languageGiven) {
         DeleteName(table, Paths::ToNative(ArgumentPath(options.File)), ArgumentText(name));
     for (const std::string& given : options.Set)
         SetValue(table, given);
-    WriteTableFile(ArgumentPath(options.Target), std::move(table));
+    WriteTableFile(ArgumentPath(options.Target), table);
 }
 
 CsfExchange::Format FormatOfArgument(const std::string& argument) {
@@ -119,12 +122,12 @@ CsfExchange::Format FormatOfArgument(const std::string& argument) {
 
 void Export(const Options& options) {
     const CsfTable table = ReadTableArgument(options.File);
-    WriteWholeFile(ArgumentPath(options.Target), CsfExchange::Export(table, FormatOfArgument(options.Target)));
+    WriteWhole(ArgumentPath(options.Target), CsfExchange::Export(table, FormatOfArgument(options.Target)));
 }
 
 void Import(const Options& options, bool languageGiven) {
     const QString path = ArgumentPath(options.File);
-    const QByteArray bytes = ReadWholeFile(path);
+    const QByteArray bytes = ReadWhole(path);
     CsfTable table;
     try {
         table = CsfExchange::Import(bytes, FormatOfArgument(options.File));
@@ -135,7 +138,7 @@ void Import(const Options& options, bool languageGiven) {
         table.Language = options.Language;
     for (const CsfString& entry : table.Strings)
         WarnOfLostLetters(entry);
-    WriteTableFile(ArgumentPath(options.Target), std::move(table));
+    WriteTableFile(ArgumentPath(options.Target), table);
 }
 
 void Diff(const Options& options) {
@@ -162,7 +165,7 @@ void Merge(const Options& options) {
     const CsfTable ours = ReadTableArgument(options.Other);
     const CsfTable theirs = ReadTableArgument(options.Theirs);
     CsfMerged merged = CsfCompare::Merge(base, ours, theirs);
-    WriteTableFile(ArgumentPath(options.Target), std::move(merged.Table));
+    WriteTableFile(ArgumentPath(options.Target), merged.Table);
     QString conflicts;
     if (merged.LanguageConflict)
         conflicts += u"language\tchanged in both\n"_s;
