@@ -4,6 +4,8 @@
 /// What is kept of a file that is saved over, for those who do that in a way of their own; WriteAside keeps the same.
 #pragma once
 
+#include "platform/File.h"
+
 #include <QString>
 
 namespace ReplacedFile {
@@ -14,8 +16,8 @@ QString BehindLinks(const QString& path);
 /// True for a file that we may not write, or that nobody may: the system's administrator keeps such a one too.
 bool IsWriteProtected(const QString& path);
 
-/// Gives a file the permissions of the one that stood there, and its owner as far as that is allowed. False when it has
-/// not got the permissions.
-bool KeepOwnerAndMode(const QString& path, const QString& old);
+/// Gives an open file the permissions of the one that stood there, and its owner as far as that is allowed. False when
+/// it has not got the permissions.
+bool KeepOwnerAndMode(const File& file, const QString& old);
 
 } // namespace ReplacedFile

@@ -32,19 +32,19 @@ public:
             Files::Rename(path_, aside_);
             asideIsOurs_ = true;
         }
-        device_ = &target_.Open(path_);
+        file_ = &target_.Open(path_);
         if (asideIsOurs_)
-            Ignoring([&] { ReplacedFile::KeepOwnerAndMode(path_, aside_); });
-        CsfWriting::WriteHeader(*device_, count, language);
+            Ignoring([&] { ReplacedFile::KeepOwnerAndMode(*file_, aside_); });
+        CsfWriting::WriteHeader(*file_, count, language);
     }
 
     /// Raises when the records are not all on the disk.
     void WriteRecords(std::span<const CsfString> strings) {
-        const qint64 end = CsfWriting::WriteRecords(*device_, strings);
+        const qint64 end = CsfWriting::WriteRecords(*file_, strings);
         if (continues_)
-            device_->SetLength(end); // what the save before left may be longer
+            file_->SetLength(end); // what the save before left may be longer
         if (Files::FileExists(aside_))
-            target_.Flush();
+            file_->Flush();
         target_.Close();
     }
 
@@ -77,7 +77,7 @@ private:
     QString aside_;
     CsfSave::Target& target_;
     CsfSaves& saves_;
-    Device* device_ = nullptr;
+    File* file_ = nullptr;
     bool continues_;
     bool asideIsOurs_;
 };

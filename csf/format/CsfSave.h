@@ -32,9 +32,7 @@ public:
     virtual ~Target() = default;
 
     /// Opens an inside path, made when missing, never cut.
-    virtual Device& Open(const QString& path) = 0;
-    /// Waits until the bytes are on the disk.
-    virtual void Flush() = 0;
+    virtual File& Open(const QString& path) = 0;
     /// Raises when the system reports a failed write only now.
     virtual void Close() = 0;
 };

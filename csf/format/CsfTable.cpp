@@ -23,12 +23,10 @@ constexpr qsizetype SmallestString = 8;
 /// A file without a number.
 class PlainTarget : public CsfSave::Target {
 public:
-    Device& Open(const QString& path) override {
+    File& Open(const QString& path) override {
         file_ = File::Open(path, File::Access::ReadWrite);
         return file_;
     }
-
-    void Flush() override { file_.Flush(); }
 
     void Close() override { file_.Close(); }
 

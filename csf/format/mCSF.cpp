@@ -25,35 +25,15 @@ constexpr std::size_t ReadingSize = 65537;
 
 bool locked = false;
 
-/// The file that is open under the table's number.
-class NumberedDevice : public Device {
-public:
-    [[nodiscard]] qint64 Length() const override { return NumberedFiles::Length(mCSF::FileNumber); }
-
-    qint64 ReadInto(qint64 offset, char* bytes, qint64 count) const override {
-        return NumberedFiles::ReadInto(mCSF::FileNumber, offset, bytes, count);
-    }
-
-    void Write(qint64 offset, QByteArrayView bytes) override { NumberedFiles::Write(mCSF::FileNumber, offset, bytes); }
-
-    void SetLength(qint64 length) override { NumberedFiles::SetLength(mCSF::FileNumber, length); }
-
-    [[nodiscard]] QString Name() const override { return u"the table's file"_s; }
-};
-
+/// The table's file under its number.
 class NumberedTarget : public CsfSave::Target {
 public:
-    Device& Open(const QString& path) override {
+    File& Open(const QString& path) override {
         NumberedFiles::Open(mCSF::FileNumber, path, Access::ReadWrite);
-        return device_;
+        return NumberedFiles::Of(mCSF::FileNumber);
     }
 
-    void Flush() override { NumberedFiles::Flush(mCSF::FileNumber); }
-
     void Close() override { NumberedFiles::Close(mCSF::FileNumber); }
-
-private:
-    NumberedDevice device_;
 };
 
 QByteArray WholeFile(const QString& path) {

@@ -6,6 +6,7 @@
 
 #include "csf/format/CsfSave.h"
 #include "csf/format/CsfTable.h"
+#include "platform/FileNumbers.h"
 
 #include <QString>
 
@@ -18,8 +19,8 @@ namespace mCSF {
 extern std::vector<CsfString> CsfStrings;
 
 /// The number that the open table is read and saved under. It is its alone: while it is read the event loop runs, and
-/// archives and previews open files under 1 to 9.
-inline constexpr int FileNumber = 10;
+/// archives and previews open files under others.
+inline constexpr int FileNumber = FileNumbers::Table;
 
 /// What ReadCSF returns for a refused file.
 inline constexpr qint32 Refused = 65536;

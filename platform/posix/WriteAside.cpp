@@ -149,11 +149,9 @@ bool IsWriteProtected(const QString& path) {
     return status && S_ISREG(status->st_mode) && RefusalOf(native, native) != 0;
 }
 
-bool KeepOwnerAndMode(const QString& path, const QString& old) {
+bool KeepOwnerAndMode(const File& file, const QString& old) {
     const auto status = StatusOf(Paths::ToNative(old));
-    const QByteArray native = Paths::EncodeNative(Paths::ToNative(path));
-    const Descriptor file(::open(native.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    return status && file.Valid() && TakeOver(file.Number(), *status);
+    return status && TakeOver(static_cast<int>(file.Handle()), *status);
 }
 
 } // namespace ReplacedFile

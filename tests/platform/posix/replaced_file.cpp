@@ -51,8 +51,8 @@ TEST_F(Replaced, PermissionsGoOverToTheNewFile) {
     Make(u"old"_s, "x");
     Make(u"new"_s, "y");
     SetMode(u"old"_s, 0640);
-    EXPECT_TRUE(ReplacedFile::KeepOwnerAndMode(At(u"new"_s), At(u"old"_s)));
+    const File file = File::Open(At(u"new"_s), File::Access::ReadWrite);
+    EXPECT_TRUE(ReplacedFile::KeepOwnerAndMode(file, At(u"old"_s)));
     EXPECT_EQ(ModeOf(u"new"_s), 0640U);
-    EXPECT_FALSE(ReplacedFile::KeepOwnerAndMode(At(u"new"_s), At(u"missing"_s)));
-    EXPECT_FALSE(ReplacedFile::KeepOwnerAndMode(At(u"missing"_s), At(u"old"_s)));
+    EXPECT_FALSE(ReplacedFile::KeepOwnerAndMode(file, At(u"missing"_s)));
 }
