@@ -4,6 +4,7 @@
 #include "platform/WriteAside.h"
 
 #include "platform/PrivateName.h"
+#include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/windows/Errors.h"
 #include "platform/windows/System.h"
@@ -99,3 +100,31 @@ void WriteAside::Commit(bool flush) {
 void WriteAside::Raise(long error) const {
     RaiseLastError(static_cast<unsigned long>(error), name_);
 }
+
+namespace ReplacedFile {
+
+QString BehindLinks(const QString& path) {
+    const QString followed = Followed(path);
+    const QString share = QStringLiteral("\\\\?\\UNC\\");
+    const QString device = QStringLiteral("\\\\?\\");
+    if (followed.startsWith(share))
+        return QStringLiteral("\\\\") + followed.sliced(share.size());
+    return followed.startsWith(device) ? followed.sliced(device.size()) : followed;
+}
+
+bool IsWriteProtected(const QString& path) {
+    const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
+    constexpr DWORD either = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & either) == FILE_ATTRIBUTE_READONLY;
+}
+
+// The owner is the folder's matter here; hidden and system files stay so.
+bool KeepOwnerAndMode(const File& file, const QString& old) {
+    FILE_BASIC_INFO information{}; // times of zero stay as they are
+    information.FileAttributes = GetFileAttributesW(WidePath(old).c_str());
+    return information.FileAttributes != INVALID_FILE_ATTRIBUTES &&
+           SetFileInformationByHandle(reinterpret_cast<HANDLE>(file.Handle()), FileBasicInfo, &information,
+                                      sizeof information) != 0;
+}
+
+} // namespace ReplacedFile
