@@ -116,7 +116,7 @@ void CopyNative(const Native& source, const Native& target) {
     Native aside = target;
     Descriptor writing = OpenBeside(target, aside);
     try {
-        TransferBytes(writing.Number(), 0, reading.Number(), 0, status.st_size, target.Text);
+        TransferBytes(writing.Number(), 0, reading.Number(), 0, status.st_size, target.Text, source.Text);
         if (::rename(aside.Path(), target.Path()) != 0)
             target.Raise(errno);
     } catch (const RuntimeError&) {

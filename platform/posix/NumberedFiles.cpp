@@ -136,7 +136,9 @@ void Write(int number, qint64 offset, QByteArrayView bytes) {
 
 qint64 Copy(int to, qint64 toOffset, int from, qint64 fromOffset, qint64 count) {
     Numbered& target = Find(to);
-    return TransferBytes(target.File.Number(), toOffset, Find(from).File.Number(), fromOffset, count, target.Name);
+    const Numbered& source = Find(from);
+    return TransferBytes(target.File.Number(), toOffset, source.File.Number(), fromOffset, count, target.Name,
+                         source.Name);
 }
 
 void SetLength(int number, qint64 length) {
