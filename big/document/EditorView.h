@@ -49,6 +49,7 @@ struct EditorState {
     bool ModifyEnabled = false;  ///< mnuModify
     bool FileIcons = false;      ///< rows carry system icons
     bool Modified = false;       ///< unsaved changes exist
+    bool ShowsOnlyEntry = false; ///< the list shows the only entry of an archive too
     bool ExactOffsets = false;   ///< this archive is saved with its data where the directory says
     int SelectedNode = FolderTree::None;
     FocusedPane FocusPane = FocusedPane::Tree;

@@ -216,6 +216,7 @@ void OpenCopies::EntriesGone(int firstIndex) {
     for (Copy& copy : copies_)
         if (copy.Index >= firstIndex)
             copy.Index = -1;
+    std::erase_if(copies_, [](const Copy& copy) { return copy.Index < 0 && copy.At == Stage::Watched; });
 }
 
 void OpenCopies::Forget() {

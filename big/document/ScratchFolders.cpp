@@ -50,6 +50,10 @@ QString Dropped() {
     return OwnFolder(DropName());
 }
 
+bool IsDragged(const QString& path) {
+    return path.startsWith(mMain::ScratchFolder() + u'\\' + DragName(), Qt::CaseInsensitive);
+}
+
 void RemoveAbandoned() {
     const QString scratch = mMain::ScratchFolder() + u'\\';
     for (const QString& name : Files::ListFolder(scratch + u"*.*"_s, true)) {

@@ -15,6 +15,9 @@ QString Dragged();
 /// Where files dragged out of another BIG Editor are kept until they are saved.
 QString Dropped();
 
+/// Whether a path lies in the folder of a drag, of this program or another one.
+bool IsDragged(const QString& path);
+
 /// Removes what programs left that run no more: a file that was dragged out is copied when the drag is long over, so
 /// that its folder stays behind the program that made it.
 void RemoveAbandoned();
