@@ -30,8 +30,7 @@ void EditorPanes::ShowFolder(const QString& folderKey) {
     if (const int node = Tree.Find(folderKey); node != FolderTree::None && !selected)
         State.SelectedNode = node;
     State.FileIcons = ReadSetting(u"ViewFileIcons"_s) == "1"_L1;
-    List.ShowFolder(Tree, State.SelectedNode, folderKey, mBIG::BigEntries, GetText(u"Folder"_s),
-                    State.ShowsOnlyEntry);
+    List.ShowFolder(Tree, State.SelectedNode, folderKey, mBIG::BigEntries, GetText(u"Folder"_s), State.ShowsOnlyEntry);
     View.ListChanged();
     View.StateChanged();
 }

@@ -329,9 +329,8 @@ void OpenCopies::End(int number) {
 /// Deletes a copy that nobody has any more.
 void OpenCopies::Discard(Copy& copy) {
     const bool isOurs = copy.Path.startsWith(mMain::ScratchFolder() + u'\\', Qt::CaseInsensitive);
-    const bool isOthers = std::ranges::any_of(copies_, [&](const Copy& other) {
-        return other.Number != copy.Number && IsSamePath(other.Path, copy.Path);
-    });
+    const bool isOthers = std::ranges::any_of(
+        copies_, [&](const Copy& other) { return other.Number != copy.Number && IsSamePath(other.Path, copy.Path); });
     if (!isOurs || isOthers || IsSource(copy.Path) || (copy.MayBeOpen && !IsTable(copy.Path)))
         return;
     Ignoring([&] { Files::DeleteForced(copy.Path); });

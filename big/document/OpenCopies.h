@@ -77,11 +77,11 @@ private:
     };
 
     struct Copy {
-        int Number;      ///< never given twice
-        int Index;       ///< of the entry in the table; -1 when it has gone
-        QString Path;    ///< inside path
-        Trigger Began;   ///< what began the Modify
-        bool IsCopy;     ///< made for the program; else the source of an entry that is new
+        int Number;    ///< never given twice
+        int Index;     ///< of the entry in the table; -1 when it has gone
+        QString Path;  ///< inside path
+        Trigger Began; ///< what began the Modify
+        bool IsCopy;   ///< made for the program; else the source of an entry that is new
         Stage At = Stage::Opening;
         bool MayBeOpen = false; ///< another program may have the file when this one has ended
         bool Answered = false;  ///< the user was asked about what stands there

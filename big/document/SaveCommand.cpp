@@ -50,8 +50,8 @@ void SaveCommand::SaveAs() {
 }
 
 bool SaveCommand::GoOnWithoutChanges() {
-    return !panes_.State.Modified || Document::GoOnWithoutChanges(Paths::ToNative(mBIG::BigFileName),
-                                                                  [this] { return SaveBeforeGoingOn(); });
+    return !panes_.State.Modified ||
+           Document::GoOnWithoutChanges(Paths::ToNative(mBIG::BigFileName), [this] { return SaveBeforeGoingOn(); });
 }
 
 /// Nobody is led on as if saved: there is nothing to be lost only in a fresh archive.

@@ -51,6 +51,8 @@ private:
     void ShowBusy(bool busy) override;
     [[nodiscard]] std::vector<int> SelectedRows() const override;
     void EditNode(int node) override;
+    void CommitEdit() override;
+    void ShowNotice(const Notice& notice) override;
     ExtractionTarget AskForFolder() override;
     void EnableWindow(bool enabled) override;
     [[nodiscard]] quintptr Handle() const override;

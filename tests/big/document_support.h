@@ -102,6 +102,21 @@ public:
         return Target;
     }
 
+    int Commits = 0; ///< of an edit of a name
+    std::function<void()> OnCommit;
+    std::vector<Notice> Notices; ///< every one that was shown, empty ones included
+
+    void CommitEdit() override {
+        ++Commits;
+        if (OnCommit)
+            OnCommit();
+    }
+
+    void ShowNotice(const Notice& notice) override { Notices.push_back(notice); }
+
+    /// The text of the line that stands.
+    [[nodiscard]] QString Told() const { return Notices.empty() ? QString() : Notices.back().Text; }
+
     void EnableWindow(bool enabled) override { Enabled.push_back(enabled); }
 
     [[nodiscard]] quintptr Handle() const override { return 0; }
