@@ -7,7 +7,6 @@
 #include "big/document/Extraction.h"
 #include "big/document/FolderTree.h"
 #include "core/Document.h"
-#include "core/Notice.h"
 
 #include <QString>
 
@@ -34,8 +33,6 @@ public:
     virtual void EnableWindow(bool enabled) = 0;
     /// The window's handle, for what the system shows on its behalf; 0 when there is none.
     [[nodiscard]] virtual quintptr Handle() const = 0;
-    /// Shows a line that needs no answer; an empty one hides the line that stands.
-    virtual void ShowNotice(const Notice& notice) = 0;
 };
 
 enum class FocusedPane { Tree, List };

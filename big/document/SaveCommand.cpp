@@ -59,7 +59,7 @@ Saved SaveCommand::SaveBeforeGoingOn() {
     const Saved saved = SaveUnderName();
     if (saved != Saved::NothingToSave || Archives::IsBlank(mBIG::Open()))
         return saved;
-    Host::Current().UnloadProgress();
+    Host::Current().ShowProgress().reset(); // the window that was left on the screen goes
     Host::Current().Message(GetText(u"OneEntryNotSaved"_s), Host::Icon::Exclamation);
     return Saved::Failed;
 }
@@ -90,8 +90,8 @@ bool SaveCommand::GoesOnWithoutSources() {
     }
     lines += QString();
     lines += GetText(u"SaveAllTheSame"_s);
-    return Host::Current().Message(lines.join("\r\n"_L1), Host::Icon::Exclamation, Host::Buttons::YesNo) ==
-           Host::Answer::Yes;
+    return Host::Current().Message(lines.join("\r\n"_L1), Host::Icon::Exclamation, Host::Buttons::YesNoCancel,
+                                   u"Brindock 2005"_s, Host::Answer::Cancel) == Host::Answer::Yes;
 }
 
 Saved SaveCommand::SaveTo(const QString& path) {
@@ -105,7 +105,6 @@ Saved SaveCommand::SaveTo(const QString& path) {
     try {
         shift = mBIG::Save(path, copies_.Kept(), placement);
     } catch (const RuntimeError& error) {
-        Host::Current().UnloadProgress();
         Host::Current().Message(GetText(u"SaveFailed"_s) + "\r\n"_L1 + error.Description(), Host::Icon::Critical);
         return Saved::Failed;
     }

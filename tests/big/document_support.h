@@ -87,6 +87,10 @@ public:
 
     void ShowBusy(bool busy) override { Busy += busy ? 1 : -1; }
 
+    Notice Told; ///< the last one
+
+    void ShowNotice(const Notice& notice) override { Told = notice; }
+
     std::vector<int> Selected; ///< places
     int Edited = FolderTree::None;
     ExtractionTarget Target;
@@ -104,18 +108,12 @@ public:
 
     int Commits = 0; ///< of an edit of a name
     std::function<void()> OnCommit;
-    std::vector<Notice> Notices; ///< every one that was shown, empty ones included
 
     void CommitEdit() override {
         ++Commits;
         if (OnCommit)
             OnCommit();
     }
-
-    void ShowNotice(const Notice& notice) override { Notices.push_back(notice); }
-
-    /// The text of the line that stands.
-    [[nodiscard]] QString Told() const { return Notices.empty() ? QString() : Notices.back().Text; }
 
     void EnableWindow(bool enabled) override { Enabled.push_back(enabled); }
 
