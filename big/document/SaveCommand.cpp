@@ -90,8 +90,8 @@ bool SaveCommand::GoesOnWithoutSources() {
     }
     lines += QString();
     lines += GetText(u"SaveAllTheSame"_s);
-    return Host::Current().Message(lines.join("\r\n"_L1), Host::Icon::Exclamation, Host::Buttons::YesNoCancel,
-                                   u"Brindock 2005"_s, Host::Answer::Cancel) == Host::Answer::Yes;
+    return Host::Current().Message(lines.join("\r\n"_L1), Host::Icon::Exclamation, Host::Buttons::YesNo,
+                                   u"Brindock 2005"_s, Host::Answer::No) == Host::Answer::Yes;
 }
 
 Saved SaveCommand::SaveTo(const QString& path) {
