@@ -6,9 +6,12 @@
 #include "core/FolderGateway.h"
 #include "core/Host.h"
 #include "core/mTraduction.h"
+#include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+
+#include <QSet>
 
 #include <memory>
 
@@ -42,7 +45,7 @@ private:
             return true;
         const QString path = gateway_->TargetFor(prefix_ + name);
         if (Files::StandingAsGiven(path) == Files::Standing::File) {
-            if (IsNeeded(path, entry))
+            if (IsNeeded(path))
                 return true;
             switch (AskToReplace(target_.ExtractFolder + name)) {
             case Host::Answer::Cancel:
@@ -58,9 +61,16 @@ private:
         return true;
     }
 
-    /// The open archive and the entry's own source can't be targets: they would be gone before they are read.
-    static bool IsNeeded(const QString& path, const BigEntry& entry) {
-        return Files::SameFile(path, mBIG::BigFileName) || (entry.IsNew && Files::SameFile(path, entry.SourcePath));
+    /// The open archive and the sources of new entries can't be targets: they would be gone before they are read.
+    bool IsNeeded(const QString& path) {
+        if (needed_.isEmpty()) {
+            needed_ += StateOf(mBIG::BigFileName).Identity;
+            for (const BigEntry& entry : mBIG::BigEntries)
+                if (entry.IsNew)
+                    needed_ += StateOf(entry.SourcePath).Identity;
+        }
+        const QByteArray target = StateOf(path).Identity;
+        return !target.isEmpty() && needed_.contains(target);
     }
 
     static Host::Answer AskToReplace(const QString& path) {
@@ -69,7 +79,8 @@ private:
     }
 
     const ExtractionTarget& target_;
-    QString prefix_; ///< of every name
+    QString prefix_;          ///< of every name
+    QSet<QByteArray> needed_; ///< identities of files
     std::unique_ptr<FolderGateway> gateway_;
 };
 

@@ -103,7 +103,7 @@ Saved SaveCommand::SaveTo(const QString& path) {
     copies_.BeforeSave();
     std::optional<OffsetShift::Shift> shift;
     try {
-        shift = mBIG::Save(path, copies_.Kept(), placement);
+        shift = mBIG::Save(path, {.Kept = copies_.Kept(), .Place = placement});
     } catch (const RuntimeError& error) {
         Host::Current().Message(GetText(u"SaveFailed"_s) + "\r\n"_L1 + error.Description(), Host::Icon::Critical);
         return Saved::Failed;
