@@ -6,6 +6,7 @@
 #include "app/cli/Output.h"
 #include "big/document/ArchiveExtractor.h"
 #include "big/format/mBIG.h"
+#include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/Paths.h"
@@ -68,10 +69,12 @@ void ListAsJson(const Options& options) {
 /// Prints each record as it is read: a table of them all would take longer to fill than the lines to print.
 void ListAsLines(const Options& options) {
     int index = 0;
+    bool shown = false;
     std::array<char, 48> numbers{};
-    const auto print = [&](const BigEntry& entry) {
+    const auto print = [&](const BigEntry& entry, qint32 version) {
+        shown = true;
         if (index == 0)
-            Print(u"version %1"_s.arg(mBIG::BigVersion));
+            Print(u"version %1"_s.arg(version));
         char* end = numbers.data();
         for (const qint32 number : {index++, entry.Offset, entry.Size}) {
             end = std::to_chars(end, numbers.data() + numbers.size(), number).ptr;
@@ -81,8 +84,13 @@ void ListAsLines(const Options& options) {
     };
     const QString archive = ArgumentPath(options.Archive);
     CheckReadable(archive);
-    if (!mBIG::ListBigFile(archive, print))
+    try {
+        Archives::List(File::Open(archive, File::Access::Read), 0, print);
+    } catch (const RuntimeError&) {
+        if (shown)
+            throw;
         FailAsNoArchive(archive);
+    }
 }
 
 /// The entries that the names and patterns choose, in the archive's order; all of them without any.
@@ -267,8 +275,7 @@ void WriteArchive(const QString& target) {
         Fail(target, u"an archive of fewer than two entries can't be saved"_s);
     if (std::ranges::all_of(mBIG::BigEntries, &BigEntry::Deleted))
         Fail(target, u"no entry would be left"_s);
-    if (!mBIG::WriteBigFile(target))
-        throw RuntimeError(ErrorNumber::PathFileAccess, mBIG::LastFailure());
+    mBIG::Save(target);
 }
 
 void AddBigCommands(CLI::App& commands) {

@@ -15,7 +15,7 @@ constexpr qsizetype BlockSize = qsizetype{512} * 1024;
 constexpr qint64 LongestRun = qint64{1} << 20;
 
 [[noreturn]] void Raise(const Device& device, const QString& what) {
-    throw RuntimeError(ErrorNumber::DeviceError, device.Name() + u": " + what);
+    throw RuntimeError(ErrorNumber::DeviceError, QStringLiteral("%1: %2").arg(device.Name(), what));
 }
 
 } // namespace

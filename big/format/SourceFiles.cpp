@@ -14,7 +14,8 @@ std::optional<qint64> LengthOf(const QString& path) {
         return Files::FileLength(path);
     } catch (const RuntimeError& error) {
         if (Files::FolderExists(path))
-            throw RuntimeError(ErrorNumber::PathFileAccess, Paths::ToNative(path) + u": is a folder");
+            throw RuntimeError(ErrorNumber::PathFileAccess,
+                               QStringLiteral("%1: is a folder").arg(Paths::ToNative(path)));
         if (error.Number() != ErrorNumber::FileNotFound && error.Number() != ErrorNumber::PathNotFound)
             throw;
         return std::nullopt;

@@ -11,7 +11,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -39,14 +38,23 @@ void Load(const QString& path);
 /// Opens a fresh archive of one blank record, which no file stands for yet. Raises while an ArchiveLock lives.
 void New(const QString& path, qint32 version);
 
+/// Forgets the open archive and lets its file go. Raises while an ArchiveLock lives.
+void Close();
+
+struct SaveOptions {
+    QStringList Kept = {}; ///< inside paths of files in the scratch folder that stay
+    Archives::Placement Place = Archives::Placement::Told;
+    QString Scratch = {}; ///< inside path of the folder that is emptied; the program's scratch folder without one
+};
+
 /// Writes the open archive in one step; whatever stood at the path stands there still when this raises. Nothing, with
 /// nothing written, when there is nothing to save: for the told placement a table of one record or none, for the exact
 /// one the blank record of a fresh archive; the progress window stays on the screen then. Behind a save no record but a
-/// deleted one is new any more, and the scratch folder is emptied, but for the files `kept` (inside paths); the table
-/// has the old archive's offsets until the written one is loaded. Raises, besides what Archives::Write raises, when old
-/// entries have bytes and the open archive has changed on disk, or can't be opened.
-std::optional<OffsetShift::Shift> Save(const QString& path, const QStringList& kept = {},
-                                       Archives::Placement placement = Archives::Placement::Told);
+/// deleted one is new any more, and the scratch folder's files are deleted but for those kept; the table has the old
+/// archive's offsets until the written one is loaded. Returns how far the data lie from where the directory says.
+/// Raises, besides what Archives::Write raises, when old entries have bytes and the open archive has changed on disk,
+/// or can't be opened.
+std::optional<OffsetShift::Shift> Save(const QString& path, const SaveOptions& options = {});
 
 /// The open archive's length on disk as it was when loaded; 0 when there is none.
 qint64 LengthOnDisk();
@@ -68,13 +76,6 @@ bool ReadBigFile(const QString& path);
 
 /// Save with the told placement, as a boolean.
 bool WriteBigFile(const QString& path, const QStringList& kept = {});
-
-/// Shows each record of an archive without taking it into the table. BigVersion is set before the first; false, with
-/// nothing shown, when the file was refused. What `show` raises ends the list and is raised.
-bool ListBigFile(const QString& path, const std::function<void(const BigEntry&)>& show);
-
-/// Why the last WriteBigFile returned false, for a person; empty when the table had nothing to save.
-QString LastFailure();
 
 /// Copies one entry's data to a file: a new entry's source as a file copy, an old one's bytes from offset 0 of the
 /// target, which is made when missing and never cut. Raises on failure. An entry of size 0 can't be extracted from an

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "tests/big/document_fixture.h"
 
 using namespace Qt::StringLiterals;
@@ -180,12 +181,12 @@ TEST_F(EditorSave, ATargetThatCannotBeWrittenIsToldAndNothingIsLost) {
     const QString path = OpenSample();
     AddFile(u"n.txt"_s, "1");
     const QByteArray before = World::ReadFile(path);
-    Speaker.FileNames = {Place.Root() + u"\\no folder\\x.big"_s};
+    const QString missing = Place.Root() + u"\\no folder\\x.big"_s;
+    Speaker.FileNames = {missing};
     Editor.SaveAs();
     EXPECT_FALSE(Speaker.ProgressShown);
     ASSERT_EQ(Speaker.Messages.size(), 1U);
-    EXPECT_EQ(Speaker.Messages[0].Text, u"SaveFailed\r\n"_s + mBIG::LastFailure());
-    EXPECT_FALSE(mBIG::LastFailure().isEmpty());
+    EXPECT_TRUE(Speaker.Messages[0].Text.startsWith(u"SaveFailed\r\n"_s + Paths::ToNative(missing) + u": "_s));
     EXPECT_EQ(Speaker.Messages[0].Sign, Host::Icon::Critical);
     EXPECT_TRUE(State().Modified);
     EXPECT_EQ(mBIG::BigFileName, path);

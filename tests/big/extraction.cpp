@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "big/document/ArchiveExtractor.h"
 #include "big/document/Extraction.h"
+#include "big/document/ArchiveExtractor.h"
 
 #include "platform/Files.h"
 #include "platform/Paths.h"
