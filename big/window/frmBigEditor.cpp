@@ -21,8 +21,12 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QTimer>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -101,7 +105,7 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
         {ui_->mnuModify, nullptr, u"modify"_s, [this] { Later([this] { editor_.Modify(); }); }},
         {ui_->mnuExtract, ui_->Label2_0, u"extract"_s, of(&BigEditor::Extract)},
         {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
-        {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, of(&BigEditor::Delete)},
+        {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, [this] { Delete(); }},
         {ui_->mnuNewFolder, ui_->Label2_6, u"new-folder"_s, of(&BigEditor::NewFolder)},
         {ui_->mnuLvView_0, nullptr, {}, [this] { ChooseView(ViewMode::LargeIcons); }},
         {ui_->mnuLvView_1, nullptr, {}, [this] { ChooseView(ViewMode::Details); }},
@@ -115,12 +119,14 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
 
 void frmBigEditor::ConnectTree() {
     connect(ui_->tvDirs->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& node) {
-        if (!following_)
-            editor_.ClickNode(FolderTreeModel::NodeOf(node));
+        if (following_)
+            return;
+        pressedNode_ = FolderTreeModel::NodeOf(node);
+        editor_.ClickNode(pressedNode_);
     });
-    // A click on the node that is selected already brings the tree back into play.
+    // A click on the node that is selected already brings the tree back into play and shows the folder anew.
     connect(ui_->tvDirs, &QTreeView::clicked, this, [this](const QModelIndex& node) {
-        if (editor_.State().FocusPane != FocusedPane::Tree)
+        if (pressedNode_ != FolderTreeModel::NodeOf(node))
             editor_.ClickNode(FolderTreeModel::NodeOf(node));
     });
     connect(ui_->tvDirs, &QWidget::customContextMenuRequested, this, [this](QPoint place) {
@@ -131,14 +137,20 @@ void frmBigEditor::ConnectTree() {
         ui_->mnuEdit->popup(ui_->tvDirs->viewport()->mapToGlobal(place));
     });
     // The edit ends first: a rename makes the tree anew.
-    const auto rename = [this](int node, const QString& text) { editor_.RenameNode(node, text); };
-    connect(treeModel_, &FolderTreeModel::RenameWanted, this, rename, Qt::QueuedConnection);
+    connect(treeModel_, &FolderTreeModel::RenameWanted, this, [this](int node, const QString& text) {
+        renames_.push_back({node, text});
+    });
+    connect(treeModel_, &FolderTreeModel::RenameWanted, this, &frmBigEditor::RenameNodes, Qt::QueuedConnection);
     ui_->tvDirs->installEventFilter(this);
+    ui_->tvDirs->viewport()->installEventFilter(this);
 }
 
 void frmBigEditor::ConnectList() {
     FileListView* const list = ui_->lvFiles;
-    connect(list, &FileListView::RowClicked, this, [this](int place) { editor_.ClickRow(place); });
+    connect(list, &FileListView::RowClicked, this, [this](int place) {
+        editor_.EnterList();
+        editor_.ClickRow(place);
+    });
     connect(list, &FileListView::RowActivated, this,
             [this](int place) { Later([this, place] { editor_.ActivateRow(place); }); });
     connect(list, &FileListView::Entered, this, [this] { editor_.EnterList(); });
@@ -176,11 +188,25 @@ void frmBigEditor::DragOut() {
               .Ended = [this] { editor_.DragEnded(); }});
 }
 
+// The list may have the keyboard without having been clicked since the archive was opened.
+void frmBigEditor::Delete() {
+    if (ui_->lvFiles->Current()->hasFocus())
+        editor_.EnterList();
+    editor_.Delete();
+}
+
+void frmBigEditor::RenameNodes() {
+    for (const auto& [node, text] : std::exchange(renames_, {}))
+        editor_.RenameNode(node, text);
+}
+
 void frmBigEditor::TellSelection() {
     selection_->setText(editor_.SelectionText());
 }
 
 bool frmBigEditor::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ui_->tvDirs->viewport() && event->type() == QEvent::MouseButtonPress)
+        pressedNode_ = FolderTree::None;
     if (watched == ui_->tvDirs && event->type() == QEvent::FocusIn) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         // Coming with the Tab key is a click on the selected node: the commands act on what has the focus.
@@ -203,6 +229,7 @@ void frmBigEditor::ShowOptions() {
 }
 
 void frmBigEditor::ChooseView(ViewMode mode) {
+    CommitEdit();
     ui_->lvFiles->SetMode(mode);
     BigEditor::SetView(mode);
 }
@@ -264,7 +291,10 @@ void frmBigEditor::SelectNode() {
 }
 
 void frmBigEditor::ShowVersion() {
-    frmVersion(this).exec();
+    frmVersion chooser(this);
+    chooser.SetExactOffsets(editor_.State().ExactOffsets);
+    if (chooser.exec() == QDialog::Accepted)
+        editor_.SetExactOffsets(chooser.ExactOffsets());
 }
 
 void frmBigEditor::ShowBusy(bool busy) {
@@ -283,6 +313,20 @@ void frmBigEditor::EditNode(int node) {
     ui_->tvDirs->setFocus();
     ui_->tvDirs->scrollTo(index);
     ui_->tvDirs->edit(index);
+}
+
+void frmBigEditor::CommitEdit() {
+    for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(ui_->tvDirs), ui_->lvFiles->Current()}) {
+        const QPointer<QLineEdit> field = view->viewport()->findChild<QLineEdit*>();
+        if (field == nullptr)
+            continue;
+        QMetaObject::invokeMethod(view, "commitData", Q_ARG(QWidget*, field.data()));
+        RenameNodes();
+        // A field that loses the focus closes.
+        if (field != nullptr && field->hasFocus())
+            view->setFocus();
+    }
+    RenameNodes();
 }
 
 ExtractionTarget frmBigEditor::AskForFolder() {

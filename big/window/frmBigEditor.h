@@ -14,6 +14,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class FileListModel;
@@ -63,6 +64,8 @@ private:
     void ConnectList();
     void ShowMenu(int place, QPoint globalPlace);
     void DragOut();
+    void Delete();
+    void RenameNodes();
     void TellSelection();
     void Later(const std::function<void()>& command);
     void ShowOptions();
@@ -75,7 +78,9 @@ private:
     BigEditor editor_;
     FolderTreeModel* treeModel_;
     FileListModel* listModel_;
-    QLabel* status_;         ///< the status bar's text
-    QLabel* selection_;      ///< how many rows there are and are selected
-    bool following_ = false; ///< the views follow the document, not the other way round
+    QLabel* status_;                               ///< the status bar's text
+    QLabel* selection_;                            ///< how many rows there are and are selected
+    std::vector<std::pair<int, QString>> renames_; ///< nodes and their new texts, as soon as their edit has ended
+    int pressedNode_ = 0;                          ///< what the mouse button that is down has selected
+    bool following_ = false;                       ///< the views follow the document, not the other way round
 };
