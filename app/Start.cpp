@@ -12,7 +12,6 @@
 #include "ui/look/Style.h"
 #include "ui/text/ControlTexts.h"
 #include "ui/window/WindowHost.h"
-#include "ui/window/frmProgress.h"
 
 #include <QTimer>
 
@@ -34,7 +33,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     constexpr int untilTheWindowStands = 100;
     QTimer::singleShot(untilTheWindowStands, &application, [] { Application::setWindowIcon(Picture::ProgramIcon()); });
     QTimer::singleShot(untilTheWindowStands, &application, [] { ScratchFolders::RemoveAbandoned(); });
-    WindowHost host([] { return std::make_unique<frmProgress>(); });
+    WindowHost host;
     Host::Use(&host);
     try {
         mMain::Show(dispatched);

@@ -51,8 +51,9 @@ void Suite::ShowToolsMenu() {
     Open<frmToolsMenu>();
 }
 
-void Suite::ShowBigEditor() {
+bool Suite::ShowBigEditor() {
     Open<frmBigEditor>();
+    return true;
 }
 
 void Suite::OpenBigFile(const QString& path) {
@@ -68,8 +69,9 @@ void Suite::ExtractBigFile(const QString& path) {
     Processes::End(0);
 }
 
-void Suite::ShowCSFEditor() {
+bool Suite::ShowCSFEditor() {
     Open<frmCSFEditor>();
+    return true;
 }
 
 void Suite::OpenCSFFile(const QString& path) {
@@ -82,11 +84,12 @@ void Suite::OpenCSFFile(const QString& path) {
     StayInMenu();
 }
 
-void Suite::ShowPersonalFiles() {
+bool Suite::ShowPersonalFiles() {
     StayInMenu();
+    return false;
 }
 
-void Suite::ShowAddFiles() {
+void Suite::ShowAddFiles(QObject* /*owner*/) {
     StayInMenu();
 }
 
@@ -101,7 +104,3 @@ void Suite::ShowAbout(QObject* owner) {
 void Suite::CheckForUpdates(bool /*automatic*/) {}
 
 void Suite::ActivateShellMap(GameIndex /*game*/) {}
-
-bool Suite::IsBuilt(Tool tool) const {
-    return tool == Tool::BigEditor || tool == Tool::CSFEditor || tool == Tool::Extraction;
-}

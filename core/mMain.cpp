@@ -56,18 +56,21 @@ void ShowTool(const mMain::Dispatched& dispatched) {
     case Action::OpenBigFile:
         return navigator.OpenBigFile(dispatched.Path);
     case Action::ShowBigEditor:
-        return navigator.ShowBigEditor();
+        navigator.ShowBigEditor();
+        return;
     case Action::ExtractBigFile:
         return navigator.ExtractBigFile(dispatched.Path);
     case Action::OpenCSFFile:
         return navigator.OpenCSFFile(dispatched.Path);
     case Action::ShowCSFEditor:
-        return navigator.ShowCSFEditor();
+        navigator.ShowCSFEditor();
+        return;
     case Action::ShowPersonalFiles:
-        return navigator.ShowPersonalFiles();
+        navigator.ShowPersonalFiles();
+        return;
     case Action::ShowAddFiles:
         mMain::AddFileRequested = true;
-        return navigator.ShowAddFiles();
+        return navigator.ShowAddFiles(nullptr);
     case Action::LaunchGame:
     case Action::NormalStart:
         return;

@@ -138,7 +138,6 @@ Saved BigEditor::SaveTo(const QString& path) {
     // Meant so: with nothing to save no message comes, and the progress window stays on the screen.
     if (mBIG::LastFailure().isEmpty())
         return Saved::NothingToSave;
-    Host::Current().UnloadProgress();
     Host::Current().Message(GetText(u"SaveFailed"_s) + "\r\n"_L1 + mBIG::LastFailure(), Host::Icon::Critical);
     return Saved::Failed;
 }

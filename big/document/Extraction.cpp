@@ -74,23 +74,23 @@ private:
 };
 
 /// False when the user ends the run.
-bool ExtractAll(const std::vector<qint32>& extractList, const ExtractionTarget& target) {
+bool ExtractAll(const std::vector<qint32>& extractList, const ExtractionTarget& target, Progress& progress) {
     Host& host = Host::Current();
     const QString text = GetText(u"ProgressLbl"_s).replace("%1"_L1, Paths::LastPart(mBIG::BigFileName));
     const QString folder = Paths::ToNative(target.ExtractFolder);
     Run run(target);
     std::size_t done = 0;
     for (const qint32 index : extractList) {
-        if (host.ProgressCancelled())
+        if (progress.Cancelled())
             return false;
         const QString& name = mBIG::BigEntries.at(static_cast<std::size_t>(index)).Name;
-        host.SetProgressText(QString(text).replace("%2"_L1, name).replace("%3"_L1, folder));
+        progress.SetText(QString(text).replace("%2"_L1, name).replace("%3"_L1, folder));
         host.Yield();
         if (!run.Extract(index)) {
-            host.CancelProgress();
+            progress.Cancel();
             return false;
         }
-        host.SetProgressValue(static_cast<int>(++done * 100 / extractList.size()));
+        progress.SetValue(static_cast<int>(++done * 100 / extractList.size()));
         host.Yield();
     }
     return true;
@@ -120,20 +120,19 @@ void TakeAll(std::vector<qint32>& extractList) {
 
 void DoExtract(const std::vector<qint32>& extractList, const ExtractionTarget& target, bool showCompletion) {
     Host& host = Host::Current();
-    host.ShowProgress();
+    const std::unique_ptr<Progress> progress = host.ShowProgress();
     mBIG::CloseExtraction();
-    const bool completed = ExtractAll(extractList, target);
+    const bool completed = ExtractAll(extractList, target, *progress);
     // Within a run an entry of no bytes keeps all later ones from being extracted. The next run begins afresh.
     mBIG::CloseExtraction();
     if (completed) {
-        host.StopProgressTimer();
+        progress->StopTimer();
         if (showCompletion)
             host.Message(GetText(u"ExtractionComplete"_s), Host::Icon::Information);
     } else {
-        host.HideProgress();
+        progress->Hide();
         host.Message(GetText(u"ExtractionCanceled"_s), Host::Icon::Critical);
     }
-    host.UnloadProgress();
 }
 
 } // namespace Extraction

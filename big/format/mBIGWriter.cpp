@@ -39,7 +39,7 @@ qint64 LengthOfSource(const BigEntry& entry) {
 /// One save: what is computed from the table, then written to a target that stands apart until it is whole.
 class Save {
 public:
-    Save() : variant_(Layout::VariantOf(mBIG::BigVersion)) {
+    explicit Save(Progress& progress) : progress_(progress), variant_(Layout::VariantOf(mBIG::BigVersion)) {
         for (const BigEntry& entry : mBIG::BigEntries) {
             if (entry.Deleted)
                 continue;
@@ -96,7 +96,7 @@ private:
             const BigEntry& entry = mBIG::BigEntries[index];
             if (entry.Deleted)
                 continue;
-            Host::Current().SetProgressText(writing + entry.Name);
+            progress_.SetText(writing + entry.Name);
             data.Load(entry);
             if (variant_.Aligned)
                 data.Align();
@@ -104,11 +104,12 @@ private:
             // Deleted records count in the index and not in the steps, so that the value can pass 100 and is then not
             // shown; a single record shows none. This is meant.
             if (const qint64 percent = steps == 0 ? 101 : static_cast<qint64>(index) * 100 / steps; percent <= 100)
-                Host::Current().SetProgressValue(static_cast<int>(percent));
+                progress_.SetValue(static_cast<int>(percent));
             Host::Current().Yield();
         }
     }
 
+    Progress& progress_;
     const Layout::Variant& variant_;
     qint32 kept_ = 0;
     qint64 total_ = Layout::DirectoryOffset;
@@ -120,12 +121,12 @@ void CloseNumbers() {
 }
 
 /// Writes to `path`, reading old entries from `oldArchive`. Raises with every number closed.
-void WriteTo(const QString& path, const QString& oldArchive, bool toDisk) {
+void WriteTo(const QString& path, const QString& oldArchive, bool toDisk, Progress& progress) {
     CloseNumbers();
     try {
         NumberedFiles::OpenAsGiven(TargetNumber, path, Access::Replace);
         Ignoring([&] { NumberedFiles::Open(OldArchiveNumber, oldArchive, Access::Read); });
-        Save().Write();
+        Save(progress).Write();
         if (toDisk)
             NumberedFiles::Flush(TargetNumber);
         NumberedFiles::Close(TargetNumber);
@@ -146,11 +147,11 @@ void CheckTarget(const QString& target) {
 }
 
 /// The old archive steps aside as ".tmp" and comes back when the save fails.
-void SaveOverOpenArchive(const QString& target) {
+void SaveOverOpenArchive(const QString& target, Progress& progress) {
     const QString old = target + u".tmp"_s;
     Files::Replace(target, old);
     try {
-        WriteTo(target, old, true);
+        WriteTo(target, old, true, progress);
     } catch (const RuntimeError&) {
         Files::Replace(old, target);
         throw;
@@ -158,10 +159,10 @@ void SaveOverOpenArchive(const QString& target) {
     Ignoring([&] { Files::DeleteForced(old); });
 }
 
-void SaveElsewhere(const QString& target) {
+void SaveElsewhere(const QString& target, Progress& progress) {
     const QString aside = Files::TemporaryBeside(target);
     try {
-        WriteTo(aside, mBIG::BigFileName, false);
+        WriteTo(aside, mBIG::BigFileName, false, progress);
         Files::Replace(aside, target);
     } catch (const RuntimeError& error) {
         Ignoring([&] { Files::DeleteForced(aside); });
@@ -170,16 +171,16 @@ void SaveElsewhere(const QString& target) {
     }
 }
 
-void SaveTo(const QString& path) {
+void SaveTo(const QString& path, Progress& progress) {
     const QString native = Paths::ToNative(path);
     const QString target = Paths::Absolute(native);
     if (mBIG::BigEntries.size() > mBIG::MaximumEntries)
         throw RuntimeError(ErrorNumber::Overflow, u"%1: more than %2 entries"_s.arg(native).arg(mBIG::MaximumEntries));
     CheckTarget(target);
     if (Files::SameFile(target, mBIG::BigFileName))
-        SaveOverOpenArchive(target);
+        SaveOverOpenArchive(target, progress);
     else
-        SaveElsewhere(target);
+        SaveElsewhere(target, progress);
     for (BigEntry& entry : mBIG::BigEntries)
         entry.IsNew = entry.IsNew && entry.Deleted;
 }
@@ -199,22 +200,22 @@ void EmptyScratch(const QStringList& kept) {
 namespace mBIG {
 
 bool WriteBigFile(const QString& path, const QStringList& kept) {
-    Host& host = Host::Current();
-    host.ShowProgress();
+    const std::unique_ptr<Progress> progress = Host::Current().ShowProgress();
     const QString fileName = Paths::LastPart(path);
-    host.SetProgressText(GetText(u"CreatingFile"_s) + u" '"_s + fileName + u"'\r\n"_s + GetText(u"WritingHeader"_s));
+    progress->SetText(GetText(u"CreatingFile"_s) + u" '"_s + fileName + u"'\r\n"_s + GetText(u"WritingHeader"_s));
     lastFailure.clear();
     // A table of one record counts as empty. The progress window stays on the screen. This is meant.
-    if (HighestIndex() == 0)
+    if (HighestIndex() == 0) {
+        progress->Release();
         return false;
+    }
     try {
-        SaveTo(path);
+        SaveTo(path, *progress);
     } catch (const RuntimeError& error) {
         lastFailure = error.Description();
         return false;
     }
     Ignoring([&] { EmptyScratch(kept); });
-    host.UnloadProgress();
     return true;
 }
 

@@ -298,3 +298,5 @@ void frmBigEditor::EnableWindow(bool enabled) {
 quintptr frmBigEditor::Handle() const {
     return winId();
 }
+
+void frmBigEditor::ShowNotice(const Notice& /*notice*/) {}

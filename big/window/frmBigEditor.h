@@ -49,6 +49,7 @@ private:
     void StateChanged() override;
     void ShowVersion() override;
     void ShowBusy(bool busy) override;
+    void ShowNotice(const Notice& notice) override;
     [[nodiscard]] std::vector<int> SelectedRows() const override;
     void EditNode(int node) override;
     ExtractionTarget AskForFolder() override;

@@ -93,24 +93,14 @@ void frmToolsMenu::PlaceTexts() {
 }
 
 void frmToolsMenu::EntryClicked(int index) {
-    Navigator& navigator = Navigator::Current();
-
-    struct Opened {
-        Navigator::Tool Tool;
-        void (Navigator::*Show)();
-    };
-
-    static constexpr std::array<Opened, 3> tools{{{Navigator::Tool::BigEditor, &Navigator::ShowBigEditor},
-                                                  {Navigator::Tool::CSFEditor, &Navigator::ShowCSFEditor},
-                                                  {Navigator::Tool::PersonalFiles, &Navigator::ShowPersonalFiles}}};
+    static constexpr std::array<bool (Navigator::*)(), 3> tools{&Navigator::ShowBigEditor, &Navigator::ShowCSFEditor,
+                                                                &Navigator::ShowPersonalFiles};
     if (index == 3)
         ShowOptions();
     else if (index == 4)
         EndProgram();
-    else if (const Opened& tool = tools.at(static_cast<std::size_t>(index)); navigator.IsBuilt(tool.Tool)) {
-        (navigator.*tool.Show)();
+    else if ((Navigator::Current().*tools.at(static_cast<std::size_t>(index)))())
         close();
-    }
 }
 
 void frmToolsMenu::ShowOptions() {

@@ -244,3 +244,5 @@ void frmCSFEditor::ShowBusy(bool busy) {
     else
         QApplication::restoreOverrideCursor();
 }
+
+void frmCSFEditor::ShowNotice(const Notice& /*notice*/) {}

@@ -43,6 +43,7 @@ private:
     void BoxesChanged() override;
     void StateChanged() override;
     void ShowBusy(bool busy) override;
+    void ShowNotice(const Notice& notice) override;
 
     void Dress();
     std::vector<ToolCommand> Commands();

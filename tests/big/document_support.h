@@ -87,6 +87,10 @@ public:
 
     void ShowBusy(bool busy) override { Busy += busy ? 1 : -1; }
 
+    Notice Told; ///< the last one
+
+    void ShowNotice(const Notice& notice) override { Told = notice; }
+
     std::vector<int> Selected; ///< places
     int Edited = FolderTree::None;
     ExtractionTarget Target;

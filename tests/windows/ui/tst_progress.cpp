@@ -114,7 +114,7 @@ private Q_SLOTS:
 private:
     void Open() {
         window_ = std::make_unique<frmProgress>();
-        window_->Widget()->show();
+        window_->show();
         QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
     }
 
