@@ -43,7 +43,7 @@ QString mShellExecuteWait::RefusalText(int instApp) {
         QString Text;
     };
 
-    // Fixed texts, in French whatever the language. Meant.
+    // Fixed texts, in French whatever the language. This is meant.
     static const std::array<Refusal, 9> refusals{{
         {3, u"Le chemin du fichier à ouvrir est incorrect."_s},
         {5, u"Accès au fichier refusé."_s},
