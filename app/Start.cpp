@@ -23,6 +23,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     if (dispatched.What == mMain::Dispatched::Action::LaunchGame)
         return 0;
 
+    const ScratchFolders::Claim scratch;
     Application application(argc, argv);
     Application::setApplicationName(QStringLiteral("Brindock 2005"));
     if (watcher != nullptr)

@@ -5,6 +5,7 @@
 
 #include "big/document/OffsetNotices.h"
 #include "core/Host.h"
+#include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
@@ -179,10 +180,10 @@ void BigEditor::FileVersion() {
 
 ViewMode BigEditor::View() {
     bool isNumber = false;
-    const int value = ReadSetting(u"BigView"_s).toInt(&isNumber);
+    const int value = ReadSetting(SettingKeys::BigView).toInt(&isNumber);
     return isNumber && value >= 0 && value <= 3 ? static_cast<ViewMode>(value) : ViewMode::SmallIcons;
 }
 
 void BigEditor::SetView(ViewMode mode) {
-    WriteSetting(u"BigView"_s, QString::number(static_cast<int>(mode)));
+    WriteSetting(SettingKeys::BigView, QString::number(static_cast<int>(mode)));
 }

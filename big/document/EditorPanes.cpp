@@ -4,6 +4,7 @@
 #include "big/document/EditorPanes.h"
 
 #include "core/Host.h"
+#include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
@@ -29,7 +30,7 @@ void EditorPanes::ShowFolder(const QString& folderKey) {
     const bool selected = Tree.Has(State.SelectedNode) && SelectedKey() == folderKey;
     if (const int node = Tree.Find(folderKey); node != FolderTree::None && !selected)
         State.SelectedNode = node;
-    State.FileIcons = ReadSetting(u"ViewFileIcons"_s) == "1"_L1;
+    State.FileIcons = ReadSetting(SettingKeys::ViewFileIcons) == "1"_L1;
     List.ShowFolder(Tree, State.SelectedNode, folderKey, mBIG::BigEntries, GetText(u"Folder"_s), State.ShowsOnlyEntry);
     View.ListChanged();
     View.StateChanged();

@@ -3,6 +3,7 @@
 
 #include "big/document/OffsetNotices.h"
 
+#include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "core/Sizes.h"
 #include "core/mTraduction.h"
@@ -14,11 +15,6 @@ using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
 namespace {
-
-const QString& SettingKey() {
-    static const QString key = u"ExactOffsets"_s;
-    return key;
-}
 
 QString TextOf(const QString& key, const OffsetShift::Shift& shift) {
     const QString distance = (shift.First < 0 ? u"-"_s : u"+"_s) + Sizes::Grouped(std::abs(shift.First));
@@ -47,7 +43,7 @@ std::function<bool()> ReadBack(const OffsetShift::Shift& shift) {
 namespace OffsetNotices {
 
 bool IsExactByDefault() {
-    return ReadSetting(SettingKey()) == "1"_L1;
+    return ReadSetting(SettingKeys::ExactOffsets) == "1"_L1;
 }
 
 void TellWritten(EditorPanes& panes, const OffsetShift::Shift& shift, const std::function<void()>& saveExactly) {
@@ -58,7 +54,7 @@ void TellWritten(EditorPanes& panes, const OffsetShift::Shift& shift, const std:
             saveExactly();
     };
     const auto always = [save] {
-        WriteSetting(SettingKey(), u"1"_s);
+        WriteSetting(SettingKeys::ExactOffsets, u"1"_s);
         save();
     };
     panes.View.ShowNotice({.Text = TextOf(u"SavedShifted"_s, shift),
