@@ -52,7 +52,6 @@ bool RowDetails::ShowFile(int index, const QString& rowText) {
     BigEntry missing;
     BigEntry& entry = there ? mBIG::BigEntries[static_cast<std::size_t>(index)] : missing;
     if (!there || (entry.IsNew && !Files::FileExists(entry.SourcePath))) {
-        state.FocusPane = FocusedPane::List;
         Host::Current().Message(GetText(u"FileNotFound"_s), Host::Icon::Critical);
         entry.Deleted = true;
         panes_.ShowSelected();
