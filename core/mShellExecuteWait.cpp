@@ -40,7 +40,7 @@ QString mShellExecuteWait::RefusalText(int instApp) {
         QString Text;
     };
 
-    // Fixed texts, in French whatever the language. Meant.
+    // Fixed texts, in French whatever the language. This is meant.
     static const std::array<Refusal, 9> refusals{{
         {3, u"Le chemin du fichier à ouvrir est incorrect."_s},
         {5, u"Accès au fichier refusé."_s},
@@ -77,7 +77,7 @@ void mShellExecuteWait::WaitFor(Processes::Handle process, const std::function<b
 
 Processes::Handle mShellExecuteWait::OpenWithShell(const QString& path, quintptr owner, bool wait,
                                                    const std::function<bool()>& goesOn) {
-    // Capitals go to the system. Meant.
+    // Capitals go to the system. This is meant.
     if (path.endsWith(u"csf"_s)) {
         mMain::CsfOpenedByHost = true;
         Navigator::Current().OpenCSFFile(path);

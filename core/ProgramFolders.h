@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The program's folder, and the scratch folder in it.
+#pragma once
+
+#include <QString>
+
+namespace ProgramFolders {
+
+/// The program's folder without a trailing backslash; set at start-up (mMain::UseRuntimes).
+extern QString ProgramFolder;
+
+/// "Temp" in the program's folder, where nothing lasts; no trailing backslash.
+QString ScratchFolder();
+
+} // namespace ProgramFolders
