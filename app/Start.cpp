@@ -39,7 +39,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     try {
         mMain::Show(dispatched);
         return Application::exec();
-    } catch (const RuntimeError& error) {
-        Application::Fail(error);
+    } catch (const std::exception& failure) {
+        Application::Fail(failure);
     }
 }

@@ -38,6 +38,14 @@ Window* Open() {
     return window;
 }
 
+frmToolsMenu* ShownMenu() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (auto* const menu = qobject_cast<frmToolsMenu*>(window); menu != nullptr && menu->isVisible())
+            return menu;
+    }
+    return nullptr;
+}
+
 // A program without a window could not be left: the tools menu stands in for a tool that is not built.
 void StayInMenu() {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -47,8 +55,12 @@ void StayInMenu() {
 
 } // namespace
 
+// One is enough, where a second tool is closed over the menu that followed the first.
 void Suite::ShowToolsMenu() {
-    Open<frmToolsMenu>();
+    if (frmToolsMenu* const menu = ShownMenu(); menu != nullptr)
+        menu->activateWindow();
+    else
+        Open<frmToolsMenu>();
 }
 
 bool Suite::ShowBigEditor() {

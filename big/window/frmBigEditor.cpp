@@ -8,18 +8,13 @@
 #include "big/window/RowDrag.h"
 #include "big/window/frmBrowseForFolder.h"
 #include "big/window/frmVersion.h"
-#include "core/Navigator.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
-#include "platform/Processes.h"
 #include "ui/text/Localisation.h"
-#include "ui/text/Mnemonics.h"
 #include "ui_frmBigEditor.h"
 
 #include <QActionGroup>
-#include <QApplication>
-#include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -31,7 +26,7 @@
 using namespace Qt::StringLiterals;
 
 frmBigEditor::frmBigEditor(QWidget* parent)
-    : QMainWindow(parent),
+    : ToolWindow(parent),
       ui_(std::make_unique<Ui::frmBigEditor>()),
       editor_(*this),
       treeModel_(new FolderTreeModel(editor_.Tree(), this)),
@@ -40,12 +35,16 @@ frmBigEditor::frmBigEditor(QWidget* parent)
       selection_(new QLabel) {
     ui_->setupUi(this);
     mTraduction::ApplyLanguage(this);
+    Equip({.Exit = ui_->mnuExit,
+           .Options = ui_->mnuOptions,
+           .CheckForUpdates = ui_->mnuCheckForUpdates,
+           .About = ui_->mnuAbout},
+          Commands());
     Dress();
     ui_->tvDirs->setModel(treeModel_);
     ui_->lvFiles->SetModel(listModel_);
     editor_.UsePreview(&decoder_, &player_);
     ui_->picDetails->Use(&player_);
-    ConnectCommands(this, Commands());
     ConnectTree();
     ConnectList();
     const ViewMode mode = BigEditor::View();
@@ -68,7 +67,6 @@ void frmBigEditor::ExtractBigFile(const QString& path) {
 }
 
 void frmBigEditor::Dress() {
-    Mnemonics::AddTo(*ui_->menuBar);
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
     ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
     ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
@@ -76,7 +74,6 @@ void frmBigEditor::Dress() {
     status_->setContentsMargins(6, 0, 0, 0);
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
     ui_->StatusBar1->addWidget(status_, 1);
-    ui_->mnuExit->setShortcuts({ui_->mnuExit->shortcut(), QKeySequence(u"Alt+F4"_s)});
     status_->setObjectName(u"lblStatus"_s);
     selection_->setObjectName(u"lblSelection"_s);
     selection_->setTextFormat(Qt::PlainText);
@@ -101,7 +98,6 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
         {ui_->mnuSave, ui_->Label2_5, u"save"_s, of(&BigEditor::Save)},
         {ui_->mnuSaveAs, nullptr, u"save-as"_s, of(&BigEditor::SaveAs)},
         {ui_->mnuFileVersion, ui_->Label2_7, u"version"_s, of(&BigEditor::FileVersion)},
-        {ui_->mnuExit, nullptr, u"exit"_s, [this] { close(); }},
         {ui_->mnuModify, nullptr, u"modify"_s, [this] { Later([this] { editor_.Modify(); }); }},
         {ui_->mnuExtract, ui_->Label2_0, u"extract"_s, of(&BigEditor::Extract)},
         {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
@@ -111,9 +107,6 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
         {ui_->mnuLvView_1, nullptr, {}, [this] { ChooseView(ViewMode::Details); }},
         {ui_->mnuLvView_2, nullptr, {}, [this] { ChooseView(ViewMode::SmallIcons); }},
         {ui_->mnuLvView_3, nullptr, {}, [this] { ChooseView(ViewMode::List); }},
-        {ui_->mnuOptions, nullptr, u"options"_s, [this] { ShowOptions(); }},
-        {ui_->mnuCheckForUpdates, nullptr, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }},
-        {ui_->mnuAbout, nullptr, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }},
     };
 }
 
@@ -213,7 +206,7 @@ bool frmBigEditor::eventFilter(QObject* watched, QEvent* event) {
         if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
             editor_.ClickNode(editor_.State().SelectedNode);
     }
-    return QMainWindow::eventFilter(watched, event);
+    return ToolWindow::eventFilter(watched, event);
 }
 
 // While an entry is open in another program this window may be closed, and what called must not return into it: a
@@ -222,26 +215,14 @@ void frmBigEditor::Later(const std::function<void()>& command) {
     QTimer::singleShot(0, this, command);
 }
 
-void frmBigEditor::ShowOptions() {
-    Navigator::Current().ShowOptions(this);
-    if (mMain::RestartRequested)
-        Processes::End(0);
-}
-
 void frmBigEditor::ChooseView(ViewMode mode) {
     CommitEdit();
     ui_->lvFiles->SetMode(mode);
     BigEditor::SetView(mode);
 }
 
-void frmBigEditor::closeEvent(QCloseEvent* event) {
-    if (!editor_.MayClose()) {
-        event->ignore();
-        return;
-    }
-    event->accept();
-    if (isVisible() && !mMain::CommandLine.contains(u"/tbig"_s))
-        Navigator::Current().ShowToolsMenu();
+bool frmBigEditor::MenuFollows() const {
+    return !mMain::CommandLine.contains(u"/tbig"_s);
 }
 
 void frmBigEditor::ShowWindow() {
@@ -297,13 +278,6 @@ void frmBigEditor::ShowVersion() {
         editor_.SetExactOffsets(chooser.ExactOffsets());
 }
 
-void frmBigEditor::ShowBusy(bool busy) {
-    if (busy)
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
-        QApplication::restoreOverrideCursor();
-}
-
 std::vector<int> frmBigEditor::SelectedRows() const {
     return ui_->lvFiles->SelectedRows();
 }
@@ -342,5 +316,3 @@ void frmBigEditor::EnableWindow(bool enabled) {
 quintptr frmBigEditor::Handle() const {
     return winId();
 }
-
-void frmBigEditor::ShowNotice(const Notice& /*notice*/) {}

@@ -8,9 +8,7 @@
 #include "media/PictureProcess.h"
 #include "media/SoundPlayer.h"
 
-#include "ui/window/ToolCommands.h"
-
-#include <QMainWindow>
+#include "ui/window/ToolWindow.h"
 
 #include <functional>
 #include <memory>
@@ -25,7 +23,7 @@ namespace Ui {
 class frmBigEditor;
 }
 
-class frmBigEditor : public QMainWindow, private EditorView {
+class frmBigEditor : public ToolWindow, private EditorView {
     Q_OBJECT
 public:
     explicit frmBigEditor(QWidget* parent = nullptr);
@@ -40,20 +38,25 @@ public:
     void ExtractBigFile(const QString& path);
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool MayClose() override { return editor_.MayClose(); }
+
+    [[nodiscard]] bool MenuFollows() const override;
     void ShowWindow() override;
     void TreeChanged() override;
     void ListChanged() override;
     void StateChanged() override;
     void ShowVersion() override;
-    void ShowBusy(bool busy) override;
+
+    void ShowBusy(bool busy) override { SetBusy(busy); }
+
+    void ShowNotice(const Notice& notice) override { SetNotice(notice); }
+
     [[nodiscard]] std::vector<int> SelectedRows() const override;
     void EditNode(int node) override;
     void CommitEdit() override;
-    void ShowNotice(const Notice& notice) override;
     ExtractionTarget AskForFolder() override;
     void EnableWindow(bool enabled) override;
     [[nodiscard]] quintptr Handle() const override;
@@ -68,7 +71,6 @@ private:
     void RenameNodes();
     void TellSelection();
     void Later(const std::function<void()>& command);
-    void ShowOptions();
     void SelectNode();
     void ChooseView(ViewMode mode);
 

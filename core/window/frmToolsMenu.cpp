@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QWindow>
 
 #include <algorithm>
@@ -109,10 +110,17 @@ void frmToolsMenu::ShowOptions() {
         Processes::End(0);
 }
 
+// This window goes last: it stays where a tool keeps its document, and no tool that closes brings up another menu.
 void frmToolsMenu::EndProgram() {
+    bool refused = false;
+    const QWidgetList loaded = QApplication::topLevelWidgets();
+    for (const QPointer<QWidget>& window : QList<QPointer<QWidget>>(loaded.begin(), loaded.end())) {
+        if (window != nullptr && window != this && window->isVisible())
+            Ignoring([&] { refused = !window->close() || refused; });
+    }
+    if (refused)
+        return;
     close();
-    for (QWidget* window : QApplication::topLevelWidgets())
-        Ignoring([&] { window->close(); });
     QApplication::quit();
 }
 

@@ -4,14 +4,12 @@
 #include "ui/window/WindowHost.h"
 
 #include "core/mTraduction.h"
-#include "platform/Paths.h"
-#include "ui/text/FileFilter.h"
 #include "ui/text/Localisation.h"
+#include "ui/window/FileChooser.h"
 #include "ui/window/frmProgress.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
@@ -137,21 +135,6 @@ private:
     bool released_ = false;
 };
 
-std::optional<QString> Ask(const Host::FileDialog& wanted, QFileDialog::AcceptMode mode) {
-    QFileDialog dialog(Owner(), wanted.Title);
-    dialog.setAcceptMode(mode);
-    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    dialog.setNameFilters(ToNameFilters(wanted.Filter));
-    dialog.setDefaultSuffix(wanted.DefaultExtension);
-    if (!wanted.Folder.isEmpty())
-        dialog.setDirectory(Paths::ToNative(wanted.Folder));
-    if (!wanted.DefaultName.isEmpty())
-        dialog.selectFile(Paths::ToNative(wanted.DefaultName));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    return Paths::FromNative(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
-}
-
 } // namespace
 
 WindowHost::WindowHost() = default;
@@ -196,22 +179,15 @@ void WindowHost::Beep() {
 }
 
 std::optional<QString> WindowHost::OpenFileName(const FileDialog& dialog) {
-    return Ask(dialog, QFileDialog::AcceptOpen);
+    return FileChooser::FileToOpen(Owner(), dialog);
 }
 
 std::optional<QString> WindowHost::SaveFileName(const FileDialog& dialog) {
-    return Ask(dialog, QFileDialog::AcceptSave);
+    return FileChooser::FileToSave(Owner(), dialog);
 }
 
 std::optional<QString> WindowHost::ChooseFolder(const QString& title, const QString& folder) {
-    QFileDialog dialog(Owner(), title);
-    dialog.setFileMode(QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly);
-    if (!folder.isEmpty())
-        dialog.setDirectory(Paths::ToNative(folder));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    return Paths::FromNative(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+    return FileChooser::Folder(Owner(), title, folder);
 }
 
 std::unique_ptr<Progress> WindowHost::ShowProgress() {

@@ -8,6 +8,7 @@
 #include "tests/windows/WindowTests.h"
 #include "ui/look/PictureButton.h"
 
+#include <QCloseEvent>
 #include <QLabel>
 #include <QSignalSpy>
 
@@ -18,6 +19,19 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr QColor orange{242, 142, 0};
 constexpr QColor white{255, 255, 255};
+
+/// A tool whose user may keep the document.
+class RefusingTool : public QWidget {
+public:
+    bool Refuses = true;
+    int Asked = 0;
+
+protected:
+    void closeEvent(QCloseEvent* event) override {
+        ++Asked;
+        event->setAccepted(!Refuses);
+    }
+};
 } // namespace
 
 class tst_toolsmenu : public QObject {
@@ -152,6 +166,21 @@ private Q_SLOTS:
         QTest::mouseClick(Entry(4), Qt::LeftButton);
         QVERIFY(!menu_->isVisible());
         QVERIFY(!other.isVisible());
+    }
+
+    void exitAsksAToolOnceAndStaysWhereItKeepsItsDocument() {
+        Open();
+        RefusingTool tool;
+        tool.show();
+        QTest::mouseClick(Entry(4), Qt::LeftButton);
+        QCOMPARE(tool.Asked, 1);
+        QVERIFY(tool.isVisible());
+        QVERIFY(menu_->isVisible());
+        tool.Refuses = false;
+        QTest::mouseClick(Entry(4), Qt::LeftButton);
+        QCOMPARE(tool.Asked, 2);
+        QVERIFY(!tool.isVisible());
+        QVERIFY(!menu_->isVisible());
     }
 
     void theEntryUnderThePointerIsOrangeAndTheOthersAreWhite() {

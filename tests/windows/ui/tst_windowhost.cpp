@@ -15,6 +15,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPointer>
@@ -170,6 +171,46 @@ private Q_SLOTS:
         QCOMPARE(name, std::optional(world_->Root() + u"\\out\\typed.big"_s));
     }
 
+    void aNameWithWildcardsIsAFilterAndTheDialogStays() {
+        world_->WriteFile(u"out\\one.big"_s, {});
+        world_->WriteFile(u"out\\two.big"_s, {});
+        world_->WriteFile(u"out\\other.big"_s, {});
+        QStringList listed;
+        WhenUp<QFileDialog>([&](QFileDialog* box) {
+            box->findChild<QLineEdit*>()->setText(u"o*.b?g"_s);
+            QTest::keyClick(box, Qt::Key_Return);
+            QVERIFY(box->isVisible());
+            const auto* const list = box->findChild<QListView*>(u"listView"_s);
+            QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 2);
+            for (int row = 0; row < 2; ++row)
+                listed += list->model()->index(row, 0, list->rootIndex()).data().toString();
+            box->findChild<QLineEdit*>()->setText(u"typed"_s);
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        const auto name = host_->SaveFileName({.Title = u"Save"_s,
+                                               .Filter = u"BIG (*.big)|*.big"_s,
+                                               .DefaultExtension = u"big"_s,
+                                               .DefaultName = world_->Root() + u"\\out\\first.big"_s});
+        QCOMPARE(name, std::optional(world_->Root() + u"\\out\\typed.big"_s));
+        QCOMPARE(listed, QStringList({u"one.big"_s, u"other.big"_s}));
+    }
+
+    void aFilterBehindAFolderListsThatFolder() {
+        world_->WriteFile(u"in\\Deep\\file.csf"_s, "x");
+        const QString file = world_->WriteFile(u"in\\Here.big"_s, "x");
+        QString folder;
+        WhenUp<QFileDialog>([&](QFileDialog* box) {
+            box->findChild<QLineEdit*>()->setText(u"Deep/*.csf"_s);
+            QTest::keyClick(box, Qt::Key_Return);
+            folder = box->directory().dirName();
+            box->reject();
+        });
+        QCOMPARE(host_->OpenFileName(
+                     {.Title = u"Open"_s, .Filter = u"*|*.*"_s, .DefaultExtension = {}, .DefaultName = file}),
+                 std::optional<QString>());
+        QCOMPARE(folder, u"Deep"_s);
+    }
+
     void openingGivesTheFileAsAnInsidePath() {
         const QString file = world_->WriteFile(u"in\\Here.big"_s, "x");
         WhenUp<QFileDialog>([&](QFileDialog* box) { QTest::keyClick(box, Qt::Key_Return); });
@@ -266,8 +307,9 @@ private Q_SLOTS:
     }
 
     void aWaitForWhatHoldsAlreadyReturnsWithoutAnEvent() {
+        const QObject here; // the event does not outlive the test
         bool ran = false;
-        QTimer::singleShot(0, this, [&] { ran = true; });
+        QTimer::singleShot(0, &here, [&] { ran = true; });
         QVERIFY(host_->WaitUntil([] { return true; }));
         QVERIFY(!ran);
     }
@@ -302,8 +344,11 @@ private Q_SLOTS:
     }
 
     void aWaitThatIsLeftAsTheProgramEndsSaysSo() {
-        QTimer::singleShot(0, this, [] { QCoreApplication::exit(); });
-        QVERIFY(!host_->WaitUntil([] { return false; }));
+        bool holds = true;
+        QTimer::singleShot(0, this, [&] { holds = host_->WaitUntil([] { return false; }); });
+        QTimer::singleShot(20, this, [] { QCoreApplication::exit(); });
+        QCoreApplication::exec();
+        QVERIFY(!holds);
     }
 
     void whatAConditionRaisesComesOutOfTheWait() {
@@ -324,9 +369,10 @@ private Q_SLOTS:
     }
 
     void whatRunsInAYieldYieldsNoMore() {
+        const QObject here; // the event does not outlive the test
         bool inner = false;
-        QTimer::singleShot(0, this, [&] {
-            QTimer::singleShot(0, this, [&] { inner = true; });
+        QTimer::singleShot(0, &here, [&] {
+            QTimer::singleShot(0, &here, [&] { inner = true; });
             QTest::qSleep(10); // longer than the pause between two yields
             host_->Yield();
             QVERIFY(!inner);
@@ -342,6 +388,17 @@ private Q_SLOTS:
         for (; !progress->Cancelled() && items < 100000000; ++items)
             host_->Yield();
         QVERIFY(progress->Cancelled());
+    }
+
+    void aLoopThatYieldsAtEachItemIsNotServedAtEachItem() {
+        int served = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] { ++served; });
+        timer.start(0);
+        int items = 0;
+        for (; served < 3; ++items)
+            host_->Yield();
+        QVERIFY2(items > 10 * served, qPrintable(QString::number(items)));
     }
 
     void filtersAreTurnedIntoTheToolkitsForm() {
