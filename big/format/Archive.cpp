@@ -3,7 +3,8 @@
 
 #include "big/format/Archive.h"
 
-#include "platform/Files.h"
+#include "big/format/SourceFiles.h"
+#include "platform/RuntimeError.h"
 
 #include <algorithm>
 
@@ -13,7 +14,10 @@ std::vector<int> MissingSources(const Archive& archive) {
     std::vector<int> missing;
     for (std::size_t index = 0; index < archive.Entries.size(); ++index) {
         const BigEntry& entry = archive.Entries[index];
-        if (entry.IsNew && !entry.Deleted && !Files::FileExists(entry.SourcePath))
+        bool isGone = false;
+        if (entry.IsNew && !entry.Deleted)
+            Ignoring([&] { isGone = !SourceFiles::LengthOf(entry.SourcePath); });
+        if (isGone)
             missing.push_back(static_cast<int>(index));
     }
     return missing;

@@ -89,8 +89,9 @@ private:
         QByteArray header;
         header.reserve(static_cast<qsizetype>(plan_.FirstFile));
         header += variant_.Magic;
-        const auto length = qToLittleEndian(static_cast<quint32>(plan_.Length));
-        header.append(reinterpret_cast<const char*>(&length), sizeof(length));
+        std::array<char, sizeof(quint32)> length{};
+        qToLittleEndian(static_cast<quint32>(plan_.Length), length.data());
+        header.append(length.data(), length.size());
         Append(header, static_cast<qint64>(kept_.size()));
         Append(header, plan_.FirstFile);
         for (std::size_t i = 0; i < kept_.size(); ++i) {

@@ -23,7 +23,7 @@ struct Kept {
     QString Path;    ///< inside path
 };
 
-Archive open;
+Archive current;
 Kept kept;
 mBIG::Identity identity = std::make_shared<int>();
 int locks = 0;
@@ -35,7 +35,7 @@ void RaiseWhenLocked(const QString& path) {
 
 /// Whether bytes of the file on disk are to be saved.
 bool NeedsOldBytes() {
-    return std::ranges::any_of(open.Entries,
+    return std::ranges::any_of(current.Entries,
                                [](const BigEntry& entry) { return !entry.Deleted && !entry.IsNew && entry.Size > 0; });
 }
 
@@ -48,12 +48,12 @@ bool NeedsOldBytes() {
 namespace OpenArchive {
 
 Source::Source() {
-    if (!kept.Open.IsOpen() || kept.Path != open.FileName)
-        Ignoring([this] { other_ = File::Open(open.FileName, File::Access::Read); });
+    if (!kept.Open.IsOpen() || kept.Path != current.FileName)
+        Ignoring([this] { other_ = File::Open(current.FileName, File::Access::Read); });
     if (!NeedsOldBytes() || other_.IsOpen())
         return;
     if (!kept.Open.IsOpen())
-        RefuseOld(open.FileName, u"the open archive can't be read any more"_s);
+        RefuseOld(current.FileName, u"the open archive can't be read any more"_s);
     if (kept.Open.State() != kept.State)
         RefuseOld(kept.Path, u"the open archive was changed by another program"_s);
 }
@@ -82,12 +82,12 @@ Aside::~Aside() {
 
 namespace mBIG {
 
-std::vector<BigEntry>& BigEntries = open.Entries;
-qint32& BigVersion = open.Version;
-QString& BigFileName = open.FileName;
+std::vector<BigEntry>& BigEntries = current.Entries;
+qint32& BigVersion = current.Version;
+QString& BigFileName = current.FileName;
 
 Archive& Open() {
-    return open;
+    return current;
 }
 
 Identity CurrentIdentity() {
@@ -100,21 +100,21 @@ void Load(const QString& path) {
     file.State = file.Open.State();
     Archive read = Archives::Read(file.Open, BigVersion);
     read.FileName = path;
-    open = std::move(read);
+    current = std::move(read);
     kept = std::move(file);
     identity = std::make_shared<int>();
 }
 
 void New(const QString& path, qint32 version) {
     RaiseWhenLocked(path);
-    open = {.Entries = std::vector<BigEntry>(1), .Version = version, .FileName = path};
+    current = {.Entries = std::vector<BigEntry>(1), .Version = version, .FileName = path};
     kept = {};
     identity = std::make_shared<int>();
 }
 
 void Close() {
-    RaiseWhenLocked(open.FileName);
-    open = {.Entries = {}, .Version = open.Version, .FileName = {}};
+    RaiseWhenLocked(current.FileName);
+    current = {.Entries = {}, .Version = current.Version, .FileName = {}};
     kept = {};
     identity = std::make_shared<int>();
 }
@@ -130,13 +130,13 @@ bool ReadBigFile(const QString& path) {
         file.State = file.Open.State();
         // A file that is refused behind its header has replaced the table. This is meant.
         identity = std::make_shared<int>();
-        ArchiveReader::Fill(file.Open, open);
+        ArchiveReader::Fill(file.Open, current);
         kept = std::move(file);
     });
 }
 
 int FindEntry(const QString& name) {
-    return Archives::Find(open, name);
+    return Archives::Find(current, name);
 }
 
 int HighestIndex() {

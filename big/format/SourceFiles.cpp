@@ -3,19 +3,19 @@
 
 #include "big/format/SourceFiles.h"
 
+#include "platform/File.h"
 #include "platform/Files.h"
-#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 namespace SourceFiles {
 
 std::optional<qint64> LengthOf(const QString& path) {
+    qint64 length = 0;
+    if (Ignoring([&] { length = Files::FileLength(path); }))
+        return length;
     try {
-        return Files::FileLength(path);
+        return File::Open(path, File::Access::Read).Length();
     } catch (const RuntimeError& error) {
-        if (Files::FolderExists(path))
-            throw RuntimeError(ErrorNumber::PathFileAccess,
-                               QStringLiteral("%1: is a folder").arg(Paths::ToNative(path)));
         if (error.Number() != ErrorNumber::FileNotFound && error.Number() != ErrorNumber::PathNotFound)
             throw;
         return std::nullopt;

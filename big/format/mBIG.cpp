@@ -4,6 +4,7 @@
 #include "big/format/mBIG.h"
 
 #include "platform/AnsiCodec.h"
+#include "platform/FileNumbers.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/RuntimeError.h"
@@ -15,9 +16,6 @@
 using NumberedFiles::Access;
 
 namespace {
-
-constexpr int ExtractTargetNumber = 3;
-constexpr int ExtractArchiveNumber = 4;
 
 /// Fills the target with zeros from `from` to `to`, without writing behind its end more than its length.
 void ZeroTail(int number, qint64 from, qint64 to) {
@@ -34,11 +32,11 @@ using OpenTarget = void (*)(int number, const QString& path, Access access);
 
 void ExtractFromArchive(const BigEntry& entry, const QString& archivePath, const QString& targetPath,
                         OpenTarget openTarget) {
-    NumberedFiles::Open(ExtractArchiveNumber, archivePath, Access::Read);
+    NumberedFiles::Open(FileNumbers::ExtractArchive, archivePath, Access::Read);
     try {
-        openTarget(ExtractTargetNumber, targetPath, Access::ReadWrite);
+        openTarget(FileNumbers::ExtractTarget, targetPath, Access::ReadWrite);
     } catch (const RuntimeError&) {
-        NumberedFiles::Close(ExtractArchiveNumber);
+        NumberedFiles::Close(FileNumbers::ExtractArchive);
         throw;
     }
     // Without a byte to size the buffer to, the routine ends here with both files open. This is meant.
@@ -46,15 +44,15 @@ void ExtractFromArchive(const BigEntry& entry, const QString& archivePath, const
         throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("%1: nothing to extract").arg(entry.Name));
     try {
         const qint64 there =
-            NumberedFiles::Copy(ExtractTargetNumber, 0, ExtractArchiveNumber, entry.Offset, entry.Size);
-        ZeroTail(ExtractTargetNumber, there, entry.Size);
+            NumberedFiles::Copy(FileNumbers::ExtractTarget, 0, FileNumbers::ExtractArchive, entry.Offset, entry.Size);
+        ZeroTail(FileNumbers::ExtractTarget, there, entry.Size);
     } catch (const RuntimeError&) {
-        Ignoring([] { NumberedFiles::Close(ExtractTargetNumber); });
-        NumberedFiles::Close(ExtractArchiveNumber);
+        Ignoring([] { NumberedFiles::Close(FileNumbers::ExtractTarget); });
+        NumberedFiles::Close(FileNumbers::ExtractArchive);
         throw;
     }
-    NumberedFiles::Close(ExtractArchiveNumber);
-    NumberedFiles::Close(ExtractTargetNumber);
+    NumberedFiles::Close(FileNumbers::ExtractArchive);
+    NumberedFiles::Close(FileNumbers::ExtractTarget);
 }
 
 } // namespace
@@ -78,7 +76,7 @@ void ExtractEntryAsGiven(int index, const QString& archivePath, const QString& t
 }
 
 void CloseExtraction() {
-    for (const int number : {ExtractTargetNumber, ExtractArchiveNumber})
+    for (const int number : {FileNumbers::ExtractTarget, FileNumbers::ExtractArchive})
         Ignoring([number] { NumberedFiles::Close(number); });
 }
 

@@ -83,7 +83,7 @@ TEST(OffsetShift, ASaveWhoseHeaderLeavesARemainderOfOneLiesFourBytesBefore) {
 }
 
 TEST(OffsetShift, AnEntryWithoutBytesShiftsAllBehindIt) {
-    // 24 + 3 * 10 = 54.
+    // 24 + 4 * 10 = 64.
     const Sample sample(0, {{1, 3}, {1, 0}, {1, 2}, {1, 1}});
     QByteArray bytes;
     const Shift told = sample.Save(Placement::Told, bytes);
