@@ -38,6 +38,14 @@ Window* Open() {
     return window;
 }
 
+frmToolsMenu* ShownMenu() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (auto* const menu = qobject_cast<frmToolsMenu*>(window); menu != nullptr && menu->isVisible())
+            return menu;
+    }
+    return nullptr;
+}
+
 // A program without a window could not be left: the tools menu stands in for a tool that is not built.
 void StayInMenu() {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -47,12 +55,17 @@ void StayInMenu() {
 
 } // namespace
 
+// One is enough, where a second tool is closed over the menu that followed the first.
 void Suite::ShowToolsMenu() {
-    Open<frmToolsMenu>();
+    if (frmToolsMenu* const menu = ShownMenu(); menu != nullptr)
+        menu->activateWindow();
+    else
+        Open<frmToolsMenu>();
 }
 
-void Suite::ShowBigEditor() {
+bool Suite::ShowBigEditor() {
     Open<frmBigEditor>();
+    return true;
 }
 
 void Suite::OpenBigFile(const QString& path) {
@@ -68,8 +81,9 @@ void Suite::ExtractBigFile(const QString& path) {
     Processes::End(0);
 }
 
-void Suite::ShowCSFEditor() {
+bool Suite::ShowCSFEditor() {
     Open<frmCSFEditor>();
+    return true;
 }
 
 void Suite::OpenCSFFile(const QString& path) {
@@ -82,11 +96,12 @@ void Suite::OpenCSFFile(const QString& path) {
     StayInMenu();
 }
 
-void Suite::ShowPersonalFiles() {
+bool Suite::ShowPersonalFiles() {
     StayInMenu();
+    return false;
 }
 
-void Suite::ShowAddFiles() {
+void Suite::ShowAddFiles(QObject* /*owner*/) {
     StayInMenu();
 }
 
@@ -101,7 +116,3 @@ void Suite::ShowAbout(QObject* owner) {
 void Suite::CheckForUpdates(bool /*automatic*/) {}
 
 void Suite::ActivateShellMap(GameIndex /*game*/) {}
-
-bool Suite::IsBuilt(Tool tool) const {
-    return tool == Tool::BigEditor || tool == Tool::CSFEditor || tool == Tool::Extraction;
-}

@@ -26,10 +26,13 @@ void Tell(int instApp) {
         Host::Current().Message(text, Host::Icon::Exclamation);
 }
 
-void LetTheUserChoose(const QString& path) {
+/// False when there is no such chooser.
+bool LetTheUserChoose(const QString& path) {
     // A system without a chooser says at least why nothing opens.
-    if (!Ignoring([&] { Processes::ChooseProgramFor(path); }))
+    const bool asked = Ignoring([&] { Processes::ChooseProgramFor(path); });
+    if (!asked)
         Tell(IncompleteAssociation);
+    return asked;
 }
 
 } // namespace
@@ -40,7 +43,7 @@ QString mShellExecuteWait::RefusalText(int instApp) {
         QString Text;
     };
 
-    // Fixed texts, in French whatever the language. Meant.
+    // Fixed texts, in French whatever the language. This is meant.
     static const std::array<Refusal, 9> refusals{{
         {3, u"Le chemin du fichier à ouvrir est incorrect."_s},
         {5, u"Accès au fichier refusé."_s},
@@ -75,16 +78,29 @@ void mShellExecuteWait::WaitFor(Processes::Handle process, const std::function<b
     Processes::Close(process);
 }
 
-Processes::Handle mShellExecuteWait::OpenWithShell(const QString& path, quintptr owner, bool wait,
-                                                   const std::function<bool()>& goesOn) {
-    // Capitals go to the system. Meant.
+Processes::Opened mShellExecuteWait::Open(const QString& path, quintptr owner) {
+    // Capitals go to the system. This is meant.
     if (path.endsWith(u"csf"_s)) {
         mMain::CsfOpenedByHost = true;
         Navigator::Current().OpenCSFFile(path);
-        return 0;
+        return {};
     }
-    const Processes::Opened opened = Processes::OpenWithAssociation(path, owner);
-    ReactTo(opened.InstApp, path);
+    Processes::Opened opened = Processes::OpenWithAssociation(path, owner);
+    if (opened.InstApp != NoAssociation)
+        Tell(opened.InstApp);
+    else if (!LetTheUserChoose(path))
+        opened.InstApp = IncompleteAssociation;
+    return opened;
+}
+
+bool mShellExecuteWait::IsOpened(const Processes::Opened& opened) {
+    constexpr int lastRefusal = 32;
+    return opened.InstApp > lastRefusal || opened.InstApp == NoAssociation;
+}
+
+Processes::Handle mShellExecuteWait::OpenWithShell(const QString& path, quintptr owner, bool wait,
+                                                   const std::function<bool()>& goesOn) {
+    const Processes::Opened opened = Open(path, owner);
     if (wait && opened.Process != 0)
         WaitFor(opened.Process, goesOn);
     return opened.Process;

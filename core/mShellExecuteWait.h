@@ -12,6 +12,13 @@
 
 namespace mShellExecuteWait {
 
+/// Opens `path` and goes on. A path that ends in "csf" goes to the CSF Editor. What the system refuses is told in a
+/// message box. `owner` is the calling window's handle. The process, which may be 0, is the caller's to give back.
+Processes::Opened Open(const QString& path, quintptr owner);
+
+/// Whether some program may have the file now, be it one that nobody can wait for.
+bool IsOpened(const Processes::Opened& opened);
+
 /// Opens `path`; with `wait` returns only when that program has ended, keeping the event loop turning. A path that
 /// ends in "csf" goes to the CSF Editor instead. What the system refuses is told in a message box.
 /// `owner` is the calling window's handle. The wait is given up as soon as `goesOn` says no; whoever opens a file from

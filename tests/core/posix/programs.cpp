@@ -3,11 +3,13 @@
 
 // Other programs that are really started: a game through a stand-in for wine, and an association of the desktop.
 
+#include "core/GameFiles.h"
 #include "core/Settings.h"
 #include "core/mMain.h"
 #include "core/mShellExecuteWait.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/RuntimeError.h"
 #include "tests/support/Printing.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/ScriptedNavigator.h"
@@ -85,11 +87,16 @@ TEST_F(Programs, LaunchPreparesTheShellMapAndThenStartsTheGameWithItsOptionsInOr
     WriteSetting(u"ZHStartupOptions"_s, u" -quickstart -noshaders"_s);
     WriteSetting(u"ZHLoadMod"_s, u"Mod.big"_s);
     bool started = false;
-    navigator_.OnCall = [&](const QString&) { started = Files::FileExists(world_.Root() + u"\\started"_s); };
+    QList<GameIndex> activated;
+    GameFiles::ActivateShellMap = [&](GameIndex game) {
+        activated << game;
+        started = Files::FileExists(world_.Root() + u"\\started"_s);
+        throw RuntimeError(ErrorNumber::InvalidCall, u"ignored"_s);
+    };
     mMain::Show(mMain::Prepare(u"/launch /zh"_s));
     EXPECT_EQ(WaitForFile(u"started"_s),
               Native(u"games\\Zero Hour\\Generals.exe"_s) + "\n-quickstart\n-noshaders\n-mod\nMod.big\n");
-    EXPECT_EQ(navigator_.Calls, QStringList{u"ActivateShellMap 1"_s});
+    EXPECT_EQ(activated, QList<GameIndex>{1});
     EXPECT_FALSE(started) << "the game was started before its shell map was prepared";
 }
 

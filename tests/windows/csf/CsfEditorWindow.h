@@ -7,7 +7,7 @@
 #include "core/mMain.h"
 #include "csf/format/mCSF.h"
 #include "csf/window/frmCSFEditor.h"
-#include "tests/windows/ToolWindow.h"
+#include "tests/windows/EditorTest.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/SideMenu.h"
 
@@ -19,7 +19,7 @@
 #include <QStatusBar>
 #include <QTreeView>
 
-class CsfEditorWindow : public ToolWindow<frmCSFEditor> {
+class CsfEditorWindow : public EditorTest<frmCSFEditor> {
 protected:
     void Begin() {
         BeginIn("[LNG]\r\nNew=Neu\r\nFind=Suchen\r\nText=Wert\r\nKiloBytes=KB\r\nName=Name\r\nValue=Wert\r\n"
@@ -29,7 +29,7 @@ protected:
     }
 
     void End() {
-        ToolWindow::End();
+        EditorTest::End();
         mMain::CsfOpenedByHost = false;
     }
 

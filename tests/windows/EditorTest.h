@@ -5,8 +5,8 @@
 #pragma once
 
 #include "tests/support/ScriptedHost.h"
+#include "tests/support/ScriptedNavigator.h"
 #include "tests/support/World.h"
-#include "tests/windows/RecordingNavigator.h"
 
 #include <QAbstractItemView>
 #include <QTest>
@@ -14,13 +14,13 @@
 #include <memory>
 
 template <typename Window>
-class ToolWindow : public QObject {
+class EditorTest : public QObject {
 protected:
     /// A world whose language file holds these texts.
     void BeginIn(const QByteArray& texts) {
         world_ = std::make_unique<World>();
         host_ = std::make_unique<ScriptedHost>();
-        navigator_ = std::make_unique<RecordingNavigator>();
+        navigator_ = std::make_unique<ScriptedNavigator>();
         world_->UseLanguage(texts);
         world_->Start();
     }
@@ -43,6 +43,6 @@ protected:
 
     std::unique_ptr<World> world_;
     std::unique_ptr<ScriptedHost> host_;
-    std::unique_ptr<RecordingNavigator> navigator_;
+    std::unique_ptr<ScriptedNavigator> navigator_;
     std::unique_ptr<Window> window_;
 };
