@@ -12,7 +12,7 @@
 #include "app/cli/VerifyCommand.h"
 
 #include "core/mMain.h"
-#include "media/PictureChild.h"
+#include "media/MediaChild.h"
 #include "platform/Arguments.h"
 #include "platform/RuntimeError.h"
 
@@ -46,8 +46,8 @@ int Run(const std::vector<std::string>& arguments) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (PictureChild::IsAsked(argc, argv))
-        return PictureChild::Run(argc, argv);
+    if (MediaChild::IsAsked(argc, argv))
+        return MediaChild::Run(argc, argv);
     try {
         return Run(ProcessArguments(argc, argv));
     } catch (const RuntimeError& error) {
