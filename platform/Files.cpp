@@ -4,10 +4,12 @@
 #include "platform/Files.h"
 
 #include "platform/FolderEntries.h"
+#include "platform/Paths.h"
+#include "platform/PrivateName.h"
 #include "platform/RuntimeError.h"
 #include "platform/Wildcards.h"
+#include "platform/WriteAside.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 namespace {
@@ -46,6 +48,15 @@ private:
     std::vector<Files::FoundFile> found_;
 };
 
+void CopyWhole(const QString& from, const QString& to, WriteAside::Names names) {
+    const File source = File::Open(from, File::Access::Read);
+    WriteAside target(to, names);
+    const qint64 length = source.Length();
+    if (CopyBytes(target.Out(), 0, source, 0, length) != length)
+        throw RuntimeError(ErrorNumber::DeviceError, QStringLiteral("%1: breaks off").arg(source.Name()));
+    target.Commit(false);
+}
+
 QString WithoutTrailingBackslash(const QString& path) {
     return path.endsWith(u'\\') ? path.chopped(1) : path;
 }
@@ -71,6 +82,14 @@ std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive) {
     Walk walk(recursive);
     walk.Enter(WithoutTrailingBackslash(folder));
     return std::move(walk).Found();
+}
+
+void Copy(const QString& from, const QString& to) {
+    CopyWhole(from, to, WriteAside::Names::LookedUp);
+}
+
+void CopyAsGiven(const QString& from, const QString& to) {
+    CopyWhole(from, to, WriteAside::Names::AsGiven);
 }
 
 void Delete(const QString& pattern) {
@@ -101,13 +120,7 @@ void DeleteFolder(const QString& path) {
 }
 
 QString TemporaryBeside(const QString& path) {
-    static int counter = 0;
-    const QString folder = path.first(path.lastIndexOf(u'\\') + 1);
-    QString free;
-    do {
-        free = folder + QStringLiteral("~brindock-%1-%2").arg(QCoreApplication::applicationPid()).arg(++counter);
-    } while (FileExists(free) || FolderExists(free) || IsLink(free));
-    return free;
+    return Paths::Folder(path) + PrivateName();
 }
 
 void MakeFolders(const QString& path) {

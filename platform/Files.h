@@ -55,7 +55,8 @@ void Delete(const QString& pattern);
 /// Deletes one file, a write-protected one too. Raises 53 when missing, 70 when refused.
 void DeleteForced(const QString& path);
 
-/// Copies a file over whatever stands at the target. Raises 53, 70, 75, 76, 61.
+/// Copies a file over the file at the target, or to a new one, in one step (platform/WriteAside.h); does not wait for
+/// the disk. Raises 53, 57, 61, 70, 75, 76.
 void Copy(const QString& from, const QString& to);
 
 /// The same for a target whose case is known to be right: nothing is looked up there.
@@ -81,7 +82,7 @@ struct FoundFile {
 /// is followed once, never around in a circle.
 std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive);
 
-/// A path in the same folder that nothing stands at, for a file to be written aside and then put in place.
+/// A path in the same folder under a name that nobody can foretell. Who saves over a file uses WriteAside.
 QString TemporaryBeside(const QString& path);
 
 /// When the file was last written. Raises 53.

@@ -7,10 +7,8 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/posix/Errors.h"
-#include "platform/posix/Transfer.h"
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,11 +24,6 @@ struct Native {
     explicit Native(const QString& path) : Native(Paths::ToNative(path), 0) {}
 
     static Native AsGiven(const QString& path) { return {Paths::ToNativeAsGiven(path), 0}; }
-
-    /// A file of its own in the same folder.
-    [[nodiscard]] Native Beside(const QString& name) const {
-        return {Text.first(Text.lastIndexOf(u'/') + 1) + name, 0};
-    }
 
     [[noreturn]] void Raise(int error) const { RaiseErrno(error, Text); }
 
@@ -86,43 +79,6 @@ void MakeNative(const QString& native) {
     if (error == ENOENT)
         throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(native));
     RaiseErrno(error, native);
-}
-
-/// Opens a new file in the target's folder; `name` becomes its path.
-Descriptor OpenBeside(const Native& target, Native& name) {
-    static int counter = 0;
-    const QString pattern = QStringLiteral("~brindock-%1-copy-%2").arg(::getpid());
-    for (;;) {
-        name = target.Beside(pattern.arg(++counter));
-        Descriptor file(::open(name.Path(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-        if (file.Valid())
-            return file;
-        if (errno != EEXIST)
-            target.Raise(errno == ENOENT ? ENOTDIR : errno);
-    }
-}
-
-void CopyNative(const Native& source, const Native& target) {
-    const Descriptor reading(::open(source.Path(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-
-    struct stat status {};
-
-    if (!reading.Valid() || ::fstat(reading.Number(), &status) != 0)
-        source.Raise(errno);
-    if (!S_ISREG(status.st_mode))
-        source.Raise(EISDIR);
-    if (::access(target.Path(), F_OK) == 0 && ::access(target.Path(), W_OK) != 0)
-        target.Raise(EACCES);
-    Native aside = target;
-    Descriptor writing = OpenBeside(target, aside);
-    try {
-        TransferBytes(writing.Number(), 0, reading.Number(), 0, status.st_size, target.Text);
-        if (::rename(aside.Path(), target.Path()) != 0)
-            target.Raise(errno);
-    } catch (const RuntimeError&) {
-        ::unlink(aside.Path());
-        throw;
-    }
 }
 
 } // namespace
@@ -211,14 +167,6 @@ void DeleteForced(const QString& path) {
         native.Raise(ENOENT);
     if (::unlink(native.Path()) != 0)
         native.Raise(errno);
-}
-
-void Copy(const QString& from, const QString& to) {
-    CopyNative(Native(from), Native(to));
-}
-
-void CopyAsGiven(const QString& from, const QString& to) {
-    CopyNative(Native(from), Native::AsGiven(to));
 }
 
 void Rename(const QString& from, const QString& to) {

@@ -150,30 +150,6 @@ void DeleteForced(const QString& path) {
     RaiseLastError(error == ERROR_PATH_NOT_FOUND ? ERROR_FILE_NOT_FOUND : error, path);
 }
 
-void Copy(const QString& from, const QString& to) {
-    if (!FileExists(from))
-        RaiseLastError(ERROR_FILE_NOT_FOUND, from);
-    const auto there = Attributes(to);
-    if (there && (there->dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0)
-        RaiseLastError(ERROR_ACCESS_DENIED, to);
-    const QString aside = TemporaryBeside(to);
-    if (CopyFileW(WidePath(from).c_str(), WidePath(aside).c_str(), TRUE) == 0) {
-        const DWORD error = GetLastError();
-        Ignoring([&] { DeleteForced(aside); });
-        RaiseLastError(error, to);
-    }
-    try {
-        Replace(aside, to);
-    } catch (const RuntimeError&) {
-        Ignoring([&] { DeleteForced(aside); });
-        throw;
-    }
-}
-
-void CopyAsGiven(const QString& from, const QString& to) {
-    Copy(from, to);
-}
-
 void Rename(const QString& from, const QString& to) {
     // Where only the case changes, some systems take the new name for the old one: it goes by way of a third.
     const QString step = SameFile(from, to) ? TemporaryBeside(from) : from;
