@@ -3,26 +3,16 @@
 
 #include "media/MediaFiles.h"
 
-#include "platform/NumberedFiles.h"
-
-using NumberedFiles::Access;
-
-namespace {
-constexpr int Number = 9;
-}
+#include "platform/File.h"
 
 QByteArray MediaFiles::Read(const QString& path, qint64 longest) {
-    NumberedFiles::Close(Number);
-    NumberedFiles::Open(Number, path, Access::Read);
-    const qint64 length = NumberedFiles::Length(Number);
-    QByteArray bytes = NumberedFiles::Read(Number, 0, length <= longest ? length : 0);
-    NumberedFiles::Close(Number);
-    return bytes;
+    const File file = File::Open(path, File::Access::Read);
+    const qint64 length = file.Length();
+    return length <= longest ? file.Read(0, length) : QByteArray();
 }
 
 void MediaFiles::Write(const QString& path, const QByteArray& bytes) {
-    NumberedFiles::Close(Number);
-    NumberedFiles::Open(Number, path, Access::Replace);
-    NumberedFiles::Write(Number, 0, bytes);
-    NumberedFiles::Close(Number);
+    File file = File::Open(path, File::Access::Replace);
+    file.Write(0, bytes);
+    file.Close();
 }
