@@ -5,7 +5,7 @@
 #include "app/cli/BigCommands.h"
 #include "app/cli/Output.h"
 #include "big/document/ArchiveExtractor.h"
-#include "media/PictureProcess.h"
+#include "media/MediaProcess.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 
@@ -33,10 +33,10 @@ bool Decode(const QString& source, const QString& target) {
     char* arguments = name.data();
     int count = 1;
     const QCoreApplication application(count, &arguments);
-    PictureProcess process;
+    MediaClient client;
     QEventLoop loop;
     bool decoded = false;
-    process.Decode(source, target, [&](bool done) {
+    client.Ask({MediaJob::Kind::Picture, source, target}, [&](bool done) {
         decoded = done;
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });

@@ -9,7 +9,7 @@
 #include "app/cli/ScriptHost.h"
 
 #include "core/mMain.h"
-#include "media/PictureChild.h"
+#include "media/MediaChild.h"
 #include "platform/Arguments.h"
 #include "platform/RuntimeError.h"
 
@@ -36,8 +36,8 @@ int Run(const std::vector<std::string>& words) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (PictureChild::IsAsked(argc, argv))
-        return PictureChild::Run(argc, argv);
+    if (MediaChild::IsAsked(argc, argv))
+        return MediaChild::Run(argc, argv);
     try {
         return Run(ProcessArguments(argc, argv));
     } catch (const RuntimeError& error) {

@@ -4,21 +4,26 @@
 /// The decoding child process, with a wait for its answer.
 #pragma once
 
-#include "media/PictureProcess.h"
+#include "media/ChildDecoder.h"
 #include "platform/Files.h"
 #include "tests/support/World.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <optional>
 
-class PictureProcessTest : public testing::Test {
+class MediaProcessTest : public testing::Test {
 protected:
+    explicit MediaProcessTest(MediaLimits limits = {})
+        : process_(std::make_shared<MediaProcess>(limits)),
+          decoder_(process_) {}
+
     /// Runs events until something holds; false after so many milliseconds.
     static bool WaitFor(const std::function<bool()>& holds, int limit = 20000) {
         QElapsedTimer timer;
@@ -33,7 +38,7 @@ protected:
 
     void Begin(const QString& name, const QByteArray& bytes) {
         answer_.reset();
-        process_.Decode(Place.WriteFile(name, bytes), Bitmap(), [this](bool decoded) { answer_ = decoded; });
+        decoder_.Decode(Place.WriteFile(name, bytes), Bitmap(), [this](bool decoded) { answer_ = decoded; });
     }
 
     /// The answer, in the end.
@@ -45,7 +50,14 @@ protected:
 
     [[nodiscard]] QString Bitmap() const { return Place.Root() + QStringLiteral("\\out.bmp"); }
 
+    /// The child's; 0 when there is none.
+    [[nodiscard]] qint64 ChildNumber() const {
+        const auto* child = process_->findChild<QProcess*>();
+        return child != nullptr ? child->processId() : 0;
+    }
+
     World Place;
-    PictureProcess process_;
+    std::shared_ptr<MediaProcess> process_;
+    ChildDecoder decoder_;
     std::optional<bool> answer_;
 };

@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// The sound device through SDL2_mixer. A thread of its own does what may take time: opening the device, reading a
-/// sound.
+/// The machine's sound device through SDL. A thread of its own opens and closes it, which may take time.
 #pragma once
 
 #include "media/SoundPlayer.h"
@@ -14,15 +13,12 @@
 #include <mutex>
 #include <thread>
 
-struct Mix_Chunk;
-typedef struct _Mix_Music Mix_Music; // NOLINT: the library's own name
-
-class SdlOutput : public SoundOutput {
+class DeviceOutput : public SoundOutput {
 public:
-    SdlOutput();
-    ~SdlOutput() override;
+    DeviceOutput();
+    ~DeviceOutput() override;
 
-    void Open(const QByteArray& bytes) override;
+    void Open(const QByteArray& samples, bool plays) override;
     void Stop() override;
     void Play() override;
     void Rewind() override;
@@ -35,25 +31,19 @@ private:
     void Ask(Task task);
     void Work();
     bool OpenDevice();
-    void Read(const QByteArray& bytes);
     void Forget();
-    void Start();
     void GoTo(qint64 position);
-    void LookAtMusic();
     static void Feed(void* self, unsigned char* stream, int length);
 
     // The worker's own.
-    QByteArray bytes_;           ///< of the open sound, which music_ reads from
-    Mix_Music* music_ = nullptr; ///< MP3, decoded while it plays
-    bool deviceOpen_ = false;
+    quint32 device_ = 0; ///< 0 when it is not open
 
-    // Shared with the device's thread, which reads the chunk between two calls of the library that wait for it.
-    Mix_Chunk* chunk_ = nullptr;  ///< WAV, decoded whole
-    std::atomic<qint64> fed_ = 0; ///< bytes of the chunk that the device has
+    // Shared with the device's thread; the samples change only while the device is closed.
+    QByteArray samples_;
+    std::atomic<qint64> fed_ = 0; ///< bytes that the device has
 
     // Shared with the caller.
     std::atomic<SoundStatus::Stage> stage_ = SoundStatus::Stage::Empty;
-    std::atomic<qint64> position_ = 0;
     std::atomic<qint64> length_ = 0;
 
     std::mutex mutex_;
