@@ -94,14 +94,26 @@ qint64 Frames(const WavFormat& format, qint64 length) {
     }
 }
 
-QByteArray Chunk(QByteArrayView name, QByteArrayView bytes) {
+void Append(QByteArray& wav, const char* name, QByteArrayView chunk) {
     std::array<char, 4> length{};
-    qToLittleEndian(static_cast<quint32>(bytes.size()), length.data());
-    QByteArray chunk = name.toByteArray();
-    chunk.append(length.data(), length.size()).append(bytes);
-    if (bytes.size() % 2 != 0)
-        chunk.append('\0');
-    return chunk;
+    qToLittleEndian(static_cast<quint32>(chunk.size()), length.data());
+    wav.append(name).append(length.data(), length.size()).append(chunk);
+    if (chunk.size() % 2 != 0)
+        wav.append('\0');
+}
+
+/// A WAV of these chunks alone. It may be large: it is put together in its place.
+QByteArray WavOf(const Chunks& chunks) {
+    constexpr qsizetype heads = 48;
+    constexpr qsizetype lengthAt = 4;
+    QByteArray wav("RIFF....WAVE");
+    wav.reserve(heads + chunks.Format.size() + chunks.Fact.size() + chunks.Data.size());
+    Append(wav, "fmt ", chunks.Format);
+    if (!chunks.Fact.isEmpty())
+        Append(wav, "fact", chunks.Fact);
+    Append(wav, "data", chunks.Data);
+    qToLittleEndian(static_cast<quint32>(wav.size() - lengthAt - 4), wav.data() + lengthAt);
+    return wav;
 }
 
 } // namespace
@@ -135,8 +147,5 @@ QByteArray Sounds::CheckedWav(const QByteArray& file) {
     }
     if (!IsSane(Frames(format, chunks.Data.size()), format.Rate, format.Channels))
         return {};
-    QByteArray body = "WAVE" + Chunk("fmt ", chunks.Format);
-    if (!chunks.Fact.isEmpty())
-        body += Chunk("fact", chunks.Fact);
-    return Chunk("RIFF", body + Chunk("data", chunks.Data));
+    return WavOf(chunks);
 }
