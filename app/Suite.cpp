@@ -38,10 +38,12 @@ Window* Open() {
     return window;
 }
 
-frmToolsMenu* ShownMenu() {
+/// The window of that kind that is on the screen.
+template <typename Window>
+Window* Shown() {
     for (QWidget* const window : QApplication::topLevelWidgets()) {
-        if (auto* const menu = qobject_cast<frmToolsMenu*>(window); menu != nullptr && menu->isVisible())
-            return menu;
+        if (auto* const shown = qobject_cast<Window*>(window); shown != nullptr && shown->isVisible())
+            return shown;
     }
     return nullptr;
 }
@@ -57,19 +59,26 @@ void StayInMenu() {
 
 // One is enough, where a second tool is closed over the menu that followed the first.
 void Suite::ShowToolsMenu() {
-    if (frmToolsMenu* const menu = ShownMenu(); menu != nullptr)
+    if (auto* const menu = Shown<frmToolsMenu>(); menu != nullptr)
         menu->activateWindow();
     else
         Open<frmToolsMenu>();
 }
 
+// There is one open archive, so there is one window for it.
 bool Suite::ShowBigEditor() {
-    Open<frmBigEditor>();
+    if (auto* const editor = Shown<frmBigEditor>(); editor != nullptr)
+        editor->activateWindow();
+    else
+        Open<frmBigEditor>();
     return true;
 }
 
 void Suite::OpenBigFile(const QString& path) {
-    Open<frmBigEditor>()->OpenBigFile(path);
+    if (auto* const editor = Shown<frmBigEditor>(); editor != nullptr)
+        editor->activateWindow();
+    else
+        Open<frmBigEditor>()->OpenBigFile(path);
 }
 
 // Without a window of its own the program could not be left: it ends with the extraction.

@@ -18,6 +18,9 @@ BigEditor::BigEditor(EditorView& view) : panes_(view) {}
 
 BigEditor::~BigEditor() {
     FileAdding::ForgetAdopted();
+    // The next window may have its archive open already.
+    if (panes_.Shown != nullptr && panes_.Shown == mBIG::CurrentIdentity())
+        Ignoring([] { mBIG::Close(); });
 }
 
 void BigEditor::OpenBigFile(const QString& path) {
@@ -36,6 +39,7 @@ bool BigEditor::LoadBig(const QString& path) {
     const Busy busy(panes_.View);
     if (!Ignoring([&] { mBIG::Load(path); }))
         return false;
+    panes_.Shown = mBIG::CurrentIdentity();
     copies_.EntriesGone();
     panes_.State.ShowsOnlyEntry = false;
     panes_.CreateDirs();
@@ -130,6 +134,7 @@ void BigEditor::New() {
     panes_.State.ExactOffsets = OffsetNotices::IsExactByDefault();
     panes_.View.ShowVersion();
     mBIG::New(*path, mBIG::BigVersion);
+    panes_.Shown = mBIG::CurrentIdentity();
     copies_.EntriesGone();
     panes_.State.ShowsOnlyEntry = false;
     panes_.CreateDirs();

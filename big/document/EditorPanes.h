@@ -20,6 +20,7 @@ public:
     EditorState State;
     FolderTree Tree;
     FileList List;
+    mBIG::Identity Shown; ///< the archive that the panes show
 
     /// Rebuilds the tree from the table and shows the root.
     void CreateDirs();

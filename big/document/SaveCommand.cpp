@@ -130,6 +130,7 @@ void SaveCommand::ShowWritten(const QString& path, const std::vector<int>& newIn
     // The table's offsets must be the written file's.
     if (Ignoring([&] { mBIG::Load(path); }))
         copies_.EntriesMoved(newIndices);
+    panes_.Shown = mBIG::CurrentIdentity();
     mBIG::BigFileName = path;
     // A name that is no archive's is not shown anew. This is meant.
     if (IsArchiveName(path))
