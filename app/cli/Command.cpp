@@ -8,6 +8,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <iostream>
+
 namespace {
 
 constexpr int WrongUsage = 2;
@@ -106,7 +108,9 @@ int RunCommand(const std::vector<CommandGroup>& groups, const std::vector<std::s
     try {
         app.parse(std::vector<std::string>(words.rbegin(), words.rend()));
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : WrongUsage;
+        const int code = app.exit(error);
+        std::cout.flush(); // the program ends without more ado
+        return code == 0 ? 0 : WrongUsage;
     }
     return 0;
 }
