@@ -123,5 +123,3 @@ void Suite::ShowAbout(QObject* owner) {
 }
 
 void Suite::CheckForUpdates(bool /*automatic*/) {}
-
-void Suite::ActivateShellMap(GameIndex /*game*/) {}

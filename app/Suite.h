@@ -20,5 +20,4 @@ public:
     void ShowAbout(QObject* owner) override;
     void ShowAddFiles(QObject* owner) override;
     void CheckForUpdates(bool automatic) override;
-    void ActivateShellMap(GameIndex game) override;
 };

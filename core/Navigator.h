@@ -4,8 +4,6 @@
 /// How one room's window opens another's. The application wires it.
 #pragma once
 
-#include "core/Game.h"
-
 #include <QString>
 
 class QObject;
@@ -33,11 +31,8 @@ public:
     virtual void ShowAddFiles(QObject* owner) = 0;
 
     virtual void CheckForUpdates(bool automatic) = 0;
-    virtual void ActivateShellMap(GameIndex game) = 0;
 
     /// The one in use; asking for a missing one raises 91.
     static Navigator& Current();
-    /// False before the application has wired one: a game is launched without.
-    static bool IsInUse();
     static void Use(Navigator* navigator);
 };

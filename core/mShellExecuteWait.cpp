@@ -6,9 +6,8 @@
 #include "core/Host.h"
 #include "core/Navigator.h"
 #include "core/mMain.h"
+#include "platform/ProcessEnd.h"
 #include "platform/RuntimeError.h"
-
-#include <QThread>
 
 #include <array>
 
@@ -18,7 +17,6 @@ namespace {
 
 constexpr int NoAssociation = 31;
 constexpr int IncompleteAssociation = 27;
-constexpr unsigned long PauseMilliseconds = 10;
 
 void Tell(int instApp) {
     const QString text = mShellExecuteWait::RefusalText(instApp);
@@ -62,20 +60,18 @@ QString mShellExecuteWait::RefusalText(int instApp) {
     return {};
 }
 
-void mShellExecuteWait::ReactTo(int instApp, const QString& path) {
+int mShellExecuteWait::ReactTo(int instApp, const QString& path) {
     if (instApp == NoAssociation)
-        LetTheUserChoose(path);
-    else
-        Tell(instApp);
+        return LetTheUserChoose(path) ? instApp : IncompleteAssociation;
+    Tell(instApp);
+    return instApp;
 }
 
 void mShellExecuteWait::WaitFor(Processes::Handle process, const std::function<bool()>& goesOn) {
-    // Ends with the program, whatever its exit code.
-    while (goesOn() && !Processes::ExitCode(process)) {
-        Host::Current().Yield();
-        QThread::msleep(PauseMilliseconds);
-    }
-    Processes::Close(process);
+    bool ended = false;
+    const ProcessEnd end(process);
+    QObject::connect(&end, &ProcessEnd::Ended, [&ended] { ended = true; });
+    Host::Current().WaitUntil([&] { return ended || !goesOn(); });
 }
 
 Processes::Opened mShellExecuteWait::Open(const QString& path, quintptr owner) {
@@ -86,10 +82,7 @@ Processes::Opened mShellExecuteWait::Open(const QString& path, quintptr owner) {
         return {};
     }
     Processes::Opened opened = Processes::OpenWithAssociation(path, owner);
-    if (opened.InstApp != NoAssociation)
-        Tell(opened.InstApp);
-    else if (!LetTheUserChoose(path))
-        opened.InstApp = IncompleteAssociation;
+    opened.InstApp = ReactTo(opened.InstApp, path);
     return opened;
 }
 

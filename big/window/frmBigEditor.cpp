@@ -15,6 +15,7 @@
 #include "ui_frmBigEditor.h"
 
 #include <QActionGroup>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>

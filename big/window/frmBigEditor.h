@@ -5,8 +5,8 @@
 #pragma once
 
 #include "big/document/BigEditor.h"
-#include "media/PictureProcess.h"
-#include "media/SoundPlayer.h"
+#include "media/ChildDecoder.h"
+#include "media/FilePlayer.h"
 
 #include "ui/window/ToolWindow.h"
 
@@ -74,7 +74,7 @@ private:
     void SelectNode();
     void ChooseView(ViewMode mode);
 
-    PictureProcess decoder_;
+    ChildDecoder decoder_;
     FilePlayer player_;
     std::unique_ptr<Ui::frmBigEditor> ui_;
     BigEditor editor_;

@@ -30,6 +30,7 @@ public:
 // Runs an event loop in which one event's handler fails.
 template <typename Failure>
 void RunWith(const Failure& failure) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     int count = 1;
     char name[] = "app_tests"; // NOLINT(modernize-avoid-c-arrays): as main() has it
     char* arguments = name;

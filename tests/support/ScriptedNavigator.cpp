@@ -70,7 +70,3 @@ void ScriptedNavigator::ShowAbout(QObject* owner) {
 void ScriptedNavigator::CheckForUpdates(bool automatic) {
     Record(automatic ? u"CheckForUpdates automatic"_s : u"CheckForUpdates manual"_s);
 }
-
-void ScriptedNavigator::ActivateShellMap(GameIndex game) {
-    Record(u"ActivateShellMap "_s + QString::number(game));
-}

@@ -31,7 +31,6 @@ public:
     void ShowAbout(QObject* owner) override;
     void ShowAddFiles(QObject* owner) override;
     void CheckForUpdates(bool automatic) override;
-    void ActivateShellMap(GameIndex game) override;
 
 private:
     void Record(const QString& call);

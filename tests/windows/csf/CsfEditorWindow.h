@@ -35,8 +35,7 @@ protected:
 
     void Open(const std::vector<CsfString>& table, qint16 language = 3) {
         path_ = world_->Root() + QStringLiteral("\\a.csf");
-        mCSF::CsfStrings = table;
-        mCSF::WriteTable(path_, language);
+        CsfTable{language, table}.Write(path_);
         window_ = std::make_unique<frmCSFEditor>();
         window_->OpenCSFFile(path_);
         window_->activateWindow();
