@@ -145,12 +145,12 @@ void FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
 
 void FileAdding::TellDrop(const ArchiveEdits::DropResult& result) {
     QStringList told;
-    const auto tell = [&](const QString& key, const QStringList& names) {
+    const auto tell = [&](QString text, const QStringList& names) {
         if (!names.isEmpty())
-            told += GetText(key).replace("%1"_L1, NameOrCount(names));
+            told += text.replace("%1"_L1, NameOrCount(names));
     };
-    tell(u"DropLost"_s, result.Lost);
-    tell(u"DropHidden"_s, result.Hidden);
-    tell(u"DropReplaced"_s, result.Replaced);
+    tell(GetText(u"DropLost"_s), result.Lost);
+    tell(GetText(u"DropHidden"_s), result.Hidden);
+    tell(GetText(u"DropReplaced"_s), result.Replaced);
     panes_.View.ShowNotice({.Text = told.join(u' ')});
 }

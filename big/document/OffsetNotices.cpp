@@ -16,9 +16,9 @@ using mTraduction::GetText;
 
 namespace {
 
-QString TextOf(const QString& key, const OffsetShift::Shift& shift) {
+QString TextOf(QString text, const OffsetShift::Shift& shift) {
     const QString distance = (shift.First < 0 ? u"-"_s : u"+"_s) + Sizes::Grouped(std::abs(shift.First));
-    return GetText(key).replace("%1"_L1, Sizes::Grouped(shift.Count)).replace("%2"_L1, distance);
+    return text.replace("%1"_L1, Sizes::Grouped(shift.Count)).replace("%2"_L1, distance);
 }
 
 /// Gives the entries the offsets at which their bytes lie, whatever was changed in the table since. Does nothing when
@@ -57,7 +57,7 @@ void TellWritten(EditorPanes& panes, const OffsetShift::Shift& shift, const std:
         WriteSetting(SettingKeys::ExactOffsets, u"1"_s);
         save();
     };
-    panes.View.ShowNotice({.Text = TextOf(u"SavedShifted"_s, shift),
+    panes.View.ShowNotice({.Text = TextOf(GetText(u"SavedShifted"_s), shift),
                            .Links = {{GetText(u"SaveExactly"_s), save}, {GetText(u"Always"_s), always}}});
 }
 
@@ -77,7 +77,7 @@ void TellOpened(EditorPanes& panes) {
         };
         notice = {.Text = GetText(u"OneEntryNotShown"_s), .Links = {{GetText(u"Show"_s), show}}};
     } else if (!shift.IsNone() && shift.ExactFits) {
-        notice.Text = TextOf(u"MayBeShifted"_s, shift);
+        notice.Text = TextOf(GetText(u"MayBeShifted"_s), shift);
     } else if (!shift.IsNone()) {
         const auto mend = [&panes, readBack = ReadBack(shift)] {
             if (EditorPanes::Locked() || !readBack())
@@ -85,7 +85,8 @@ void TellOpened(EditorPanes& panes) {
             panes.State.Modified = true;
             panes.View.StateChanged();
         };
-        notice = {.Text = TextOf(u"ArchiveShifted"_s, shift), .Links = {{GetText(u"ReadShiftedBack"_s), mend}}};
+        notice = {.Text = TextOf(GetText(u"ArchiveShifted"_s), shift),
+                  .Links = {{GetText(u"ReadShiftedBack"_s), mend}}};
     }
     panes.View.ShowNotice(notice);
 }

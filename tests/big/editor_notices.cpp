@@ -177,5 +177,5 @@ TEST_F(EditorNotices, YesDoesNotLeadOnAsIfAnOnlyEntryWereSaved) {
     Speaker.Answers = {Answer::Yes};
     EXPECT_TRUE(Editor.MayClose()) << "This way it is saved.";
     ASSERT_TRUE(mBIG::ReadBigFile(mBIG::BigFileName));
-    EXPECT_EQ(Entry(0).Name, u"data\\only.txt"_s);
+    EXPECT_EQ(Entry(0).Name, u"stuff\\only.txt"_s);
 }
