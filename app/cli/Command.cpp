@@ -27,7 +27,7 @@ CLI::Option* AddTo(CLI::App& app, const Parameter& parameter) {
     CLI::Option* option = app.add_option(parameter.Name, parameter.Description);
     option->required(parameter.Required || parameter.What == Kind::Place);
     if (parameter.What == Kind::Places || parameter.What == Kind::List)
-        option->expected(1, CLI::detail::expected_max_vector_size);
+        option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args();
     else
         option->expected(1);
     if (!parameter.TypeName.empty())
