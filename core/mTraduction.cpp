@@ -6,7 +6,7 @@
 #include "core/mMain.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Clock.h"
-#include "platform/NumberedFiles.h"
+#include "platform/File.h"
 #include "platform/RuntimeError.h"
 
 #include <QtEndian>
@@ -15,8 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Apart from the numbers that archives, tables and replays are read under: a text may be asked for while one is open.
-constexpr int LogFileNumber = 250;
 constexpr quint16 StringTag = 8;
 
 void AppendLittleEndian(QByteArray& bytes, quint16 value) {
@@ -34,15 +32,14 @@ QByteArray Record(const QString& key) {
 }
 
 void LogMiss(const QString& key) {
-    NumberedFiles::Open(LogFileNumber, mMain::ProgramFolder + u"\\localization.log"_s,
-                        NumberedFiles::Access::ReadWrite);
+    File log = File::Open(mMain::ProgramFolder + u"\\localization.log"_s, File::Access::ReadWrite);
     Ignoring([&] {
-        // The position is the length counted from 1, so a record overwrites the line feed of the one before. This is
-        // meant.
-        const qint64 length = NumberedFiles::Length(LogFileNumber);
-        NumberedFiles::Write(LogFileNumber, length > 0 ? length - 1 : 0, Record(key));
+        // The position is the length counted from 1, so a record overwrites the line feed of the one before.
+        // This is meant.
+        const qint64 length = log.Length();
+        log.Write(length > 0 ? length - 1 : 0, Record(key));
     });
-    NumberedFiles::Close(LogFileNumber);
+    log.Close();
 }
 
 } // namespace

@@ -4,8 +4,6 @@
 #include "platform/Files.h"
 
 #include "platform/FolderEntries.h"
-#include "platform/Paths.h"
-#include "platform/PrivateName.h"
 #include "platform/RuntimeError.h"
 #include "platform/Wildcards.h"
 #include "platform/WriteAside.h"
@@ -144,10 +142,6 @@ void DeleteFolder(const QString& path) {
         }
         RemoveFolder(folder);
     });
-}
-
-QString TemporaryBeside(const QString& path) {
-    return Paths::Folder(path) + PrivateName();
 }
 
 void MakeFolders(const QString& path) {

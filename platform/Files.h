@@ -90,9 +90,6 @@ std::vector<FoundFile> ListFolderFilesStrict(const QString& folder, bool recursi
 /// so does what can't be deleted. Where the folder is a link, what it leads to is somebody else's: nothing is deleted.
 void EmptyFolder(const QString& folder, const QStringList& kept = {});
 
-/// A path in the same folder under a name that nobody can foretell. Who saves over a file uses WriteAside.
-QString TemporaryBeside(const QString& path);
-
 /// Waits until all that was written in the file system of a path is on the disk, where the system lets everybody ask
 /// for that: once at the end of many files.
 void FlushSystem(const QString& path);

@@ -4,6 +4,8 @@
 #include "platform/Files.h"
 
 #include "platform/FolderEntries.h"
+#include "platform/Paths.h"
+#include "platform/PrivateName.h"
 #include "platform/RuntimeError.h"
 #include "platform/windows/Errors.h"
 #include "platform/windows/System.h"
@@ -158,7 +160,7 @@ void DeleteForced(const QString& path) {
 
 void Rename(const QString& from, const QString& to) {
     // Where only the case changes, some systems take the new name for the old one: it goes by way of a third.
-    const QString step = SameFile(from, to) ? TemporaryBeside(from) : from;
+    const QString step = SameFile(from, to) ? Paths::Folder(from) + PrivateName() : from;
     if (step != from && MoveFileExW(WidePath(from).c_str(), WidePath(step).c_str(), 0) == 0)
         RaiseLastError(GetLastError(), from);
     if (MoveFileExW(WidePath(step).c_str(), WidePath(to).c_str(), MOVEFILE_COPY_ALLOWED) == 0)
