@@ -12,28 +12,27 @@
 
 #include <QSet>
 
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Walks one folder for ListFolderFiles. Each folder is entered once, so that links can't lead around in a circle.
 class Walk {
 public:
-    explicit Walk(bool recursive) : recursive_(recursive) {}
+    Walk(bool recursive, bool strict) : recursive_(recursive), strict_(strict) {}
 
     void Enter(const QString& folder) {
         const QByteArray identity = FolderIdentity(folder);
-        if (identity.isEmpty() || entered_.contains(identity))
+        if (entered_.contains(identity) || (identity.isEmpty() && !strict_))
             return;
         entered_.insert(identity);
         std::vector<QString> below;
-        Ignoring([&] {
-            for (const FolderEntry& entry : FolderEntries(folder)) {
-                const QString path = folder + u'\\' + entry.Name;
-                if (entry.IsFolder)
-                    below.push_back(path);
-                else
-                    found_.push_back({path, entry.Size});
-            }
-        });
+        if (strict_)
+            List(folder, below);
+        else
+            Ignoring([&] { List(folder, below); });
         if (recursive_) {
             for (const QString& path : below)
                 Enter(path);
@@ -43,7 +42,18 @@ public:
     std::vector<Files::FoundFile> Found() && { return std::move(found_); }
 
 private:
+    void List(const QString& folder, std::vector<QString>& below) {
+        for (const FolderEntry& entry : FolderEntries(folder)) {
+            const QString path = folder + u'\\' + entry.Name;
+            if (entry.IsFolder)
+                below.push_back(path);
+            else
+                found_.push_back({path, entry.Size, entry.IsPlain});
+        }
+    }
+
     bool recursive_;
+    bool strict_;
     QSet<QByteArray> entered_;
     std::vector<Files::FoundFile> found_;
 };
@@ -79,9 +89,26 @@ QStringList ListFolder(const QString& pattern, bool withFolders) {
 }
 
 std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive) {
-    Walk walk(recursive);
+    Walk walk(recursive, false);
     walk.Enter(WithoutTrailingBackslash(folder));
     return std::move(walk).Found();
+}
+
+std::vector<FoundFile> ListFolderFilesStrict(const QString& folder, bool recursive) {
+    Walk walk(recursive, true);
+    walk.Enter(WithoutTrailingBackslash(folder));
+    return std::move(walk).Found();
+}
+
+void EmptyFolder(const QString& folder, const QStringList& kept) {
+    const QString path = WithoutTrailingBackslash(folder);
+    if (IsLink(path))
+        return;
+    for (const QString& name : ListFolder(path + u"\\*"_s)) {
+        const QString file = path + u'\\' + name;
+        if (std::ranges::none_of(kept, [&](const QString& each) { return SameFile(each, file); }))
+            Ignoring([&] { DeleteForced(file); });
+    }
 }
 
 void Copy(const QString& from, const QString& to) {

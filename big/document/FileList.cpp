@@ -17,7 +17,7 @@ bool IsShownIn(const BigEntry& entry, const QString& folderKey) {
     const qsizetype lastBackslash = entry.Name.lastIndexOf(u'\\');
     if (lastBackslash > folderKey.size())
         return false;
-    // Meant so: the key counts wherever it stands in the name, not at its start only.
+    // The key counts wherever it stands in the name, not at its start only. This is meant.
     return folderKey.isEmpty() || entry.Name.contains(folderKey, Qt::CaseInsensitive);
 }
 
@@ -37,15 +37,15 @@ void SortByKeys(std::vector<int>& rows, const std::vector<Key>& keys, bool desce
 } // namespace
 
 void FileList::ShowFolder(const FolderTree& tree, int node, const QString& folderKey,
-                          const std::vector<BigEntry>& entries, const QString& folderType) {
+                          const std::vector<BigEntry>& entries, const QString& folderType, bool showsOnlyEntry) {
     Clear();
     keyLength_ = folderKey.size();
     folderType_ = folderType;
     if (tree.Has(node))
         for (const int child : tree.Node(node).Children)
             rows_.push_back({.Name = tree.Node(child).Text, .Index = child, .IsFolder = true});
-    // Meant so: a highest index of 0 stands for an empty archive.
-    if (entries.size() > 1)
+    // A highest index of 0 stands for an empty archive. This is meant.
+    if (entries.size() > 1 || showsOnlyEntry)
         for (std::size_t index = 0; index < entries.size(); ++index)
             if (const BigEntry& entry = entries[index]; IsShownIn(entry, folderKey))
                 rows_.push_back(

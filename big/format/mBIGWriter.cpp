@@ -26,18 +26,19 @@ namespace {
 
 bool saving = false;
 
-/// Shows the window of a save and tells it how far the save is.
-void ShowProgress(const QString& path) {
-    Host& host = Host::Current();
-    host.ShowProgress();
+/// Shows the window of a save.
+std::unique_ptr<Progress> ShowProgress(const QString& path) {
+    std::unique_ptr<Progress> progress = Host::Current().ShowProgress();
     const QString fileName = Paths::LastPart(path);
-    host.SetProgressText(GetText(u"CreatingFile"_s) + u" '"_s + fileName + u"'\r\n"_s + GetText(u"WritingHeader"_s));
+    progress->SetText(GetText(u"CreatingFile"_s) + u" '"_s + fileName + u"'\r\n"_s + GetText(u"WritingHeader"_s));
+    return progress;
 }
 
-Archives::Watch InProgressWindow() {
+/// Tells the window how far the save is.
+Archives::Watch InProgressWindow(Progress& progress) {
     const QString writing = GetText(u"WritingFiles"_s) + u"\r\n"_s;
-    return {.Entry = [writing](const QString& name) { Host::Current().SetProgressText(writing + name); },
-            .Percent = [](int percent) { Host::Current().SetProgressValue(percent); },
+    return {.Entry = [&progress, writing](const QString& name) { progress.SetText(writing + name); },
+            .Percent = [&progress](int percent) { progress.SetValue(percent); },
             .Yield = [] { Host::Current().Yield(); }};
 }
 
@@ -46,13 +47,13 @@ bool HasNothingToSave(Placement placement) {
     return placement == Placement::Told ? mBIG::HighestIndex() == 0 : Archives::IsBlank(mBIG::Open());
 }
 
-Shift WriteTo(const QString& path, Placement placement) {
+Shift WriteTo(const QString& path, Placement placement, Progress& progress) {
     WritePlan::CheckCount(mBIG::Open(), Paths::ToNative(path));
     WriteAside aside(path);
     Shift shift;
     {
         const OpenArchive::Source old;
-        shift = Archives::Write(mBIG::Open(), aside.Out(), old.Bytes(), placement, InProgressWindow());
+        shift = Archives::Write(mBIG::Open(), aside.Out(), old.Bytes(), placement, InProgressWindow(progress));
     }
     OpenArchive::Aside closed(path);
     aside.Commit();
@@ -85,21 +86,16 @@ std::optional<Shift> Save(const QString& path, const SaveOptions& options) {
         throw RuntimeError(ErrorNumber::PermissionDenied, Paths::ToNative(path) + u": another save is under way"_s);
     const QScopedValueRollback save(saving, true);
     const ArchiveLock lock;
-    ShowProgress(path);
-    // The progress window stays on the screen. This is meant.
-    if (HasNothingToSave(options.Place))
+    const std::unique_ptr<Progress> progress = ShowProgress(path);
+    if (HasNothingToSave(options.Place)) {
+        // The progress window stays on the screen. This is meant.
+        progress->Release();
         return std::nullopt;
+    }
     // What an entry of size 0 left open would stand in the way of its archive's replacement.
     CloseExtraction();
-    Shift shift;
-    try {
-        shift = WriteTo(path, options.Place);
-    } catch (const RuntimeError&) {
-        Host::Current().UnloadProgress();
-        throw;
-    }
+    Shift shift = WriteTo(path, options.Place, *progress);
     Ignoring([&] { EmptyScratch(options); });
-    Host::Current().UnloadProgress();
     return shift;
 }
 

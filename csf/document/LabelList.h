@@ -4,7 +4,7 @@
 /// The rows of the CSF Editor's list as plain data: name and value, in the order shown.
 #pragma once
 
-#include "csf/format/mCSF.h"
+#include "csf/format/CsfTable.h"
 
 #include <QString>
 

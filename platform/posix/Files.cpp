@@ -7,8 +7,10 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/posix/Errors.h"
+#include "platform/posix/Transfer.h"
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -57,16 +59,27 @@ bool ParentExists(const QString& path) {
 /// A directory that is closed with its scope.
 class Listing {
 public:
-    explicit Listing(const Native& folder) : directory_(::opendir(folder.Path()), &::closedir) {
+    explicit Listing(const Native& folder) : name_(folder.Text), directory_(::opendir(folder.Path()), &::closedir) {
         if (!directory_)
-            throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(folder.Text));
+            Raise();
     }
 
-    const dirent* Next() { return ::readdir(directory_.get()); }
+    const dirent* Next() {
+        errno = 0; // the one way to tell an end from a failure
+        const dirent* entry = ::readdir(directory_.get());
+        if (entry == nullptr && errno != 0)
+            Raise();
+        return entry;
+    }
 
     [[nodiscard]] int Descriptor() const { return ::dirfd(directory_.get()); }
 
 private:
+    [[noreturn]] void Raise() const {
+        throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(name_));
+    }
+
+    QString name_;
     std::unique_ptr<DIR, int (*)(DIR*)> directory_;
 };
 
@@ -95,7 +108,8 @@ std::vector<FolderEntry> FolderEntries(const QString& folder) {
 
         const bool known = ::fstatat(listing.Descriptor(), name.constData(), &status, 0) == 0;
         const bool isFolder = known && S_ISDIR(status.st_mode);
-        entries.push_back({Paths::NameFromNative(Paths::DecodeNative(name)), isFolder ? 0 : status.st_size, isFolder});
+        entries.push_back({Paths::NameFromNative(Paths::DecodeNative(name)), isFolder ? 0 : status.st_size, isFolder,
+                           known && S_ISREG(status.st_mode)});
     }
     return entries;
 }
@@ -196,6 +210,12 @@ void Replace(const QString& from, const QString& to) {
             throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(to));
         source.Raise(error);
     }
+}
+
+void FlushSystem(const QString& path) {
+    const Descriptor file(::open(Native(path).Path(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!file.Valid() || ::syncfs(file.Number()) != 0)
+        Native(path).Raise(errno);
 }
 
 QDateTime ModifiedTime(const QString& path) {

@@ -5,6 +5,7 @@
 
 #include "platform/Paths.h"
 #include "platform/PrivateName.h"
+#include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/posix/Errors.h"
 #include "platform/posix/Transfer.h"
@@ -133,3 +134,24 @@ void WriteAside::Commit(bool flush) {
 void WriteAside::Raise(long error) const {
     RaiseErrno(static_cast<int>(error), name_);
 }
+
+namespace ReplacedFile {
+
+QString BehindLinks(const QString& path) {
+    const QString native = Paths::ToNative(path);
+    const QString followed = Followed(native);
+    return followed.isEmpty() || followed == native ? path : Paths::FromNative(followed);
+}
+
+bool IsWriteProtected(const QString& path) {
+    const QString native = Paths::ToNative(path);
+    const auto status = StatusOf(native);
+    return status && S_ISREG(status->st_mode) && RefusalOf(native, native) != 0;
+}
+
+bool KeepOwnerAndMode(const File& file, const QString& old) {
+    const auto status = StatusOf(Paths::ToNative(old));
+    return status && TakeOver(static_cast<int>(file.Handle()), *status);
+}
+
+} // namespace ReplacedFile

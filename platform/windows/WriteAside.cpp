@@ -4,6 +4,7 @@
 #include "platform/WriteAside.h"
 
 #include "platform/PrivateName.h"
+#include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/windows/Errors.h"
 #include "platform/windows/System.h"
@@ -37,17 +38,24 @@ QString Followed(const QString& path) {
     return length == 0 || length >= longestPath ? path : QString::fromWCharArray(text.data(), static_cast<int>(length));
 }
 
-/// Puts one file in the place of another with what the old one has: its attributes, its owner, who may do what.
-bool PutOver(const QString& aside, const QString& target) {
-    constexpr DWORD ignoreAclErrors = 0x4; // REPLACEFILE_IGNORE_ACL_ERRORS, which not every SDK names
-    constexpr DWORD mergeWhatCanBe = REPLACEFILE_IGNORE_MERGE_ERRORS | ignoreAclErrors;
-    const std::wstring from = WidePath(aside);
-    const std::wstring to = WidePath(target);
-    if (ReplaceFileW(to.c_str(), from.c_str(), nullptr, mergeWhatCanBe, nullptr, nullptr) != 0)
-        return true;
-    // Not every file system can do that: then the attributes alone.
-    SetFileAttributesW(from.c_str(), GetFileAttributesW(to.c_str()));
-    return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+/// A part of who owns a file and who may do what with it; empty where the file system has no such thing.
+std::vector<char> SecurityOf(const std::wstring& path, SECURITY_INFORMATION part) {
+    DWORD size = 0;
+    GetFileSecurityW(path.c_str(), part, nullptr, 0, &size);
+    std::vector<char> security(size);
+    if (size == 0 || GetFileSecurityW(path.c_str(), part, security.data(), size, &size) == 0)
+        return {};
+    return security;
+}
+
+/// What the old file has, as far as that is allowed: its attributes, who may do what, its owner.
+void TakeOver(const std::wstring& aside, const std::wstring& target, DWORD attributes) {
+    SetFileAttributesW(aside.c_str(), attributes);
+    for (const SECURITY_INFORMATION part : {DACL_SECURITY_INFORMATION, OWNER_SECURITY_INFORMATION}) {
+        std::vector<char> security = SecurityOf(target, part);
+        if (!security.empty() && security != SecurityOf(aside, part))
+            SetFileSecurityW(aside.c_str(), part, security.data());
+    }
 }
 
 } // namespace
@@ -87,11 +95,11 @@ void WriteAside::Commit(bool flush) {
     const DWORD attributes = GetFileAttributesW(to.c_str());
     if (Has(attributes, FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))
         Raise(ERROR_ACCESS_DENIED);
-    const bool done =
-        attributes == INVALID_FILE_ATTRIBUTES
-            ? MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0
-            : PutOver(aside_, target_);
-    if (!done)
+    if (attributes != INVALID_FILE_ATTRIBUTES)
+        TakeOver(from, to, attributes);
+    // ReplaceFileW would keep all that by itself, but in two renames, between which there is no target.
+    const DWORD flags = MOVEFILE_REPLACE_EXISTING | (flush ? MOVEFILE_WRITE_THROUGH : 0U);
+    if (MoveFileExW(from.c_str(), to.c_str(), flags) == 0)
         Raise(static_cast<long>(GetLastError()));
     aside_.clear();
 }
@@ -99,3 +107,31 @@ void WriteAside::Commit(bool flush) {
 void WriteAside::Raise(long error) const {
     RaiseLastError(static_cast<unsigned long>(error), name_);
 }
+
+namespace ReplacedFile {
+
+QString BehindLinks(const QString& path) {
+    const QString followed = Followed(path);
+    const QString share = QStringLiteral("\\\\?\\UNC\\");
+    const QString device = QStringLiteral("\\\\?\\");
+    if (followed.startsWith(share))
+        return QStringLiteral("\\\\") + followed.sliced(share.size());
+    return followed.startsWith(device) ? followed.sliced(device.size()) : followed;
+}
+
+bool IsWriteProtected(const QString& path) {
+    const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
+    constexpr DWORD either = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & either) == FILE_ATTRIBUTE_READONLY;
+}
+
+// The owner is the folder's matter here; hidden and system files stay so.
+bool KeepOwnerAndMode(const File& file, const QString& old) {
+    FILE_BASIC_INFO information{}; // times of zero stay as they are
+    information.FileAttributes = GetFileAttributesW(WidePath(old).c_str());
+    return information.FileAttributes != INVALID_FILE_ATTRIBUTES &&
+           SetFileInformationByHandle(reinterpret_cast<HANDLE>(file.Handle()), FileBasicInfo, &information,
+                                      sizeof information) != 0;
+}
+
+} // namespace ReplacedFile

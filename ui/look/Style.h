@@ -21,6 +21,7 @@ inline constexpr QColor Hover{255, 178, 49};
 inline constexpr QColor Focus{140, 174, 231};
 inline constexpr QColor Selection{49, 106, 197};
 inline constexpr QColor Link{0, 34, 128};
+inline constexpr QColor Notice{255, 243, 220};
 inline constexpr QColor SideMenuTop{227, 236, 250};
 inline constexpr QColor SideMenuBottom{168, 192, 232};
 

@@ -6,6 +6,7 @@
 #include "tests/platform/InAFolder.h"
 
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -121,4 +122,19 @@ TEST_F(WriteAsideKeeps, TheNameThatWasAskedForInMessagesOfALink) {
     Link("folder", u"link"_s);
     const QString message = MessageOf([&] { WriteAside(At(u"link"_s)); });
     EXPECT_TRUE(message.contains(u"/link:"_s)) << qPrintable(message);
+}
+
+TEST_F(WriteAsideKeeps, TheOldFileWhereTheProcessDiesBeforeTheCommit) {
+    Make(u"f"_s, "old");
+    const pid_t child = ::fork();
+    if (child == 0) {
+        WriteAside aside(At(u"f"_s));
+        aside.Out().Write(0, "half of the new");
+        ::_exit(0);
+    }
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    EXPECT_EQ(BytesOf(u"f"_s), "old");
+    EXPECT_EQ(Names().size(), 2) << "what was put aside is there and has another name";
+    WriteWhole(At(u"f"_s), "new");
+    EXPECT_EQ(BytesOf(u"f"_s), "new");
 }
