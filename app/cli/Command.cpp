@@ -8,6 +8,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <iostream>
+
 namespace {
 
 constexpr int WrongUsage = 2;
@@ -25,7 +27,7 @@ CLI::Option* AddTo(CLI::App& app, const Parameter& parameter) {
     CLI::Option* option = app.add_option(parameter.Name, parameter.Description);
     option->required(parameter.Required || parameter.What == Kind::Place);
     if (parameter.What == Kind::Places || parameter.What == Kind::List)
-        option->expected(1, CLI::detail::expected_max_vector_size);
+        option->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args();
     else
         option->expected(1);
     if (!parameter.TypeName.empty())
@@ -106,7 +108,9 @@ int RunCommand(const std::vector<CommandGroup>& groups, const std::vector<std::s
     try {
         app.parse(std::vector<std::string>(words.rbegin(), words.rend()));
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : WrongUsage;
+        const int code = app.exit(error);
+        std::cout.flush(); // the program ends without more ado
+        return code == 0 ? 0 : WrongUsage;
     }
     return 0;
 }

@@ -45,7 +45,7 @@ QStringList NamesOf(const Archive& archive) {
 } // namespace
 
 TEST(ArchiveValue, IsReadFromBytes) {
-    const Archive archive = Archives::Read(TwoEntries());
+    const Archive archive = Archives::Read(QByteArrayView(TwoEntries()));
     EXPECT_EQ(NamesOf(archive), (QStringList{u"a.ini"_s, u"b"_s}));
     EXPECT_EQ(archive.Entries[1].Offset, 56);
     EXPECT_EQ(archive.Entries[1].Size, 2);
@@ -54,18 +54,18 @@ TEST(ArchiveValue, IsReadFromBytes) {
 }
 
 TEST(ArchiveValue, AnUnknownMarkLeavesTheVariantThatWasGiven) {
-    EXPECT_EQ(Archives::Read(TwoEntries().replace("L225", "L999"), 2).Version, 2);
-    EXPECT_EQ(Archives::Read(TwoEntries().replace("L225", "L231"), 2).Version, 1);
+    EXPECT_EQ(Archives::Read(QByteArrayView(TwoEntries().replace("L225", "L999")), 2).Version, 2);
+    EXPECT_EQ(Archives::Read(QByteArrayView(TwoEntries().replace("L225", "L231")), 2).Version, 1);
 }
 
 TEST(ArchiveValue, CutOffAtAnyByteIsRefusedOrReadsWithBlankRecords) {
     const QByteArray whole = TwoEntries();
     for (qsizetype length = 0; length < whole.size(); ++length) {
         if (length < 20) {
-            EXPECT_THROW(Archives::Read(whole.first(length)), RuntimeError) << length;
+            EXPECT_THROW(Archives::Read(QByteArrayView(whole.first(length))), RuntimeError) << length;
             continue;
         }
-        const Archive archive = Archives::Read(whole.first(length));
+        const Archive archive = Archives::Read(QByteArrayView(whole.first(length)));
         ASSERT_EQ(archive.Entries.size(), 2U) << length;
         EXPECT_TRUE(u"a.ini"_s.startsWith(archive.Entries[0].Name)) << length;
         EXPECT_EQ(archive.Entries[1].Name, length < 39 ? QString() : u"b"_s) << length;
@@ -145,7 +145,7 @@ TEST(ArchiveValue, WhatIsWrittenExactlyReadsBackWithEveryByteOfEveryVariant) {
             old.Table.Version = version;
             old.Table.Entries[0].Name = QString(length, u'n');
             const QByteArray bytes = Written(old.Table, &old.Device, Placement::Exact);
-            const Archive read = Archives::Read(bytes);
+            const Archive read = Archives::Read(QByteArrayView(bytes));
             EXPECT_EQ(read.Version, version);
             EXPECT_EQ(bytes.sliced(read.Entries[0].Offset, 3), "abc") << version << ' ' << length;
             EXPECT_EQ(bytes.sliced(read.Entries[2].Offset, 2), "hi") << version << ' ' << length;

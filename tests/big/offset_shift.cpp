@@ -65,7 +65,7 @@ TEST(OffsetShift, ASaveOfTheUnalignedVariantLiesOneByteBeforeItsOffsets) {
     EXPECT_EQ(told.First, -1);
     EXPECT_EQ(told.Distances, (std::vector<qint64>{-1, -1}));
     EXPECT_FALSE(told.ExactFits);
-    const Archive read = Archives::Read(bytes);
+    const Archive read = Archives::Read(QByteArrayView(bytes));
     EXPECT_EQ(ShiftOf(read, bytes.size()).Distances, told.Distances) << "recognised when it is opened";
     const Archive back = ReadShiftedBack(read, told);
     EXPECT_EQ(back.Entries[0].Offset, 47);
@@ -78,7 +78,7 @@ TEST(OffsetShift, ASaveWhoseHeaderLeavesARemainderOfOneLiesFourBytesBefore) {
         const Sample sample(version, {{2, 3}, {1, 1}});
         QByteArray bytes;
         EXPECT_EQ(sample.Save(Placement::Told, bytes).Distances, (std::vector<qint64>{-4, -4}));
-        EXPECT_EQ(ShiftOf(Archives::Read(bytes), bytes.size()).First, -4);
+        EXPECT_EQ(ShiftOf(Archives::Read(QByteArrayView(bytes)), bytes.size()).First, -4);
     }
 }
 
@@ -90,7 +90,7 @@ TEST(OffsetShift, AnEntryWithoutBytesShiftsAllBehindIt) {
     EXPECT_EQ(told.Distances, (std::vector<qint64>{0, 0, 4, 4}));
     EXPECT_EQ(told.Count, 2);
     EXPECT_EQ(told.First, 4);
-    EXPECT_EQ(ShiftOf(Archives::Read(bytes), bytes.size()).Distances, told.Distances);
+    EXPECT_EQ(ShiftOf(Archives::Read(QByteArrayView(bytes)), bytes.size()).Distances, told.Distances);
 }
 
 TEST(OffsetShift, AnArchiveWithoutAShiftHasNone) {
@@ -98,7 +98,7 @@ TEST(OffsetShift, AnArchiveWithoutAShiftHasNone) {
         const Sample sample(version, {{1, 5}, {1, 2}});
         QByteArray bytes;
         EXPECT_TRUE(sample.Save(Placement::Told, bytes).IsNone()) << version;
-        EXPECT_TRUE(ShiftOf(Archives::Read(bytes), bytes.size()).IsNone());
+        EXPECT_TRUE(ShiftOf(Archives::Read(QByteArrayView(bytes)), bytes.size()).IsNone());
     }
 }
 
@@ -107,9 +107,9 @@ TEST(OffsetShift, AnExactArchiveHasNone) {
         const Sample sample(version, {{2, 3}, {1, 0}, {3, 1}});
         QByteArray bytes;
         EXPECT_TRUE(sample.Save(Placement::Exact, bytes).IsNone()) << version;
-        const Shift read = ShiftOf(Archives::Read(bytes), bytes.size());
+        const Shift read = ShiftOf(Archives::Read(QByteArrayView(bytes)), bytes.size());
         EXPECT_TRUE(read.IsNone() || read.ExactFits) << version;
-        EXPECT_TRUE(AllLieRight(Archives::Read(bytes), bytes)) << version;
+        EXPECT_TRUE(AllLieRight(Archives::Read(QByteArrayView(bytes)), bytes)) << version;
     }
 }
 
@@ -117,7 +117,7 @@ TEST(OffsetShift, AnotherLengthOrAnotherOffsetIsNoSaveOfOurs) {
     const Sample sample(2, {{5, 5}, {1, 2}});
     QByteArray bytes;
     sample.Save(Placement::Told, bytes);
-    Archive read = Archives::Read(bytes);
+    Archive read = Archives::Read(QByteArrayView(bytes));
     EXPECT_TRUE(ShiftOf(read, bytes.size() + 1).IsNone());
     EXPECT_TRUE(ShiftOf(read, bytes.size() - 1).IsNone());
     ++read.Entries[1].Offset;
@@ -133,9 +133,10 @@ TEST(OffsetShift, WhereAnExactArchiveHasTheSameLengthItIsOnlySaidSo) {
     EXPECT_TRUE(sample.Save(Placement::Told, told).ExactFits);
     sample.Save(Placement::Exact, exact);
     ASSERT_EQ(told.size(), exact.size());
-    EXPECT_EQ(ShiftOf(Archives::Read(told), told.size()).Distances, (std::vector<qint64>{-4, 0, 0}));
-    EXPECT_TRUE(ShiftOf(Archives::Read(told), told.size()).ExactFits);
-    EXPECT_TRUE(ShiftOf(Archives::Read(exact), exact.size()).ExactFits) << "nobody can tell the two apart";
+    EXPECT_EQ(ShiftOf(Archives::Read(QByteArrayView(told)), told.size()).Distances, (std::vector<qint64>{-4, 0, 0}));
+    EXPECT_TRUE(ShiftOf(Archives::Read(QByteArrayView(told)), told.size()).ExactFits);
+    EXPECT_TRUE(ShiftOf(Archives::Read(QByteArrayView(exact)), exact.size()).ExactFits)
+        << "nobody can tell the two apart";
 }
 
 TEST(OffsetShift, AnArchiveOfOneEntryThatADeletionLeftIsRecognised) {
@@ -143,7 +144,7 @@ TEST(OffsetShift, AnArchiveOfOneEntryThatADeletionLeftIsRecognised) {
     sample.Table.Entries[1].Deleted = true;
     QByteArray bytes;
     EXPECT_EQ(sample.Save(Placement::Told, bytes).Distances, std::vector<qint64>{-1});
-    EXPECT_EQ(ShiftOf(Archives::Read(bytes), bytes.size()).Count, 1);
+    EXPECT_EQ(ShiftOf(Archives::Read(QByteArrayView(bytes)), bytes.size()).Count, 1);
 }
 
 TEST(OffsetShift, AFurtherSaveOfAShiftedArchiveLosesBytesAndOneThatIsReadBackLosesNone) {
@@ -152,12 +153,12 @@ TEST(OffsetShift, AFurtherSaveOfAShiftedArchiveLosesBytesAndOneThatIsReadBackLos
     const Shift shift = sample.Save(Placement::Told, bytes);
     const MemoryDevice saved(bytes);
     MemoryDevice lossy;
-    const Archive read = Archives::Read(bytes);
+    const Archive read = Archives::Read(QByteArrayView(bytes));
     Archives::Write(read, lossy, &saved, Placement::Exact);
-    EXPECT_FALSE(AllLieRight(Archives::Read(lossy.Bytes()), lossy.Bytes()));
+    EXPECT_FALSE(AllLieRight(Archives::Read(QByteArrayView(lossy.Bytes())), lossy.Bytes()));
     MemoryDevice repaired;
     EXPECT_TRUE(Archives::Write(ReadShiftedBack(read, shift), repaired, &saved, Placement::Exact).IsNone());
-    EXPECT_TRUE(AllLieRight(Archives::Read(repaired.Bytes()), repaired.Bytes()));
+    EXPECT_TRUE(AllLieRight(Archives::Read(QByteArrayView(repaired.Bytes())), repaired.Bytes()));
 }
 
 // Whatever names and sizes a table has, what the writer tells is where the bytes are, and the reader recognises it.
@@ -175,12 +176,12 @@ TEST(OffsetShift, OfManyTablesEveryOneReadsBackWhole) {
         const Sample sample(next(4), entries);
         QByteArray bytes;
         const Shift told = sample.Save(Placement::Told, bytes);
-        const Archive read = Archives::Read(bytes);
+        const Archive read = Archives::Read(QByteArrayView(bytes));
         EXPECT_TRUE(AllLieRight(ReadShiftedBack(read, told), bytes)) << round;
         EXPECT_EQ(ShiftOf(read, bytes.size()).Distances, told.Distances) << round;
         shifted += told.IsNone() ? 0 : 1;
         sample.Save(Placement::Exact, bytes);
-        EXPECT_TRUE(AllLieRight(Archives::Read(bytes), bytes)) << round;
+        EXPECT_TRUE(AllLieRight(Archives::Read(QByteArrayView(bytes)), bytes)) << round;
     }
     EXPECT_GT(shifted, 200);
 }

@@ -5,6 +5,7 @@
 /// while somebody walks through it.
 #include "platform/File.h"
 #include "platform/Files.h"
+#include "platform/RuntimeError.h"
 #include "tests/big/Archives.h"
 
 using namespace Qt::StringLiterals;

@@ -170,7 +170,7 @@ TEST_F(VerificationTest, ACountThatNoReaderTakesWholeIsTold) {
 
 TEST_F(VerificationTest, WorksOnBytesWithoutADisk) {
     const QByteArray bytes = Two(Record(44, 5, "a"), Record(52, 3, "b"), gap_ + Bytes("hello\0\0\0hi"));
-    const auto findings = Verification::Verify(Archives::Read(bytes), MemoryDevice(bytes));
+    const auto findings = Verification::Verify(Archives::Read(QByteArrayView(bytes)), MemoryDevice(bytes));
     ASSERT_EQ(findings.size(), 1U);
     EXPECT_EQ(findings[0].What, Verification::Kind::BeyondEnd);
 }

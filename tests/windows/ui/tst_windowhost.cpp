@@ -5,17 +5,13 @@
 #include "tests/support/World.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/look/Drawing.h"
-#include "ui/text/FileFilter.h"
 #include "ui/window/WindowHost.h"
 #include "ui/window/frmProgress.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListView>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPointer>
@@ -155,104 +151,6 @@ private Q_SLOTS:
         QCOMPARE(host_->InputBox(u"Name?"_s, u"t"_s, u"old"_s), std::optional(u"new"_s));
         WhenUp<QInputDialog>([](QInputDialog* box) { box->reject(); });
         QCOMPARE(host_->InputBox(u"Name?"_s, u"t"_s, u"old"_s), std::optional<QString>());
-    }
-
-    void savingAddsTheExtensionThatTheTypedNameLacks() {
-        world_->WriteFile(u"out\\there.txt"_s, {});
-        WhenUp<QFileDialog>([&](QFileDialog* box) {
-            QCOMPARE(box->nameFilters(), QStringList{u"BIG (*.big)"_s});
-            box->findChild<QLineEdit*>()->setText(u"typed"_s);
-            QTest::keyClick(box, Qt::Key_Return);
-        });
-        const auto name = host_->SaveFileName({.Title = u"Save"_s,
-                                               .Filter = u"BIG (*.big)|*.big"_s,
-                                               .DefaultExtension = u"big"_s,
-                                               .DefaultName = world_->Root() + u"\\out\\first.big"_s});
-        QCOMPARE(name, std::optional(world_->Root() + u"\\out\\typed.big"_s));
-    }
-
-    void aNameWithWildcardsIsAFilterAndTheDialogStays() {
-        world_->WriteFile(u"out\\one.big"_s, {});
-        world_->WriteFile(u"out\\two.big"_s, {});
-        world_->WriteFile(u"out\\other.big"_s, {});
-        QStringList listed;
-        WhenUp<QFileDialog>([&](QFileDialog* box) {
-            box->findChild<QLineEdit*>()->setText(u"o*.b?g"_s);
-            QTest::keyClick(box, Qt::Key_Return);
-            QVERIFY(box->isVisible());
-            const auto* const list = box->findChild<QListView*>(u"listView"_s);
-            QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 2);
-            for (int row = 0; row < 2; ++row)
-                listed += list->model()->index(row, 0, list->rootIndex()).data().toString();
-            box->findChild<QLineEdit*>()->setText(u"typed"_s);
-            QTest::keyClick(box, Qt::Key_Return);
-        });
-        const auto name = host_->SaveFileName({.Title = u"Save"_s,
-                                               .Filter = u"BIG (*.big)|*.big"_s,
-                                               .DefaultExtension = u"big"_s,
-                                               .DefaultName = world_->Root() + u"\\out\\first.big"_s});
-        QCOMPARE(name, std::optional(world_->Root() + u"\\out\\typed.big"_s));
-        QCOMPARE(listed, QStringList({u"one.big"_s, u"other.big"_s}));
-    }
-
-    void aFilterBehindAFolderListsThatFolder() {
-        world_->WriteFile(u"in\\Deep\\file.csf"_s, "x");
-        const QString file = world_->WriteFile(u"in\\Here.big"_s, "x");
-        QString folder;
-        WhenUp<QFileDialog>([&](QFileDialog* box) {
-            box->findChild<QLineEdit*>()->setText(u"Deep/*.csf"_s);
-            QTest::keyClick(box, Qt::Key_Return);
-            folder = box->directory().dirName();
-            box->reject();
-        });
-        QCOMPARE(host_->OpenFileName(
-                     {.Title = u"Open"_s, .Filter = u"*|*.*"_s, .DefaultExtension = {}, .DefaultName = file}),
-                 std::optional<QString>());
-        QCOMPARE(folder, u"Deep"_s);
-    }
-
-    void openingGivesTheFileAsAnInsidePath() {
-        const QString file = world_->WriteFile(u"in\\Here.big"_s, "x");
-        WhenUp<QFileDialog>([&](QFileDialog* box) { QTest::keyClick(box, Qt::Key_Return); });
-        const auto name = host_->OpenFileName(
-            {.Title = u"Open"_s, .Filter = u"*|*.*"_s, .DefaultExtension = {}, .DefaultName = file});
-        QCOMPARE(name, std::optional(file));
-    }
-
-    void aFileDialogBeginsInTheFolderThatWasAskedFor() {
-        const QString file = world_->WriteFile(u"in\\Here.big"_s, "x");
-        WhenUp<QFileDialog>([](QFileDialog* box) {
-            box->findChild<QLineEdit*>()->setText(u"Here.big"_s);
-            QTest::keyClick(box, Qt::Key_Return);
-        });
-        Host::FileDialog dialog{.Title = {}, .Filter = u"*|*.*"_s, .DefaultExtension = {}, .DefaultName = {}};
-        dialog.Folder = world_->Root() + u"\\in\\"_s;
-        QCOMPARE(host_->OpenFileName(dialog), std::optional(file));
-    }
-
-    void aFileDialogThatIsCancelledGivesNothing() {
-        WhenUp<QFileDialog>([](QFileDialog* box) { box->reject(); });
-        QCOMPARE(host_->OpenFileName({}), std::optional<QString>());
-    }
-
-    void aFolderIsChosenAsAnInsidePath() {
-        world_->WriteFile(u"in\\Deep\\file"_s, "x");
-        WhenUp<QFileDialog>([](QFileDialog* box) {
-            box->findChild<QLineEdit*>()->setText(u"Deep"_s);
-            QTest::keyClick(box, Qt::Key_Return);
-        });
-        QCOMPARE(host_->ChooseFolder(u"Where?"_s, world_->Root() + u"\\in"_s),
-                 std::optional(world_->Root() + u"\\in\\Deep"_s));
-    }
-
-    void aFolderChooserThatIsCancelledGivesNothing() {
-        QString title;
-        WhenUp<QFileDialog>([&](QFileDialog* box) {
-            title = box->windowTitle();
-            box->reject();
-        });
-        QCOMPARE(host_->ChooseFolder(u"Where?"_s, {}), std::optional<QString>());
-        QCOMPARE(title, u"Where?"_s);
     }
 
     void theProgressWindowIsShownFilledAndGoesWithItsObject() {
@@ -399,13 +297,6 @@ private Q_SLOTS:
         for (; served < 3; ++items)
             host_->Yield();
         QVERIFY2(items > 10 * served, qPrintable(QString::number(items)));
-    }
-
-    void filtersAreTurnedIntoTheToolkitsForm() {
-        QCOMPARE(ToNameFilters(u"BIG files (*.big)|*.big|Pictures|*.tga;*.dds|All|*.*"_s),
-                 (QStringList{u"BIG files (*.big)"_s, u"Pictures (*.tga *.dds)"_s, u"All (*)"_s}));
-        QVERIFY(ToNameFilters({}).isEmpty());
-        QVERIFY(ToNameFilters(u"text without a pattern"_s).isEmpty());
     }
 
     void aPathIsShortenedInItsMiddle() {
