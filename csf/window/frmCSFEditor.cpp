@@ -6,9 +6,9 @@
 #include "core/Navigator.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
-#include "csf/window/LabelListModel.h"
 #include "csf/window/ValueText.h"
 #include "platform/Processes.h"
+#include "ui/list/RowListModel.h"
 #include "ui/text/Localisation.h"
 #include "ui/text/Mnemonics.h"
 #include "ui/window/SideMenu.h"
@@ -26,7 +26,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int nameWidth = 2500 / 15; // twips at 96 dots an inch
 constexpr QColor promptColour{0x80, 0x80, 0x80};
 } // namespace
 
@@ -34,11 +33,12 @@ frmCSFEditor::frmCSFEditor(QWidget* parent)
     : QMainWindow(parent),
       ui_(std::make_unique<Ui::frmCSFEditor>()),
       editor_(*this),
-      model_(new LabelListModel(editor_, this)),
+      model_(new RowListModel(editor_.List(), this)),
       count_(new QLabel) {
     ui_->setupUi(this);
     mTraduction::ApplyLanguage(this);
-    ui_->lvStrings2->setModel(model_);
+    ui_->lvStrings2->SetRows(model_,
+                             [this](int column) { editor_.ClickHeader(static_cast<LabelList::Column>(column)); });
     Dress();
     ConnectCommands(this, Commands());
     ConnectControls();
@@ -58,8 +58,6 @@ void frmCSFEditor::Dress() {
     Mnemonics::AddTo(*ui_->menuBar);
     ui_->cmbLanguage->addItems(CsfEditor::Languages());
     ui_->cmbLanguage->setCurrentIndex(-1);
-    ui_->lvStrings2->header()->resizeSection(LabelList::Name, nameWidth);
-    ui_->lvStrings2->header()->setSectionsClickable(true);
     ui_->lvStrings2->setAccessibleName(mTraduction::GetText(u"CSFFile"_s));
     ui_->txtFind->setAccessibleName(mTraduction::GetText(u"Find"_s));
     ui_->txtName->setMaxLength(std::numeric_limits<int>::max());
@@ -103,8 +101,6 @@ void frmCSFEditor::ConnectControls() {
                 if (!following_ && !selected.isEmpty())
                     editor_.ClickRow(selected.first().top());
             });
-    connect(ui_->lvStrings2->header(), &QHeaderView::sectionClicked, this,
-            [this](int column) { editor_.ClickHeader(static_cast<LabelList::Column>(column)); });
     connect(ui_->txtName, &QLineEdit::textEdited, this, [this](const QString& text) { editor_.NameTyped(text); });
     connect(ui_->txtValue, &QPlainTextEdit::textChanged, this, [this] {
         if (!following_)
@@ -177,21 +173,7 @@ void frmCSFEditor::ListChanging(LabelChange change, int place) {
 
 void frmCSFEditor::ListChanged(LabelChange change, int /*place*/) {
     const QScopedValueRollback following(following_, true);
-    model_->End(change);
-    MarkSortedColumn();
-}
-
-void frmCSFEditor::MarkSortedColumn() {
-    QHeaderView* const header = ui_->lvStrings2->header();
-    header->setSortIndicatorShown(false);
-    for (const auto column : {LabelList::Name, LabelList::Value}) {
-        const LabelList::Order order = editor_.List().OrderOf(column);
-        if (order == LabelList::Order::None)
-            continue;
-        header->setSortIndicatorShown(true);
-        header->setSortIndicator(column,
-                                 order == LabelList::Order::Ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
-    }
+    model_->End(change, editor_.NewPlaces());
 }
 
 void frmCSFEditor::RowChanged(int place) {

@@ -13,8 +13,8 @@
 #include <memory>
 #include <vector>
 
-class LabelListModel;
 class QLabel;
+class RowListModel;
 
 namespace Ui {
 class frmCSFEditor;
@@ -50,11 +50,10 @@ private:
     bool FindEvent(QEvent& event);
     void ShowFind();
     void ShowOptions();
-    void MarkSortedColumn();
 
     std::unique_ptr<Ui::frmCSFEditor> ui_;
     CsfEditor editor_;
-    LabelListModel* model_;
+    RowListModel* model_;
     QLabel* count_;          ///< the status bar's text
     bool following_ = false; ///< the controls follow the document, not the other way round
 };
