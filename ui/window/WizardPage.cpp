@@ -48,18 +48,17 @@ void WizardPage::Localise(const QString& heading, const QString& next) {
     ui_->Label5->setText(version);
     ui_->Label6->setText(version);
     setAccessibleName(ui_->Label1->text());
-    OrderTabs();
+    FocusBody();
 }
 
-// The body's controls came in behind the buttons.
-void WizardPage::OrderTabs() {
-    QWidget* last = Body();
-    for (QWidget* control = last->nextInFocusChain(); control != Body(); control = control->nextInFocusChain())
-        if (Body()->isAncestorOf(control))
-            last = control;
-    setTabOrder(last, ui_->cmdPrevious);
-    setTabOrder(ui_->cmdPrevious, ui_->cmdNext);
-    setTabOrder(ui_->cmdNext, ui_->cmdCancel);
+// The buttons came in first.
+void WizardPage::FocusBody() {
+    for (QWidget* control = Body()->nextInFocusChain(); control != Body(); control = control->nextInFocusChain()) {
+        if (Body()->isAncestorOf(control) && (control->focusPolicy() & Qt::TabFocus) != 0 && control->isEnabled()) {
+            control->setFocus();
+            return;
+        }
+    }
 }
 
 void WizardPage::reject() {

@@ -48,7 +48,7 @@ protected:
     virtual void Cancel();
 
 private:
-    void OrderTabs();
+    void FocusBody();
 
     std::unique_ptr<Ui::WizardPage> ui_;
 };
