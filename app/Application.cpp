@@ -4,19 +4,22 @@
 #include "app/Application.h"
 
 #include "core/Host.h"
+#include "core/LastMessage.h"
 #include "platform/Processes.h"
-
-using namespace Qt::StringLiterals;
 
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
-    } catch (const RuntimeError& error) {
-        Fail(error);
+    } catch (const std::exception& failure) {
+        Fail(failure);
     }
 }
 
-void Application::Fail(const RuntimeError& error) {
-    Host::Current().Message(u"%1\r\n\r\n%2"_s.arg(error.Number()).arg(error.Description()), Host::Icon::Critical);
+void Application::Fail(const std::exception& failure) {
+    try {
+        Host::Current().Message(LastMessage::Text(LastMessage::AsRuntimeError(failure)), Host::Icon::Critical);
+    } catch (const std::exception&) {
+        Processes::End(1); // no memory for the message either
+    }
     Processes::End(1);
 }

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// The event loop's top: a run-time error that nothing caught is shown, and the program ends.
+/// The event loop's top: a failure that nothing caught is shown, and the program ends.
 #pragma once
 
-#include "platform/RuntimeError.h"
-
 #include <QApplication>
+
+#include <exception>
 
 class Application : public QApplication {
 public:
@@ -15,5 +15,5 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 
     /// Shows number and description, then ends the program.
-    [[noreturn]] static void Fail(const RuntimeError& error);
+    [[noreturn]] static void Fail(const std::exception& failure);
 };

@@ -12,7 +12,6 @@
 #include "ui/look/Style.h"
 #include "ui/text/ControlTexts.h"
 #include "ui/window/WindowHost.h"
-#include "ui/window/frmProgress.h"
 
 #include <QTimer>
 
@@ -24,6 +23,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     if (dispatched.What == mMain::Dispatched::Action::LaunchGame)
         return 0;
 
+    const ScratchFolders::Claim scratch;
     Application application(argc, argv);
     Application::setApplicationName(QStringLiteral("Brindock 2005"));
     if (watcher != nullptr)
@@ -34,12 +34,12 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     constexpr int untilTheWindowStands = 100;
     QTimer::singleShot(untilTheWindowStands, &application, [] { Application::setWindowIcon(Picture::ProgramIcon()); });
     QTimer::singleShot(untilTheWindowStands, &application, [] { ScratchFolders::RemoveAbandoned(); });
-    WindowHost host([] { return std::make_unique<frmProgress>(); });
+    WindowHost host;
     Host::Use(&host);
     try {
         mMain::Show(dispatched);
         return Application::exec();
-    } catch (const RuntimeError& error) {
-        Application::Fail(error);
+    } catch (const std::exception& failure) {
+        Application::Fail(failure);
     }
 }

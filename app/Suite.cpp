@@ -38,6 +38,16 @@ Window* Open() {
     return window;
 }
 
+/// The window of that kind that is on the screen.
+template <typename Window>
+Window* Shown() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (auto* const shown = qobject_cast<Window*>(window); shown != nullptr && shown->isVisible())
+            return shown;
+    }
+    return nullptr;
+}
+
 // A program without a window could not be left: the tools menu stands in for a tool that is not built.
 void StayInMenu() {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -47,16 +57,28 @@ void StayInMenu() {
 
 } // namespace
 
+// One is enough, where a second tool is closed over the menu that followed the first.
 void Suite::ShowToolsMenu() {
-    Open<frmToolsMenu>();
+    if (auto* const menu = Shown<frmToolsMenu>(); menu != nullptr)
+        menu->activateWindow();
+    else
+        Open<frmToolsMenu>();
 }
 
-void Suite::ShowBigEditor() {
-    Open<frmBigEditor>();
+// There is one open archive, so there is one window for it.
+bool Suite::ShowBigEditor() {
+    if (auto* const editor = Shown<frmBigEditor>(); editor != nullptr)
+        editor->activateWindow();
+    else
+        Open<frmBigEditor>();
+    return true;
 }
 
 void Suite::OpenBigFile(const QString& path) {
-    Open<frmBigEditor>()->OpenBigFile(path);
+    if (auto* const editor = Shown<frmBigEditor>(); editor != nullptr)
+        editor->activateWindow();
+    else
+        Open<frmBigEditor>()->OpenBigFile(path);
 }
 
 // Without a window of its own the program could not be left: it ends with the extraction.
@@ -68,8 +90,9 @@ void Suite::ExtractBigFile(const QString& path) {
     Processes::End(0);
 }
 
-void Suite::ShowCSFEditor() {
+bool Suite::ShowCSFEditor() {
     Open<frmCSFEditor>();
+    return true;
 }
 
 void Suite::OpenCSFFile(const QString& path) {
@@ -82,11 +105,12 @@ void Suite::OpenCSFFile(const QString& path) {
     StayInMenu();
 }
 
-void Suite::ShowPersonalFiles() {
+bool Suite::ShowPersonalFiles() {
     StayInMenu();
+    return false;
 }
 
-void Suite::ShowAddFiles() {
+void Suite::ShowAddFiles(QObject* /*owner*/) {
     StayInMenu();
 }
 
@@ -99,9 +123,3 @@ void Suite::ShowAbout(QObject* owner) {
 }
 
 void Suite::CheckForUpdates(bool /*automatic*/) {}
-
-void Suite::ActivateShellMap(GameIndex /*game*/) {}
-
-bool Suite::IsBuilt(Tool tool) const {
-    return tool == Tool::BigEditor || tool == Tool::CSFEditor || tool == Tool::Extraction;
-}

@@ -10,16 +10,14 @@
 class Suite : public Navigator {
 public:
     void ShowToolsMenu() override;
-    void ShowBigEditor() override;
+    bool ShowBigEditor() override;
+    bool ShowCSFEditor() override;
+    bool ShowPersonalFiles() override;
     void OpenBigFile(const QString& path) override;
     void ExtractBigFile(const QString& path) override;
-    void ShowCSFEditor() override;
     void OpenCSFFile(const QString& path) override;
-    void ShowPersonalFiles() override;
-    void ShowAddFiles() override;
     void ShowOptions(QObject* owner) override;
     void ShowAbout(QObject* owner) override;
+    void ShowAddFiles(QObject* owner) override;
     void CheckForUpdates(bool automatic) override;
-    void ActivateShellMap(GameIndex game) override;
-    [[nodiscard]] bool IsBuilt(Tool tool) const override;
 };

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/Start.h"
-#include "media/PictureChild.h"
+#include "media/MediaChild.h"
 
 int main(int argc, char** argv) {
-    if (PictureChild::IsAsked(argc, argv))
-        return PictureChild::Run(argc, argv);
+    if (MediaChild::IsAsked(argc, argv))
+        return MediaChild::Run(argc, argv);
     return RunSuite(argc, argv, nullptr);
 }

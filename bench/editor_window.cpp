@@ -96,7 +96,7 @@ int main(int argc, char** argv) {
     mMain::UseRuntimes();
     QApplication application(argc, argv);
     Style::Apply(application);
-    WindowHost host({});
+    WindowHost host;
     Host::Use(&host);
     const QString path = Paths::Absolute(Paths::DecodeNative(argv[1]));
     const QString second = argc == 3 ? Paths::DecodeNative(argv[2]) : QString();

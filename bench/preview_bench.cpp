@@ -3,8 +3,8 @@
 
 /// From the click on a texture of 1,024 by 1,024 pixels to its picture in memory. The aim is 150 ms with a child that
 /// is kept ready; the one that is started for it is measured beside it.
-#include "media/PictureChild.h"
-#include "media/PictureProcess.h"
+#include "media/ChildDecoder.h"
+#include "media/MediaChild.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/Paths.h"
@@ -43,12 +43,12 @@ public:
     }
 
     /// As the preview does it: copied, decoded, and read.
-    void Show(PictureProcess& process) const {
+    void Show(ChildDecoder& decoder) const {
         const QString copy = inside_ + u"\\copy.dds"_s;
         const QString bitmap = inside_ + u"\\copy.bmp"_s;
         Files::Copy(inside_ + u"\\a.dds"_s, copy);
         bool done = false;
-        process.Decode(copy, bitmap, [&](bool decoded) { done = decoded; });
+        decoder.Decode(copy, bitmap, [&](bool decoded) { done = decoded; });
         RunEventsUntil([&] { return done; });
         QFile file(Paths::ToNative(bitmap));
         if (!file.open(QIODevice::ReadOnly) || QImage::fromData(file.readAll(), "BMP").isNull())
@@ -62,18 +62,19 @@ private:
 
 void PictureFromAReadyChild(benchmark::State& state) {
     const Texture texture;
-    PictureProcess process;
-    process.Prepare();
-    RunEventsUntil([&] { return process.IsReady(); });
+    const auto process = std::make_shared<MediaProcess>();
+    ChildDecoder decoder(process);
+    decoder.Prepare();
+    RunEventsUntil([&] { return process->IsReady(); });
     for ([[maybe_unused]] auto iteration : state)
-        texture.Show(process);
+        texture.Show(decoder);
 }
 
 void PictureFromAFreshChild(benchmark::State& state) {
     const Texture texture;
     for ([[maybe_unused]] auto iteration : state) {
-        PictureProcess process;
-        texture.Show(process);
+        ChildDecoder decoder(std::make_shared<MediaProcess>());
+        texture.Show(decoder);
     }
 }
 
@@ -83,8 +84,8 @@ BENCHMARK(PictureFromAReadyChild)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(PictureFromAFreshChild)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 int main(int argc, char** argv) {
-    if (PictureChild::IsAsked(argc, argv))
-        return PictureChild::Run(argc, argv);
+    if (MediaChild::IsAsked(argc, argv))
+        return MediaChild::Run(argc, argv);
     const QCoreApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

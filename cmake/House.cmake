@@ -2,7 +2,10 @@
 
 add_library(house INTERFACE)
 target_include_directories(house INTERFACE ${PROJECT_SOURCE_DIR})
-target_compile_options(house INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+target_compile_options(house INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(WERROR)
+  target_compile_options(house INTERFACE -Werror)
+endif()
 target_compile_definitions(house INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
   BRINDOCK_VERSION_MAJOR=${PROJECT_VERSION_MAJOR} BRINDOCK_VERSION_MINOR=${PROJECT_VERSION_MINOR}
@@ -49,6 +52,7 @@ function(room_module name)
   add_library(${name} MODULE ${ARGN})
   target_link_libraries(${name} PRIVATE house)
   set_target_properties(${name} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  install(TARGETS ${name} LIBRARY DESTINATION ${BRINDOCK_FOLDER})
 endfunction()
 
 # window_program(name [WIN32] sources...): a program with windows. A static Qt brings along only the system's own platform; tests

@@ -86,7 +86,7 @@ QString mMain::FileArgument(const QString& commandLine) {
 }
 
 mMain::Dispatched mMain::Dispatch(const QString& commandLine) {
-    // Every switch is looked for anywhere in the line, with regard to case. Meant.
+    // Every switch is looked for anywhere in the line, with regard to case. This is meant.
     if (commandLine.contains(u"/launch"_s)) {
         if (const auto game = LaunchedGame(commandLine))
             return {.What = Action::LaunchGame, .Launched = *game};
@@ -96,6 +96,6 @@ mMain::Dispatched mMain::Dispatch(const QString& commandLine) {
         if (commandLine.contains(tool.Switch))
             return Tool(tool, commandLine);
     }
-    // An unknown line passes the check once by itself and once in the normal start. Meant.
+    // An unknown line passes the check once by itself and once in the normal start. This is meant.
     return {.UpdateChecks = commandLine.isEmpty() ? 1 : 2};
 }

@@ -131,7 +131,7 @@ void mMain::MakeUserFolders() {
         make(entry.ReplayPath);
         make(entry.MapPath);
     }
-    // The Battle for Middle-earth II gets none: its folders are used only if the game made them. Meant.
+    // The Battle for Middle-earth II gets none: its folders are used only if the game made them. This is meant.
     for (const GameIndex game : {ZeroHour, BattleForMiddleEarth}) {
         const GameEntry& entry = Game.at(static_cast<std::size_t>(game));
         if (entry.InstallPath.isEmpty())

@@ -4,7 +4,7 @@
 #include "core/Document.h"
 
 #include "core/Host.h"
-#include "core/mMain.h"
+#include "core/ProgramFolders.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
 
@@ -26,5 +26,5 @@ bool Document::GoOnWithoutChanges(const QString& name, const std::function<Saved
 
 QString Document::FolderForDialogs(const QString& path) {
     const QString folder = Paths::Folder(path);
-    return folder.startsWith(mMain::ScratchFolder() + u'\\', Qt::CaseInsensitive) ? QString() : folder;
+    return folder.startsWith(ProgramFolders::SharedScratchFolder() + u'\\', Qt::CaseInsensitive) ? QString() : folder;
 }

@@ -4,6 +4,8 @@
 /// What the editors' documents have in common.
 #pragma once
 
+#include "core/Notice.h"
+
 #include <QString>
 
 #include <functional>
@@ -21,6 +23,8 @@ public:
     virtual void StateChanged() = 0;
     /// The busy pointer, on and off again. Pairs nest.
     virtual void ShowBusy(bool busy) = 0;
+    /// The line under the menu bar; a notice takes the place of the one before it, one without a text that of none.
+    virtual void ShowNotice(const Notice& notice) = 0;
 };
 
 /// The busy pointer for as long as it stands.

@@ -5,6 +5,11 @@
 
 #include "platform/RuntimeError.h"
 
+#include <QAbstractEventDispatcher>
+#include <QEventLoop>
+
+#include <exception>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -12,6 +17,28 @@ namespace {
 Host* inUse = nullptr;
 
 } // namespace
+
+bool Host::WaitUntil(const std::function<bool()>& condition) {
+    if (condition())
+        return true;
+    bool holds = false;
+    std::exception_ptr failure; // none may pass through the dispatcher
+    QEventLoop loop;
+    const auto look = [&] {
+        try {
+            holds = condition();
+        } catch (...) {
+            failure = std::current_exception();
+        }
+        if (holds || failure != nullptr)
+            loop.quit();
+    };
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &loop, look);
+    loop.exec();
+    if (failure != nullptr)
+        std::rethrow_exception(failure);
+    return holds;
+}
 
 Host& Host::Current() {
     if (inUse == nullptr)

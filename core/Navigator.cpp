@@ -19,10 +19,6 @@ Navigator& Navigator::Current() {
     return *inUse;
 }
 
-bool Navigator::IsInUse() {
-    return inUse != nullptr;
-}
-
 void Navigator::Use(Navigator* navigator) {
     inUse = navigator;
 }

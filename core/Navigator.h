@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// How one room's window opens another's. The application wires it; what is not built answers by doing nothing harmful.
+/// How one room's window opens another's. The application wires it.
 #pragma once
-
-#include "core/Game.h"
 
 #include <QString>
 
@@ -18,28 +16,23 @@ public:
     virtual ~Navigator() = default;
 
     virtual void ShowToolsMenu() = 0;
-    virtual void ShowBigEditor() = 0;
+    /// These three take the tools menu's place; false when no window came up, and who asked stays.
+    virtual bool ShowBigEditor() = 0;
+    virtual bool ShowCSFEditor() = 0;
+    virtual bool ShowPersonalFiles() = 0;
     virtual void OpenBigFile(const QString& path) = 0;
     virtual void ExtractBigFile(const QString& path) = 0;
-    virtual void ShowCSFEditor() = 0;
     virtual void OpenCSFFile(const QString& path) = 0;
-    virtual void ShowPersonalFiles() = 0;
-    virtual void ShowAddFiles() = 0;
 
-    /// Modal over `owner`, which may be null.
+    /// Modal over `owner`, a window, and back when they are closed.
     virtual void ShowOptions(QObject* owner) = 0;
     virtual void ShowAbout(QObject* owner) = 0;
+    /// As these; without an owner a window of its own, and back at once.
+    virtual void ShowAddFiles(QObject* owner) = 0;
 
     virtual void CheckForUpdates(bool automatic) = 0;
-    virtual void ActivateShellMap(GameIndex game) = 0;
-
-    /// The tool windows that are built; the menu shows the others all the same.
-    enum class Tool { BigEditor, CSFEditor, PersonalFiles, AddFiles, Options, Updates, Extraction };
-    [[nodiscard]] virtual bool IsBuilt(Tool tool) const = 0;
 
     /// The one in use; asking for a missing one raises 91.
     static Navigator& Current();
-    /// False before the application has wired one: a game is launched without.
-    static bool IsInUse();
     static void Use(Navigator* navigator);
 };

@@ -3,6 +3,7 @@
 
 #include "core/mLaunch.h"
 
+#include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "platform/Processes.h"
 
@@ -23,9 +24,9 @@ QString ExecutableName(GameIndex game) {
 QString mLaunch::LaunchCommand(GameIndex game) {
     if (game < 0 || game >= GameCount)
         return {};
-    // The options carry their own leading blank; a mod's name is not quoted. Both are meant.
-    QString options = ReadSetting(SettingsPrefix(game) + u"StartupOptions"_s);
-    const QString mod = ReadSetting(SettingsPrefix(game) + u"LoadMod"_s);
+    // The options carry their own leading blank; a mod's name is not quoted. This is meant.
+    QString options = ReadSetting(SettingKeys::StartupOptions(game));
+    const QString mod = ReadSetting(SettingKeys::LoadMod(game));
     if (!mod.isEmpty())
         options += u" -mod "_s + mod;
     const QString& installPath = Game.at(static_cast<std::size_t>(game)).InstallPath;

@@ -3,8 +3,10 @@
 
 #include "core/mMain.h"
 
+#include "core/GameFiles.h"
 #include "core/Host.h"
 #include "core/Navigator.h"
+#include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "core/mLaunch.h"
 #include "core/mTraduction.h"
@@ -22,7 +24,6 @@ bool mMain::AddFileRequested = false;
 bool mMain::RestartRequested = false;
 bool mMain::CsfOpenedByHost = false;
 QString mMain::LanguageFileName;
-QString mMain::ProgramFolder;
 
 namespace {
 
@@ -36,8 +37,8 @@ void CheckForUpdatesIfWanted() {
 
 void Launch(GameIndex game) {
     Ignoring([&] {
-        if (Navigator::IsInUse())
-            Navigator::Current().ActivateShellMap(game);
+        if (GameFiles::ActivateShellMap)
+            GameFiles::ActivateShellMap(game);
     });
     Ignoring([&] { mLaunch::LaunchGame(game); });
 }
@@ -55,18 +56,21 @@ void ShowTool(const mMain::Dispatched& dispatched) {
     case Action::OpenBigFile:
         return navigator.OpenBigFile(dispatched.Path);
     case Action::ShowBigEditor:
-        return navigator.ShowBigEditor();
+        navigator.ShowBigEditor();
+        return;
     case Action::ExtractBigFile:
         return navigator.ExtractBigFile(dispatched.Path);
     case Action::OpenCSFFile:
         return navigator.OpenCSFFile(dispatched.Path);
     case Action::ShowCSFEditor:
-        return navigator.ShowCSFEditor();
+        navigator.ShowCSFEditor();
+        return;
     case Action::ShowPersonalFiles:
-        return navigator.ShowPersonalFiles();
+        navigator.ShowPersonalFiles();
+        return;
     case Action::ShowAddFiles:
         mMain::AddFileRequested = true;
-        return navigator.ShowAddFiles();
+        return navigator.ShowAddFiles(nullptr);
     case Action::LaunchGame:
     case Action::NormalStart:
         return;
@@ -74,10 +78,6 @@ void ShowTool(const mMain::Dispatched& dispatched) {
 }
 
 } // namespace
-
-QString mMain::ScratchFolder() {
-    return ProgramFolder + u"\\Temp"_s;
-}
 
 void mMain::UseRuntimes() {
     ini = std::make_unique<INIRuntime>();
@@ -99,8 +99,8 @@ INIRuntime& mMain::INI() {
 
 bool mMain::AutomaticCheckWanted() {
     bool isNumber = false;
-    const double number = ReadSetting(u"AutoCheckForUpdates"_s).toDouble(&isNumber);
-    // A text that is no number counts as yes, the empty text of a first run above all. Meant.
+    const double number = ReadSetting(SettingKeys::AutoCheckForUpdates).toDouble(&isNumber);
+    // A text that is no number counts as yes, the empty text of a first run above all. This is meant.
     return !isNumber || !std::isfinite(number) || std::trunc(number) == 1.0;
 }
 
@@ -112,7 +112,7 @@ mMain::Dispatched mMain::Prepare(const QString& commandLine, const std::function
     Dispatched normalStart{.UpdateChecks = 1};
     const bool detected = Ignoring([&] {
         UseRuntimes();
-        LanguageFileName = ReadSetting(u"TradFileName"_s);
+        LanguageFileName = ReadSetting(SettingKeys::TradFileName);
         detect();
     });
     if (!detected)

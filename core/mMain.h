@@ -5,6 +5,7 @@
 #pragma once
 
 #include "core/Game.h"
+#include "core/ProgramFolders.h"
 #include "platform/INIRuntime.h"
 #include "platform/RegistryRuntime.h"
 
@@ -25,10 +26,9 @@ extern bool RestartRequested;
 extern bool CsfOpenedByHost;
 /// File name of the language file in use, no folder.
 extern QString LanguageFileName;
-/// The program's folder without a trailing backslash.
-extern QString ProgramFolder;
-/// "Temp" in the program's folder, where nothing lasts; no trailing backslash.
-QString ScratchFolder();
+
+using ProgramFolders::ProgramFolder;
+using ProgramFolders::ScratchFolder;
 
 /// Makes the shared registry and INI objects and sets ProgramFolder. Called by Main; programs without Main call it.
 void UseRuntimes();

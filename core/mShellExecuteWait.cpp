@@ -6,9 +6,8 @@
 #include "core/Host.h"
 #include "core/Navigator.h"
 #include "core/mMain.h"
+#include "platform/ProcessEnd.h"
 #include "platform/RuntimeError.h"
-
-#include <QThread>
 
 #include <array>
 
@@ -18,7 +17,6 @@ namespace {
 
 constexpr int NoAssociation = 31;
 constexpr int IncompleteAssociation = 27;
-constexpr unsigned long PauseMilliseconds = 10;
 
 void Tell(int instApp) {
     const QString text = mShellExecuteWait::RefusalText(instApp);
@@ -26,10 +24,13 @@ void Tell(int instApp) {
         Host::Current().Message(text, Host::Icon::Exclamation);
 }
 
-void LetTheUserChoose(const QString& path) {
+/// False when there is no such chooser.
+bool LetTheUserChoose(const QString& path) {
     // A system without a chooser says at least why nothing opens.
-    if (!Ignoring([&] { Processes::ChooseProgramFor(path); }))
+    const bool asked = Ignoring([&] { Processes::ChooseProgramFor(path); });
+    if (!asked)
         Tell(IncompleteAssociation);
+    return asked;
 }
 
 } // namespace
@@ -40,7 +41,7 @@ QString mShellExecuteWait::RefusalText(int instApp) {
         QString Text;
     };
 
-    // Fixed texts, in French whatever the language. Meant.
+    // Fixed texts, in French whatever the language. This is meant.
     static const std::array<Refusal, 9> refusals{{
         {3, u"Le chemin du fichier à ouvrir est incorrect."_s},
         {5, u"Accès au fichier refusé."_s},
@@ -59,32 +60,40 @@ QString mShellExecuteWait::RefusalText(int instApp) {
     return {};
 }
 
-void mShellExecuteWait::ReactTo(int instApp, const QString& path) {
+int mShellExecuteWait::ReactTo(int instApp, const QString& path) {
     if (instApp == NoAssociation)
-        LetTheUserChoose(path);
-    else
-        Tell(instApp);
+        return LetTheUserChoose(path) ? instApp : IncompleteAssociation;
+    Tell(instApp);
+    return instApp;
 }
 
 void mShellExecuteWait::WaitFor(Processes::Handle process, const std::function<bool()>& goesOn) {
-    // Ends with the program, whatever its exit code.
-    while (goesOn() && !Processes::ExitCode(process)) {
-        Host::Current().Yield();
-        QThread::msleep(PauseMilliseconds);
+    bool ended = false;
+    const ProcessEnd end(process);
+    QObject::connect(&end, &ProcessEnd::Ended, [&ended] { ended = true; });
+    Host::Current().WaitUntil([&] { return ended || !goesOn(); });
+}
+
+Processes::Opened mShellExecuteWait::Open(const QString& path, quintptr owner) {
+    // Capitals go to the system. This is meant.
+    if (path.endsWith(u"csf"_s)) {
+        mMain::CsfOpenedByHost = true;
+        Navigator::Current().OpenCSFFile(path);
+        return {};
     }
-    Processes::Close(process);
+    Processes::Opened opened = Processes::OpenWithAssociation(path, owner);
+    opened.InstApp = ReactTo(opened.InstApp, path);
+    return opened;
+}
+
+bool mShellExecuteWait::IsOpened(const Processes::Opened& opened) {
+    constexpr int lastRefusal = 32;
+    return opened.InstApp > lastRefusal || opened.InstApp == NoAssociation;
 }
 
 Processes::Handle mShellExecuteWait::OpenWithShell(const QString& path, quintptr owner, bool wait,
                                                    const std::function<bool()>& goesOn) {
-    // Capitals go to the system. Meant.
-    if (path.endsWith(u"csf"_s)) {
-        mMain::CsfOpenedByHost = true;
-        Navigator::Current().OpenCSFFile(path);
-        return 0;
-    }
-    const Processes::Opened opened = Processes::OpenWithAssociation(path, owner);
-    ReactTo(opened.InstApp, path);
+    const Processes::Opened opened = Open(path, owner);
     if (wait && opened.Process != 0)
         WaitFor(opened.Process, goesOn);
     return opened.Process;

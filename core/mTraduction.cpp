@@ -37,7 +37,8 @@ void LogMiss(const QString& key) {
     NumberedFiles::Open(LogFileNumber, mMain::ProgramFolder + u"\\localization.log"_s,
                         NumberedFiles::Access::ReadWrite);
     Ignoring([&] {
-        // The position is the length counted from 1, so a record overwrites the line feed of the one before. Meant.
+        // The position is the length counted from 1, so a record overwrites the line feed of the one before. This is
+        // meant.
         const qint64 length = NumberedFiles::Length(LogFileNumber);
         NumberedFiles::Write(LogFileNumber, length > 0 ? length - 1 : 0, Record(key));
     });

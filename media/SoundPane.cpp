@@ -112,7 +112,8 @@ void SoundPane::Follow() {
 void SoundPane::PlayOrStop() {
     if (player_ == nullptr)
         return;
-    if (player_->Status().What == Stage::Playing)
+    const Stage stage = player_->Status().What;
+    if (stage == Stage::Playing || stage == Stage::Opening)
         player_->Rewind();
     else
         player_->Play();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// What plays the sounds of the preview, as `MediaPlayer1` and the item click see it.
+/// What plays sounds, as `MediaPlayer1` and those who click on a sound see it.
 #pragma once
 
 #include <QByteArray>
@@ -32,20 +32,21 @@ public:
     SoundPlayer& operator=(const SoundPlayer&) = delete;
     virtual ~SoundPlayer() = default;
 
-    /// Opens a sound file (inside path) and starts it. The file is no longer in use when this returns.
+    /// Opens a sound file (inside path), and starts it when it is decoded. The file is read until the status says that
+    /// it is no longer opening.
     virtual void Open(const QString& path) = 0;
     /// Stops and forgets the sound.
     virtual void Stop() = 0;
     /// Plays the open sound from where it is.
     virtual void Play() = 0;
-    /// Stops the open sound and goes back to its start.
+    /// Stops the open sound and goes back to its start; one that is opening will not start.
     virtual void Rewind() = 0;
     /// Goes to a place, milliseconds; a sound that plays goes on from there.
     virtual void Seek(qint64 position) = 0;
     [[nodiscard]] virtual SoundStatus Status() const = 0;
 };
 
-/// The same for a sound that was read from its file already.
+/// The same for a sound that is decoded already.
 class SoundOutput {
 public:
     SoundOutput() = default;
@@ -53,7 +54,8 @@ public:
     SoundOutput& operator=(const SoundOutput&) = delete;
     virtual ~SoundOutput() = default;
 
-    virtual void Open(const QByteArray& bytes) = 0;
+    /// Opens samples (see Pcm.h), playing or stopped at their start; without any the sound is one that can't be played.
+    virtual void Open(const QByteArray& samples, bool plays) = 0;
     virtual void Stop() = 0;
     virtual void Play() = 0;
     virtual void Rewind() = 0;
@@ -63,18 +65,3 @@ public:
 
 /// The output on the machine's sound device, from a module that is loaded now; null when it can't be.
 std::unique_ptr<SoundOutput> MakeSoundOutput();
-
-/// Plays files on that output, which is made at the first sound.
-class FilePlayer : public SoundPlayer {
-public:
-    void Open(const QString& path) override;
-    void Stop() override;
-    void Play() override;
-    void Rewind() override;
-    void Seek(qint64 position) override;
-    [[nodiscard]] SoundStatus Status() const override;
-
-private:
-    std::unique_ptr<SoundOutput> output_;
-    bool missing_ = false; ///< the output could not be made
-};

@@ -4,13 +4,15 @@
 #include "platform/FileRegistry.h"
 
 #include "platform/AnsiCodec.h"
+#include "platform/Paths.h"
 #include "platform/RegistryText.h"
+#include "platform/RuntimeError.h"
+#include "platform/WriteAside.h"
 
 #include <QByteArrayView>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStringList>
 
 #include <algorithm>
@@ -233,15 +235,9 @@ bool FileRegistry::RemoveValue(RootKey root, const QString& path, const QString&
 }
 
 bool FileRegistry::Load() const {
-    QFile file(path_);
     QByteArray bytes;
-    if (file.exists()) {
-        if (!file.open(QIODevice::ReadOnly))
-            return false;
-        bytes = file.readAll();
-        if (file.error() != QFileDevice::NoError)
-            return false;
-    }
+    if (QFile::exists(path_) && !Ignoring([&] { bytes = ReadWhole(InsidePath()); }))
+        return false;
     // The bytes tell for certain whether the file changed; times and sizes don't.
     if (bytes != now_->Bytes)
         *now_ = Document(bytes);
@@ -253,7 +249,9 @@ bool FileRegistry::Store(const QString& text) {
         return true;
     if (!QDir().mkpath(QFileInfo(path_).path()))
         return false;
-    const QByteArray bytes = now_->Encode(text);
-    QSaveFile file(path_);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
+    return Ignoring([&] { WriteWhole(InsidePath(), now_->Encode(text)); });
+}
+
+QString FileRegistry::InsidePath() const {
+    return Paths::FromNative(QDir::toNativeSeparators(path_));
 }

@@ -43,6 +43,8 @@ private:
     bool Load() const;
     bool Store(const QString& text);
 
+    [[nodiscard]] QString InsidePath() const;
+
     QString path_;
     std::unique_ptr<Document> now_; ///< what the file held when it was last looked at
 };

@@ -4,34 +4,35 @@
 #include "platform/Files.h"
 
 #include "platform/FolderEntries.h"
+#include "platform/Paths.h"
+#include "platform/PrivateName.h"
 #include "platform/RuntimeError.h"
 #include "platform/Wildcards.h"
+#include "platform/WriteAside.h"
 
-#include <QCoreApplication>
 #include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 /// Walks one folder for ListFolderFiles. Each folder is entered once, so that links can't lead around in a circle.
 class Walk {
 public:
-    explicit Walk(bool recursive) : recursive_(recursive) {}
+    Walk(bool recursive, bool strict) : recursive_(recursive), strict_(strict) {}
 
     void Enter(const QString& folder) {
         const QByteArray identity = FolderIdentity(folder);
-        if (identity.isEmpty() || entered_.contains(identity))
+        if (entered_.contains(identity) || (identity.isEmpty() && !strict_))
             return;
         entered_.insert(identity);
         std::vector<QString> below;
-        Ignoring([&] {
-            for (const FolderEntry& entry : FolderEntries(folder)) {
-                const QString path = folder + u'\\' + entry.Name;
-                if (entry.IsFolder)
-                    below.push_back(path);
-                else
-                    found_.push_back({path, entry.Size});
-            }
-        });
+        if (strict_)
+            List(folder, below);
+        else
+            Ignoring([&] { List(folder, below); });
         if (recursive_) {
             for (const QString& path : below)
                 Enter(path);
@@ -41,10 +42,30 @@ public:
     std::vector<Files::FoundFile> Found() && { return std::move(found_); }
 
 private:
+    void List(const QString& folder, std::vector<QString>& below) {
+        for (const FolderEntry& entry : FolderEntries(folder)) {
+            const QString path = folder + u'\\' + entry.Name;
+            if (entry.IsFolder)
+                below.push_back(path);
+            else
+                found_.push_back({path, entry.Size, entry.IsPlain});
+        }
+    }
+
     bool recursive_;
+    bool strict_;
     QSet<QByteArray> entered_;
     std::vector<Files::FoundFile> found_;
 };
+
+void CopyWhole(const QString& from, const QString& to, WriteAside::Names names) {
+    const File source = File::Open(from, File::Access::Read);
+    WriteAside target(to, names);
+    const qint64 length = source.Length();
+    if (CopyBytes(target.Out(), 0, source, 0, length) != length)
+        throw RuntimeError(ErrorNumber::DeviceError, QStringLiteral("%1: breaks off").arg(source.Name()));
+    target.Commit(false);
+}
 
 QString WithoutTrailingBackslash(const QString& path) {
     return path.endsWith(u'\\') ? path.chopped(1) : path;
@@ -68,9 +89,34 @@ QStringList ListFolder(const QString& pattern, bool withFolders) {
 }
 
 std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive) {
-    Walk walk(recursive);
+    Walk walk(recursive, false);
     walk.Enter(WithoutTrailingBackslash(folder));
     return std::move(walk).Found();
+}
+
+std::vector<FoundFile> ListFolderFilesStrict(const QString& folder, bool recursive) {
+    Walk walk(recursive, true);
+    walk.Enter(WithoutTrailingBackslash(folder));
+    return std::move(walk).Found();
+}
+
+void EmptyFolder(const QString& folder, const QStringList& kept) {
+    const QString path = WithoutTrailingBackslash(folder);
+    if (IsLink(path))
+        return;
+    for (const QString& name : ListFolder(path + u"\\*"_s)) {
+        const QString file = path + u'\\' + name;
+        if (std::ranges::none_of(kept, [&](const QString& each) { return SameFile(each, file); }))
+            Ignoring([&] { DeleteForced(file); });
+    }
+}
+
+void Copy(const QString& from, const QString& to) {
+    CopyWhole(from, to, WriteAside::Names::LookedUp);
+}
+
+void CopyAsGiven(const QString& from, const QString& to) {
+    CopyWhole(from, to, WriteAside::Names::AsGiven);
 }
 
 void Delete(const QString& pattern) {
@@ -101,13 +147,7 @@ void DeleteFolder(const QString& path) {
 }
 
 QString TemporaryBeside(const QString& path) {
-    static int counter = 0;
-    const QString folder = path.first(path.lastIndexOf(u'\\') + 1);
-    QString free;
-    do {
-        free = folder + QStringLiteral("~brindock-%1-%2").arg(QCoreApplication::applicationPid()).arg(++counter);
-    } while (FileExists(free) || FolderExists(free) || IsLink(free));
-    return free;
+    return Paths::Folder(path) + PrivateName();
 }
 
 void MakeFolders(const QString& path) {

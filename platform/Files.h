@@ -55,7 +55,8 @@ void Delete(const QString& pattern);
 /// Deletes one file, a write-protected one too. Raises 53 when missing, 70 when refused.
 void DeleteForced(const QString& path);
 
-/// Copies a file over whatever stands at the target. Raises 53, 70, 75, 76, 61.
+/// Copies a file over the file at the target, or to a new one, in one step (platform/WriteAside.h); does not wait for
+/// the disk. Raises 53, 57, 61, 70, 75, 76.
 void Copy(const QString& from, const QString& to);
 
 /// The same for a target whose case is known to be right: nothing is looked up there.
@@ -73,16 +74,28 @@ void Replace(const QString& from, const QString& to);
 QStringList ListFolder(const QString& pattern, bool withFolders = false);
 
 struct FoundFile {
-    QString Path; ///< inside path, absolute
-    qint64 Size;  ///< bytes
+    QString Path;        ///< inside path, absolute
+    qint64 Size = 0;     ///< bytes
+    bool IsPlain = true; ///< a file with bytes of its own: no pipe, socket, device or link to nowhere
 };
 
 /// The files of a folder, with those of all its subfolders when `recursive`; failures are ignored. A link to a folder
 /// is followed once, never around in a circle.
 std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive);
 
-/// A path in the same folder that nothing stands at, for a file to be written aside and then put in place.
+/// The same, but raises 76 with the name of a folder that can't be listed.
+std::vector<FoundFile> ListFolderFilesStrict(const QString& folder, bool recursive);
+
+/// Deletes the files of a folder but those in `kept`, write-protected ones too; subfolders stay with all in them, and
+/// so does what can't be deleted. Where the folder is a link, what it leads to is somebody else's: nothing is deleted.
+void EmptyFolder(const QString& folder, const QStringList& kept = {});
+
+/// A path in the same folder under a name that nobody can foretell. Who saves over a file uses WriteAside.
 QString TemporaryBeside(const QString& path);
+
+/// Waits until all that was written in the file system of a path is on the disk, where the system lets everybody ask
+/// for that: once at the end of many files.
+void FlushSystem(const QString& path);
 
 /// When the file was last written. Raises 53.
 QDateTime ModifiedTime(const QString& path);

@@ -1,21 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// Binary files under fixed numbers. A number that was left open stays taken until it is closed: opening it again
-/// raises 55. Positions are offsets in bytes from 0. Failures raise RuntimeErrors that name the file.
+/// Binary files under fixed numbers (platform/FileNumbers.h). A number that was left open stays taken until it is
+/// closed: opening it again raises 55. Positions are offsets in bytes from 0. Failures raise RuntimeErrors that name
+/// the file. Who needs no number opens a File.
 #pragma once
 
-#include <QByteArray>
-#include <QByteArrayView>
-#include <QString>
+#include "platform/File.h"
 
 namespace NumberedFiles {
 
-enum class Access {
-    Read,      ///< the file must exist
-    ReadWrite, ///< made when missing, never cut
-    Replace,   ///< made, or cut to nothing when it exists
-};
+using Access = File::Access;
 
 /// Raises 55 when the number is taken, 53, 70, 75 or 76 when the file can't be opened (75 for a folder).
 void Open(int number, const QString& path, Access access);
@@ -24,6 +19,9 @@ void Open(int number, const QString& path, Access access);
 void OpenAsGiven(int number, const QString& path, Access access);
 
 bool IsOpen(int number);
+
+/// The file under a number; raises 52 when the number is not open. Good until the number is closed.
+File& Of(int number);
 
 /// Closing a number that is not open does nothing. Raises when the system reports a failed write only now.
 void Close(int number);

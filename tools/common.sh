@@ -5,7 +5,6 @@
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
 
 # A machine without a locale of its own would make Qt warn, and file names with accents fail.
 if [ -z "${LC_ALL:-}${LC_CTYPE:-}${LANG:-}" ]; then export LANG=C.UTF-8; fi
@@ -67,7 +66,6 @@ need_packages() {
 build() {
   local preset=$1 log=$root/build/$1-configure.log
   shift
-  if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
   mkdir -p "$root/build"
   (cd "$root" && cmake --preset "$preset" >"$log" 2>&1) || {
     tail -n 30 "$log" >&2

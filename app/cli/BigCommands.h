@@ -4,17 +4,11 @@
 /// The commands for BIG archives.
 #pragma once
 
-#include <QString>
+#include "app/cli/Command.h"
 
-namespace CLI {
-class App;
-}
-
-/// Adds "big" with list, extract, save and create.
-void AddBigCommands(CLI::App& commands);
-
-/// Reads an archive (inside path) into the table or fails with the reason.
-void ReadArchive(const QString& path);
-
-/// Saves the table (inside path); a table that the format can't hold is refused with its reason.
-void WriteArchive(const QString& target);
+/// list and extract; save and create; rename and delete; preview; verify and repair.
+std::vector<Command> BigReadingCommands();
+std::vector<Command> BigSavingCommands();
+std::vector<Command> BigEditCommands();
+std::vector<Command> PreviewCommands();
+std::vector<Command> VerifyCommands();

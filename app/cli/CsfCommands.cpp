@@ -6,16 +6,16 @@
 #include "app/cli/CsfFiles.h"
 #include "app/cli/Output.h"
 #include "csf/exchange/CsfCompare.h"
+#include "csf/exchange/CsfExchange.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Console.h"
+#include "platform/File.h"
 #include "platform/Paths.h"
+#include "platform/WriteAside.h"
 
 #include <QStringList>
 
-#include <CLI/CLI.hpp>
-
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -24,19 +24,7 @@ using CsfExchange::Escaped;
 
 namespace {
 
-struct Options {
-    std::string File;
-    std::string Other;
-    std::string Theirs;
-    std::string Target;
-    std::vector<std::string> Set;
-    std::vector<std::string> Deleted;
-    int Language = 0;
-    qint64 Maximum = 0;
-    bool Json = false;
-};
-
-using SharedOptions = std::shared_ptr<Options>;
+using Kind = Parameter::Kind;
 
 /// The exit code for "yes, there is something".
 constexpr int Findings = 1;
@@ -48,9 +36,9 @@ void PrintLine(const QString& word, const QStringList& texts) {
     Print(line);
 }
 
-void List(const Options& options) {
-    const CsfTable table = ReadTableArgument(options.File);
-    if (options.Json) {
+void List(const Arguments& given) {
+    const CsfTable table = ReadTableArgument(given.Raw("FILE"));
+    if (given.Has("--json")) {
         Print(QString::fromUtf8(CsfExchange::Export(table, CsfExchange::Format::Json)).trimmed());
         return;
     }
@@ -102,45 +90,43 @@ void SetValue(CsfTable& table, const std::string& given) {
         table.Strings.push_back({value, name});
 }
 
-void SaveTable(const Options& options, bool languageGiven) {
-    CsfTable table = ReadTableArgument(options.File);
-    if (languageGiven)
-        table.Language = options.Language;
-    for (const std::string& name : options.Deleted)
-        DeleteName(table, Paths::ToNative(ArgumentPath(options.File)), ArgumentText(name));
-    for (const std::string& given : options.Set)
-        SetValue(table, given);
-    WriteTableFile(ArgumentPath(options.Target), std::move(table));
+void SaveTable(const Arguments& given) {
+    CsfTable table = ReadTableArgument(given.Raw("FILE"));
+    table.Language = given.Number("--language").value_or(table.Language);
+    for (const QString& name : given.Texts("--delete"))
+        DeleteName(table, Paths::ToNative(given.Path("FILE")), name);
+    for (const std::string& set : given.Raws("--set"))
+        SetValue(table, set);
+    WriteTableFile(given.Path("TARGET"), table);
 }
 
 CsfExchange::Format FormatOfArgument(const std::string& argument) {
     return CsfExchange::FormatOf(ArgumentText(argument)).value_or(CsfExchange::Format::Json);
 }
 
-void Export(const Options& options) {
-    const CsfTable table = ReadTableArgument(options.File);
-    WriteWholeFile(ArgumentPath(options.Target), CsfExchange::Export(table, FormatOfArgument(options.Target)));
+void Export(const Arguments& given) {
+    const CsfTable table = ReadTableArgument(given.Raw("FILE"));
+    WriteWhole(given.Path("OUT"), CsfExchange::Export(table, FormatOfArgument(given.Raw("OUT"))));
 }
 
-void Import(const Options& options, bool languageGiven) {
-    const QString path = ArgumentPath(options.File);
-    const QByteArray bytes = ReadWholeFile(path);
+void Import(const Arguments& given) {
+    const QString path = given.Path("IN");
+    const QByteArray bytes = ReadWhole(path);
     CsfTable table;
     try {
-        table = CsfExchange::Import(bytes, FormatOfArgument(options.File));
+        table = CsfExchange::Import(bytes, FormatOfArgument(given.Raw("IN")));
     } catch (const RuntimeError& error) {
         Fail(Paths::ToNative(path), error.Description());
     }
-    if (languageGiven)
-        table.Language = options.Language;
+    table.Language = given.Number("--language").value_or(table.Language);
     for (const CsfString& entry : table.Strings)
         WarnOfLostLetters(entry);
-    WriteTableFile(ArgumentPath(options.Target), std::move(table));
+    WriteTableFile(given.Path("TARGET"), table);
 }
 
-void Diff(const Options& options) {
-    const CsfTable before = ReadTableArgument(options.File);
-    const CsfTable after = ReadTableArgument(options.Other);
+void Diff(const Arguments& given) {
+    const CsfTable before = ReadTableArgument(given.Raw("A"));
+    const CsfTable after = ReadTableArgument(given.Raw("B"));
     const auto differences = CsfCompare::Diff(before, after);
     const bool sameLanguage = before.Language == after.Language;
     if (!sameLanguage)
@@ -157,12 +143,12 @@ void Diff(const Options& options) {
         EndWith(Findings);
 }
 
-void Merge(const Options& options) {
-    const CsfTable base = ReadTableArgument(options.File);
-    const CsfTable ours = ReadTableArgument(options.Other);
-    const CsfTable theirs = ReadTableArgument(options.Theirs);
+void Merge(const Arguments& given) {
+    const CsfTable base = ReadTableArgument(given.Raw("BASE"));
+    const CsfTable ours = ReadTableArgument(given.Raw("OURS"));
+    const CsfTable theirs = ReadTableArgument(given.Raw("THEIRS"));
     CsfMerged merged = CsfCompare::Merge(base, ours, theirs);
-    WriteTableFile(ArgumentPath(options.Target), std::move(merged.Table));
+    WriteTableFile(given.Path("TARGET"), merged.Table);
     QString conflicts;
     if (merged.LanguageConflict)
         conflicts += u"language\tchanged in both\n"_s;
@@ -174,12 +160,12 @@ void Merge(const Options& options) {
     EndWith(Findings);
 }
 
-void Check(const Options& options) {
-    const CsfTable table = ReadTableArgument(options.File);
+void Check(const Arguments& given) {
+    const CsfTable table = ReadTableArgument(given.Raw("FILE"));
     CsfTable other;
-    CsfCompare::Checks checks{nullptr, options.Maximum};
-    if (!options.Other.empty()) {
-        other = ReadTableArgument(options.Other);
+    CsfCompare::Checks checks{nullptr, given.Number("--max").value_or(0)};
+    if (given.Has("--against")) {
+        other = ReadTableArgument(given.Raw("--against"));
         checks.Against = &other;
     }
     const auto findings = CsfCompare::Check(table, checks);
@@ -197,91 +183,81 @@ void Check(const Options& options) {
         EndWith(Findings);
 }
 
-/// An argument whose ending tells the format.
-CLI::Option* AddExchangeFile(CLI::App* command, const std::string& name, std::string& file) {
-    return command->add_option(name, file)->required()->check([](const std::string& given) {
-        return CsfExchange::FormatOf(ArgumentText(given)) ? std::string()
-                                                          : std::string("must end in .json, .csv or .po");
-    });
+/// A place for a file whose ending tells the format.
+Parameter ExchangeFile(const std::string& name) {
+    return {.Name = name, .Check = [](const std::string& given) {
+                return CsfExchange::FormatOf(ArgumentText(given)) ? std::string()
+                                                                  : std::string("must end in .json, .csv or .po");
+            }};
 }
 
-CLI::Option* AddLanguage(CLI::App* command, const SharedOptions& options) {
-    return command
-        ->add_option("--language", options->Language, "0 English, 2 German, 3 French, 8 Korean; a byte is stored")
-        ->check(CLI::Range(0, 255));
+Parameter Language() {
+    return {.What = Kind::Number,
+            .Name = "--language",
+            .Description = "0 English, 2 German, 3 French, 8 Korean; a byte is stored",
+            .Least = 0,
+            .Most = 255};
 }
 
-void AddReading(CLI::App* csf, const SharedOptions& options) {
-    CLI::App* list = csf->add_subcommand(
+std::string ComplaintAboutSet(const std::string& given) {
+    return given.find('=') == std::string::npos ? "must be NAME=VALUE" : "";
+}
+
+Command ListCommand() {
+    return {
         "list",
-        "Print the language, then an entry a line: name, tab, value, with \\n, \\t and \\\\ for what they stand for");
-    list->add_option("FILE", options->File)->required();
-    list->add_flag("--json", options->Json, "Print JSON");
-    list->callback([options] { List(*options); });
-
-    CLI::App* diff =
-        csf->add_subcommand("diff", "Print what B added, removed and changed; ends with 1 when they differ");
-    diff->add_option("A", options->File)->required();
-    diff->add_option("B", options->Other)->required();
-    diff->callback([options] { Diff(*options); });
-
-    CLI::App* check =
-        csf->add_subcommand("check", "Print what looks wrong in a table; ends with 1 when something does");
-    check->add_option("FILE", options->File)->required();
-    check->add_option("--against", options->Other, "Compare the printf-style placeholders with this table's")
-        ->type_name("OTHER");
-    check->add_option("--max", options->Maximum, "Report values of more than N characters")
-        ->type_name("N")
-        ->check(CLI::PositiveNumber);
-    check->callback([options] { Check(*options); });
+        "Print the language, then an entry a line: name, tab, value, with \\n, \\t and \\\\ for what they stand for",
+        {{Kind::Place, "FILE"}, {Kind::Flag, "--json", "Print JSON"}},
+        List};
 }
 
-void AddSave(CLI::App* csf, const SharedOptions& options) {
-    CLI::App* save = csf->add_subcommand("save", "Write a table anew, in its order: deletes first, then sets");
-    save->add_option("FILE", options->File)->required();
-    save->add_option("TARGET", options->Target, "May be FILE itself")->required();
-    save->add_option(
-            "--set", options->Set,
-            "NAME=VALUE: give every entry of that name the value, or add one; \\n, \\t and \\\\ as list prints them")
-        ->type_name("NAME=VALUE")
-        ->check([](const std::string& given) {
-            return given.find('=') == std::string::npos ? std::string("must be NAME=VALUE") : std::string();
-        });
-    save->add_option("--delete", options->Deleted, "Leave out the entries of that name")->type_name("NAME");
-    const CLI::Option* language = AddLanguage(save, options);
-    save->callback([options, language] { SaveTable(*options, language->count() > 0); });
+Command SaveCommand() {
+    return {
+        "save",
+        "Write a table anew, in its order: deletes first, then sets",
+        {{Kind::Place, "FILE"},
+         {Kind::Place, "TARGET", "May be FILE itself"},
+         {.What = Kind::List,
+          .Name = "--set",
+          .Description = "NAME=VALUE: give every entry of that name the value, or add one; \\n, \\t and \\\\ as list "
+                         "prints them",
+          .TypeName = "NAME=VALUE",
+          .Check = ComplaintAboutSet},
+         {Kind::List, "--delete", "Leave out the entries of that name", "NAME"},
+         Language()},
+        SaveTable};
 }
 
-void AddExchange(CLI::App* csf, const SharedOptions& options) {
-    CLI::App* out = csf->add_subcommand("export", "Write a table as JSON, CSV or PO");
-    out->add_option("FILE", options->File)->required();
-    AddExchangeFile(out, "OUT", options->Target);
-    out->callback([options] { Export(*options); });
-
-    CLI::App* in = csf->add_subcommand("import", "Make a table of JSON, CSV or PO");
-    AddExchangeFile(in, "IN", options->File);
-    in->add_option("TARGET", options->Target)->required();
-    const CLI::Option* language = AddLanguage(in, options);
-    in->callback([options, language] { Import(*options, language->count() > 0); });
-}
-
-void AddMerge(CLI::App* csf, const SharedOptions& options) {
-    CLI::App* merge = csf->add_subcommand(
-        "merge", "Merge two tables that come from one; conflicts keep ours, are listed and end with 1");
-    merge->add_option("BASE", options->File)->required();
-    merge->add_option("OURS", options->Other)->required();
-    merge->add_option("THEIRS", options->Theirs)->required();
-    merge->add_option("TARGET", options->Target)->required();
-    merge->callback([options] { Merge(*options); });
+Command CheckCommand() {
+    return {"check",
+            "Print what looks wrong in a table; ends with 1 when something does",
+            {{Kind::Place, "FILE"},
+             {Kind::Option, "--against", "Compare the printf-style placeholders with this table's", "OTHER"},
+             {.What = Kind::Number,
+              .Name = "--max",
+              .Description = "Report values of more than N characters",
+              .TypeName = "N",
+              .Least = 1}},
+            Check};
 }
 
 } // namespace
 
-void AddCsfCommands(CLI::App& commands) {
-    CLI::App* csf = commands.add_subcommand("csf", "CSF string tables")->require_subcommand(1);
-    const auto options = std::make_shared<Options>();
-    AddReading(csf, options);
-    AddSave(csf, options);
-    AddExchange(csf, options);
-    AddMerge(csf, options);
+std::vector<Command> CsfCommands() {
+    return {ListCommand(),
+            {"diff",
+             "Print what B added, removed and changed; ends with 1 when they differ",
+             {{Kind::Place, "A"}, {Kind::Place, "B"}},
+             Diff},
+            CheckCommand(),
+            SaveCommand(),
+            {"export", "Write a table as JSON, CSV or PO", {{Kind::Place, "FILE"}, ExchangeFile("OUT")}, Export},
+            {"import",
+             "Make a table of JSON, CSV or PO",
+             {ExchangeFile("IN"), {Kind::Place, "TARGET"}, Language()},
+             Import},
+            {"merge",
+             "Merge two tables that come from one; conflicts keep ours, are listed and end with 1",
+             {{Kind::Place, "BASE"}, {Kind::Place, "OURS"}, {Kind::Place, "THEIRS"}, {Kind::Place, "TARGET"}},
+             Merge}};
 }

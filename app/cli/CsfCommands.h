@@ -4,9 +4,7 @@
 /// The commands for CSF string tables.
 #pragma once
 
-namespace CLI {
-class App;
-}
+#include "app/cli/Command.h"
 
-/// Adds "csf" with list, save, export, import, diff, merge and check.
-void AddCsfCommands(CLI::App& commands);
+/// list, diff, check, save, export, import and merge.
+std::vector<Command> CsfCommands();

@@ -12,14 +12,13 @@
 #include "platform/AnsiCodec.h"
 #include "platform/Paths.h"
 
-#include <CLI/CLI.hpp>
-
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <map>
-#include <memory>
+#include <string>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -115,94 +114,79 @@ void StoreINI(const QString& section, const QString& key, const QString& value, 
         Fail(Paths::ToNative(file), u"The file could not be written."_s);
 }
 
-/// The positional arguments of one command, alive as long as its callback.
-struct Arguments {
-    std::string Section;
-    std::string Key;
-    std::string Value;
-    std::string File;
-    std::string Game;
-    bool AsJson = false;
-};
-
-void AddGames(CLI::App& app) {
-    auto arguments = std::make_shared<Arguments>();
-    CLI::App* command = app.add_subcommand(
-        "games", "Lists the games, a line each: index, prefix, installed (yes or no), InstallPath, ReplayPath, "
-                 "MapPath, where it was found; separated by tabs");
-    command->add_flag("--json", arguments->AsJson, "Prints a JSON array");
-    command->callback([arguments] { PrintGames(arguments->AsJson); });
-}
-
-void AddLaunchCommand(CLI::App& app) {
+const std::map<std::string, GameIndex>& Games() {
     static const std::map<std::string, GameIndex> games{{"gen", 0}, {"zh", 1}, {"bfme", 2}, {"bfme2", 3}};
-    auto arguments = std::make_shared<Arguments>();
-    CLI::App* command =
-        app.add_subcommand("launch-command", "Prints the command text that starts a game, and starts nothing");
-    command->add_option("game", arguments->Game, "gen, zh, bfme or bfme2")
-        ->required()
-        ->type_name("GAME")
-        ->check(CLI::IsMember(&games));
-    command->callback([arguments] { PrintLaunchCommand(games.at(arguments->Game)); });
+    return games;
 }
 
-void AddText(CLI::App& app) {
-    auto arguments = std::make_shared<Arguments>();
-    CLI::App* command = app.add_subcommand("text", "Prints a text of the language in use; the key when it has none");
-    command->add_option("key", arguments->Key, "The text's key")->required()->type_name("KEY");
-    command->callback([arguments] { PrintText(ArgumentText(arguments->Key)); });
+using Kind = Parameter::Kind;
+
+Parameter Key(const std::string& description) {
+    return {Kind::Place, "key", description, "KEY"};
 }
 
-void AddSetting(CLI::App& app) {
-    auto arguments = std::make_shared<Arguments>();
-    CLI::App* group = app.add_subcommand("setting", "Reads and writes the settings");
-    group->require_subcommand(1);
-    CLI::App* get = group->add_subcommand("get", "Prints a setting; an empty line when it is not stored");
-    get->add_option("key", arguments->Key, "The setting's name")->required()->type_name("KEY");
-    get->callback([arguments] { PrintSetting(ArgumentText(arguments->Key)); });
-    CLI::App* set = group->add_subcommand("set", "Stores a setting");
-    set->add_option("key", arguments->Key, "The setting's name")->required()->type_name("KEY");
-    set->add_option("value", arguments->Value, "Its text; one that begins with a dash stands behind --")
-        ->required()
-        ->type_name("VALUE");
-    set->callback([arguments] { StoreSetting(ArgumentText(arguments->Key), ArgumentText(arguments->Value)); });
+Parameter Value() {
+    return {Kind::Place, "value", "Its text; one that begins with a dash stands behind --", "VALUE"};
 }
 
-void AddINI(CLI::App& app) {
-    auto arguments = std::make_shared<Arguments>();
-    const auto addPlace = [arguments](CLI::App* command) {
-        command->add_option("section", arguments->Section, "The section's name")->required()->type_name("SECTION");
-        command->add_option("key", arguments->Key, "The key's name")->required()->type_name("KEY");
-    };
-    const auto addFile = [arguments](CLI::App* command) {
-        command->add_option("file", arguments->File, "The INI file")->required()->type_name("FILE");
-    };
-    CLI::App* group = app.add_subcommand("ini", "Reads and writes INI files, one key at a time");
-    group->require_subcommand(1);
-    CLI::App* get = group->add_subcommand("get", "Prints a value; an empty line when file, section or key is missing");
-    addPlace(get);
-    addFile(get);
-    get->callback([arguments] {
-        PrintINI(ArgumentText(arguments->Section), ArgumentText(arguments->Key), ArgumentPath(arguments->File));
-    });
-    CLI::App* set = group->add_subcommand("set", "Writes a value and makes file, section or key when missing");
-    addPlace(set);
-    set->add_option("value", arguments->Value, "Its text; one that begins with a dash stands behind --")
-        ->required()
-        ->type_name("VALUE");
-    addFile(set);
-    set->callback([arguments] {
-        StoreINI(ArgumentText(arguments->Section), ArgumentText(arguments->Key), ArgumentText(arguments->Value),
-                 ArgumentPath(arguments->File));
-    });
+Parameter Section() {
+    return {Kind::Place, "section", "The section's name", "SECTION"};
+}
+
+Parameter File() {
+    return {Kind::Place, "file", "The INI file", "FILE"};
+}
+
+CommandGroup Alone() {
+    Parameter game{Kind::Place, "game", "gen, zh, bfme or bfme2", "GAME"};
+    for (const auto& [name, index] : Games())
+        game.Members.push_back(name);
+    return {{},
+            {},
+            {{"games",
+              "Lists the games, a line each: index, prefix, installed (yes or no), InstallPath, ReplayPath, "
+              "MapPath, where it was found; separated by tabs",
+              {{Kind::Flag, "--json", "Prints a JSON array"}},
+              [](const Arguments& given) { PrintGames(given.Has("--json")); }},
+             {"launch-command",
+              "Prints the command text that starts a game, and starts nothing",
+              {game},
+              [](const Arguments& given) { PrintLaunchCommand(Games().at(given.Raw("game"))); }},
+             {"text",
+              "Prints a text of the language in use; the key when it has none",
+              {Key("The text's key")},
+              [](const Arguments& given) { PrintText(given.Text("key")); }}}};
+}
+
+CommandGroup Setting() {
+    return {"setting",
+            "Reads and writes the settings",
+            {{"get",
+              "Prints a setting; an empty line when it is not stored",
+              {Key("The setting's name")},
+              [](const Arguments& given) { PrintSetting(given.Text("key")); }},
+             {"set", "Stores a setting", {Key("The setting's name"), Value()}, [](const Arguments& given) {
+                  StoreSetting(given.Text("key"), given.Text("value"));
+              }}}};
+}
+
+CommandGroup INI() {
+    return {"ini",
+            "Reads and writes INI files, one key at a time",
+            {{"get",
+              "Prints a value; an empty line when file, section or key is missing",
+              {Section(), Key("The key's name"), File()},
+              [](const Arguments& given) { PrintINI(given.Text("section"), given.Text("key"), given.Path("file")); }},
+             {"set",
+              "Writes a value and makes file, section or key when missing",
+              {Section(), Key("The key's name"), Value(), File()},
+              [](const Arguments& given) {
+                  StoreINI(given.Text("section"), given.Text("key"), given.Text("value"), given.Path("file"));
+              }}}};
 }
 
 } // namespace
 
-void AddGameCommands(CLI::App& app) {
-    AddGames(app);
-    AddLaunchCommand(app);
-    AddText(app);
-    AddSetting(app);
-    AddINI(app);
+std::vector<CommandGroup> GameCommands() {
+    return {Alone(), Setting(), INI()};
 }

@@ -4,9 +4,7 @@
 /// The commands of brindock-cli about the games, the settings and the texts.
 #pragma once
 
-namespace CLI {
-class App;
-}
+#include "app/cli/Command.h"
 
-/// Adds games, launch-command, text, setting and ini.
-void AddGameCommands(CLI::App& app);
+/// games, launch-command, text, setting and ini.
+std::vector<CommandGroup> GameCommands();

@@ -1,16 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/cli/PreviewCommand.h"
-
+#include "app/cli/BigArchive.h"
 #include "app/cli/BigCommands.h"
 #include "app/cli/Output.h"
-#include "big/format/mBIG.h"
-#include "media/PictureProcess.h"
+#include "big/document/ArchiveExtractor.h"
+#include "media/MediaProcess.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 
-#include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -18,18 +16,10 @@
 #include <QTemporaryDir>
 
 #include <array>
-#include <memory>
-#include <string>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Options {
-    std::string Archive;
-    std::string Name;
-    std::string Target;
-};
 
 /// The extension of a name where it is of plain letters; it tells the kind of a picture whose bytes don't.
 QString Kind(const QString& name) {
@@ -43,10 +33,10 @@ bool Decode(const QString& source, const QString& target) {
     char* arguments = name.data();
     int count = 1;
     const QCoreApplication application(count, &arguments);
-    PictureProcess process;
+    MediaClient client;
     QEventLoop loop;
     bool decoded = false;
-    process.Decode(source, target, [&](bool done) {
+    client.Ask({MediaJob::Kind::Picture, source, target}, [&](bool done) {
         decoded = done;
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
@@ -54,35 +44,29 @@ bool Decode(const QString& source, const QString& target) {
     return decoded;
 }
 
-void SavePreview(const Options& options) {
-    const QString archive = ArgumentPath(options.Archive);
-    const QString target = ArgumentPath(options.Target);
-    const QString name = ArgumentText(options.Name);
-    ReadArchive(archive);
-    const int index = mBIG::FindEntry(name);
-    if (index < 0)
-        Fail(archive, u"no entry is named %1"_s.arg(name));
+void SavePreview(const Arguments& given) {
+    const Archive archive = ReadArchive(given.Path("ARCHIVE"));
+    const QString name = given.Text("NAME");
+    const BigEntry& entry = archive.Entries[static_cast<std::size_t>(EntryNamed(archive, name))];
     // A folder and a name of our own: nothing of the archive decides where the bytes go, but the kind that they are of.
     const QTemporaryDir folder;
     if (!folder.isValid())
-        Fail(archive, folder.errorString());
+        Fail(archive.FileName, folder.errorString());
     const QString inside = Paths::FromNative(QDir::toNativeSeparators(folder.path()));
-    const QString source = inside + u"\\picture."_s + Kind(name);
+    const QString source = u"picture."_s + Kind(name);
     const QString bitmap = inside + u"\\preview.out"_s;
-    mBIG::ExtractEntry(index, archive, source);
-    if (!Decode(source, bitmap))
-        Fail(archive, u"%1 is no picture that can be read"_s.arg(name));
-    Files::Copy(bitmap, target);
+    ArchiveExtractor(archive.FileName, inside).Extract(entry, source);
+    if (!Decode(inside + u'\\' + source, bitmap))
+        Fail(archive.FileName, u"%1 is no picture that can be read"_s.arg(name));
+    Files::Copy(bitmap, given.Path("OUT.bmp"));
 }
 
 } // namespace
 
-void AddPreviewCommand(CLI::App& commands) {
-    CLI::App* preview = commands.get_subcommand("big")->add_subcommand(
-        "preview", "Write the picture of an entry as a bitmap of 32 bits a pixel");
-    const auto options = std::make_shared<Options>();
-    preview->add_option("ARCHIVE", options->Archive)->required();
-    preview->add_option("NAME", options->Name)->required();
-    preview->add_option("OUT.bmp", options->Target)->required();
-    preview->callback([options] { SavePreview(*options); });
+std::vector<Command> PreviewCommands() {
+    using enum Parameter::Kind;
+    return {{"preview",
+             "Write the picture of an entry as a bitmap of 32 bits a pixel",
+             {{Place, "ARCHIVE"}, {Place, "NAME"}, {Place, "OUT.bmp"}},
+             SavePreview}};
 }

@@ -11,7 +11,8 @@ public:
     ScriptHost();
     ~ScriptHost() override;
 
-    Answer Message(const QString& text, Icon icon, Buttons buttons, const QString& title) override;
+    Answer Message(const QString& text, Icon icon, Buttons buttons, const QString& title,
+                   std::optional<Answer> defaultAnswer) override;
     std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& text) override;
 
     void Beep() override {}
@@ -19,21 +20,8 @@ public:
     std::optional<QString> OpenFileName(const FileDialog& dialog) override;
     std::optional<QString> SaveFileName(const FileDialog& dialog) override;
 
-    void ShowProgress() override {}
-
-    void SetProgressText(const QString& /*text*/) override {}
-
-    void SetProgressValue(int /*percent*/) override {}
-
-    void HideProgress() override {}
-
-    void UnloadProgress() override {}
-
-    [[nodiscard]] bool ProgressCancelled() const override { return false; }
-
-    void CancelProgress() override {}
-
-    void StopProgressTimer() override {}
+    std::optional<QString> ChooseFolder(const QString& title, const QString& folder) override;
+    [[nodiscard]] std::unique_ptr<Progress> ShowProgress() override;
 
     void Yield() override {}
 };

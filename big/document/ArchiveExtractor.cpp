@@ -3,37 +3,28 @@
 
 #include "big/document/ArchiveExtractor.h"
 
-#include "platform/NumberedFiles.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-constexpr int ArchiveNumber = 5;
-constexpr int TargetNumber = 6;
-
-} // namespace
-
-ArchiveExtractor::ArchiveExtractor(const QString& archive, const QString& folder) : gateway_(folder) {
-    NumberedFiles::Open(ArchiveNumber, archive, NumberedFiles::Access::Read);
-    archiveLength_ = NumberedFiles::Length(ArchiveNumber);
-}
-
-ArchiveExtractor::~ArchiveExtractor() {
-    Ignoring([] { NumberedFiles::Close(ArchiveNumber); });
-}
+ArchiveExtractor::ArchiveExtractor(const QString& archive, const QString& folder)
+    : gateway_(folder),
+      archive_(File::Open(archive, File::Access::Read)),
+      archiveState_(archive_.State()) {}
 
 void ArchiveExtractor::Extract(const BigEntry& entry, const QString& name) {
-    NumberedFiles::OpenAsGiven(TargetNumber, gateway_.TargetFor(name), NumberedFiles::Access::Replace);
-    try {
-        const qint64 there = std::clamp<qint64>(archiveLength_ - entry.Offset, 0, entry.Size);
-        NumberedFiles::Copy(TargetNumber, 0, ArchiveNumber, entry.Offset, there);
-        if (there < entry.Size)
-            NumberedFiles::SetLength(TargetNumber, entry.Size);
-    } catch (const RuntimeError&) {
-        Ignoring([] { NumberedFiles::Close(TargetNumber); });
-        throw;
-    }
-    NumberedFiles::Close(TargetNumber);
+    // Not cut before it is known which file it is.
+    File target = File::OpenAsGiven(gateway_.TargetFor(name), File::Access::ReadWrite);
+    const FileState old = target.State();
+    if (old.Identity == archiveState_.Identity)
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"%1 is the archive itself."_s.arg(target.Name()));
+    if (old.Length > 0)
+        target.SetLength(0);
+    const qint64 there = std::clamp<qint64>(archiveState_.Length - entry.Offset, 0, entry.Size);
+    target.CopyFrom(0, archive_, entry.Offset, there);
+    if (there < entry.Size)
+        target.SetLength(entry.Size);
+    target.Close();
 }

@@ -6,21 +6,20 @@
 
 #include "big/format/mBIG.h"
 #include "core/FolderGateway.h"
+#include "platform/File.h"
 
-/// Keeps the archive open while it lives, under a number of its own. An entry of no bytes becomes an empty file.
+/// Keeps the archive open while it lives. An entry of no bytes becomes an empty file.
 class ArchiveExtractor {
 public:
     /// Inside paths; the folder is made when missing. Raises when the archive can't be opened or the folder not made.
     ArchiveExtractor(const QString& archive, const QString& folder);
-    ~ArchiveExtractor();
-    ArchiveExtractor(const ArchiveExtractor&) = delete;
-    ArchiveExtractor& operator=(const ArchiveExtractor&) = delete;
 
     /// Writes the entry's bytes to the file `name` below the folder, over whatever file stands there. Bytes behind the
-    /// archive's end are zeros. Raises when the name is refused or the file can't be written.
+    /// archive's end are zeros. Raises when the name is refused or the file can't be written; the archive itself can't.
     void Extract(const BigEntry& entry, const QString& name);
 
 private:
     FolderGateway gateway_;
-    qint64 archiveLength_ = 0;
+    File archive_;
+    FileState archiveState_;
 };

@@ -3,26 +3,30 @@
 
 #include "big/document/BigEditor.h"
 
+#include "big/document/OffsetNotices.h"
 #include "core/Host.h"
+#include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
-#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
-BigEditor::BigEditor(EditorView& view) : view_(view) {
-    state_.StatusText = GetText(u"Ready"_s);
+BigEditor::BigEditor(EditorView& view) : panes_(view) {}
+
+BigEditor::~BigEditor() {
+    FileAdding::ForgetAdopted();
+    // The next window may have its archive open already.
+    if (panes_.Shown != nullptr && panes_.Shown == mBIG::CurrentIdentity())
+        Ignoring([] { mBIG::Close(); });
 }
 
 void BigEditor::OpenBigFile(const QString& path) {
-    if (!Files::FileExists(path) || Locked())
+    if (!Files::FileExists(path) || EditorPanes::Locked())
         return;
-    view_.ShowWindow();
+    panes_.View.ShowWindow();
     if (LoadBig(path))
         ResetAfterOpen();
     else
@@ -30,94 +34,161 @@ void BigEditor::OpenBigFile(const QString& path) {
 }
 
 bool BigEditor::LoadBig(const QString& path) {
-    if (path.last(std::min<qsizetype>(path.size(), 3)).toLower() != "big"_L1)
+    if (!SaveCommand::IsArchiveName(path))
         return false;
-    const Busy busy(view_);
-    // A refused file has its records in the table by then; those of the archive in the window come back, as a save
-    // would write the others over it.
-    std::vector<BigEntry> before = mBIG::BigEntries;
-    if (!mBIG::ReadBigFile(path)) {
-        mBIG::BigEntries = std::move(before);
+    const Busy busy(panes_.View);
+    if (!Ignoring([&] { mBIG::Load(path); }))
         return false;
-    }
-    ++table_;
-    mBIG::BigFileName = path;
-    CreateDirs();
-    state_.StatusText = GetText(u"Ready"_s);
+    panes_.Shown = mBIG::CurrentIdentity();
+    copies_.EntriesGone();
+    panes_.State.ShowsOnlyEntry = false;
+    panes_.CreateDirs();
+    panes_.State.StatusText = GetText(u"Ready"_s);
     return true;
 }
 
 void BigEditor::ResetAfterOpen() {
-    state_.DetailsVisible = false;
-    state_.Modified = false;
+    panes_.State.DetailsVisible = false;
+    panes_.State.Modified = false;
+    panes_.State.ExactOffsets = OffsetNotices::IsExactByDefault();
     ArchiveOpened();
+    OffsetNotices::TellOpened(panes_);
 }
 
 void BigEditor::ArchiveOpened() {
-    ClearPreview();
-    state_.NewFolderNumber = 1;
-    state_.SelectedNode = FolderTree::Root;
-    state_.FocusPane = FocusedPane::Tree;
-    state_.ArchiveOpen = true;
-    view_.StateChanged();
-}
-
-void BigEditor::CreateDirs() {
-    tree_.CreateDirs(Paths::LastPart(mBIG::BigFileName), mBIG::BigEntries);
-    state_.SelectedNode = FolderTree::None;
-    view_.TreeChanged();
-    ShowFolder({});
-}
-
-void BigEditor::ShowFolder(const QString& folderKey) {
-    const Busy busy(view_);
-    // A folder that has gone leaves the selected node as it is: its folders show, without files.
-    // Of two nodes with one key, the selected one stays.
-    const bool selected = tree_.Has(state_.SelectedNode) && SelectedKey() == folderKey;
-    if (const int node = tree_.Find(folderKey); node != FolderTree::None && !selected)
-        state_.SelectedNode = node;
-    state_.FileIcons = ReadSetting(u"ViewFileIcons"_s) == "1"_L1;
-    list_.ShowFolder(tree_, state_.SelectedNode, folderKey, mBIG::BigEntries, GetText(u"Folder"_s));
-    view_.ListChanged();
-    view_.StateChanged();
-}
-
-QString BigEditor::SelectedKey() const {
-    return tree_.Has(state_.SelectedNode) ? tree_.Node(state_.SelectedNode).Key : QString();
+    details_.Clear();
+    panes_.State.NewFolderNumber = 1;
+    panes_.State.SelectedNode = FolderTree::Root;
+    panes_.State.FocusPane = FocusedPane::Tree;
+    panes_.State.ArchiveOpen = true;
+    panes_.View.StateChanged();
 }
 
 void BigEditor::ClickNode(int node) {
-    if (!tree_.Has(node))
+    if (!panes_.Tree.Has(node))
         return;
-    const QString key = tree_.Node(node).Key;
-    state_.StatusText = key;
-    state_.DetailsVisible = false;
-    state_.FocusPane = FocusedPane::Tree;
-    state_.ModifyEnabled = false;
-    ClearPreview();
-    state_.SelectedNode = node;
-    ShowFolder(key);
+    const QString key = panes_.Tree.Node(node).Key;
+    EditorState& state = panes_.State;
+    state.StatusText = key;
+    state.DetailsVisible = false;
+    state.FocusPane = FocusedPane::Tree;
+    state.ModifyEnabled = false;
+    details_.Clear();
+    state.SelectedNode = node;
+    panes_.ShowFolder(key);
 }
 
 void BigEditor::EnterList() {
-    if (state_.ArchiveOpen)
-        state_.FocusPane = FocusedPane::List;
+    if (panes_.State.ArchiveOpen)
+        panes_.State.FocusPane = FocusedPane::List;
 }
 
 void BigEditor::OfferRow(int place) {
-    if (place < 0 || place >= list_.Count())
+    if (place < 0 || place >= panes_.List.Count())
         return;
-    state_.FocusPane = FocusedPane::List;
-    state_.ModifyEnabled = !list_.Row(place).IsFolder;
-    view_.StateChanged();
+    panes_.State.FocusPane = FocusedPane::List;
+    panes_.State.ModifyEnabled = !panes_.List.Row(place).IsFolder;
+    panes_.View.StateChanged();
+}
+
+void BigEditor::Modify() {
+    panes_.View.CommitEdit();
+    const std::vector<int> places = panes_.View.SelectedRows();
+    if (!places.empty())
+        copies_.Modify(places.front(), OpenCopies::Trigger::Menu);
+}
+
+void BigEditor::ActivateRow(int place) {
+    if (place >= 0 && place < panes_.List.Count() && panes_.List.Row(place).IsFolder)
+        ClickNode(panes_.List.Row(place).Index);
+    else
+        copies_.Modify(place, OpenCopies::Trigger::Row);
+}
+
+/// The questions that come before another archive takes the place of the open one.
+bool BigEditor::MayLeaveArchive() {
+    return copies_.TakeInChanged() && saves_.GoOnWithoutChanges();
+}
+
+bool BigEditor::MayClose() {
+    if (EditorPanes::Locked())
+        return false;
+    const EditorPanes::Command command(panes_);
+    if (!MayLeaveArchive())
+        return false;
+    copies_.Forget();
+    return true;
+}
+
+void BigEditor::New() {
+    if (EditorPanes::Locked())
+        return;
+    const EditorPanes::Command command(panes_);
+    if (!MayLeaveArchive())
+        return;
+    const auto path = Host::Current().SaveFileName(SaveCommand::ArchiveDialog());
+    if (!path)
+        return;
+    mBIG::BigFileName = *path;
+    mBIG::BigVersion = 2;
+    panes_.State.ExactOffsets = OffsetNotices::IsExactByDefault();
+    panes_.View.ShowVersion();
+    mBIG::New(*path, mBIG::BigVersion);
+    panes_.Shown = mBIG::CurrentIdentity();
+    copies_.EntriesGone();
+    panes_.State.ShowsOnlyEntry = false;
+    panes_.CreateDirs();
+    panes_.View.ShowNotice({});
+    // The flag for unsaved changes and the details stay as they were. This is meant.
+    ArchiveOpened();
+}
+
+void BigEditor::Open() {
+    if (EditorPanes::Locked())
+        return;
+    const EditorPanes::Command command(panes_);
+    if (!MayLeaveArchive())
+        return;
+    const auto path = Host::Current().OpenFileName(SaveCommand::ArchiveDialog());
+    if (!path)
+        return;
+    if (LoadBig(*path))
+        ResetAfterOpen();
+    else
+        Host::Current().Beep();
+}
+
+bool BigEditor::ExtractBigFile(const QString& path) {
+    if (!Files::FileExists(path) || EditorPanes::Locked())
+        return false;
+    if (LoadBig(path)) {
+        panes_.State.SelectedNode = FolderTree::Root;
+        panes_.State.FocusPane = FocusedPane::Tree;
+        Extract();
+    } else {
+        Host::Current().Beep();
+    }
+    return true;
+}
+
+// The version is no unsaved change. This is meant.
+void BigEditor::FileVersion() {
+    if (EditorPanes::Locked())
+        return;
+    const EditorPanes::Command command(panes_);
+    const qint32 version = mBIG::BigVersion;
+    const bool exact = panes_.State.ExactOffsets;
+    panes_.View.ShowVersion();
+    if (version != mBIG::BigVersion || exact != panes_.State.ExactOffsets)
+        panes_.TellUnmarked();
 }
 
 ViewMode BigEditor::View() {
     bool isNumber = false;
-    const int value = ReadSetting(u"BigView"_s).toInt(&isNumber);
+    const int value = ReadSetting(SettingKeys::BigView).toInt(&isNumber);
     return isNumber && value >= 0 && value <= 3 ? static_cast<ViewMode>(value) : ViewMode::SmallIcons;
 }
 
 void BigEditor::SetView(ViewMode mode) {
-    WriteSetting(u"BigView"_s, QString::number(static_cast<int>(mode)));
+    WriteSetting(SettingKeys::BigView, QString::number(static_cast<int>(mode)));
 }

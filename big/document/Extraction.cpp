@@ -6,9 +6,12 @@
 #include "core/FolderGateway.h"
 #include "core/Host.h"
 #include "core/mTraduction.h"
+#include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+
+#include <QSet>
 
 #include <memory>
 
@@ -42,7 +45,7 @@ private:
             return true;
         const QString path = gateway_->TargetFor(prefix_ + name);
         if (Files::StandingAsGiven(path) == Files::Standing::File) {
-            if (IsNeeded(path, entry))
+            if (IsNeeded(path))
                 return true;
             switch (AskToReplace(target_.ExtractFolder + name)) {
             case Host::Answer::Cancel:
@@ -58,9 +61,16 @@ private:
         return true;
     }
 
-    /// The open archive and the entry's own source can't be targets: they would be gone before they are read.
-    static bool IsNeeded(const QString& path, const BigEntry& entry) {
-        return Files::SameFile(path, mBIG::BigFileName) || (entry.IsNew && Files::SameFile(path, entry.SourcePath));
+    /// The open archive and the sources of new entries can't be targets: they would be gone before they are read.
+    bool IsNeeded(const QString& path) {
+        if (needed_.isEmpty()) {
+            needed_ += StateOf(mBIG::BigFileName).Identity;
+            for (const BigEntry& entry : mBIG::BigEntries)
+                if (entry.IsNew)
+                    needed_ += StateOf(entry.SourcePath).Identity;
+        }
+        const QByteArray target = StateOf(path).Identity;
+        return !target.isEmpty() && needed_.contains(target);
     }
 
     static Host::Answer AskToReplace(const QString& path) {
@@ -69,28 +79,29 @@ private:
     }
 
     const ExtractionTarget& target_;
-    QString prefix_; ///< of every name
+    QString prefix_;          ///< of every name
+    QSet<QByteArray> needed_; ///< identities of files
     std::unique_ptr<FolderGateway> gateway_;
 };
 
 /// False when the user ends the run.
-bool ExtractAll(const std::vector<qint32>& extractList, const ExtractionTarget& target) {
+bool ExtractAll(const std::vector<qint32>& extractList, const ExtractionTarget& target, Progress& progress) {
     Host& host = Host::Current();
     const QString text = GetText(u"ProgressLbl"_s).replace("%1"_L1, Paths::LastPart(mBIG::BigFileName));
     const QString folder = Paths::ToNative(target.ExtractFolder);
     Run run(target);
     std::size_t done = 0;
     for (const qint32 index : extractList) {
-        if (host.ProgressCancelled())
+        if (progress.Cancelled())
             return false;
         const QString& name = mBIG::BigEntries.at(static_cast<std::size_t>(index)).Name;
-        host.SetProgressText(QString(text).replace("%2"_L1, name).replace("%3"_L1, folder));
+        progress.SetText(QString(text).replace("%2"_L1, name).replace("%3"_L1, folder));
         host.Yield();
         if (!run.Extract(index)) {
-            host.CancelProgress();
+            progress.Cancel();
             return false;
         }
-        host.SetProgressValue(static_cast<int>(++done * 100 / extractList.size()));
+        progress.SetValue(static_cast<int>(++done * 100 / extractList.size()));
         host.Yield();
     }
     return true;
@@ -120,20 +131,19 @@ void TakeAll(std::vector<qint32>& extractList) {
 
 void DoExtract(const std::vector<qint32>& extractList, const ExtractionTarget& target, bool showCompletion) {
     Host& host = Host::Current();
-    host.ShowProgress();
+    const std::unique_ptr<Progress> progress = host.ShowProgress();
     mBIG::CloseExtraction();
-    const bool completed = ExtractAll(extractList, target);
+    const bool completed = ExtractAll(extractList, target, *progress);
     // Within a run an entry of no bytes keeps all later ones from being extracted. The next run begins afresh.
     mBIG::CloseExtraction();
     if (completed) {
-        host.StopProgressTimer();
+        progress->StopTimer();
         if (showCompletion)
             host.Message(GetText(u"ExtractionComplete"_s), Host::Icon::Information);
     } else {
-        host.HideProgress();
+        progress->Hide();
         host.Message(GetText(u"ExtractionCanceled"_s), Host::Icon::Critical);
     }
-    host.UnloadProgress();
 }
 
 } // namespace Extraction

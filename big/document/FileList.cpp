@@ -30,7 +30,7 @@ QString TypeOf(const QString& name) {
 } // namespace
 
 void FileList::ShowFolder(const FolderTree& tree, int node, const QString& folderKey,
-                          const std::vector<BigEntry>& entries, const QString& folderType) {
+                          const std::vector<BigEntry>& entries, const QString& folderType, bool showsOnlyEntry) {
     Clear();
     keyLength_ = folderKey.size();
     folderType_ = folderType;
@@ -38,7 +38,7 @@ void FileList::ShowFolder(const FolderTree& tree, int node, const QString& folde
         for (const int child : tree.Node(node).Children)
             rows_.push_back({.Name = tree.Node(child).Text, .Index = child, .IsFolder = true});
     // A highest index of 0 stands for an empty archive. This is meant.
-    if (entries.size() > 1)
+    if (entries.size() > 1 || showsOnlyEntry)
         for (std::size_t index = 0; index < entries.size(); ++index)
             if (const BigEntry& entry = entries[index]; IsShownIn(entry, folderKey))
                 rows_.push_back(

@@ -32,10 +32,11 @@ public:
 
     /// Fills the list with the node's folders and the table's files that the folder key brings: the key occurs anywhere
     /// in the name, in any case, and no backslash stands beyond the character behind as many characters as the key has.
-    /// `node` may be FolderTree::None. A table of a single record shows no files. A column that has a sort mark keeps
-    /// it, and the new rows come in its order; otherwise folders come first and files follow in table order.
+    /// `node` may be FolderTree::None. A table of a single record shows no files unless `showsOnlyEntry`. A column that
+    /// has a sort mark keeps it, and the new rows come in its order; otherwise folders come first and files follow in
+    /// table order.
     void ShowFolder(const FolderTree& tree, int node, const QString& folderKey, const std::vector<BigEntry>& entries,
-                    const QString& folderType);
+                    const QString& folderType, bool showsOnlyEntry = false);
 
     void Clear();
 

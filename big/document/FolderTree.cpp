@@ -87,7 +87,7 @@ void FolderTree::Rename(int index, const QString& key, const QString& text) {
     FolderNode& renamed = nodes_[static_cast<std::size_t>(index) - 1];
     const QString oldKey = std::exchange(renamed.Key, key);
     renamed.Text = text;
-    // Meant so: the folder's own new key counts too, and what holds the old key further in.
+    // The folder's own new key counts too, and what holds the old key further in. This is meant.
     for (std::size_t node = Root; node < nodes_.size(); ++node)
         nodes_[node].Key.replace(oldKey, key);
     LearnKeys();

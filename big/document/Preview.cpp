@@ -5,8 +5,8 @@
 
 #include "core/FolderGateway.h"
 #include "core/mMain.h"
+#include "platform/File.h"
 #include "platform/Files.h"
-#include "platform/NumberedFiles.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
@@ -22,8 +22,8 @@ namespace {
 
 constexpr int LongerSide = 105;
 
-/// Whether a list holds the last four characters of a name and a slash. Meant so: the search is anywhere in the list,
-/// so "jpeg" counts with its four letters, and a shorter name counts as the end of an extension.
+/// Whether a list holds the last four characters of a name and a slash. The search is anywhere in the list, so "jpeg"
+/// counts with its four letters, and a shorter name counts as the end of an extension. This is meant.
 bool IsListed(QLatin1String list, const QString& name) {
     return list.contains(name.last(std::min<qsizetype>(name.size(), 4)).toLower() + u'/');
 }
@@ -66,15 +66,6 @@ void ExtractTo(int index, const QString& path) {
     mBIG::CloseExtraction();
 }
 
-QByteArray BytesOf(const QString& path) {
-    constexpr int number = 8;
-    NumberedFiles::Open(number, path, NumberedFiles::Access::Read);
-    QByteArray bytes;
-    Ignoring([&] { bytes = NumberedFiles::Read(number, 0, NumberedFiles::Length(number)); });
-    NumberedFiles::Close(number);
-    return bytes;
-}
-
 /// Times 105 divided by the longer side, half to even.
 int Scaled(int side, int longer) {
     return static_cast<int>(std::lrint(static_cast<double>(side) * LongerSide / longer));
@@ -104,7 +95,7 @@ bool Preview::ShowFile(int index, const QString& rowText) {
     }
     if (IsSound(rowText))
         return ShowSound(index, rowText);
-    DeleteSoundFile(); // Meant so: the field keeps the name, so the same sound clicked next counts as in place.
+    DeleteSoundFile(); // The field keeps the name, so the same sound clicked next counts as in place. This is meant.
     HidePlayer();
     state_.GroupHeight = PlainHeight;
     return true;
@@ -112,7 +103,7 @@ bool Preview::ShowFile(int index, const QString& rowText) {
 
 void Preview::ShowFolderRow() {
     AbandonPicture();
-    DeleteSoundFile(); // Meant so: the field keeps the name.
+    DeleteSoundFile(); // The field keeps the name. This is meant.
     HidePlayer();
 }
 
@@ -172,7 +163,7 @@ void Preview::ShowPicture(int index, const QString& rowText) {
 void Preview::PictureCame(bool decoded) {
     if (decoded) {
         Ignoring([&] {
-            const QByteArray bitmap = BytesOf(bitmap_);
+            const QByteArray bitmap = ReadWhole(bitmap_);
             const QSize size = Fit(SizeOf(bitmap));
             if (size.isEmpty())
                 return; // what can't be loaded leaves the old picture
@@ -218,7 +209,7 @@ bool Preview::ShowSound(int index, const QString& rowText) {
     }
     if (player_ != nullptr)
         player_->Open(entry.IsNew ? entry.SourcePath : state_.SoundFile);
-    // Meant so: at the highest number the step fails, and the number stays.
+    // At the highest number the step fails, and the number stays. This is meant.
     if (soundFileNumber_ < std::numeric_limits<qint16>::max())
         ++soundFileNumber_;
     return true;

@@ -3,15 +3,20 @@
 
 #include "big/document/ScratchFolders.h"
 
-#include "core/mMain.h"
+#include "core/ProgramFolders.h"
 #include "platform/Files.h"
 #include "platform/Processes.h"
+#include "platform/RuntimeError.h"
 
 #include <QCoreApplication>
+#include <QStringList>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// More programs than anybody starts at once.
+constexpr int mostPrograms = 100;
 
 const QString& DragName() {
     static const QString name = u"Drag"_s;
@@ -24,23 +29,52 @@ const QString& DropName() {
 }
 
 QString OwnFolder(const QString& name) {
-    return mMain::ScratchFolder() + u'\\' + name + QString::number(QCoreApplication::applicationPid()) + u'\\';
+    return ProgramFolders::ScratchFolder() + u'\\' + name + QString::number(QCoreApplication::applicationPid()) + u'\\';
+}
+
+/// The number that a name consists of behind a beginning; 0 for any other name.
+qint64 NumberBehind(const QString& beginning, const QString& name) {
+    bool isNumber = false;
+    const qint64 number = name.mid(beginning.size()).toLongLong(&isNumber);
+    return isNumber && number > 0 && name == beginning + QString::number(number) ? number : 0;
 }
 
 /// The process that a folder of that name belongs to; 0 for any other name.
 qint64 OwnerOf(const QString& folder) {
-    for (const QString& name : {DragName(), DropName()}) {
-        bool isNumber = false;
-        const qint64 process = folder.mid(name.size()).toLongLong(&isNumber);
-        if (isNumber && process > 0 && folder == name + QString::number(process))
-            return process;
-    }
-    return 0;
+    const qint64 owner = NumberBehind(DragName(), folder);
+    return owner > 0 ? owner : NumberBehind(DropName(), folder);
+}
+
+/// Whether the folder is a further program's, which runs no more. What is locked meanwhile is nobody else's.
+void RemoveScratch(const QString& folder) {
+    const FolderLock lock(folder);
+    if (lock.Held())
+        Files::DeleteFolder(folder);
 }
 
 } // namespace
 
 namespace ScratchFolders {
+
+Claim::Claim() {
+    const QString shared = ProgramFolders::SharedScratchFolder();
+    for (int number = 1; number <= mostPrograms; ++number) {
+        const QString name = number == 1 ? QString() : QString::number(number);
+        const QString folder = number == 1 ? shared : shared + u'\\' + name;
+        Ignoring([&] { Files::MakeFolders(folder); });
+        auto lock = std::make_unique<FolderLock>(folder);
+        if (lock->State() == FolderLock::Result::Taken)
+            continue;
+        lock_ = std::move(lock);
+        if (lock_->Held())
+            ProgramFolders::UseScratchBelow(name);
+        return;
+    }
+}
+
+Claim::~Claim() {
+    ProgramFolders::UseScratchBelow({});
+}
 
 QString Dragged() {
     return OwnFolder(DragName());
@@ -50,13 +84,27 @@ QString Dropped() {
     return OwnFolder(DropName());
 }
 
+bool IsDragged(const QString& path) {
+    const QString shared = ProgramFolders::SharedScratchFolder() + u'\\';
+    if (!path.startsWith(shared, Qt::CaseInsensitive))
+        return false;
+    QStringList parts = path.sliced(shared.size()).split(u'\\');
+    if (parts.size() > 1 && NumberBehind({}, parts.front()) > 0)
+        parts.removeFirst();
+    return parts.front().startsWith(DragName(), Qt::CaseInsensitive);
+}
+
 void RemoveAbandoned() {
-    const QString scratch = mMain::ScratchFolder() + u'\\';
+    const QString scratch = ProgramFolders::SharedScratchFolder() + u'\\';
     for (const QString& name : Files::ListFolder(scratch + u"*.*"_s, true)) {
-        const qint64 owner = OwnerOf(name);
         const QString folder = scratch + name;
-        if (owner > 0 && !Processes::IsRunning(owner) && Files::FolderExists(folder) && !Files::IsLink(folder))
+        const qint64 owner = OwnerOf(name);
+        if (!Files::FolderExists(folder))
+            continue;
+        if (owner > 0 && !Processes::IsRunning(owner))
             Files::DeleteFolder(folder);
+        else if (NumberBehind({}, name) > 1)
+            RemoveScratch(folder);
     }
 }
 

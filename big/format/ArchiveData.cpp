@@ -3,13 +3,10 @@
 
 #include "big/format/ArchiveData.h"
 
-#include "platform/NumberedFiles.h"
-#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
 
 namespace {
 
@@ -17,22 +14,22 @@ constexpr qsizetype BlockSize = qsizetype{512} * 1024;
 /// The gaps of a run are written behind it, while its bytes are still at hand.
 constexpr qint64 LongestRun = qint64{1} << 20;
 
-} // namespace
-
-ArchiveData::ArchiveData(int target, int oldArchive, int source, qint64 length, qint64 position)
-    : target_(target),
-      oldArchive_(oldArchive),
-      source_(source),
-      length_(length),
-      position_(position),
-      block_(BlockSize, Qt::Uninitialized),
-      blockStart_(length) {
-    Ignoring([&] { oldLength_ = NumberedFiles::Length(oldArchive_); });
+[[noreturn]] void Raise(const Device& device, const QString& what) {
+    throw RuntimeError(ErrorNumber::DeviceError, QStringLiteral("%1: %2").arg(device.Name(), what));
 }
 
-void ArchiveData::Load(const BigEntry& entry) {
+} // namespace
+
+ArchiveData::ArchiveData(Device& target, const Device* old, qint64 length)
+    : target_(target),
+      old_(old),
+      oldLength_(old == nullptr ? 0 : old->Length()),
+      block_(BlockSize, Qt::Uninitialized),
+      blockStart_(length) {}
+
+void ArchiveData::Load(const BigEntry& entry, qint64 size) {
     if (entry.IsNew)
-        LoadNew(entry);
+        LoadNew(entry, size);
     else
         LoadOld(entry);
 }
@@ -60,51 +57,34 @@ void ArchiveData::LoadOld(const BigEntry& entry) {
     buffer_ = std::move(refreshed);
 }
 
-void ArchiveData::LoadNew(const BigEntry& entry) {
-    qint64 length = 0;
-    const bool opened = Ignoring([&] {
-        OpenSource(entry.SourcePath);
-        length = NumberedFiles::Length(source_);
-    });
-    if (!opened)
-        buffer_.clear();
-    else if (length > 0) // an empty file leaves the buffer as it was, and that is meant
-        buffer_ = {{Piece::Place::NewFile, entry.SourcePath, 0, length}};
+void ArchiveData::LoadNew(const BigEntry& entry, qint64 size) {
+    OpenSource(entry.SourcePath);
+    if (source_.Length() != size)
+        Raise(source_, QStringLiteral("changed while it was read"));
+    // An empty file leaves the buffer as it was. This is meant.
+    if (size > 0)
+        buffer_ = {{Piece::Place::NewFile, entry.SourcePath, 0, size}};
 }
 
 void ArchiveData::OpenSource(const QString& path) {
     if (path == openSource_)
         return;
     openSource_.clear();
-    NumberedFiles::Close(source_);
     // Most paths have the case that the disk has, and a look at it can be saved.
-    if (!Ignoring([&] { NumberedFiles::OpenAsGiven(source_, path, NumberedFiles::Access::Read); }))
-        NumberedFiles::Open(source_, path, NumberedFiles::Access::Read);
+    if (!Ignoring([&] { source_ = File::OpenAsGiven(path, File::Access::Read); }))
+        source_ = File::Open(path, File::Access::Read);
     openSource_ = path;
 }
 
-void ArchiveData::Put() {
-    qint64 size = 0;
-    for (const Piece& piece : buffer_)
-        size += piece.Length;
-    if (size == 0)
-        return;
-    // Positions in the format are signed 32-bit numbers. An old record whose size lies can't be put; a file that does
-    // not fit ends the save.
-    if (position_ + size > std::numeric_limits<qint32>::max()) {
-        if (buffer_.front().From != Piece::Place::NewFile)
-            return;
-        const QString file = Paths::ToNative(buffer_.front().Path);
-        throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("%1: does not fit into an archive's 2 GiB").arg(file));
-    }
-    PutGap(position_ - End());
+void ArchiveData::Put(qint64 position) {
+    PutGap(position - End());
     for (const Piece& piece : buffer_) {
         switch (piece.From) {
         case Piece::Place::OldArchive:
             PutOld(piece.Offset, piece.Length);
             break;
         case Piece::Place::NewFile:
-            Ignoring([&] { OpenSource(piece.Path); });
+            OpenSource(piece.Path);
             PutNew(piece.Offset, piece.Length);
             break;
         case Piece::Place::Zeros:
@@ -112,8 +92,6 @@ void ArchiveData::Put() {
             break;
         }
     }
-    position_ += size;
-    length_ = position_;
 }
 
 /// The bytes between two entries: part of a run that goes on behind them, else zeros of their own.
@@ -145,10 +123,8 @@ void ArchiveData::PutNew(qint64 offset, qint64 length) {
         if (filled_ == block_.size())
             Flush();
         const qint64 wanted = std::min<qint64>(length - done, block_.size() - filled_);
-        qint64 had = 0;
-        char* place = block_.data() + filled_;
-        Ignoring([&] { had = NumberedFiles::ReadInto(source_, offset + done, place, wanted); });
-        std::memset(place + had, 0, static_cast<std::size_t>(wanted - had));
+        if (source_.ReadInto(offset + done, block_.data() + filled_, wanted) < wanted)
+            Raise(source_, QStringLiteral("breaks off"));
         filled_ += wanted;
         done += wanted;
     }
@@ -171,9 +147,10 @@ void ArchiveData::PutZeros(qint64 length) {
 void ArchiveData::FlushRun() {
     if (run_.Length == 0)
         return;
-    NumberedFiles::Copy(target_, run_.Target, oldArchive_, run_.Source, run_.Length);
+    if (CopyBytes(target_, run_.Target, *old_, run_.Source, run_.Length) < run_.Length)
+        Raise(*old_, QStringLiteral("breaks off"));
     for (const auto& [offset, length] : run_.Gaps)
-        NumberedFiles::Write(target_, offset, QByteArray(length, '\0'));
+        target_.Write(offset, QByteArray(length, '\0'));
     blockStart_ = run_.Target + run_.Length;
     run_ = {};
 }
@@ -181,13 +158,12 @@ void ArchiveData::FlushRun() {
 void ArchiveData::Flush() {
     FlushRun();
     if (filled_ > 0)
-        NumberedFiles::Write(target_, blockStart_, QByteArrayView(block_).first(filled_));
+        target_.Write(blockStart_, QByteArrayView(block_).first(filled_));
     blockStart_ += filled_;
     filled_ = 0;
 }
 
-qint64 ArchiveData::Finish() {
+void ArchiveData::Finish(qint64 length) {
     Flush();
-    NumberedFiles::SetLength(target_, length_);
-    return length_;
+    target_.SetLength(length);
 }

@@ -1,38 +1,38 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// The data part of an archive being written: entries are loaded into a copy buffer and put at the current position.
+/// The data part of an archive being written: entries are loaded into a copy buffer and put where a plan says.
 #pragma once
 
-#include "big/format/Layout.h"
-#include "big/format/mBIG.h"
+#include "big/format/Archive.h"
+#include "platform/File.h"
 
 #include <QByteArray>
 
 #include <utility>
 #include <vector>
 
-/// The copy buffer keeps its content from one entry to the next, as an entry of no bytes is written from what stands in
-/// it. It is kept as a list of places to read from, not as bytes, and the output goes through one block of memory, so
-/// that no size in a file decides how much memory is used. Failures to write raise; what can't be read is zeros.
+/// The copy buffer keeps its content from one entry to the next, as an entry of no bytes may be written from what
+/// stands in it. It is kept as a list of places to read from, not as bytes, and the output goes through one block of
+/// memory, so that no size in a file decides how much memory is used. What fails raises, but for bytes that lie behind
+/// the old archive's end: those are zeros.
 class ArchiveData {
 public:
-    /// Numbers of open files; `source` is a free number for the files of new entries. `length` is the target's length
-    /// so far, `position` where the data begins.
-    ArchiveData(int target, int oldArchive, int source, qint64 length, qint64 position);
+    /// `old` may be null. `length` is the target's length so far.
+    ArchiveData(Device& target, const Device* old, qint64 length);
 
-    /// Sizes the copy buffer to the entry's data and fills it. Without a byte the buffer keeps its size; its beginning
-    /// is read again from the entry's place. A new entry whose file is gone empties the buffer.
-    void Load(const BigEntry& entry);
+    /// Fills the copy buffer with the entry's data; `size` is what the plan says of a new entry's file. Without a byte
+    /// the buffer keeps its size; the beginning of an old entry is read again from its place then.
+    void Load(const BigEntry& entry, qint64 size);
 
-    /// Moves forward to a multiple of 4.
-    void Align() { position_ = Layout::RoundUp(position_); }
+    /// Empties the buffer.
+    void Clear() { buffer_.clear(); }
 
-    /// Writes the buffer and moves behind it.
-    void Put();
+    /// Writes the buffer at a position that is not before the last one's end.
+    void Put(qint64 position);
 
-    /// Writes what is waiting. Returns the target's length.
-    qint64 Finish();
+    /// Writes what is waiting.
+    void Finish(qint64 length);
 
 private:
     /// A stretch of the buffer: from the old archive, from a new entry's file, or zeros.
@@ -44,7 +44,7 @@ private:
     };
 
     void LoadOld(const BigEntry& entry);
-    void LoadNew(const BigEntry& entry);
+    void LoadNew(const BigEntry& entry, qint64 size);
 
     /// Bytes of the old archive to be copied to the target in one go, and the stretches in them that must be zeros.
     struct Run {
@@ -65,13 +65,11 @@ private:
     void FlushRun();
     void Flush();
 
-    int target_;
-    int oldArchive_;
-    int source_;
-    qint64 oldLength_ = 0;
-    qint64 length_;
-    qint64 position_;
+    Device& target_;
+    const Device* old_;
+    qint64 oldLength_;
     std::vector<Piece> buffer_;
+    File source_;
     QString openSource_;
     Run run_;
     QByteArray block_;

@@ -3,7 +3,7 @@
 
 #include "big/format/EntryIndex.h"
 
-#include "big/format/mBIG.h"
+#include "big/format/Archive.h"
 
 namespace {
 
@@ -24,12 +24,10 @@ QString Folded(const QString& name) {
 
 } // namespace
 
-namespace mBIG {
-
-EntryIndex::EntryIndex() {
-    firstByName_.reserve(static_cast<qsizetype>(BigEntries.size()));
-    for (int index = static_cast<int>(BigEntries.size()) - 1; index >= 0; --index)
-        firstByName_.insert(Folded(BigEntries[static_cast<std::size_t>(index)].Name), index);
+EntryIndex::EntryIndex(Archive& archive) : archive_(archive) {
+    firstByName_.reserve(static_cast<qsizetype>(archive_.Entries.size()));
+    for (int index = static_cast<int>(archive_.Entries.size()) - 1; index >= 0; --index)
+        firstByName_.insert(Folded(archive_.Entries[static_cast<std::size_t>(index)].Name), index);
 }
 
 int EntryIndex::Find(const QString& name) const {
@@ -38,15 +36,13 @@ int EntryIndex::Find(const QString& name) const {
 
 void EntryIndex::SetLast(int index, const QString& name) {
     const auto place = static_cast<std::size_t>(index);
-    if (place < BigEntries.size()) {
-        const auto old = firstByName_.constFind(Folded(BigEntries[place].Name));
+    if (place < archive_.Entries.size()) {
+        const auto old = firstByName_.constFind(Folded(archive_.Entries[place].Name));
         if (old != firstByName_.constEnd() && *old == index)
             firstByName_.erase(old);
     }
-    BigEntries.resize(place + 1);
-    BigEntries[place] = {};
-    BigEntries[place].Name = name;
+    archive_.Entries.resize(place + 1);
+    archive_.Entries[place] = {};
+    archive_.Entries[place].Name = name;
     firstByName_.insert(Folded(name), index);
 }
-
-} // namespace mBIG

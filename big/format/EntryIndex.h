@@ -1,19 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// Finds names in the table of the open archive without walking it each time.
+/// Finds names in the table of an archive without walking it each time.
 #pragma once
 
 #include <QHash>
 #include <QString>
 
-namespace mBIG {
+struct Archive;
 
-/// Learns the table as it is when made, and answers as FindEntry does while nothing but SetLast gives a record another
-/// name.
+/// Learns the table as it is when made, and answers as Archives::Find does while nothing but SetLast gives a record
+/// another name.
 class EntryIndex {
 public:
-    EntryIndex();
+    explicit EntryIndex(Archive& archive);
 
     /// First index with that name, ignoring case, deleted records included; -1 when there is none.
     [[nodiscard]] int Find(const QString& name) const;
@@ -23,7 +23,6 @@ public:
     void SetLast(int index, const QString& name);
 
 private:
+    Archive& archive_;
     QHash<QString, int> firstByName_;
 };
-
-} // namespace mBIG

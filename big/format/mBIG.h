@@ -1,58 +1,81 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// BIG archives: the table of the open archive, the reader and the writer.
-///
-/// A BIG file is a header of 16 bytes ("BIGF" or "BIG4", the file's length little-endian, the entry count and the
-/// first-file field big-endian), a directory of packed records (offset and size big-endian, name ended by NUL), a mark
-/// of 4 or 6 bytes that tells the variant, and the entries' bytes. Names are relative paths with backslashes in the
-/// ANSI code page.
+/// The one open archive of the program: its table under the names that the program knows it by, kept open on disk from
+/// loading on, so that nobody can pull its bytes away before they are saved.
 #pragma once
+
+#include "big/format/Archive.h"
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
-#include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
-struct BigEntry {
-    QString Name;         ///< path within the archive, as stored
-    qint32 Offset = 0;    ///< in the archive on disk, bytes; meaningless while IsNew
-    qint32 Size = 0;      ///< bytes
-    bool IsNew = false;   ///< the data is in SourcePath, not in the archive on disk
-    bool Deleted = false; ///< hidden until the next save and reload
-    QString SourcePath;   ///< inside path of the file with the data of a new or modified entry
-};
-
 namespace mBIG {
 
-/// The archive open in the program; there is never more than one.
-extern std::vector<BigEntry> BigEntries;
-/// 0 "L225", 1 "L231", 2 "L219", 3 "L253".
-extern qint32 BigVersion;
-/// Inside path of the open archive.
-extern QString BigFileName;
+using Archives::MaximumEntries;
 
-/// The most entries that an archive can have.
-inline constexpr int MaximumEntries = 32768;
+/// The archive open in the program; there is never more than one.
+Archive& Open();
+
+/// Its parts.
+extern std::vector<BigEntry>& BigEntries;
+extern qint32& BigVersion;
+extern QString& BigFileName;
+
+/// Tells one open archive from the next: made anew by each Load and New, compared with ==.
+using Identity = std::shared_ptr<const void>;
+Identity CurrentIdentity();
+
+/// Opens an archive: reads it, keeps it open and names it. Raises when it is refused, and while an ArchiveLock lives:
+/// then all stays as it was. An unknown mark keeps the earlier variant.
+void Load(const QString& path);
+
+/// Opens a fresh archive of one blank record, which no file stands for yet. Raises while an ArchiveLock lives.
+void New(const QString& path, qint32 version);
+
+/// Forgets the open archive and lets its file go. Raises while an ArchiveLock lives.
+void Close();
+
+struct SaveOptions {
+    QStringList Kept = {}; ///< inside paths of files in the scratch folder that stay
+    Archives::Placement Place = Archives::Placement::Told;
+    QString Scratch = {}; ///< inside path of the folder that is emptied; the program's scratch folder without one
+};
+
+/// Writes the open archive in one step; whatever stood at the path stands there still when this raises. Nothing, with
+/// nothing written, when there is nothing to save: for the told placement a table of one record or none, for the exact
+/// one the blank record of a fresh archive; the progress window stays on the screen then. Behind a save no record but a
+/// deleted one is new any more, and the scratch folder's files are deleted but for those kept; the table has the old
+/// archive's offsets until the written one is loaded. Returns how far the data lie from where the directory says.
+/// Raises, besides what Archives::Write raises, when old entries have bytes and the open archive has changed on disk,
+/// or can't be opened.
+std::optional<OffsetShift::Shift> Save(const QString& path, const SaveOptions& options = {});
+
+/// The open archive's length on disk as it was when loaded; 0 when there is none.
+qint64 LengthOnDisk();
+
+/// As long as one lives the open archive's table is changed by nobody but its holder, and no other archive is opened.
+/// A save holds one, and whatever walks through the table and lets events in.
+class ArchiveLock {
+public:
+    ArchiveLock();
+    ~ArchiveLock();
+    ArchiveLock(const ArchiveLock&) = delete;
+    ArchiveLock& operator=(const ArchiveLock&) = delete;
+
+    [[nodiscard]] static bool IsHeld();
+};
 
 /// Fills BigEntries and sets BigVersion; false when the file was refused. Never touches BigFileName.
 bool ReadBigFile(const QString& path);
 
-/// Shows each record of an archive without taking it into the table. BigVersion is set before the first; false, with
-/// nothing shown, when the file was refused. What `show` raises ends the list and is raised.
-bool ListBigFile(const QString& path, const std::function<void(const BigEntry&)>& show);
-
-/// Writes BigEntries as an archive of the variant BigVersion, old entries from BigFileName, new ones from their
-/// SourcePath. False when the table has one record or none, and when the target can't be written: then whatever stood
-/// at the target stands there still, and LastFailure tells why. Behind it the scratch folder is emptied, but for the
-/// files `kept` (inside paths).
+/// Save with the told placement, as a boolean.
 bool WriteBigFile(const QString& path, const QStringList& kept = {});
-
-/// Why the last WriteBigFile returned false, for a person; empty when the table had nothing to save.
-QString LastFailure();
 
 /// Copies one entry's data to a file: a new entry's source as a file copy, an old one's bytes from offset 0 of the
 /// target, which is made when missing and never cut. Raises on failure. An entry of size 0 can't be extracted from an

@@ -8,26 +8,26 @@
 #include "big/window/RowDrag.h"
 #include "big/window/frmBrowseForFolder.h"
 #include "big/window/frmVersion.h"
-#include "core/Navigator.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
-#include "platform/Processes.h"
 #include "ui/text/Localisation.h"
-#include "ui/text/Mnemonics.h"
 #include "ui_frmBigEditor.h"
 
 #include <QActionGroup>
-#include <QApplication>
-#include <QCloseEvent>
+#include <QFocusEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QTimer>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 frmBigEditor::frmBigEditor(QWidget* parent)
-    : QMainWindow(parent),
+    : ToolWindow(parent),
       ui_(std::make_unique<Ui::frmBigEditor>()),
       editor_(*this),
       treeModel_(new FolderTreeModel(editor_.Tree(), this)),
@@ -36,12 +36,16 @@ frmBigEditor::frmBigEditor(QWidget* parent)
       selection_(new QLabel) {
     ui_->setupUi(this);
     mTraduction::ApplyLanguage(this);
+    Equip({.Exit = ui_->mnuExit,
+           .Options = ui_->mnuOptions,
+           .CheckForUpdates = ui_->mnuCheckForUpdates,
+           .About = ui_->mnuAbout},
+          Commands());
     Dress();
     ui_->tvDirs->setModel(treeModel_);
     ui_->lvFiles->SetModel(listModel_);
     editor_.UsePreview(&decoder_, &player_);
     ui_->picDetails->Use(&player_);
-    ConnectCommands(this, Commands());
     ConnectTree();
     ConnectList();
     const ViewMode mode = BigEditor::View();
@@ -64,7 +68,6 @@ void frmBigEditor::ExtractBigFile(const QString& path) {
 }
 
 void frmBigEditor::Dress() {
-    Mnemonics::AddTo(*ui_->menuBar);
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
     ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
     ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
@@ -72,7 +75,6 @@ void frmBigEditor::Dress() {
     status_->setContentsMargins(6, 0, 0, 0);
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
     ui_->StatusBar1->addWidget(status_, 1);
-    ui_->mnuExit->setShortcuts({ui_->mnuExit->shortcut(), QKeySequence(u"Alt+F4"_s)});
     status_->setObjectName(u"lblStatus"_s);
     selection_->setObjectName(u"lblSelection"_s);
     selection_->setTextFormat(Qt::PlainText);
@@ -97,30 +99,28 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
         {ui_->mnuSave, ui_->Label2_5, u"save"_s, of(&BigEditor::Save)},
         {ui_->mnuSaveAs, nullptr, u"save-as"_s, of(&BigEditor::SaveAs)},
         {ui_->mnuFileVersion, ui_->Label2_7, u"version"_s, of(&BigEditor::FileVersion)},
-        {ui_->mnuExit, nullptr, u"exit"_s, [this] { close(); }},
         {ui_->mnuModify, nullptr, u"modify"_s, [this] { Later([this] { editor_.Modify(); }); }},
         {ui_->mnuExtract, ui_->Label2_0, u"extract"_s, of(&BigEditor::Extract)},
         {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
-        {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, of(&BigEditor::Delete)},
+        {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, [this] { Delete(); }},
         {ui_->mnuNewFolder, ui_->Label2_6, u"new-folder"_s, of(&BigEditor::NewFolder)},
         {ui_->mnuLvView_0, nullptr, {}, [this] { ChooseView(ViewMode::LargeIcons); }},
         {ui_->mnuLvView_1, nullptr, {}, [this] { ChooseView(ViewMode::Details); }},
         {ui_->mnuLvView_2, nullptr, {}, [this] { ChooseView(ViewMode::SmallIcons); }},
         {ui_->mnuLvView_3, nullptr, {}, [this] { ChooseView(ViewMode::List); }},
-        {ui_->mnuOptions, nullptr, u"options"_s, [this] { ShowOptions(); }},
-        {ui_->mnuCheckForUpdates, nullptr, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }},
-        {ui_->mnuAbout, nullptr, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }},
     };
 }
 
 void frmBigEditor::ConnectTree() {
     connect(ui_->tvDirs->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& node) {
-        if (!following_)
-            editor_.ClickNode(FolderTreeModel::NodeOf(node));
+        if (following_)
+            return;
+        pressedNode_ = FolderTreeModel::NodeOf(node);
+        editor_.ClickNode(pressedNode_);
     });
-    // A click on the node that is selected already brings the tree back into play.
+    // A click on the node that is selected already brings the tree back into play and shows the folder anew.
     connect(ui_->tvDirs, &QTreeView::clicked, this, [this](const QModelIndex& node) {
-        if (editor_.State().FocusPane != FocusedPane::Tree)
+        if (pressedNode_ != FolderTreeModel::NodeOf(node))
             editor_.ClickNode(FolderTreeModel::NodeOf(node));
     });
     connect(ui_->tvDirs, &QWidget::customContextMenuRequested, this, [this](QPoint place) {
@@ -131,14 +131,20 @@ void frmBigEditor::ConnectTree() {
         ui_->mnuEdit->popup(ui_->tvDirs->viewport()->mapToGlobal(place));
     });
     // The edit ends first: a rename makes the tree anew.
-    const auto rename = [this](int node, const QString& text) { editor_.RenameNode(node, text); };
-    connect(treeModel_, &FolderTreeModel::RenameWanted, this, rename, Qt::QueuedConnection);
+    connect(treeModel_, &FolderTreeModel::RenameWanted, this, [this](int node, const QString& text) {
+        renames_.push_back({node, text});
+    });
+    connect(treeModel_, &FolderTreeModel::RenameWanted, this, &frmBigEditor::RenameNodes, Qt::QueuedConnection);
     ui_->tvDirs->installEventFilter(this);
+    ui_->tvDirs->viewport()->installEventFilter(this);
 }
 
 void frmBigEditor::ConnectList() {
     FileListView* const list = ui_->lvFiles;
-    connect(list, &FileListView::RowClicked, this, [this](int place) { editor_.ClickRow(place); });
+    connect(list, &FileListView::RowClicked, this, [this](int place) {
+        editor_.EnterList();
+        editor_.ClickRow(place);
+    });
     connect(list, &FileListView::RowActivated, this,
             [this](int place) { Later([this, place] { editor_.ActivateRow(place); }); });
     connect(list, &FileListView::Entered, this, [this] { editor_.EnterList(); });
@@ -176,18 +182,32 @@ void frmBigEditor::DragOut() {
               .Ended = [this] { editor_.DragEnded(); }});
 }
 
+// The list may have the keyboard without having been clicked since the archive was opened.
+void frmBigEditor::Delete() {
+    if (ui_->lvFiles->Current()->hasFocus())
+        editor_.EnterList();
+    editor_.Delete();
+}
+
+void frmBigEditor::RenameNodes() {
+    for (const auto& [node, text] : std::exchange(renames_, {}))
+        editor_.RenameNode(node, text);
+}
+
 void frmBigEditor::TellSelection() {
     selection_->setText(editor_.SelectionText());
 }
 
 bool frmBigEditor::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ui_->tvDirs->viewport() && event->type() == QEvent::MouseButtonPress)
+        pressedNode_ = FolderTree::None;
     if (watched == ui_->tvDirs && event->type() == QEvent::FocusIn) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
         // Coming with the Tab key is a click on the selected node: the commands act on what has the focus.
         if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
             editor_.ClickNode(editor_.State().SelectedNode);
     }
-    return QMainWindow::eventFilter(watched, event);
+    return ToolWindow::eventFilter(watched, event);
 }
 
 // While an entry is open in another program this window may be closed, and what called must not return into it: a
@@ -196,25 +216,14 @@ void frmBigEditor::Later(const std::function<void()>& command) {
     QTimer::singleShot(0, this, command);
 }
 
-void frmBigEditor::ShowOptions() {
-    Navigator::Current().ShowOptions(this);
-    if (mMain::RestartRequested)
-        Processes::End(0);
-}
-
 void frmBigEditor::ChooseView(ViewMode mode) {
+    CommitEdit();
     ui_->lvFiles->SetMode(mode);
     BigEditor::SetView(mode);
 }
 
-void frmBigEditor::closeEvent(QCloseEvent* event) {
-    if (!editor_.MayClose()) {
-        event->ignore();
-        return;
-    }
-    event->accept();
-    if (isVisible() && !mMain::CommandLine.contains(u"/tbig"_s))
-        Navigator::Current().ShowToolsMenu();
+bool frmBigEditor::MenuFollows() const {
+    return !mMain::CommandLine.contains(u"/tbig"_s);
 }
 
 void frmBigEditor::ShowWindow() {
@@ -264,14 +273,10 @@ void frmBigEditor::SelectNode() {
 }
 
 void frmBigEditor::ShowVersion() {
-    frmVersion(this).exec();
-}
-
-void frmBigEditor::ShowBusy(bool busy) {
-    if (busy)
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
-        QApplication::restoreOverrideCursor();
+    frmVersion chooser(this);
+    chooser.SetExactOffsets(editor_.State().ExactOffsets);
+    if (chooser.exec() == QDialog::Accepted)
+        editor_.SetExactOffsets(chooser.ExactOffsets());
 }
 
 std::vector<int> frmBigEditor::SelectedRows() const {
@@ -283,6 +288,20 @@ void frmBigEditor::EditNode(int node) {
     ui_->tvDirs->setFocus();
     ui_->tvDirs->scrollTo(index);
     ui_->tvDirs->edit(index);
+}
+
+void frmBigEditor::CommitEdit() {
+    for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(ui_->tvDirs), ui_->lvFiles->Current()}) {
+        const QPointer<QLineEdit> field = view->viewport()->findChild<QLineEdit*>();
+        if (field == nullptr)
+            continue;
+        QMetaObject::invokeMethod(view, "commitData", Q_ARG(QWidget*, field.data()));
+        RenameNodes();
+        // A field that loses the focus closes.
+        if (field != nullptr && field->hasFocus())
+            view->setFocus();
+    }
+    RenameNodes();
 }
 
 ExtractionTarget frmBigEditor::AskForFolder() {

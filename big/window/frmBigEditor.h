@@ -5,15 +5,14 @@
 #pragma once
 
 #include "big/document/BigEditor.h"
-#include "media/PictureProcess.h"
-#include "media/SoundPlayer.h"
+#include "media/ChildDecoder.h"
+#include "media/FilePlayer.h"
 
-#include "ui/window/ToolCommands.h"
-
-#include <QMainWindow>
+#include "ui/window/ToolWindow.h"
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class FileListModel;
@@ -24,7 +23,7 @@ namespace Ui {
 class frmBigEditor;
 }
 
-class frmBigEditor : public QMainWindow, private EditorView {
+class frmBigEditor : public ToolWindow, private EditorView {
     Q_OBJECT
 public:
     explicit frmBigEditor(QWidget* parent = nullptr);
@@ -39,18 +38,25 @@ public:
     void ExtractBigFile(const QString& path);
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool MayClose() override { return editor_.MayClose(); }
+
+    [[nodiscard]] bool MenuFollows() const override;
     void ShowWindow() override;
     void TreeChanged() override;
     void ListChanged() override;
     void StateChanged() override;
     void ShowVersion() override;
-    void ShowBusy(bool busy) override;
+
+    void ShowBusy(bool busy) override { SetBusy(busy); }
+
+    void ShowNotice(const Notice& notice) override { SetNotice(notice); }
+
     [[nodiscard]] std::vector<int> SelectedRows() const override;
     void EditNode(int node) override;
+    void CommitEdit() override;
     ExtractionTarget AskForFolder() override;
     void EnableWindow(bool enabled) override;
     [[nodiscard]] quintptr Handle() const override;
@@ -61,19 +67,22 @@ private:
     void ConnectList();
     void ShowMenu(int place, QPoint globalPlace);
     void DragOut();
+    void Delete();
+    void RenameNodes();
     void TellSelection();
     void Later(const std::function<void()>& command);
-    void ShowOptions();
     void SelectNode();
     void ChooseView(ViewMode mode);
 
-    PictureProcess decoder_;
+    ChildDecoder decoder_;
     FilePlayer player_;
     std::unique_ptr<Ui::frmBigEditor> ui_;
     BigEditor editor_;
     FolderTreeModel* treeModel_;
     FileListModel* listModel_;
-    QLabel* status_;         ///< the status bar's text
-    QLabel* selection_;      ///< how many rows there are and are selected
-    bool following_ = false; ///< the views follow the document, not the other way round
+    QLabel* status_;                               ///< the status bar's text
+    QLabel* selection_;                            ///< how many rows there are and are selected
+    std::vector<std::pair<int, QString>> renames_; ///< nodes and their new texts, as soon as their edit has ended
+    int pressedNode_ = 0;                          ///< what the mouse button that is down has selected
+    bool following_ = false;                       ///< the views follow the document, not the other way round
 };

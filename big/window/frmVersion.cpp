@@ -45,6 +45,14 @@ frmVersion::frmVersion(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
 
 frmVersion::~frmVersion() = default;
 
+void frmVersion::SetExactOffsets(bool exact) {
+    ui_->ckExactOffsets->setChecked(exact);
+}
+
+bool frmVersion::ExactOffsets() const {
+    return ui_->ckExactOffsets->isChecked();
+}
+
 void frmVersion::Store() {
     const int row = ui_->cbVersion->currentIndex();
     const bool translated = !ui_->optNo->isChecked();

@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QWindow>
 
 #include <algorithm>
@@ -93,24 +94,14 @@ void frmToolsMenu::PlaceTexts() {
 }
 
 void frmToolsMenu::EntryClicked(int index) {
-    Navigator& navigator = Navigator::Current();
-
-    struct Opened {
-        Navigator::Tool Tool;
-        void (Navigator::*Show)();
-    };
-
-    static constexpr std::array<Opened, 3> tools{{{Navigator::Tool::BigEditor, &Navigator::ShowBigEditor},
-                                                  {Navigator::Tool::CSFEditor, &Navigator::ShowCSFEditor},
-                                                  {Navigator::Tool::PersonalFiles, &Navigator::ShowPersonalFiles}}};
+    static constexpr std::array<bool (Navigator::*)(), 3> tools{&Navigator::ShowBigEditor, &Navigator::ShowCSFEditor,
+                                                                &Navigator::ShowPersonalFiles};
     if (index == 3)
         ShowOptions();
     else if (index == 4)
         EndProgram();
-    else if (const Opened& tool = tools.at(static_cast<std::size_t>(index)); navigator.IsBuilt(tool.Tool)) {
-        (navigator.*tool.Show)();
+    else if ((Navigator::Current().*tools.at(static_cast<std::size_t>(index)))())
         close();
-    }
 }
 
 void frmToolsMenu::ShowOptions() {
@@ -119,10 +110,17 @@ void frmToolsMenu::ShowOptions() {
         Processes::End(0);
 }
 
+// This window goes last: it stays where a tool keeps its document, and no tool that closes brings up another menu.
 void frmToolsMenu::EndProgram() {
+    bool refused = false;
+    const QWidgetList loaded = QApplication::topLevelWidgets();
+    for (const QPointer<QWidget>& window : QList<QPointer<QWidget>>(loaded.begin(), loaded.end())) {
+        if (window != nullptr && window != this && window->isVisible())
+            Ignoring([&] { refused = !window->close() || refused; });
+    }
+    if (refused)
+        return;
     close();
-    for (QWidget* window : QApplication::topLevelWidgets())
-        Ignoring([&] { window->close(); });
     QApplication::quit();
 }
 

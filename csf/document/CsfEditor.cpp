@@ -7,11 +7,10 @@
 #include "core/Sizes.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
+#include "csf/format/mCSF.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-
-#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
@@ -24,8 +23,6 @@ QString ForBox(QString value) {
 
 } // namespace
 
-bool CsfEditor::reading_ = false;
-
 CsfEditor::CsfEditor(CsfEditorView& view) : view_(view) {
     state_.Path = GetText(u"New"_s) + u"CSF.csf"_s;
     state_.FindText = GetText(u"Find"_s);
@@ -37,28 +34,24 @@ QStringList CsfEditor::Languages() {
 }
 
 bool CsfEditor::Locked() const {
-    if (reading_)
+    if (mCSF::IsLocked())
         Host::Current().Beep();
-    return reading_;
+    return mCSF::IsLocked();
 }
 
 void CsfEditor::OpenCSFFile(const QString& path) {
     if (!Files::FileExists(path) || Locked())
         return;
-    qint32 language = mCSF::Refused;
-    {
-        const QScopedValueRollback lock(reading_, true);
-        language = mCSF::ReadCSF(path);
-    }
-    if (language != mCSF::Refused)
+    if (const qint32 language = mCSF::ReadCSF(path); language != mCSF::Refused)
         Load(path, language);
 }
 
 void CsfEditor::Load(const QString& path, qint32 language) {
-    // Meant so: a number beyond the list leaves the list as it was.
+    // A number beyond the list leaves the list as it was. This is meant.
     if (language < Languages().size())
         state_.LanguageShown = language;
     state_.LanguageText = QString::number(language);
+    saves_ = {};
     state_.Path = path;
     state_.Caption = Paths::LastPart(path);
     state_.FrameVisible = true;
@@ -144,7 +137,7 @@ void CsfEditor::Delete() {
     list_.Remove(place);
     state_.SelectedRow = CsfEditorState::None;
     view_.ListChanged(LabelChange::Remove, place);
-    // Meant so: behind the last row there is none to select, and the program ends.
+    // Behind the last row there is none to select, and the program ends. This is meant.
     if (!list_.Has(place))
         throw RuntimeError(ErrorNumber::Subscript, u"no row follows the one that was deleted"_s);
     state_.Modified = true;
@@ -174,7 +167,7 @@ void CsfEditor::FindLeft() {
 
 void CsfEditor::FindNext() {
     const int next = state_.SelectedRow + 1;
-    // Meant so: only the last row starts at the top again; what is not found behind the selection is not found.
+    // Only the last row starts at the top again; what is not found behind the selection is not found. This is meant.
     const int found = list_.Find(state_.FindText, next < list_.Count() ? next : 0);
     if (found >= 0)
         SelectAndClick(found, true);

@@ -7,6 +7,7 @@
 
 #include "core/Document.h"
 #include "csf/document/LabelList.h"
+#include "csf/format/CsfSave.h"
 
 #include <QString>
 #include <QStringList>
@@ -111,13 +112,14 @@ public:
     [[nodiscard]] static bool MenuFollows();
 
 private:
-    /// True, with a beep, while a read is under way: it yields to the event loop, and table and file are its own.
+    /// True, with a beep, while any window reads a table: the open one is taken.
     [[nodiscard]] bool Locked() const;
     bool GoOnWithoutChanges(const QString& name);
     void Load(const QString& path, qint32 language);
     Document::Saved SaveToFileOrName();
     Document::Saved SaveUnderName();
     Document::Saved Write();
+    void TellFailedSave() const;
     void SelectAndClick(int place, bool focus);
     void ShowBoxes(bool enabled, const QString& name, const QString& value);
 
@@ -125,5 +127,5 @@ private:
     CsfEditorState state_;
     LabelList list_;
     std::vector<int> newPlaces_;
-    static bool reading_; ///< in any window: table and file are one for all
+    CsfSaves saves_; ///< of the document that is open
 };

@@ -4,6 +4,7 @@
 #include "core/Host.h"
 #include "core/mTraduction.h"
 #include "csf/document/CsfEditor.h"
+#include "csf/format/mCSF.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -44,6 +45,7 @@ void CsfEditor::New() {
     list_.Clear();
     state_.SelectedRow = CsfEditorState::None;
     view_.ListChanged(LabelChange::Reset, 0);
+    saves_ = {};
     state_.Path = NewName();
     state_.Caption = state_.Path;
     state_.FrameVisible = true;
@@ -89,14 +91,25 @@ Saved CsfEditor::SaveUnderName() {
 }
 
 Saved CsfEditor::Write() {
-    const Busy busy(view_);
-    mCSF::CsfStrings = list_.Table();
-    // What was not written whole says nothing, but it stays a change: the old file stands aside as ".sav".
-    const bool written = mCSF::WriteCSF(state_.Path, static_cast<qint16>(state_.LanguageText.toInt()));
-    Ignoring([&] {
-        state_.SizeText = QString::number(Files::FileLength(state_.Path) / 1024) + u' ' + GetText(u"KiloBytes"_s);
-    });
-    state_.Modified = !written;
-    view_.StateChanged();
+    bool written = false;
+    {
+        const Busy busy(view_);
+        mCSF::CsfStrings = list_.Table();
+        written = mCSF::WriteCSF(state_.Path, static_cast<qint16>(state_.LanguageText.toInt()), &saves_);
+        Ignoring([&] {
+            state_.SizeText = QString::number(Files::FileLength(state_.Path) / 1024) + u' ' + GetText(u"KiloBytes"_s);
+        });
+        state_.Modified = !written;
+        view_.StateChanged();
+    }
+    if (!written)
+        TellFailedSave();
     return written ? Saved::Yes : Saved::Failed;
+}
+
+void CsfEditor::TellFailedSave() const {
+    QString text = GetText(u"SaveFailed"_s) + u"\r\n"_s + saves_.Failure;
+    if (!saves_.Aside.isEmpty())
+        text += u"\r\n"_s + GetText(u"OldFileKept"_s).replace(u"%1"_s, Paths::ToNative(saves_.Aside));
+    Host::Current().Message(text, Host::Icon::Critical);
 }

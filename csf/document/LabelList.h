@@ -6,7 +6,7 @@
 
 #include "core/rows/RowOrder.h"
 #include "core/rows/RowSource.h"
-#include "csf/format/mCSF.h"
+#include "csf/format/CsfTable.h"
 
 #include <QString>
 

@@ -5,21 +5,12 @@
 /// was exported comes back the same: order, duplicate and empty names, every character, line breaks and language.
 #pragma once
 
-#include "csf/format/mCSF.h"
+#include "csf/format/CsfTable.h"
 
 #include <QByteArray>
 #include <QString>
 
 #include <optional>
-#include <vector>
-
-/// A table apart from the program's own.
-struct CsfTable {
-    int Language = 0;
-    std::vector<CsfString> Strings;
-
-    bool operator==(const CsfTable&) const = default;
-};
 
 namespace CsfExchange {
 

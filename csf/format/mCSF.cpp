@@ -3,17 +3,17 @@
 
 #include "csf/format/mCSF.h"
 
-#include "big/format/BaseConvert.h"
 #include "core/Host.h"
 #include "core/mTraduction.h"
-#include "platform/AnsiCodec.h"
+#include "csf/format/CsfRecords.h"
+#include "csf/format/CsfWriting.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
+#include "platform/Processes.h"
 #include "platform/RuntimeError.h"
 
-#include <QtEndian>
+#include <QScopedValueRollback>
 
-#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -22,116 +22,49 @@ using NumberedFiles::Access;
 namespace {
 
 constexpr std::size_t ReadingSize = 65537;
-constexpr qsizetype LanguageOffset = 20;
-constexpr qsizetype FirstRecord = 24;
 
-/// The bytes of the file; reading beyond their end raises.
-class FileBytes {
+bool locked = false;
+
+/// The table's file under its number.
+class NumberedTarget : public CsfSave::Target {
 public:
-    explicit FileBytes(QByteArray bytes) : bytes_(std::move(bytes)) {}
-
-    [[nodiscard]] qsizetype Length() const { return bytes_.size(); }
-
-    [[nodiscard]] QByteArrayView At(qsizetype offset, quint64 count) const {
-        if (offset > bytes_.size() || count > static_cast<quint64>(bytes_.size() - offset))
-            throw RuntimeError(ErrorNumber::Subscript, u"the file ends too early"_s);
-        return QByteArrayView(bytes_).sliced(offset, static_cast<qsizetype>(count));
+    File& Open(const QString& path) override {
+        NumberedFiles::Open(mCSF::FileNumber, path, Access::ReadWrite);
+        return NumberedFiles::Of(mCSF::FileNumber);
     }
 
-    [[nodiscard]] quint32 Number(qsizetype offset) const {
-        return qFromLittleEndian<quint32>(At(offset, sizeof(quint32)).data());
-    }
-
-    /// Any mix of upper and lower case.
-    [[nodiscard]] bool HasMark(qsizetype offset, QByteArrayView lowerCase) const {
-        const QByteArrayView mark = At(offset, static_cast<quint64>(lowerCase.size()));
-        return std::ranges::equal(mark, lowerCase, {}, [](char letter) {
-            return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-        });
-    }
-
-private:
-    QByteArray bytes_;
+    void Close() override { NumberedFiles::Close(mCSF::FileNumber); }
 };
 
-/// Walks the records by their marks; the counts in the header are not asked.
-class Reader {
-public:
-    explicit Reader(const FileBytes& file) : file_(file) {}
-
-    /// Returns how many entries were stored.
-    std::size_t Read() {
-        do {
-            Round();
-            Host::Current().Yield();
-        } while (file_.Length() > position_);
-        return index_;
-    }
-
-private:
-    void Round() {
-        if (file_.HasMark(position_, " lbl"))
-            Label();
-        else if (file_.HasMark(position_, " rts"))
-            String();
-        else
-            position_ += 3; // Meant so: unknown data is passed in steps of three, over whatever lies between.
-    }
-
-    void Label() {
-        const quint32 length = file_.Number(position_ + 8);
-        name_ = AnsiCodec::Decode(file_.At(position_ + 12, length));
-        position_ += 12 + static_cast<qsizetype>(length);
-    }
-
-    void String() {
-        const quint32 length = file_.Number(position_ + 4);
-        const QByteArrayView units = file_.At(position_ + 8, quint64{2} * length);
-        low_.resize(static_cast<qsizetype>(length));
-        char* low = low_.data();
-        const char* unit = units.data();
-        for (quint32 i = 0; i < length; ++i) // Meant so: the high byte is never looked at.
-            low[i] = static_cast<char>(~unit[std::size_t{2} * i]);
-        position_ += 8 + units.size();
-        Store();
-    }
-
-    void Store() {
-        if (index_ >= mCSF::CsfStrings.size()) // the table was replaced while the event loop ran
-            throw RuntimeError(ErrorNumber::Subscript, u"the table is not that of this file"_s);
-        mCSF::CsfStrings[index_] = {AnsiCodec::Decode(low_), name_};
-        if (counter_ == std::numeric_limits<qint16>::max())
-            throw RuntimeError(ErrorNumber::Overflow, u"more than 32,767 strings"_s);
-        ++counter_;
-        ++index_;
-    }
-
-    const FileBytes& file_;
-    qsizetype position_ = FirstRecord;
-    QString name_;
-    QByteArray low_;
-    std::size_t index_ = 0;
-    qint16 counter_ = 0;
-};
-
-FileBytes WholeFile(const QString& path) {
+QByteArray WholeFile(const QString& path) {
     const qint64 length = Files::FileLength(path);
     if (length == 0)
         throw RuntimeError(ErrorNumber::Subscript, u"the file is empty"_s);
     mCSF::CsfStrings.clear();
     mCSF::CsfStrings.resize(ReadingSize);
     NumberedFiles::Open(mCSF::FileNumber, path, Access::Read);
-    return FileBytes(NumberedFiles::Read(mCSF::FileNumber, 0, length));
+    return NumberedFiles::Read(mCSF::FileNumber, 0, length);
 }
 
-qint32 ReadOpened(const FileBytes& file) {
-    if (!file.HasMark(0, " fsc"))
-        throw RuntimeError(ErrorNumber::TypeMismatch, u"not a CSF file"_s);
-    static_cast<void>(file.Number(8)); // read and dropped: the file has to be that long
-    const std::size_t count = Reader(file).Read();
-    const int byte = static_cast<unsigned char>(file.At(LanguageOffset, 1).front());
-    // Meant so: the number's decimal text is read as a hexadecimal one.
-    const qint32 language = mBIG::BaseConvert(QString::number(byte), 16, 0).toInt();
+/// Stores the entries; returns how many there were.
+std::size_t Store(CsfRecords& records) {
+    std::size_t count = 0;
+    do {
+        if (auto entry = records.Next()) {
+            if (count >= mCSF::CsfStrings.size()) // the table was replaced while the event loop ran
+                throw RuntimeError(ErrorNumber::Subscript, u"the table is not that of this file"_s);
+            mCSF::CsfStrings[count] = *std::move(entry);
+            CsfRecords::CheckCount(++count);
+        }
+        Host::Current().Yield();
+    } while (!records.AtEnd());
+    return count;
+}
+
+qint32 ReadOpened(const QByteArray& file) {
+    CsfRecords records(file);
+    const std::size_t count = Store(records);
+    const qint32 language = records.Language();
     NumberedFiles::Close(mCSF::FileNumber);
     if (count == 0)
         throw RuntimeError(ErrorNumber::Subscript, u"no strings"_s);
@@ -139,13 +72,8 @@ qint32 ReadOpened(const FileBytes& file) {
     return language;
 }
 
-} // namespace
-
-namespace mCSF {
-
-std::vector<CsfString> CsfStrings;
-
-qint32 ReadTable(const QString& path) {
+qint32 ReadUnderLock(const QString& path) {
+    const QScopedValueRollback lock(locked, true);
     try {
         return ReadOpened(WholeFile(path));
     } catch (...) {
@@ -154,12 +82,61 @@ qint32 ReadTable(const QString& path) {
     }
 }
 
+/// How many entries are written: the upper bound is a 16-bit number, and one that does not fit stays 0. This is meant.
+std::size_t WrittenCount() {
+    constexpr auto highest = std::size_t{std::numeric_limits<qint16>::max()};
+    return mCSF::CsfStrings.size() > highest + 1 ? 1 : mCSF::CsfStrings.size();
+}
+
+void Save(const QString& path, qint16 language, CsfSaves& saves) {
+    const QByteArray field = CsfWriting::LanguageField(language);
+    saves.Aside.clear();
+    saves.Failure = locked ? u"the table is being read"_s : CsfSave::RefusalOf(path);
+    if (!saves.Failure.isEmpty())
+        return;
+    NumberedTarget target;
+    CsfSave::Write(path, mCSF::CsfStrings, WrittenCount(), field, target, saves);
+}
+
+/// The language of this message does not follow the user's. This is meant.
+QString FatalText(const RuntimeError& error) {
+    return u"Une erreur s'est produite, l'application va se terminer. Veuillez signaler cette erreur au concepteur du "
+           u"programme\r\n\r\nDétails :\r\nErreur n° "_s +
+           QString::number(error.Number()) + u" : "_s + error.Description() + u", source : Brindock"_s;
+}
+
+} // namespace
+
+namespace mCSF {
+
+std::vector<CsfString> CsfStrings;
+std::function<void()> EndProgram = [] { Processes::End(1); };
+
+bool IsLocked() {
+    return locked;
+}
+
 qint32 ReadCSF(const QString& path) {
     try {
-        return ReadTable(path);
+        if (locked)
+            throw RuntimeError(ErrorNumber::FileAlreadyOpen, u"another table is being read"_s);
+        return ReadUnderLock(path);
     } catch (const std::exception&) { // no room for the file, besides what the reader refuses
         Host::Current().Message(mTraduction::GetText(u"CSFError"_s), Host::Icon::Critical);
         return Refused;
+    }
+}
+
+bool WriteCSF(const QString& path, qint16 language, CsfSaves* saves) {
+    CsfSaves own;
+    CsfSaves& told = saves == nullptr ? own : *saves;
+    try {
+        Save(path, language, told);
+        return told.Failure.isEmpty();
+    } catch (const RuntimeError& error) {
+        Host::Current().Message(FatalText(error), Host::Icon::Critical, Host::Buttons::Ok, {});
+        EndProgram();
+        return false;
     }
 }
 

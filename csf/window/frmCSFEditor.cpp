@@ -3,19 +3,14 @@
 
 #include "csf/window/frmCSFEditor.h"
 
-#include "core/Navigator.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "csf/window/ValueText.h"
-#include "platform/Processes.h"
 #include "ui/list/RowListModel.h"
 #include "ui/text/Localisation.h"
-#include "ui/text/Mnemonics.h"
 #include "ui/window/SideMenu.h"
 #include "ui_frmCSFEditor.h"
 
-#include <QApplication>
-#include <QCloseEvent>
 #include <QItemSelection>
 #include <QKeyEvent>
 #include <QLabel>
@@ -30,7 +25,7 @@ constexpr QColor promptColour{0x80, 0x80, 0x80};
 } // namespace
 
 frmCSFEditor::frmCSFEditor(QWidget* parent)
-    : QMainWindow(parent),
+    : ToolWindow(parent),
       ui_(std::make_unique<Ui::frmCSFEditor>()),
       editor_(*this),
       model_(new RowListModel(editor_.List(), this)),
@@ -39,8 +34,12 @@ frmCSFEditor::frmCSFEditor(QWidget* parent)
     mTraduction::ApplyLanguage(this);
     ui_->lvStrings2->SetRows(model_,
                              [this](int column) { editor_.ClickHeader(static_cast<LabelList::Column>(column)); });
+    Equip({.Exit = ui_->mnuExit,
+           .Options = ui_->mnuOptions,
+           .CheckForUpdates = ui_->mnuCheckForUpdates,
+           .About = ui_->mnuAbout},
+          Commands());
     Dress();
-    ConnectCommands(this, Commands());
     ConnectControls();
     StateChanged();
 }
@@ -55,7 +54,6 @@ void frmCSFEditor::OpenCSFFile(const QString& path) {
 }
 
 void frmCSFEditor::Dress() {
-    Mnemonics::AddTo(*ui_->menuBar);
     ui_->cmbLanguage->addItems(CsfEditor::Languages());
     ui_->cmbLanguage->setCurrentIndex(-1);
     ui_->lvStrings2->setAccessibleName(mTraduction::GetText(u"CSFFile"_s));
@@ -63,7 +61,6 @@ void frmCSFEditor::Dress() {
     ui_->txtName->setMaxLength(std::numeric_limits<int>::max());
     count_->setContentsMargins(6, 0, 0, 0);
     ui_->StatusBar1->addWidget(count_, 1);
-    ui_->mnuExit->setShortcuts({ui_->mnuExit->shortcut(), QKeySequence(u"Alt+F4"_s)});
     // In the boxes these keys edit text.
     for (QAction* action : {ui_->mnuAdd, ui_->mnuDelete}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
@@ -80,13 +77,9 @@ std::vector<ToolCommand> frmCSFEditor::Commands() {
         {ui_->mnuOpen, ui_->Label2_3, u"open"_s, of(&CsfEditor::Open)},
         {ui_->mnuSave, ui_->Label2_4, u"save"_s, of(&CsfEditor::Save)},
         {ui_->mnuSaveAs, nullptr, u"save-as"_s, of(&CsfEditor::SaveAs)},
-        {ui_->mnuExit, nullptr, u"exit"_s, [this] { close(); }},
         {ui_->mnuAdd, ui_->Label2_0, u"add"_s, of(&CsfEditor::Add)},
         {ui_->mnuDelete, ui_->Label2_1, u"delete"_s, of(&CsfEditor::Delete)},
         {ui_->mnuFind, nullptr, u"find"_s, [this] { ShowFind(); }},
-        {ui_->mnuOptions, nullptr, u"options"_s, [this] { ShowOptions(); }},
-        {ui_->mnuCheckForUpdates, nullptr, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }},
-        {ui_->mnuAbout, nullptr, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }},
     };
 }
 
@@ -122,7 +115,7 @@ bool frmCSFEditor::eventFilter(QObject* watched, QEvent* event) {
         editor_.FindNextByKey();
         return true;
     }
-    return QMainWindow::eventFilter(watched, event);
+    return ToolWindow::eventFilter(watched, event);
 }
 
 // True for what the search box is not to see.
@@ -145,20 +138,8 @@ void frmCSFEditor::ShowFind() {
     ui_->txtFind->selectAll();
 }
 
-void frmCSFEditor::ShowOptions() {
-    Navigator::Current().ShowOptions(this);
-    if (mMain::RestartRequested)
-        Processes::End(0);
-}
-
-void frmCSFEditor::closeEvent(QCloseEvent* event) {
-    if (!editor_.MayClose()) {
-        event->ignore();
-        return;
-    }
-    event->accept();
-    if (isVisible() && CsfEditor::MenuFollows())
-        Navigator::Current().ShowToolsMenu();
+bool frmCSFEditor::MenuFollows() const {
+    return CsfEditor::MenuFollows();
 }
 
 void frmCSFEditor::ShowWindow() {
@@ -217,12 +198,4 @@ void frmCSFEditor::StateChanged() {
     const QString tool = u"CSF Editor"_s;
     setWindowTitle(state.FrameVisible ? state.Caption + u"[*] - "_s + tool : tool);
     setWindowModified(state.Modified);
-}
-
-// No event reaches the list meanwhile. Were it disabled, the keyboard's focus would leave it for good.
-void frmCSFEditor::ShowBusy(bool busy) {
-    if (busy)
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
-        QApplication::restoreOverrideCursor();
 }

@@ -6,9 +6,7 @@
 
 #include "csf/document/CsfEditor.h"
 
-#include "ui/window/ToolCommands.h"
-
-#include <QMainWindow>
+#include "ui/window/ToolWindow.h"
 
 #include <memory>
 #include <vector>
@@ -20,7 +18,7 @@ namespace Ui {
 class frmCSFEditor;
 }
 
-class frmCSFEditor : public QMainWindow, private CsfEditorView {
+class frmCSFEditor : public ToolWindow, private CsfEditorView {
     Q_OBJECT
 public:
     explicit frmCSFEditor(QWidget* parent = nullptr);
@@ -30,10 +28,12 @@ public:
     void OpenCSFFile(const QString& path);
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool MayClose() override { return editor_.MayClose(); }
+
+    [[nodiscard]] bool MenuFollows() const override;
     void ShowWindow() override;
     void ListChanging(LabelChange change, int place) override;
     void ListChanged(LabelChange change, int place) override;
@@ -42,14 +42,16 @@ private:
     void ScrollToRow(int place) override;
     void BoxesChanged() override;
     void StateChanged() override;
-    void ShowBusy(bool busy) override;
+
+    void ShowBusy(bool busy) override { SetBusy(busy); }
+
+    void ShowNotice(const Notice& notice) override { SetNotice(notice); }
 
     void Dress();
     std::vector<ToolCommand> Commands();
     void ConnectControls();
     bool FindEvent(QEvent& event);
     void ShowFind();
-    void ShowOptions();
 
     std::unique_ptr<Ui::frmCSFEditor> ui_;
     CsfEditor editor_;

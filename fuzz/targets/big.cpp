@@ -1,22 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// The reader of BIG archives, what the editor and the extraction make of its names, and the writer.
+/// The reader of BIG archives, what the editor makes of its names, and the writer: values and memory, no disk.
 #include "fuzz/Fuzzing.h"
 
 #include "big/document/FileList.h"
 #include "big/document/FolderTree.h"
+#include "big/format/Archive.h"
 #include "big/format/Verification.h"
-#include "big/format/mBIG.h"
 #include "core/FolderGateway.h"
-#include "core/mMain.h"
-#include "platform/Files.h"
+#include "platform/Device.h"
 #include "platform/RuntimeError.h"
-#include "tests/support/ScriptedHost.h"
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
+using Archives::Placement;
 using Fuzzing::Expect;
 
 namespace {
@@ -29,34 +29,25 @@ constexpr qint64 Affordable = 65536;
 
 using Rows = std::vector<std::pair<QString, qint32>>;
 
-Rows NamesAndSizes() {
+Rows NamesAndSizes(const Archive& archive) {
     Rows rows;
-    for (const BigEntry& entry : mBIG::BigEntries)
+    for (const BigEntry& entry : archive.Entries)
         rows.emplace_back(entry.Name, entry.Size);
     return rows;
 }
 
-void ExpectWholeTree() {
+void ExpectWholeTree(const Archive& archive) {
     FolderTree tree;
-    tree.CreateDirs(u"a.big"_s, mBIG::BigEntries);
+    tree.CreateDirs(u"a.big"_s, archive.Entries);
     FileList list;
     for (int node = FolderTree::Root; node <= tree.Count(); ++node) {
         Expect(tree.Node(node).Parent < node, "a folder comes behind the one that it is in");
-        list.ShowFolder(tree, node, tree.Node(node).Key, mBIG::BigEntries, {});
+        list.ShowFolder(tree, node, tree.Node(node).Key, archive.Entries, {});
     }
 }
 
-void ExpectExtracted(const QString& path) {
-    const auto first = std::ranges::find_if(mBIG::BigEntries, [](const BigEntry& entry) { return entry.Size > 0; });
-    if (first == mBIG::BigEntries.end() || first->Size > Affordable)
-        return;
-    const QString target = Fuzzing::Write(u"entry"_s, "what stood there");
-    mBIG::ExtractEntry(static_cast<int>(first - mBIG::BigEntries.begin()), path, target);
-    Expect(Files::FileLength(target) >= first->Size, "a file that was extracted has all the entry's bytes");
-}
-
-void ExpectTameNames() {
-    for (const BigEntry& entry : mBIG::BigEntries) {
+void ExpectTameNames(const Archive& archive) {
+    for (const BigEntry& entry : archive.Entries) {
         const QStringList parts = QString(entry.Name).replace(u'/', u'\\').split(u'\\');
         Expect(!FolderGateway::RefusalOf(entry.Name).isEmpty() ||
                    (!parts.contains(u".."_s) && !entry.Name.contains(u':')),
@@ -64,32 +55,43 @@ void ExpectTameNames() {
     }
 }
 
-void ExpectSameAfterSave(const QString& path) {
+QByteArray BytesOf(const Archive& archive, int index, const Device& device) {
+    const BigEntry& entry = archive.Entries[static_cast<std::size_t>(index)];
+    return device.Read(entry.Offset, entry.Size).leftJustified(entry.Size, '\0');
+}
+
+void ExpectSameEntries(const Archive& first, const Device& firstBytes, const Archive& second,
+                       const Device& secondBytes) {
+    Expect(NamesAndSizes(first) == NamesAndSizes(second), "names and sizes come back as they were written");
+    for (int index = 0; index < static_cast<int>(first.Entries.size()); ++index)
+        Expect(BytesOf(first, index, firstBytes) == BytesOf(second, index, secondBytes),
+               "each entry comes back with its bytes");
+}
+
+void ExpectSameAfterSave(const Archive& archive, const Device& device) {
     qint64 total = 0;
-    for (const BigEntry& entry : mBIG::BigEntries)
+    for (const BigEntry& entry : archive.Entries)
         total += entry.Size;
-    if (total > Affordable || mBIG::HighestIndex() == 0)
+    if (total > Affordable)
         return;
-    const Rows rows = NamesAndSizes();
-    const QString copy = Fuzzing::PathOf(u"copy.big"_s);
-    mBIG::BigFileName = path;
-    Expect(mBIG::WriteBigFile(copy), "a table that was read can be written");
-    Expect(mBIG::ReadBigFile(copy), "an archive that was written can be read");
-    Expect(NamesAndSizes() == rows, "names and sizes come back as they were written");
+    for (const Placement placement : {Placement::Told, Placement::Exact}) {
+        MemoryDevice copy;
+        const OffsetShift::Shift shift = Archives::Write(archive, copy, &device, placement);
+        Expect(placement == Placement::Told || shift.IsNone(), "an exact save has no shift");
+        ExpectSameEntries(archive, device, ReadShiftedBack(Archives::Read(copy), shift), copy);
+    }
 }
 
 void Run(const QByteArray& bytes) {
-    ScriptedHost host;
-    mMain::ProgramFolder = Fuzzing::PathOf(u"program"_s);
-    mBIG::BigVersion = 0;
-    const QString path = Fuzzing::Write(u"a.big"_s, bytes);
-    if (!mBIG::ReadBigFile(path) || mBIG::BigEntries.size() > Few)
+    const MemoryDevice device(bytes);
+    std::optional<Archive> archive;
+    Ignoring([&] { archive = Archives::Read(device); });
+    if (!archive || archive->Entries.size() > Few)
         return;
-    ExpectWholeTree();
-    ExpectExtracted(path);
-    ExpectTameNames();
-    Ignoring([&] { Verification::Verify(path); });
-    ExpectSameAfterSave(path);
+    ExpectWholeTree(*archive);
+    ExpectTameNames(*archive);
+    Verification::Verify(*archive, device);
+    ExpectSameAfterSave(*archive, device);
 }
 
 const FuzzTarget target("big", Run);

@@ -27,11 +27,6 @@ struct Native {
 
     static Native AsGiven(const QString& path) { return {Paths::ToNativeAsGiven(path), 0}; }
 
-    /// A file of its own in the same folder.
-    [[nodiscard]] Native Beside(const QString& name) const {
-        return {Text.first(Text.lastIndexOf(u'/') + 1) + name, 0};
-    }
-
     [[noreturn]] void Raise(int error) const { RaiseErrno(error, Text); }
 
     [[nodiscard]] const char* Path() const { return Bytes.constData(); }
@@ -64,16 +59,27 @@ bool ParentExists(const QString& path) {
 /// A directory that is closed with its scope.
 class Listing {
 public:
-    explicit Listing(const Native& folder) : directory_(::opendir(folder.Path()), &::closedir) {
+    explicit Listing(const Native& folder) : name_(folder.Text), directory_(::opendir(folder.Path()), &::closedir) {
         if (!directory_)
-            throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(folder.Text));
+            Raise();
     }
 
-    const dirent* Next() { return ::readdir(directory_.get()); }
+    const dirent* Next() {
+        errno = 0; // the one way to tell an end from a failure
+        const dirent* entry = ::readdir(directory_.get());
+        if (entry == nullptr && errno != 0)
+            Raise();
+        return entry;
+    }
 
     [[nodiscard]] int Descriptor() const { return ::dirfd(directory_.get()); }
 
 private:
+    [[noreturn]] void Raise() const {
+        throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(name_));
+    }
+
+    QString name_;
     std::unique_ptr<DIR, int (*)(DIR*)> directory_;
 };
 
@@ -86,43 +92,6 @@ void MakeNative(const QString& native) {
     if (error == ENOENT)
         throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(native));
     RaiseErrno(error, native);
-}
-
-/// Opens a new file in the target's folder; `name` becomes its path.
-Descriptor OpenBeside(const Native& target, Native& name) {
-    static int counter = 0;
-    const QString pattern = QStringLiteral("~brindock-%1-copy-%2").arg(::getpid());
-    for (;;) {
-        name = target.Beside(pattern.arg(++counter));
-        Descriptor file(::open(name.Path(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-        if (file.Valid())
-            return file;
-        if (errno != EEXIST)
-            target.Raise(errno == ENOENT ? ENOTDIR : errno);
-    }
-}
-
-void CopyNative(const Native& source, const Native& target) {
-    const Descriptor reading(::open(source.Path(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-
-    struct stat status {};
-
-    if (!reading.Valid() || ::fstat(reading.Number(), &status) != 0)
-        source.Raise(errno);
-    if (!S_ISREG(status.st_mode))
-        source.Raise(EISDIR);
-    if (::access(target.Path(), F_OK) == 0 && ::access(target.Path(), W_OK) != 0)
-        target.Raise(EACCES);
-    Native aside = target;
-    Descriptor writing = OpenBeside(target, aside);
-    try {
-        TransferBytes(writing.Number(), 0, reading.Number(), 0, status.st_size, target.Text);
-        if (::rename(aside.Path(), target.Path()) != 0)
-            target.Raise(errno);
-    } catch (const RuntimeError&) {
-        ::unlink(aside.Path());
-        throw;
-    }
 }
 
 } // namespace
@@ -139,7 +108,8 @@ std::vector<FolderEntry> FolderEntries(const QString& folder) {
 
         const bool known = ::fstatat(listing.Descriptor(), name.constData(), &status, 0) == 0;
         const bool isFolder = known && S_ISDIR(status.st_mode);
-        entries.push_back({Paths::NameFromNative(Paths::DecodeNative(name)), isFolder ? 0 : status.st_size, isFolder});
+        entries.push_back({Paths::NameFromNative(Paths::DecodeNative(name)), isFolder ? 0 : status.st_size, isFolder,
+                           known && S_ISREG(status.st_mode)});
     }
     return entries;
 }
@@ -213,14 +183,6 @@ void DeleteForced(const QString& path) {
         native.Raise(errno);
 }
 
-void Copy(const QString& from, const QString& to) {
-    CopyNative(Native(from), Native(to));
-}
-
-void CopyAsGiven(const QString& from, const QString& to) {
-    CopyNative(Native(from), Native::AsGiven(to));
-}
-
 void Rename(const QString& from, const QString& to) {
     const Native source(from);
     const Native target(to);
@@ -248,6 +210,12 @@ void Replace(const QString& from, const QString& to) {
             throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(to));
         source.Raise(error);
     }
+}
+
+void FlushSystem(const QString& path) {
+    const Descriptor file(::open(Native(path).Path(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!file.Valid() || ::syncfs(file.Number()) != 0)
+        Native(path).Raise(errno);
 }
 
 QDateTime ModifiedTime(const QString& path) {

@@ -3,11 +3,10 @@
 
 #include "platform/INIRuntime.h"
 
-#include "platform/Paths.h"
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+#include "platform/WriteAside.h"
 #include "platform/posix/ProfileText.h"
-#include "platform/posix/WholeFile.h"
-
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -19,18 +18,19 @@ constexpr qsizetype LongestValue = 254;
 } // namespace
 
 QString INIRuntime::ReadINI(const QString& section, const QString& key, const QString& file) const {
-    const auto bytes = WholeFile::Read(Paths::EncodeNative(Paths::ToNative(file)));
-    return bytes ? ProfileText(*bytes).Read(section, key).left(LongestValue) : QString();
+    QByteArray bytes;
+    Ignoring([&] { bytes = ReadWhole(file); });
+    return ProfileText(bytes).Read(section, key).left(LongestValue);
 }
 
 QString INIRuntime::WriteINI(const QString& section, const QString& key, const QString& value,
                              const QString& file) const {
-    const QByteArray path = Paths::EncodeNative(Paths::ToNative(file));
-    const auto bytes = WholeFile::Read(path);
-    if (!bytes && ::access(path.constData(), F_OK) == 0)
-        return u"0"_s;
-    const QByteArray old = bytes.value_or(QByteArray());
-    const QByteArray changed = ProfileText(old).Write(section, key, value);
-    const bool done = (bytes && changed == old) || WholeFile::Replace(path, changed);
+    const bool done = Ignoring([&] {
+        const bool there = Files::FileExists(file);
+        const QByteArray old = there ? ReadWhole(file) : QByteArray();
+        const QByteArray changed = ProfileText(old).Write(section, key, value);
+        if (!there || changed != old)
+            WriteWhole(file, changed);
+    });
     return done ? u"1"_s : u"0"_s;
 }

@@ -18,15 +18,16 @@ constexpr qint64 BlockSize = qint64{256} * 1024;
 /// Below this a read and a write are cheaper than asking the kernel to copy.
 constexpr qint64 SmallCopy = qint64{64} * 1024;
 
-qint64 CopyThroughMemory(int to, qint64 toOffset, int from, qint64 fromOffset, qint64 count, const QString& name) {
+qint64 CopyThroughMemory(int to, qint64 toOffset, int from, qint64 fromOffset, qint64 count, const QString& targetName,
+                         const QString& sourceName) {
     thread_local std::vector<char> block(static_cast<std::size_t>(BlockSize));
     qint64 done = 0;
     while (done < count) {
-        const qint64 had =
-            ReadFully(from, fromOffset + done, block.data(), std::min(count - done, BlockSize), QString());
-        WriteFully(to, toOffset + done, block.data(), had, name);
+        const qint64 wanted = std::min(count - done, BlockSize);
+        const qint64 had = ReadFully(from, fromOffset + done, block.data(), wanted, sourceName);
+        WriteFully(to, toOffset + done, block.data(), had, targetName);
         done += had;
-        if (had < std::min(count - done + had, BlockSize))
+        if (had < wanted)
             break;
     }
     return done;
@@ -50,7 +51,8 @@ int Descriptor::Release() {
     return std::exchange(number_, -1);
 }
 
-qint64 TransferBytes(int to, qint64 toOffset, int from, qint64 fromOffset, qint64 count, const QString& targetName) {
+qint64 TransferBytes(int to, qint64 toOffset, int from, qint64 fromOffset, qint64 count, const QString& targetName,
+                     const QString& sourceName) {
     qint64 done = 0;
     while (count >= SmallCopy && done < count) {
         loff_t in = fromOffset + done;
@@ -65,7 +67,7 @@ qint64 TransferBytes(int to, qint64 toOffset, int from, qint64 fromOffset, qint6
         else if (errno != EINTR)
             break;
     }
-    return done + CopyThroughMemory(to, toOffset + done, from, fromOffset + done, count - done, targetName);
+    return done + CopyThroughMemory(to, toOffset + done, from, fromOffset + done, count - done, targetName, sourceName);
 }
 
 void WriteFully(int to, qint64 offset, const char* bytes, qint64 count, const QString& targetName) {

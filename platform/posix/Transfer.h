@@ -28,8 +28,9 @@ private:
 };
 
 /// Copies `count` bytes between two files at the offsets given, inside the kernel where it can. Returns how many there
-/// were: fewer where the source ends. Raises when writing fails; `targetName` is for the message.
-qint64 TransferBytes(int to, qint64 toOffset, int from, qint64 fromOffset, qint64 count, const QString& targetName);
+/// were: fewer where the source ends. Raises when reading or writing fails; the names are for the message.
+qint64 TransferBytes(int to, qint64 toOffset, int from, qint64 fromOffset, qint64 count, const QString& targetName,
+                     const QString& sourceName);
 
 /// Writes all bytes at an offset or raises.
 void WriteFully(int to, qint64 offset, const char* bytes, qint64 count, const QString& targetName);

@@ -4,18 +4,13 @@
 #include "platform/posix/WineHive.h"
 
 #include "platform/AnsiCodec.h"
-#include "platform/posix/Transfer.h"
-#include "platform/posix/WholeFile.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
 
 #include <QByteArrayView>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cstring>
 #include <ctime>
-#include <utility>
 
 namespace {
 
@@ -24,14 +19,10 @@ constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
 /// A file that was written this short a time ago may be written again under the same time stamp.
 constexpr qint64 SettlingNanoseconds = NanosecondsPerSecond;
 
-qint64 Nanoseconds(const timespec& time) {
-    return time.tv_sec * NanosecondsPerSecond + time.tv_nsec;
-}
-
 qint64 NowNanoseconds() {
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
-    return Nanoseconds(now);
+    return now.tv_sec * NanosecondsPerSecond + now.tv_nsec;
 }
 
 char Folded(char byte) {
@@ -81,7 +72,7 @@ qsizetype NextKey(const QByteArray& bytes, qsizetype from) {
 
 } // namespace
 
-WineHive::WineHive(QByteArray path) : path_(std::move(path)) {}
+WineHive::WineHive(const QByteArray& path) : path_(Paths::FromNative(Paths::DecodeNative(path))) {}
 
 RegistryValue WineHive::Read(const QString& key, const QString& name) const {
     if (!Refresh())
@@ -98,19 +89,14 @@ RegistryValue WineHive::Read(const QString& key, const QString& name) const {
 }
 
 bool WineHive::Refresh() const {
-    struct stat status {};
-
-    if (::stat(path_.constData(), &status) != 0)
+    const FileState found = StateOf(path_);
+    if (found.Identity.isEmpty())
         return false;
-    const qint64 changed = Nanoseconds(status.st_mtim);
-    const State found{status.st_size, static_cast<qint64>(status.st_ino), changed};
     if (found == state_)
         return true;
-    const auto bytes = WholeFile::Read(path_);
-    if (!bytes)
+    if (!Ignoring([&] { Index(ReadWhole(path_)); }))
         return false;
-    Index(*bytes);
-    state_ = NowNanoseconds() - changed > SettlingNanoseconds ? found : State();
+    state_ = NowNanoseconds() - found.Time > SettlingNanoseconds ? found : FileState();
     return true;
 }
 
@@ -129,10 +115,8 @@ void WineHive::Index(const QByteArray& bytes) const {
 }
 
 RegistryValue WineHive::ReadSection(const Section& section, const QString& key, const QString& name) const {
-    const Descriptor file(::open(path_.constData(), O_RDONLY | O_CLOEXEC));
-    QByteArray bytes(section.End - section.Start, Qt::Uninitialized);
-    const ssize_t count = ::pread(file.Number(), bytes.data(), static_cast<std::size_t>(bytes.size()), section.Start);
-    bytes.truncate(qMax<ssize_t>(count, 0));
+    QByteArray bytes;
+    Ignoring([&] { bytes = File::Open(path_, File::Access::Read).Read(section.Start, section.End - section.Start); });
     const QString text = AnsiCodec::Decode(bytes);
     for (const RegistryText::Line& line : RegistryText::Parse(text, RegistryText::Flavour::WineHive)) {
         const bool ours =

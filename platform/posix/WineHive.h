@@ -4,6 +4,7 @@
 /// A registry hive of a Wine prefix ("system.reg", "user.reg"): read only, fast on files of many megabytes.
 #pragma once
 
+#include "platform/File.h"
 #include "platform/RegistryText.h"
 
 #include <QByteArray>
@@ -14,21 +15,12 @@
 class WineHive {
 public:
     /// The bytes of the native path. The file need not exist.
-    explicit WineHive(QByteArray path);
+    explicit WineHive(const QByteArray& path);
 
     /// The value, as the file is now. `key` is relative to the hive's root.
     [[nodiscard]] RegistryValue Read(const QString& key, const QString& name) const;
 
 private:
-    /// What tells one state of the file from another.
-    struct State {
-        qint64 Size = -1;
-        qint64 Inode = 0;
-        qint64 ChangedNanoseconds = 0;
-
-        bool operator==(const State&) const = default;
-    };
-
     /// Where a key's lines are.
     struct Section {
         std::size_t KeyHash;
@@ -40,7 +32,7 @@ private:
     void Index(const QByteArray& bytes) const;
     [[nodiscard]] RegistryValue ReadSection(const Section& section, const QString& key, const QString& name) const;
 
-    QByteArray path_;
-    mutable State state_;
+    QString path_; ///< inside path
+    mutable FileState state_;
     mutable std::vector<Section> sections_; ///< of `state_`, in the file's order; the bytes themselves are not kept
 };

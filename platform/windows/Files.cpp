@@ -55,6 +55,10 @@ QString FolderPath(const QString& path) {
     return path.size() > 3 && path.endsWith(u'\\') ? path.chopped(1) : path;
 }
 
+[[noreturn]] void RaiseUnlisted(const QString& folder) {
+    throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(folder));
+}
+
 } // namespace
 
 std::vector<FolderEntry> FolderEntries(const QString& folder) {
@@ -63,7 +67,7 @@ std::vector<FolderEntry> FolderEntries(const QString& folder) {
     WIN32_FIND_DATAW data{};
     const HANDLE search = FindFirstFileW(WidePath(pattern).c_str(), &data);
     if (search == INVALID_HANDLE_VALUE)
-        throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(folder));
+        RaiseUnlisted(folder);
     const std::unique_ptr<void, BOOL (*)(HANDLE)> owned(search, [](HANDLE handle) { return FindClose(handle); });
     std::vector<FolderEntry> entries;
     do {
@@ -73,6 +77,8 @@ std::vector<FolderEntry> FolderEntries(const QString& folder) {
         const bool isFolder = IsFolder(data.dwFileAttributes);
         entries.push_back({name, isFolder ? 0 : Wide(data.nFileSizeHigh, data.nFileSizeLow), isFolder});
     } while (FindNextFileW(search, &data) != 0);
+    if (GetLastError() != ERROR_NO_MORE_FILES)
+        RaiseUnlisted(folder);
     return entries;
 }
 
@@ -150,30 +156,6 @@ void DeleteForced(const QString& path) {
     RaiseLastError(error == ERROR_PATH_NOT_FOUND ? ERROR_FILE_NOT_FOUND : error, path);
 }
 
-void Copy(const QString& from, const QString& to) {
-    if (!FileExists(from))
-        RaiseLastError(ERROR_FILE_NOT_FOUND, from);
-    const auto there = Attributes(to);
-    if (there && (there->dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0)
-        RaiseLastError(ERROR_ACCESS_DENIED, to);
-    const QString aside = TemporaryBeside(to);
-    if (CopyFileW(WidePath(from).c_str(), WidePath(aside).c_str(), TRUE) == 0) {
-        const DWORD error = GetLastError();
-        Ignoring([&] { DeleteForced(aside); });
-        RaiseLastError(error, to);
-    }
-    try {
-        Replace(aside, to);
-    } catch (const RuntimeError&) {
-        Ignoring([&] { DeleteForced(aside); });
-        throw;
-    }
-}
-
-void CopyAsGiven(const QString& from, const QString& to) {
-    Copy(from, to);
-}
-
 void Rename(const QString& from, const QString& to) {
     // Where only the case changes, some systems take the new name for the old one: it goes by way of a third.
     const QString step = SameFile(from, to) ? TemporaryBeside(from) : from;
@@ -188,6 +170,10 @@ void Replace(const QString& from, const QString& to) {
         RaiseLastError(ERROR_DIRECTORY, to);
     if (MoveFileExW(WidePath(from).c_str(), WidePath(to).c_str(), MOVEFILE_REPLACE_EXISTING) == 0)
         RaiseLastError(GetLastError(), to);
+}
+
+void FlushSystem(const QString& path) {
+    static_cast<void>(path); // only an administrator may ask for that: the system writes in its own time
 }
 
 QDateTime ModifiedTime(const QString& path) {

@@ -3,13 +3,12 @@
 
 #include "tests/big/Archives.h"
 
-#include "platform/Files.h"
+#include "platform/RuntimeError.h"
 
 ArchiveTest::ArchiveTest() {
     world_.Start();
-    mBIG::BigEntries.clear();
+    mBIG::Close();
     mBIG::BigVersion = 0;
-    mBIG::BigFileName.clear();
 }
 
 ArchiveTest::~ArchiveTest() {
@@ -21,9 +20,18 @@ void ArchiveTest::AddNew(const QString& name, const QByteArray& bytes) {
     mBIG::BigEntries.push_back({name, 0, static_cast<qint32>(bytes.size()), true, false, source});
 }
 
+QString ArchiveTest::FailureOf(const QString& path) {
+    try {
+        mBIG::Save(path);
+    } catch (const RuntimeError& error) {
+        return error.Description();
+    }
+    return {};
+}
+
 QByteArray ArchiveTest::SavedAs(int version) {
     mBIG::BigVersion = version;
     const QString target = At(QStringLiteral("out.big"));
-    EXPECT_TRUE(mBIG::WriteBigFile(target)) << mBIG::LastFailure().toStdString();
+    EXPECT_TRUE(mBIG::Save(target));
     return World::ReadFile(target);
 }

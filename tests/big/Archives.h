@@ -25,6 +25,9 @@ protected:
     /// Adds a new record whose data is in a file of its own.
     void AddNew(const QString& name, const QByteArray& bytes);
 
+    /// Why a save to that path raises; empty when it doesn't.
+    static QString FailureOf(const QString& path);
+
     /// Saves the table to "out.big" as a variant and returns the bytes.
     QByteArray SavedAs(int version);
 

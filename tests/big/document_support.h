@@ -87,6 +87,10 @@ public:
 
     void ShowBusy(bool busy) override { Busy += busy ? 1 : -1; }
 
+    Notice Told; ///< the last one
+
+    void ShowNotice(const Notice& notice) override { Told = notice; }
+
     std::vector<int> Selected; ///< places
     int Edited = FolderTree::None;
     ExtractionTarget Target;
@@ -100,6 +104,15 @@ public:
     ExtractionTarget AskForFolder() override {
         ++FolderQuestions;
         return Target;
+    }
+
+    int Commits = 0; ///< of an edit of a name
+    std::function<void()> OnCommit;
+
+    void CommitEdit() override {
+        ++Commits;
+        if (OnCommit)
+            OnCommit();
     }
 
     void EnableWindow(bool enabled) override { Enabled.push_back(enabled); }

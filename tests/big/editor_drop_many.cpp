@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// Dropping many files gives the table that a search from the first record on gives for each of them.
-#include "big/format/EntryIndex.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "tests/big/document_fixture.h"
@@ -147,34 +146,35 @@ TEST_F(EditorDropMany, AnyDropGivesWhatASearchForEachFileGives) {
     }
 }
 
-TEST_F(EditorDropMany, TheIndexFindsWhatASearchFinds) {
-    std::vector<QString> names;
-    names.reserve(300);
-    for (int name = 0; name < 300; ++name)
-        names.push_back(SomeName() + SomeName());
-    for (int name = 0; name < 150; ++name)
-        mBIG::BigEntries.push_back(EntryOf(names[static_cast<std::size_t>(name)]));
-    const mBIG::EntryIndex index;
-    for (const QString& name : names)
-        EXPECT_EQ(index.Find(name), mBIG::FindEntry(name)) << name.toStdString();
+TEST_F(EditorDropMany, TheFilesOfOneDropThatHaveOneNameAreAskedAbout) {
+    mBIG::BigEntries = TableOf({u"first"_s, u"second"_s});
+    Editor.CreateDirs();
+    Speaker.Answers = {Answer::Yes, Answer::No};
+    const QString last = Place.WriteFile(u"two\\A.txt"_s, "22");
+    Editor.DropFiles({Place.WriteFile(u"one\\a.TXT"_s, "1"), last, Place.WriteFile(u"three\\a.txt"_s, "333")});
+    ASSERT_EQ(mBIG::BigEntries.size(), 3U);
+    EXPECT_EQ(mBIG::BigEntries[2].Name, u"A.txt"_s);
+    EXPECT_EQ(mBIG::BigEntries[2].SourcePath, last);
 }
 
-TEST_F(EditorDropMany, TheLastRecordsNameIsForgottenWhenAnotherTakesItsPlace) {
-    mBIG::BigEntries = TableOf({u"a"_s, u"b"_s});
-    mBIG::EntryIndex index;
-    index.SetLast(1, u"c"_s);
-    EXPECT_EQ(index.Find(u"B"_s), -1);
-    EXPECT_EQ(index.Find(u"C"_s), 1);
-    index.SetLast(2, u"b"_s);
-    EXPECT_EQ(index.Find(u"B"_s), 2);
-    EXPECT_EQ(mBIG::BigEntries.size(), 3U);
+// While record 0 is blank, each new record takes the place of the last one.
+TEST_F(EditorDropMany, ANameThatTheDropItselfOverwroteIsNotAskedAbout) {
+    mBIG::BigEntries = TableOf({{}, u"a"_s});
+    Editor.CreateDirs();
+    Editor.DropFiles({Place.WriteFile(u"b"_s, "1"), Place.WriteFile(u"a"_s, "22")});
+    EXPECT_TRUE(Speaker.Messages.empty());
+    ASSERT_EQ(mBIG::BigEntries.size(), 2U);
+    EXPECT_EQ(mBIG::BigEntries[1].Name, u"a"_s);
+    EXPECT_EQ(mBIG::BigEntries[1].Size, 2);
 }
 
-TEST_F(EditorDropMany, AnOverwrittenNameThatStandsEarlierTooIsStillFound) {
-    mBIG::BigEntries = TableOf({u"a"_s, u"A"_s});
-    mBIG::EntryIndex index;
-    index.SetLast(1, u"c"_s);
-    EXPECT_EQ(index.Find(u"a"_s), 0);
+TEST_F(EditorDropMany, AnOverwrittenNameThatStandsEarlierTooIsStillAskedAbout) {
+    mBIG::BigEntries = TableOf({{}, u"a"_s, u"A"_s});
+    Editor.CreateDirs();
+    Speaker.Answers = {Answer::Yes};
+    Editor.DropFiles({Place.WriteFile(u"b"_s, "1"), Place.WriteFile(u"a"_s, "22")});
+    EXPECT_EQ(mBIG::BigEntries[1].Size, 2);
+    EXPECT_EQ(mBIG::BigEntries[2].Name, u"b"_s);
 }
 
 TEST_F(EditorDropMany, HundredsOfFoldersDoNotEachCostATree) {

@@ -67,7 +67,8 @@ TEST_F(Extracting, AnEmptyNameIsLeftOutAndTheOthersCome) {
     OpenSample();
     mBIG::BigEntries[0].Name.clear();
     Editor.Extract();
-    EXPECT_EQ(Speaker.Yields, 4);
+    EXPECT_EQ(FilesBelow(u"out"_s), (QStringList{u"Data\\INI\\Object.ini"_s, u"Data\\map.tga"_s}));
+    EXPECT_EQ(Speaker.ProgressTexts.size(), 2);
 }
 
 TEST_F(Extracting, ANodesKeyIsComparedExactlyAndAnywhereInTheName) {
@@ -102,15 +103,17 @@ TEST_F(Extracting, WithoutASelectedNodeEveryRecordIsTaken) {
     mBIG::BigEntries[0].Name.clear();
     BigEditor fresh(View); // a tree without any node
     fresh.Extract();
-    EXPECT_EQ(Speaker.Yields, 6) << "the empty name too";
+    EXPECT_EQ(Speaker.ProgressTexts.size(), 3) << "the empty name too";
 }
 
 TEST_F(Extracting, SelectedRowsComeInTheirOrder) {
+    Place.UseLanguage("[LNG]\r\nProgressLbl=%2\r\n");
+    Place.Start();
     OpenArchive({{u"b"_s, "1"}, {u"a"_s, "2"}, {u"sub\\c"_s, "3"}});
     Select({u"a"_s, u"b"_s});
     Editor.Extract();
     EXPECT_EQ(FilesBelow(u"out"_s), (QStringList{u"a"_s, u"b"_s}));
-    EXPECT_EQ(Speaker.Yields, 4);
+    EXPECT_EQ(Speaker.ProgressTexts, (QStringList{u"a"_s, u"b"_s}));
 }
 
 TEST_F(Extracting, AFolderRowTakesItsEntriesWithExactCompare) {
@@ -129,7 +132,7 @@ TEST_F(Extracting, AFolderAndAFileInsideItExtractTheFileTwiceAndTheSecondTimeBri
     View.Target.RecreateFolders = false;
     Speaker.Answers = {Host::Answer::No};
     Editor.Extract();
-    EXPECT_EQ(Speaker.Yields, 4);
+    EXPECT_EQ(Speaker.ProgressTexts.size(), 2);
     EXPECT_EQ(Speaker.Messages.size(), 2U);
     EXPECT_EQ(FilesBelow(u"out"_s), QStringList{u"x"_s});
 }
@@ -263,12 +266,12 @@ TEST_F(Extracting, ANameThatLeadsOutOfTheScratchFolderIsNotHandedOut) {
 TEST_F(Extracting, AFolderWithoutEntriesIsHandedOutWithoutAnExtraction) {
     OpenSample();
     Editor.Extract();
-    Speaker.Yields = 0;
+    Speaker.ProgressTexts.clear();
     mBIG::BigEntries.resize(2); // what stands below the folder's node has gone from the table
     mBIG::BigEntries[1].Name = u"other"_s;
     Select({u"data"_s});
     EXPECT_EQ(Below(Editor.ExtractForDrag()), QStringList{u"data"_s});
-    EXPECT_EQ(Speaker.Yields, 0);
+    EXPECT_EQ(Speaker.ProgressTexts, QStringList{});
 }
 
 TEST_F(Extracting, TheEndOfADragRemovesItsFilesAndFolders) {

@@ -63,11 +63,70 @@ TEST_F(EditorModifyMeanwhile, ANewArchiveMeanwhileIsLeftAlone) {
     Program = [&](const QString& path) {
         Write(path, "written");
         Speaker.FileNames = {Place.Root() + u"\\fresh.big"_s};
+        Speaker.Answers = {Answer::No};
         Editor.New();
     };
     Editor.ActivateRow(0);
-    EXPECT_TRUE(Speaker.Messages.empty());
+    ASSERT_EQ(Speaker.Messages.size(), 1U) << "before the archive goes, and no more behind it";
+    EXPECT_EQ(Speaker.Messages[0].Text, u"Data\\One.csf\r\n\r\nInsertModifiedFile"_s);
     EXPECT_FALSE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModifyMeanwhile, OpenAsksAboutChangedCopiesAndGoesNoFurtherWithoutAnAnswer) {
+    OpenStrings();
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        Speaker.Answers = {Answer::Cancel};
+        Editor.Open();
+        EXPECT_TRUE(Speaker.Dialogs.empty());
+        Speaker.Answers = {Answer::Yes};
+    };
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Speaker.Messages.size(), 2U);
+    EXPECT_TRUE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModifyMeanwhile, WhatTheCSFEditorSavesLaterIsAskedAboutAndMarksTheChange) {
+    OpenStrings();
+    Speaker.Answers = {Answer::No};
+    ModifyByMenu(0);
+    EXPECT_FALSE(Files::FileExists(Scratch(u"One.csf"_s)));
+    Place.WriteFile(u"program\\Temp\\One.csf"_s, "written later");
+    Speaker.Answers = {Answer::Yes};
+    Editor.Copies().Look();
+    Editor.Copies().Look();
+    ASSERT_EQ(Speaker.Messages.size(), 2U);
+    EXPECT_EQ(Speaker.Messages[1].Text, u"Data\\One.csf\r\n\r\nInsertModifiedFile"_s);
+    EXPECT_TRUE(Entry(0).IsNew);
+    EXPECT_EQ(World::ReadFile(Entry(0).SourcePath), "written later");
+    EXPECT_TRUE(State().Modified);
+}
+
+TEST_F(EditorModifyMeanwhile, ATableOpenedByADoubleClickIsFollowedToo) {
+    OpenStrings();
+    Editor.ActivateRow(0);
+    Place.WriteFile(u"program\\Temp\\One.csf"_s, "written later");
+    Editor.Save();
+    EXPECT_TRUE(Files::FileExists(Scratch(u"One.csf"_s))) << "Nobody was asked about it yet.";
+    Speaker.Answers = {Answer::Yes};
+    Editor.Copies().Look();
+    Editor.Copies().Look();
+    EXPECT_TRUE(Entry(0).IsNew);
+}
+
+TEST_F(EditorModifyMeanwhile, ARecordThatADropTookThePlaceOfIsOfferedNothing) {
+    Speaker.FileNames = {Place.Root() + u"\\fresh.big"_s, Place.WriteFile(u"a.csf"_s, "1")};
+    Editor.New();
+    Editor.Add();
+    Editor.ActivateRow(0);
+    ASSERT_EQ(Given.size(), 1);
+    Editor.DropFiles({Place.WriteFile(u"b.csf"_s, "2")});
+    ASSERT_EQ(Entry(1).Name, u"b.csf"_s) << "A blank record 0 has the last one overwritten.";
+    Entry(1).IsNew = false;
+    Write(Place.Root() + u"\\a.csf"_s, "written");
+    Editor.Copies().Look();
+    Editor.Copies().Look();
+    EXPECT_TRUE(Speaker.Messages.empty());
 }
 
 TEST_F(EditorModifyMeanwhile, AnEntryThatWasRenamedMeanwhileStillGetsItsFile) {

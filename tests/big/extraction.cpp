@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "big/document/Extraction.h"
+#include "big/document/ArchiveExtractor.h"
 
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/RuntimeError.h"
 #include "tests/big/Archives.h"
 #include "tests/big/document_support.h"
 
@@ -250,6 +252,17 @@ TEST_F(DoExtractTest, AnAddedFileIsNotDeletedWhenItIsExtractedToItsOwnPlace) {
     EXPECT_EQ(MessageTexts(), QStringList{u"ExtractionComplete"_s});
 }
 
+TEST_F(DoExtractTest, TheSourceOfAnotherAddedEntryIsNeverATarget) {
+    Open({{u"a"_s, "1"}, {u"b"_s, "2"}});
+    AddNew(u"n"_s, "precious");
+    mBIG::BigEntries[2].SourcePath = Put(u"out\\a"_s, "precious");
+    DoExtract(All(), Out(), true);
+    EXPECT_EQ(Written(u"a"_s), "precious") << "no question either";
+    EXPECT_EQ(Written(u"b"_s), "2");
+    EXPECT_EQ(Written(u"n"_s), "precious");
+    EXPECT_EQ(MessageTexts(), QStringList{u"ExtractionComplete"_s});
+}
+
 TEST_F(DoExtractTest, AnAddedFileThatIsGoneIsPassedOver) {
     AddNew(u"a"_s, "1");
     AddNew(u"b"_s, "2");
@@ -284,4 +297,16 @@ TEST_F(DoExtractTest, NamesThatTheGatewayRefusesArePassedOverInBothModes) {
     DoExtract(All(), Out(false), true);
     EXPECT_EQ(Files::ListFolder(At(u"out\\*.*"_s)).size(), 2) << "good and x";
     EXPECT_FALSE(Files::FileExists(At(u"x"_s)));
+}
+
+TEST_F(DoExtractTest, TheFastWayDoesNotWriteOverTheArchiveItself) {
+    const QString path = Put(u"my.big"_s, ArchiveOf({{u"my.big"_s, "evil"}, {u"b"_s, "2"}}));
+    const QByteArray before = World::ReadFile(path);
+    ASSERT_TRUE(mBIG::ReadBigFile(path));
+    ArchiveExtractor extractor(path, world_.Root() + u'\\');
+    EXPECT_THROW(extractor.Extract(mBIG::BigEntries[0], u"my.big"_s), RuntimeError);
+    EXPECT_EQ(World::ReadFile(path), before);
+    Put(u"b"_s, "longer than the entry");
+    extractor.Extract(mBIG::BigEntries[1], u"b"_s);
+    EXPECT_EQ(World::ReadFile(At(u"b"_s)), "2");
 }

@@ -5,6 +5,7 @@
 #include "tests/big/Archives.h"
 #include "tests/support/Printing.h"
 
+#include "platform/File.h"
 #include "platform/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
@@ -21,7 +22,10 @@ protected:
     /// The lines of an archive's records; "refused" for one that is not listed.
     static QStringList ListOf(const QString& path) {
         QStringList lines;
-        const bool listed = mBIG::ListBigFile(path, [&](const BigEntry& entry) { lines += Told(entry); });
+        const bool listed = Ignoring([&] {
+            Archives::List(File::Open(path, File::Access::Read), 0,
+                           [&](const BigEntry& entry, qint32) { lines += Told(entry); });
+        });
         EXPECT_TRUE(listed || lines.isEmpty());
         return listed ? lines : QStringList{u"refused"_s};
     }
@@ -44,7 +48,8 @@ TEST_F(ListRecords, TheTableStaysAndTheVariantIsKnownBeforeTheFirstRecord) {
     mBIG::BigVersion = 0;
     const QString path = Put(u"in.big"_s, HeaderOf("BIG4", 2, 44) + Record(44, 5, "a") + Record(49, 2, "b") + "L219");
     std::vector<int> versions;
-    EXPECT_TRUE(mBIG::ListBigFile(path, [&](const BigEntry&) { versions.push_back(mBIG::BigVersion); }));
+    Archives::List(File::Open(path, File::Access::Read), 0,
+                   [&](const BigEntry&, qint32 version) { versions.push_back(version); });
     EXPECT_EQ(versions, (std::vector<int>{2, 2}));
     EXPECT_EQ(ListOf(path), (QStringList{u"a at 44, 5 bytes"_s, u"b at 49, 2 bytes"_s}));
     ASSERT_EQ(BigEntries.size(), 1U);
@@ -71,19 +76,18 @@ TEST_F(ListRecords, ALongDirectoryIsReadPieceByPieceWithoutLosingAByte) {
     for (int i = 0; i < 5000; ++i)
         ASSERT_EQ(lines[i], u"%1%2 at %3, %2 bytes"_s.arg(QString(i % 60, u'n')).arg(i).arg(i + 1));
     EXPECT_EQ(lines.last(), QString(300'000, u'x') + u" at 7, 8 bytes"_s);
-    EXPECT_EQ(mBIG::BigVersion, 1);
     EXPECT_EQ(TableOf(path), lines);
+    EXPECT_EQ(mBIG::BigVersion, 1);
 }
 
 TEST_F(ListRecords, WhatIsRaisedWhileARecordIsShownEndsTheListAndClosesTheArchive) {
     const QString path = Put(u"in.big"_s, HeaderOf("BIGF", 2, 44) + Record(44, 5, "a") + Record(49, 2, "b") + "L225");
     int shown = 0;
-    EXPECT_THROW(mBIG::ListBigFile(path,
-                                   [&](const BigEntry&) {
-                                       ++shown;
-                                       throw RuntimeError(ErrorNumber::PathFileAccess, u"full"_s);
-                                   }),
-                 RuntimeError);
+    const auto fail = [&](const BigEntry&, qint32) {
+        ++shown;
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"full"_s);
+    };
+    EXPECT_THROW(Archives::List(File::Open(path, File::Access::Read), 0, fail), RuntimeError);
     EXPECT_EQ(shown, 1);
     EXPECT_EQ(ListOf(path).size(), 2);
 }

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "big/document/ScratchFolders.h"
+#include "big/format/mBIG.h"
 #include "core/mMain.h"
 
 #include "platform/Files.h"
 #include "tests/support/Printing.h"
+#include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
 
 #include <QCoreApplication>
@@ -80,4 +82,46 @@ TEST_F(ScratchFoldersTest, WhateverElseStandsInTempStays) {
 TEST_F(ScratchFoldersTest, WithoutTempThereIsNothingToDo) {
     ScratchFolders::RemoveAbandoned();
     EXPECT_FALSE(Files::FolderExists(mMain::ScratchFolder()));
+}
+
+TEST_F(ScratchFoldersTest, TheFirstProgramHasTempItselfAndTheNextOneAFolderBelowIt) {
+    const QString temp = world_.Root() + u"\\program\\Temp"_s;
+    {
+        const ScratchFolders::Claim first;
+        EXPECT_EQ(mMain::ScratchFolder(), temp);
+        const ScratchFolders::Claim second; // a lock is a lock, whoever asks
+        EXPECT_EQ(mMain::ScratchFolder(), temp + u"\\2"_s);
+        EXPECT_TRUE(ScratchFolders::Dragged().startsWith(temp + u"\\2\\Drag"_s));
+        EXPECT_TRUE(ScratchFolders::IsDragged(ScratchFolders::Dragged() + u"a.txt"_s));
+        EXPECT_TRUE(ScratchFolders::IsDragged(temp + u"\\Drag5\\a.txt"_s));
+        EXPECT_FALSE(ScratchFolders::IsDragged(temp + u"\\2\\a.txt"_s));
+    }
+    const ScratchFolders::Claim next;
+    EXPECT_EQ(mMain::ScratchFolder(), temp) << "The others have ended.";
+}
+
+TEST_F(ScratchFoldersTest, AFurtherProgramsFolderIsRemovedWhenItHasEnded) {
+    const ScratchFolders::Claim first;
+    const ScratchFolders::Claim second;
+    Put(u"2\\unsaved.txt"_s);
+    Put(u"3\\of a program that crashed"_s);
+    Put(u"1\\other"_s);
+    ScratchFolders::RemoveAbandoned();
+    EXPECT_TRUE(Files::FileExists(world_.Root() + u"\\program\\Temp\\2\\unsaved.txt"_s));
+    EXPECT_FALSE(Files::FolderExists(world_.Root() + u"\\program\\Temp\\3"_s));
+    EXPECT_TRUE(Files::FolderExists(world_.Root() + u"\\program\\Temp\\1"_s)) << "Nobody's scratch folder.";
+}
+
+TEST_F(ScratchFoldersTest, ASaveInOneProgramLeavesTheOthersCopiesAlone) {
+    const ScratchFolders::Claim first;
+    const QString firsts = Put(u"copy.csf"_s);
+    const ScratchFolders::Claim second;
+    const QString own = Put(u"2\\own.csf"_s);
+    const ScriptedHost host;
+    mBIG::BigFileName.clear();
+    mBIG::BigEntries = {{}, {}};
+    mBIG::BigEntries[1].Name = u"a"_s;
+    ASSERT_TRUE(mBIG::Save(world_.Root() + u"\\a.big"_s));
+    EXPECT_TRUE(Files::FileExists(firsts));
+    EXPECT_FALSE(Files::FileExists(own));
 }

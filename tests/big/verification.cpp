@@ -3,6 +3,7 @@
 
 #include "big/format/Verification.h"
 
+#include "platform/Device.h"
 #include "platform/RuntimeError.h"
 #include "tests/big/Archives.h"
 
@@ -125,10 +126,53 @@ TEST_F(VerificationTest, TheVariantOfTheLongMarkHasItsOwnLayout) {
     EXPECT_EQ(FindingsOf(archive), QStringList{});
 }
 
-TEST_F(VerificationTest, TheOneByteThatAnUnalignedSaveLosesIsTold) {
+TEST_F(VerificationTest, AShiftIsToldWithItsDistanceInPlaceOfWhatItExplains) {
     AddNew(u"a"_s, "hello");
     AddNew(u"b"_s, "hi");
-    EXPECT_EQ(FindingsOf(SavedAs(2)), QStringList{u"beyond-end 1: ends 1 bytes behind the end of the file"_s});
+    EXPECT_EQ(FindingsOf(SavedAs(2)),
+              QStringList{u"shift -1: the data of 2 entries lie -1 bytes from their offsets"_s});
+}
+
+TEST_F(VerificationTest, ShiftsOfSeveralDistancesAreToldFromTheLeastToTheGreatest) {
+    // 24 + 57 = 81: the first lies four bytes early, and each without bytes puts all behind it four bytes further.
+    for (const auto& [name, bytes] : {std::pair("aa", "abc"), std::pair("e", ""), std::pair("bb", "de"),
+                                      std::pair("f", ""), std::pair("cccccc", "fg")})
+        AddNew(QString::fromLatin1(name), bytes);
+    EXPECT_EQ(FindingsOf(SavedAs(0)),
+              QStringList{u"shift -1: the data of 2 entries lie -4 to 4 bytes from their offsets"_s});
+}
+
+TEST_F(VerificationTest, AFileThatMayBeShiftedOrNotIsOnlyNoted) {
+    AddNew(u"aa"_s, "abc");
+    AddNew(u"ee"_s, "");
+    AddNew(u"bb"_s, "hi");
+    EXPECT_EQ(FindingsOf(SavedAs(0)), QStringList{u"perhaps-shift -1: as a save leaves it, the data of 1 entries lie "
+                                                  "-4 bytes from their offsets, or none"_s});
+}
+
+TEST_F(VerificationTest, WhatAGameReadsWrongIsAFaultAndWhatIsOnlyUnusualANote) {
+    using Verification::Class;
+    using Verification::Kind;
+    for (const Kind fault : {Kind::BeyondEnd, Kind::Overlap, Kind::Unreadable, Kind::Name, Kind::Shift, Kind::Collision,
+                             Kind::Cut, Kind::Number})
+        EXPECT_EQ(Verification::ClassOf(fault), Class::Fault) << Verification::Word(fault).toStdString();
+    for (const Kind note :
+         {Kind::Misaligned, Kind::Gap, Kind::FirstFile, Kind::Length, Kind::Mark, Kind::Order, Kind::PerhapsShift})
+        EXPECT_EQ(Verification::ClassOf(note), Class::Note) << Verification::Word(note).toStdString();
+}
+
+TEST_F(VerificationTest, ACountThatNoReaderTakesWholeIsTold) {
+    QByteArray archive = Two(Record(44, 5, "a"), Record(52, 2, "b"), gap_ + Bytes("hello\0\0\0hi"));
+    archive[8] = '\x80';
+    EXPECT_EQ(FindingsOf(archive),
+              QStringList{u"number -1: the count is 0x80000000 or more, which loses its top digit"_s});
+}
+
+TEST_F(VerificationTest, WorksOnBytesWithoutADisk) {
+    const QByteArray bytes = Two(Record(44, 5, "a"), Record(52, 3, "b"), gap_ + Bytes("hello\0\0\0hi"));
+    const auto findings = Verification::Verify(Archives::Read(QByteArrayView(bytes)), MemoryDevice(bytes));
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings[0].What, Verification::Kind::BeyondEnd);
 }
 
 TEST_F(VerificationTest, SavesOfTheOtherVariantsHaveNothing) {
@@ -166,7 +210,7 @@ TEST_F(VerificationTest, AnArchiveCutOffAtAnyByteHasFindings) {
     const QByteArray whole = Two(Record(44, 5, "a"), Record(52, 2, "b"), gap_ + Bytes("hello\0\0\0hi"));
     for (qsizetype length = 24; length < whole.size(); ++length)
         EXPECT_FALSE(FindingsOf(whole.first(length)).isEmpty()) << length;
-    EXPECT_TRUE(FindingsOf(whole.first(30)).contains(u"mark -1: the directory is cut off"_s));
+    EXPECT_TRUE(FindingsOf(whole.first(30)).contains(u"cut -1: the directory is cut off"_s));
 }
 
 TEST_F(VerificationTest, AFileThatIsGoneRaises) {

@@ -34,6 +34,16 @@ protected:
         return outcome.Output;
     }
 
+    /// Runs a command that saves an archive whose data lie beside the directory's offsets; returns the line that says
+    /// so on standard error.
+    static QByteArray Shifted(const QStringList& arguments) {
+        const Outcome outcome = RunCommand(arguments);
+        EXPECT_EQ(outcome.Code, 0) << outcome.Error.constData();
+        EXPECT_EQ(outcome.Output, QByteArray());
+        EXPECT_TRUE(outcome.Error.count('\n') == 1 && outcome.Error.contains("--exact")) << outcome.Error.constData();
+        return outcome.Error;
+    }
+
     /// Runs a command that must fail; returns its one line.
     static QByteArray Failure(const QStringList& arguments, int code = 1) {
         const Outcome outcome = RunCommand(arguments);

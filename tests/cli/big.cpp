@@ -53,8 +53,8 @@ TEST_F(BigCommands, WrongUsageEndsWithTwo) {
 }
 
 TEST_F(BigCommands, EachCommandHasItsHelp) {
-    for (const QString& command :
-         {u"list"_s, u"extract"_s, u"save"_s, u"create"_s, u"rename"_s, u"delete"_s, u"verify"_s})
+    for (const QString& command : {u"list"_s, u"extract"_s, u"save"_s, u"create"_s, u"rename"_s, u"delete"_s,
+                                   u"verify"_s, u"repair"_s, u"preview"_s})
         EXPECT_TRUE(Output({u"big"_s, command, u"--help"_s}).contains("Usage")) << command.toStdString();
 }
 
@@ -128,7 +128,7 @@ TEST_F(BigCommands, SaveKeepsTheVariantAndWritesIt) {
 
 TEST_F(BigCommands, SaveChangesTheVariantOverTheArchiveItself) {
     TwoEntries();
-    Output({u"big"_s, u"save"_s, Native(u"two.big"_s), Native(u"two.big"_s), u"--version"_s, u"2"_s});
+    Shifted({u"big"_s, u"save"_s, Native(u"two.big"_s), Native(u"two.big"_s), u"--version"_s, u"2"_s});
     EXPECT_EQ(World::ReadFile(At(u"two.big"_s)).sliced(47), Bytes("L219\0\0\0hellohi"));
     EXPECT_FALSE(Files::FileExists(At(u"two.big.tmp"_s)));
 }
@@ -162,7 +162,7 @@ TEST_F(BigCommands, CreateTakesAFoldersFilesSorted) {
     world_.WriteFile(u"in\\b.txt"_s, "two");
     world_.WriteFile(u"in\\Sub\\z"_s, "3");
     world_.WriteFile(u"in\\A.txt"_s, "one");
-    Output({u"big"_s, u"create"_s, Native(u"in/out.big"_s), u"--version"_s, u"2"_s, Native(u"in"_s)});
+    Shifted({u"big"_s, u"create"_s, Native(u"in/out.big"_s), u"--version"_s, u"2"_s, Native(u"in"_s)});
     // 24 + 14 + 14 + 14 = 66.
     EXPECT_EQ(World::ReadFile(At(u"in\\out.big"_s)), Bytes("BIG4\x48\0\0\0\0\0\0\x03\0\0\0\x42"
                                                            "\0\0\0\x42\0\0\0\x03"
@@ -172,7 +172,7 @@ TEST_F(BigCommands, CreateTakesAFoldersFilesSorted) {
                                                            "\0\0\0\x48\0\0\0\x01"
                                                            "Sub\\z\0"
                                                            "L219\0\0\0onetwo3"));
-    Output({u"big"_s, u"create"_s, Native(u"in/out.big"_s), u"--version"_s, u"2"_s, Native(u"in"_s)});
+    Shifted({u"big"_s, u"create"_s, Native(u"in/out.big"_s), u"--version"_s, u"2"_s, Native(u"in"_s)});
     EXPECT_EQ(Files::FileLength(At(u"in\\out.big"_s)), 72) << "the archive itself is not taken";
 }
 

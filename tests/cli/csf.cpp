@@ -5,6 +5,7 @@
 
 #include "platform/Files.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -92,6 +93,20 @@ TEST_F(CsfCommands, AStaleBackupIsNamedAndBothFilesStay) {
     EXPECT_TRUE(Failure({u"save"_s, three, three, u"--set"_s, u"a=b"_s}).contains("three.csf.sav"));
     EXPECT_EQ(Contents(u"three.csf"_s), before);
     EXPECT_EQ(Contents(u"three.csf.sav"_s), "older");
+}
+
+TEST_F(CsfCommands, AWriteProtectedFileIsNotReplaced) {
+    const QString three = Three();
+    const QByteArray before = Contents(u"three.csf"_s);
+    const QString csv = Put(u"out.csv"_s, "old");
+    for (const QString& path : {three, csv})
+        ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner));
+    EXPECT_TRUE(
+        Failure({u"save"_s, three, three, u"--set"_s, u"a=b"_s}).startsWith("brindock-cli: " + three.toUtf8() + ": "));
+    EXPECT_TRUE(Failure({u"export"_s, three, csv}).startsWith("brindock-cli: " + csv.toUtf8() + ": "));
+    EXPECT_EQ(Contents(u"three.csf"_s), before);
+    EXPECT_EQ(Contents(u"out.csv"_s), "old");
+    EXPECT_FALSE(Files::FileExists(At(u"three.csf.sav"_s)));
 }
 
 TEST_F(CsfCommands, ExportAndImportGiveTheFileBack) {

@@ -85,3 +85,12 @@ TEST_F(Opening, EveryOtherAnswerIsPassedOver) {
         ReactTo(answer, u"x.txt"_s);
     EXPECT_TRUE(host_.Messages.empty());
 }
+
+TEST_F(Opening, WhatIsRefusedIsOpenedNowhere) {
+    EXPECT_TRUE(mShellExecuteWait::IsOpened(mShellExecuteWait::Open(u"x.csf"_s, 0))) << "the CSF Editor has it";
+    EXPECT_FALSE(mShellExecuteWait::IsOpened(mShellExecuteWait::Open(world_.Root() + u"\\missing.txt"_s, 0)));
+    for (const int refusal : {0, 2, 5, 27, 30, 32})
+        EXPECT_FALSE(mShellExecuteWait::IsOpened({.Process = 0, .InstApp = refusal})) << refusal;
+    for (const int opened : {31, 33, 42}) // 31: the user was asked for a program
+        EXPECT_TRUE(mShellExecuteWait::IsOpened({.Process = 0, .InstApp = opened})) << opened;
+}

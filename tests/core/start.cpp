@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "core/GameFiles.h"
 #include "core/Settings.h"
 #include "core/mMain.h"
 #include "platform/Files.h"
@@ -143,10 +144,13 @@ TEST_F(Start, TheCheckIsOnUnlessTheSettingIsAnotherNumberThanOne) {
 TEST_F(Start, LaunchingPreparesTheShellMapAndShowsNothing) {
     WriteSetting(u"AutoCheckForUpdates"_s, u"1"_s);
     world_.InstallGame(3);
+    QList<GameIndex> activated;
+    GameFiles::ActivateShellMap = [&](GameIndex game) { activated << game; };
     const mMain::Dispatched dispatched = mMain::Prepare(u"/launch /bfme2"_s);
     EXPECT_EQ(dispatched.What, Action::LaunchGame);
     mMain::Show(dispatched);
-    EXPECT_EQ(navigator_.Calls, QStringList{u"ActivateShellMap 3"_s});
+    EXPECT_EQ(activated, QList<GameIndex>{3});
+    EXPECT_TRUE(navigator_.Calls.isEmpty());
     EXPECT_TRUE(host_.Messages.empty());
 }
 
@@ -178,5 +182,4 @@ TEST(Wiring, AskingForAMissingHostOrNavigatorRaises91) {
             EXPECT_EQ(error.Number(), 91);
         }
     }
-    EXPECT_FALSE(Navigator::IsInUse());
 }

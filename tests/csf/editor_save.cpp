@@ -5,6 +5,8 @@
 
 #include "platform/Paths.h"
 
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -98,6 +100,21 @@ TEST_F(CsfEditorSave, ALanguageThatCantBeWrittenEndsTheProgram) {
     EXPECT_EQ(State().LanguageText, u"256"_s);
     EXPECT_THROW(Editor.Save(), ProgramEnded);
     EXPECT_EQ(World::ReadFile(path), CsfHeader(1, 100) + EntryRecords("a", "1"));
+}
+
+TEST_F(CsfEditorSave, AWriteProtectedFileIsToldAndTheChangeStays) {
+    const QString path = OpenTable({{"a", "1"}});
+    const QByteArray before = World::ReadFile(path);
+    ASSERT_TRUE(QFile::setPermissions(Paths::ToNative(path), QFile::ReadOwner));
+    Editor.NameTyped(u"x"_s);
+    Editor.Save();
+    ASSERT_EQ(host_.Messages.size(), 1U);
+    EXPECT_TRUE(host_.Messages[0].Text.startsWith(u"SaveFailed\r\n"_s + Paths::ToNative(path) + u": "_s));
+    EXPECT_FALSE(host_.Messages[0].Text.contains(u"OldFileKept"_s));
+    EXPECT_EQ(host_.Messages[0].Sign, Host::Icon::Critical);
+    EXPECT_TRUE(State().Modified);
+    EXPECT_EQ(World::ReadFile(path), before);
+    EXPECT_FALSE(Files::FileExists(path + u".sav"_s));
 }
 
 TEST_F(CsfEditorSave, NewAndOpenAskAboutChangesByTheFilesName) {

@@ -47,6 +47,10 @@ public:
 
     void ShowBusy(bool busy) override { Busy += busy ? 1 : -1; }
 
+    Notice Told; ///< the last one
+
+    void ShowNotice(const Notice& notice) override { Told = notice; }
+
 private:
     int open_ = 0;
 };

@@ -186,6 +186,26 @@ TEST_F(CsfReader, ATableThatIsReplacedMeanwhileRefusesTheFile) {
     ExpectRefused(CsfHeader(1) + EntryRecords("a", "b"));
 }
 
+TEST_F(CsfReader, AReadInsideAReadIsRefusedAndTheFirstOneGoesOn) {
+    const QString other = Put(u"other.csf"_s, CsfHeader(1) + EntryRecords("other", "x"));
+    host_.OnYield = [&] {
+        EXPECT_TRUE(mCSF::IsLocked());
+        EXPECT_EQ(mCSF::ReadCSF(other), mCSF::Refused);
+    };
+    EXPECT_EQ(Read(CsfHeader(2, 2) + EntryRecords("a", "1") + EntryRecords("b", "2")), 2);
+    EXPECT_EQ(mCSF::CsfStrings, (Table{{u"1"_s, u"a"_s}, {u"2"_s, u"b"_s}}));
+    EXPECT_EQ(host_.Messages.size(), 4U) << "each refusal is told";
+    EXPECT_FALSE(mCSF::IsLocked());
+}
+
+TEST_F(CsfReader, ARefusedReadUnlocksTheTable) {
+    ExpectRefused(CsfHeader(1));
+    EXPECT_FALSE(mCSF::IsLocked());
+    host_.OnYield = [] { throw std::bad_alloc(); };
+    ExpectRefused(CsfHeader(1) + EntryRecords("a", "b"));
+    EXPECT_FALSE(mCSF::IsLocked());
+}
+
 TEST_F(CsfReader, NoRoomRefusesTheFile) {
     host_.OnYield = [] { throw std::bad_alloc(); };
     ExpectRefused(CsfHeader(1) + EntryRecords("a", "b"));

@@ -5,6 +5,10 @@
 
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -112,10 +116,93 @@ TEST_F(CsfWriter, AStaleBackupEndsTheProgramAndBothFilesStay) {
     EXPECT_EQ(World::ReadFile(stale), "older");
 }
 
+TEST_F(CsfWriter, ABackupThatASaveOfThisDocumentLeftIsNotInTheNextOnesWay) {
+    const QString path = Put(u"out.csf"_s, "the good one");
+    const std::vector<CsfString> small = mCSF::CsfStrings;
+    mCSF::CsfStrings.assign(32769, {u"x"_s, u"a"_s});
+    CsfSaves saves;
+    EXPECT_FALSE(mCSF::WriteCSF(path, 0, &saves));
+    EXPECT_FALSE(saves.Failure.isEmpty());
+    EXPECT_EQ(saves.Aside, path + u".sav"_s);
+    EXPECT_FALSE(mCSF::WriteCSF(path, 0, &saves)) << "and again";
+    EXPECT_EQ(World::ReadFile(path + u".sav"_s), "the good one");
+    mCSF::CsfStrings = small;
+    EXPECT_TRUE(mCSF::WriteCSF(path, 3, &saves));
+    EXPECT_EQ(World::ReadFile(path), WrittenByHand()) << "nothing of the longer file stands behind it";
+    EXPECT_FALSE(Files::FileExists(path + u".sav"_s));
+    EXPECT_EQ(saves.Failure, QString());
+    EXPECT_EQ(saves.Aside, QString());
+    EXPECT_TRUE(mCSF::WriteCSF(path, 3, &saves));
+    EXPECT_TRUE(host_.Messages.empty());
+}
+
+TEST_F(CsfWriter, ABackupIsKnownAgainAfterASaveElsewhere) {
+    const QString path = Put(u"out.csf"_s, "old");
+    const std::vector<CsfString> small = mCSF::CsfStrings;
+    mCSF::CsfStrings.assign(32769, {u"x"_s, u"a"_s});
+    CsfSaves saves;
+    EXPECT_FALSE(mCSF::WriteCSF(path, 0, &saves));
+    mCSF::CsfStrings = small;
+    EXPECT_TRUE(mCSF::WriteCSF(At(u"elsewhere.csf"_s), 0, &saves));
+    EXPECT_TRUE(mCSF::WriteCSF(path, 3, &saves));
+    EXPECT_EQ(World::ReadFile(path), WrittenByHand());
+}
+
+TEST_F(CsfWriter, ABackupThatSomebodyElsePutThereSinceEndsTheProgram) {
+    const QString path = Put(u"out.csf"_s, "old");
+    mCSF::CsfStrings.assign(32769, {u"x"_s, u"a"_s});
+    CsfSaves saves;
+    EXPECT_FALSE(mCSF::WriteCSF(path, 0, &saves));
+    Put(u"out.csf.sav"_s, "another");
+    const QByteArray before = World::ReadFile(path);
+    EXPECT_THROW(mCSF::WriteCSF(path, 0, &saves), ProgramEnded);
+    EXPECT_EQ(World::ReadFile(path + u".sav"_s), "another");
+    EXPECT_EQ(World::ReadFile(path), before);
+}
+
 TEST_F(CsfWriter, AStaleBackupWithoutItsFileIsDeletedByASave) {
     Put(u"out.csf.sav"_s, "older");
     Saved();
     EXPECT_FALSE(Files::FileExists(At(u"out.csf.sav"_s)));
+}
+
+TEST_F(CsfWriter, AWriteProtectedFileIsRefusedBeforeAnythingIsTouched) {
+    const QString path = Put(u"out.csf"_s, "old");
+    ASSERT_TRUE(QFile::setPermissions(Paths::ToNative(path), QFile::ReadOwner));
+    CsfSaves saves;
+    EXPECT_FALSE(mCSF::WriteCSF(path, 0, &saves));
+    EXPECT_TRUE(saves.Failure.startsWith(Paths::ToNative(path) + u": "_s)) << saves.Failure.toStdString();
+    EXPECT_EQ(saves.Aside, QString());
+    EXPECT_EQ(World::ReadFile(path), "old");
+    EXPECT_FALSE(Files::FileExists(path + u".sav"_s));
+    EXPECT_TRUE(host_.Messages.empty()) << "the program goes on";
+    QFile::setPermissions(Paths::ToNative(path), QFile::ReadOwner | QFile::WriteOwner);
+    EXPECT_TRUE(mCSF::WriteCSF(path, 0, &saves));
+    EXPECT_EQ(saves.Failure, QString());
+}
+
+TEST_F(CsfWriter, AWriteProtectedFileIsRefusedForAValueToo) {
+    const QString path = Put(u"out.csf"_s, "old");
+    ASSERT_TRUE(QFile::setPermissions(Paths::ToNative(path), QFile::ReadOwner));
+    try {
+        CsfTable{0, mCSF::CsfStrings}.Write(path);
+        FAIL() << "written";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), 70);
+        EXPECT_TRUE(error.Description().startsWith(Paths::ToNative(path) + u": "_s));
+    }
+    EXPECT_EQ(World::ReadFile(path), "old");
+}
+
+TEST_F(CsfWriter, ATableThatIsBeingReadIsNotSaved) {
+    bool saved = true;
+    CsfSaves saves;
+    host_.OnYield = [&] { saved = mCSF::WriteCSF(At(u"out.csf"_s), 0, &saves); };
+    EXPECT_EQ(Read(CsfHeader(1) + EntryRecords("a", "b")), 0);
+    EXPECT_FALSE(saved);
+    EXPECT_FALSE(saves.Failure.isEmpty());
+    EXPECT_FALSE(Files::FileExists(At(u"out.csf"_s)));
+    EXPECT_TRUE(host_.Messages.empty());
 }
 
 TEST_F(CsfWriter, AFolderThatIsMissingEndsTheProgram) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "media/PictureChild.h"
+#include "media/MediaChild.h"
 
 #include <QCoreApplication>
 
@@ -9,8 +9,8 @@
 
 int main(int argc, char** argv) {
     // The preview starts its own executable as the child that decodes: here that is the tests'.
-    if (PictureChild::IsAsked(argc, argv))
-        return PictureChild::Run(argc, argv);
+    if (MediaChild::IsAsked(argc, argv))
+        return MediaChild::Run(argc, argv);
     const QCoreApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

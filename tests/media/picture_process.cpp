@@ -3,7 +3,7 @@
 
 // Decoding in the child process: every kind of picture, and damaged ones by the hundred.
 
-#include "tests/media/picture_process_fixture.h"
+#include "tests/media/media_process_fixture.h"
 #include "tests/media/picture_samples.h"
 
 #include <QImage>
@@ -13,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST_F(PictureProcessTest, EveryExtensionOfTheListComesOutAsABitmap) {
+TEST_F(MediaProcessTest, EveryExtensionOfTheListComesOutAsABitmap) {
     for (const PictureSample& sample : PictureSamples()) {
         ASSERT_EQ(Decode(sample.Name, sample.Bytes), true) << sample.Name.toStdString();
         const QImage picture = QImage::fromData(World::ReadFile(Bitmap()), "BMP");
@@ -22,7 +22,7 @@ TEST_F(PictureProcessTest, EveryExtensionOfTheListComesOutAsABitmap) {
     }
 }
 
-TEST_F(PictureProcessTest, TransparentPixelsStayTransparent) {
+TEST_F(MediaProcessTest, TransparentPixelsStayTransparent) {
     ASSERT_EQ(Decode(u"a.gif"_s, SampleGif()), true);
     const QImage picture = QImage::fromData(World::ReadFile(Bitmap()), "BMP");
     ASSERT_EQ(picture.size(), QSize(2, 1));
@@ -30,56 +30,55 @@ TEST_F(PictureProcessTest, TransparentPixelsStayTransparent) {
     EXPECT_EQ(qAlpha(picture.pixel(1, 0)), 0);
 }
 
-TEST_F(PictureProcessTest, OneChildServesManyPicturesAndBadOnes) {
+TEST_F(MediaProcessTest, OneChildServesManyPicturesAndBadOnes) {
     EXPECT_EQ(Decode(u"a.png"_s, "no picture"), false);
-    auto* const child = process_.findChild<QProcess*>();
-    ASSERT_NE(child, nullptr);
-    const qint64 number = child->processId();
+    const qint64 number = ChildNumber();
+    ASSERT_NE(number, 0);
     EXPECT_EQ(Decode(u"a.pfm"_s, SamplePfm()), true);
     EXPECT_EQ(Decode(u"empty.dds"_s, ""), false);
-    EXPECT_TRUE(process_.IsReady());
-    EXPECT_EQ(process_.findChild<QProcess*>()->processId(), number);
+    EXPECT_TRUE(process_->IsReady());
+    EXPECT_EQ(ChildNumber(), number);
 }
 
-TEST_F(PictureProcessTest, AChildIsKeptReadyAhead) {
-    EXPECT_FALSE(process_.IsReady());
-    process_.Prepare();
-    EXPECT_TRUE(WaitFor([this] { return process_.IsReady(); }));
+TEST_F(MediaProcessTest, AChildIsKeptReadyAhead) {
+    EXPECT_FALSE(process_->IsReady());
+    decoder_.Prepare();
+    EXPECT_TRUE(WaitFor([this] { return process_->IsReady(); }));
 }
 
-TEST_F(PictureProcessTest, ANewerPictureTakesThePlaceOfOneUnderWay) {
+TEST_F(MediaProcessTest, ANewerPictureTakesThePlaceOfOneUnderWay) {
     Begin(u"a.pfm"_s, SamplePfm());
     bool second = false;
-    process_.Decode(Place.WriteFile(u"b.gif"_s, SampleGif()), Bitmap(), [&](bool decoded) { second = decoded; });
+    decoder_.Decode(Place.WriteFile(u"b.gif"_s, SampleGif()), Bitmap(), [&](bool decoded) { second = decoded; });
     EXPECT_TRUE(WaitFor([&] { return second; }));
     EXPECT_FALSE(answer_.has_value()) << "The first one is not answered any more.";
     EXPECT_EQ(QImage::fromData(World::ReadFile(Bitmap())).pixel(0, 0), 0xFFFF0000);
 }
 
-TEST_F(PictureProcessTest, AnAbandonedPictureIsNotAnswered) {
+TEST_F(MediaProcessTest, AnAbandonedPictureIsNotAnswered) {
     EXPECT_EQ(Decode(u"a.pfm"_s, SamplePfm()), true);
     Begin(u"b.pfm"_s, SamplePfm());
-    process_.Abandon();
-    EXPECT_TRUE(WaitFor([this] { return process_.IsReady(); })) << "A new child is ready for the next one.";
+    decoder_.Abandon();
+    EXPECT_TRUE(WaitFor([this] { return process_->IsReady(); })) << "A new child is ready for the next one.";
     EXPECT_FALSE(answer_.has_value());
     EXPECT_EQ(Decode(u"c.pfm"_s, SamplePfm()), true);
 }
 
-TEST_F(PictureProcessTest, AChildThatDiesIsReplaced) {
+TEST_F(MediaProcessTest, AChildThatDiesIsReplaced) {
     EXPECT_EQ(Decode(u"a.pfm"_s, SamplePfm()), true);
-    process_.findChild<QProcess*>()->kill();
-    EXPECT_TRUE(WaitFor([this] { return !process_.IsReady(); }));
+    process_->findChild<QProcess*>()->kill();
+    EXPECT_TRUE(WaitFor([this] { return !process_->IsReady(); }));
     EXPECT_EQ(Decode(u"b.pfm"_s, SamplePfm()), true);
 }
 
-TEST_F(PictureProcessTest, AMissingFileIsNoPicture) {
+TEST_F(MediaProcessTest, AMissingFileIsNoPicture) {
     std::optional<bool> answer;
-    process_.Decode(Place.Root() + u"\\none.png"_s, Bitmap(), [&](bool decoded) { answer = decoded; });
+    decoder_.Decode(Place.Root() + u"\\none.png"_s, Bitmap(), [&](bool decoded) { answer = decoded; });
     EXPECT_TRUE(WaitFor([&] { return answer.has_value(); }));
     EXPECT_EQ(answer, false);
 }
 
-TEST_F(PictureProcessTest, PicturesThatLieAboutTheirSizeAreNone) {
+TEST_F(MediaProcessTest, PicturesThatLieAboutTheirSizeAreNone) {
     EXPECT_EQ(Decode(u"huge.tga"_s, TgaHeader(65535, 65535, 32) + QByteArray(100, 'x')), false);
     EXPECT_EQ(Decode(u"huge.dds"_s, CompressedDds("DXT1", 65535, 65535) + QByteArray(100, 'x')), false);
     EXPECT_EQ(Decode(u"huge.pfm"_s, "PF\n65535 65535\n-1.0\n" + QByteArray(100, 'x')), false);
@@ -89,10 +88,10 @@ TEST_F(PictureProcessTest, PicturesThatLieAboutTheirSizeAreNone) {
     EXPECT_EQ(Decode(u"after.pfm"_s, SamplePfm()), true);
 }
 
-TEST_F(PictureProcessTest, DamagedPicturesAlwaysGetAnAnswer) {
+TEST_F(MediaProcessTest, DamagedPicturesAlwaysGetAnAnswer) {
     constexpr int rounds = 12;
     constexpr unsigned seed = 2005;
-    constexpr int patience = 2 * PictureProcess::TimeLimit + 10000; // the child's start on a busy machine included
+    constexpr int patience = 2 * MediaLimits().Picture + 10000; // the child's start on a busy machine included
     std::mt19937 random(seed);
     const auto below = [&random](qsizetype limit) {
         return static_cast<qsizetype>(random() % static_cast<quint64>(limit));

@@ -3,13 +3,15 @@
 
 // The sound device, written to a file: the samples that come out, and where the sound is.
 
-#include "media/SoundPlayer.h"
+#include "media/FilePlayer.h"
 #include "platform/Paths.h"
+#include "tests/media/sound_bytes.h"
 #include "tests/support/World.h"
 #include "tools/demoworld/Sounds.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QtEndian>
+#include <QEventLoop>
 
 #include <gtest/gtest.h>
 
@@ -24,32 +26,6 @@ using namespace Qt::StringLiterals;
 using Stage = SoundStatus::Stage;
 
 namespace {
-
-QByteArray Little(std::initializer_list<int> values, int length) {
-    QByteArray bytes;
-    for (const int value : values) {
-        for (int i = 0; i < length; ++i)
-            bytes += static_cast<char>(value >> (8 * i));
-    }
-    return bytes;
-}
-
-QByteArray Chunk(const char* name, const QByteArray& bytes) {
-    return name + Little({static_cast<int>(bytes.size())}, 4) + bytes;
-}
-
-/// A WAV at the device's own rate, in stereo: nothing is turned into anything else on the way.
-QByteArray Wav(int format, int blockLength, int bits, const QByteArray& extra, int frames, const QByteArray& data) {
-    constexpr int rate = 44100;
-    const QByteArray fmt =
-        Little({format, 2}, 2) + Little({rate, rate * 4}, 4) + Little({blockLength, bits}, 2) + extra;
-    const QByteArray body = Chunk("fmt ", fmt) + Chunk("fact", Little({frames}, 4)) + Chunk("data", data);
-    return "RIFF" + Little({static_cast<int>(body.size()) + 4}, 4) + "WAVE" + body;
-}
-
-QByteArray PcmWav(const QByteArray& data) {
-    return Wav(1, 4, 16, {}, static_cast<int>(data.size() / 4), data);
-}
 
 class SoundTest : public testing::Test {
 protected:
@@ -71,7 +47,8 @@ protected:
         while (!holds(Player->Status())) {
             if (timer.hasExpired(limit))
                 return false;
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
         return true;
     }
@@ -95,7 +72,8 @@ protected:
     }
 
     World Place;
-    std::unique_ptr<SoundPlayer> Player = std::make_unique<FilePlayer>();
+    std::shared_ptr<MediaProcess> Process = std::make_shared<MediaProcess>();
+    std::unique_ptr<SoundPlayer> Player = std::make_unique<FilePlayer>(Process);
 };
 
 } // namespace
@@ -141,13 +119,21 @@ TEST_F(SoundTest, TheGamesOwnKindsOfWavArePlayed) {
     const Demo::Tune tune = Demo::MakeTune(7, 0.2);
     for (const QByteArray& bytes :
          {Demo::WavPcm(tune, 8), Demo::WavPcm(tune, 16), Demo::WavIma(tune), Demo::WavMs(tune)}) {
-        Player = std::make_unique<FilePlayer>();
+        Player = std::make_unique<FilePlayer>(Process);
         EXPECT_GT(Played(bytes).size(), 44100 * 4 / 10);
     }
 }
 
 TEST_F(SoundTest, Mp3ComesOutDecoded) {
     EXPECT_GT(Played(Demo::Mp3(3, 0.5), u"a.mp3"_s).size(), 44100 * 4 / 4);
+}
+
+TEST_F(SoundTest, MpegOfTheLaterVersionsIsDecodedToo) {
+    // 8 kbit a second at 8,000 Hz: 72 bytes hold 576 samples, here of silence.
+    const QByteArray frame = QByteArray("\xFF\xE3\x18\xC4", 4) + QByteArray(68, '\0');
+    Open(frame.repeated(100), u"a.mp3"_s);
+    ASSERT_TRUE(WaitFor(Stage::Playing));
+    EXPECT_NEAR(static_cast<double>(Player->Status().Length), 7200, 100);
 }
 
 TEST_F(SoundTest, PositionAndLengthFollowTheSound) {
@@ -215,6 +201,45 @@ TEST_F(SoundTest, WithoutADeviceItIsSilentAndKnowsIt) {
     qputenv("SDL_AUDIODRIVER", "dummy");
     Open(PcmWav(QByteArray(400000, 'x')));
     EXPECT_TRUE(WaitFor(Stage::Playing)) << "The next sound finds a device that came later.";
+}
+
+TEST_F(SoundTest, RatesThatTheLibraryCannotStandAreRefused) {
+    Open(WavOfRate(5, QByteArray(120000, 'x')));
+    EXPECT_TRUE(WaitFor(Stage::Unplayable));
+    Open(WavOfRate(1, QByteArray(20000, 'x')));
+    EXPECT_TRUE(WaitFor(Stage::Unplayable));
+    Open(WavOfRate(8000, QByteArray(20000, 'x')));
+    EXPECT_TRUE(WaitFor(Stage::Playing));
+}
+
+TEST_F(SoundTest, TheClickDoesNotWaitForTheDecoder) {
+    Open(PcmWav(QByteArray(400000, 'x')));
+    EXPECT_EQ(Player->Status().What, Stage::Opening) << "No child is there yet.";
+    EXPECT_TRUE(WaitFor(Stage::Playing));
+}
+
+TEST_F(SoundTest, OneThatIsStoppedWhileItIsDecodedDoesNotStart) {
+    Open(PcmWav(QByteArray(qsizetype{4} * 44100 * 3, 'x')));
+    Player->Rewind();
+    EXPECT_EQ(Player->Status().What, Stage::Stopped);
+    ASSERT_TRUE(WaitFor([](const SoundStatus& status) { return status.Length == 3000; }));
+    EXPECT_EQ(Player->Status().What, Stage::Stopped);
+    Player->Play();
+    EXPECT_TRUE(WaitFor(Stage::Playing));
+}
+
+TEST_F(SoundTest, ANewerOneTakesThePlaceOfOneThatIsDecoded) {
+    Open(PcmWav(QByteArray(qsizetype{4} * 44100 * 3, 'x')));
+    Open(PcmWav(QByteArray(qsizetype{4} * 44100 * 2, 'x')), u"b.wav"_s);
+    ASSERT_TRUE(WaitFor(Stage::Playing));
+    EXPECT_EQ(Player->Status().Length, 2000);
+}
+
+TEST_F(SoundTest, OneThatIsForgottenWhileItIsDecodedStaysForgotten) {
+    Open(PcmWav(QByteArray(400000, 'x')));
+    Player->Stop();
+    EXPECT_TRUE(WaitFor([this](const SoundStatus&) { return Process->IsReady(); }));
+    EXPECT_EQ(Player->Status().What, Stage::Empty);
 }
 
 TEST_F(SoundTest, DamagedSoundsAlwaysGetAnAnswer) {

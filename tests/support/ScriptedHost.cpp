@@ -16,6 +16,40 @@ Value Next(std::deque<Value>& script, const QString& question) {
     return value;
 }
 
+class ScriptedProgress : public Progress {
+public:
+    explicit ScriptedProgress(ScriptedHost& host) : host_(host) {
+        host_.ProgressShown = true;
+        host_.Cancelled = false;
+        host_.TimerRunning = true;
+    }
+
+    ~ScriptedProgress() override {
+        if (released_)
+            return;
+        host_.ProgressShown = false;
+        host_.TimerRunning = false;
+    }
+
+    void SetText(const QString& text) override { host_.ProgressTexts.append(text); }
+
+    void SetValue(int percent) override { host_.ProgressValues.push_back(percent); }
+
+    void Hide() override { host_.ProgressShown = false; }
+
+    [[nodiscard]] bool Cancelled() const override { return host_.Cancelled; }
+
+    void Cancel() override { host_.CancelProgress(); }
+
+    void StopTimer() override { host_.TimerRunning = false; }
+
+    void Release() override { released_ = true; }
+
+private:
+    ScriptedHost& host_;
+    bool released_ = false;
+};
+
 } // namespace
 
 ScriptedHost::ScriptedHost() {
@@ -26,8 +60,9 @@ ScriptedHost::~ScriptedHost() {
     Use(nullptr);
 }
 
-Host::Answer ScriptedHost::Message(const QString& text, Icon icon, Buttons buttons, const QString& title) {
-    Messages.push_back({text, title, icon, buttons, ProgressShown, TimerRunning});
+Host::Answer ScriptedHost::Message(const QString& text, Icon icon, Buttons buttons, const QString& title,
+                                   std::optional<Answer> defaultAnswer) {
+    Messages.push_back({text, title, icon, buttons, ProgressShown, TimerRunning, defaultAnswer});
     return buttons == Buttons::Ok ? Answer::Ok : Next(Answers, text);
 }
 
@@ -49,22 +84,13 @@ std::optional<QString> ScriptedHost::SaveFileName(const FileDialog& dialog) {
     return Next(FileNames, dialog.Title);
 }
 
-void ScriptedHost::ShowProgress() {
-    ProgressShown = true;
-    Cancelled = false;
-    TimerRunning = true;
+std::optional<QString> ScriptedHost::ChooseFolder(const QString& title, const QString& folder) {
+    Dialogs.push_back({.Title = title, .Filter = {}, .DefaultExtension = {}, .DefaultName = {}, .Folder = folder});
+    return Next(Folders, title);
 }
 
-void ScriptedHost::SetProgressText(const QString& text) {
-    ProgressTexts.append(text);
-}
-
-void ScriptedHost::SetProgressValue(int percent) {
-    ProgressValues.push_back(percent);
-}
-
-void ScriptedHost::HideProgress() {
-    ProgressShown = false;
+std::unique_ptr<Progress> ScriptedHost::ShowProgress() {
+    return std::make_unique<ScriptedProgress>(*this);
 }
 
 void ScriptedHost::CancelProgress() {
@@ -72,17 +98,20 @@ void ScriptedHost::CancelProgress() {
     TimerRunning = false;
 }
 
-void ScriptedHost::StopProgressTimer() {
-    TimerRunning = false;
-}
-
-void ScriptedHost::UnloadProgress() {
-    ProgressShown = false;
-    TimerRunning = false;
-}
-
 void ScriptedHost::Yield() {
     ++Yields;
     if (OnYield)
         OnYield();
+}
+
+bool ScriptedHost::WaitUntil(const std::function<bool()>& condition) {
+    constexpr int mostRounds = 1000;
+    ++Waits;
+    for (int round = 0; round < mostRounds; ++round) {
+        if (condition())
+            return true;
+        if (OnWait)
+            OnWait();
+    }
+    throw std::logic_error("A wait that nothing ends.");
 }

@@ -21,6 +21,7 @@ public:
         Buttons Choice;
         bool OverProgress; ///< the progress window was on the screen
         bool OverTimer;    ///< and came to the front by itself
+        std::optional<Answer> Default;
     };
 
     ScriptedHost();
@@ -29,8 +30,9 @@ public:
     std::deque<Answer> Answers;                    ///< for Message with more than one button
     std::deque<std::optional<QString>> InputTexts; ///< for InputBox
     std::deque<std::optional<QString>> FileNames;  ///< for OpenFileName and SaveFileName
+    std::deque<std::optional<QString>> Folders;    ///< for ChooseFolder
     std::vector<Shown> Messages;                   ///< every message box, in order
-    std::vector<FileDialog> Dialogs;               ///< every file dialog, in order
+    std::vector<FileDialog> Dialogs; ///< every file dialog, in order; a folder chooser has only a title and a folder
     QStringList ProgressTexts;
     std::vector<int> ProgressValues;
     int Beeps = 0;
@@ -39,21 +41,21 @@ public:
     bool Cancelled = false;        ///< the progress window's; false again when the next one is shown
     bool TimerRunning = false;     ///< the progress window's
     std::function<void()> OnYield; ///< runs inside each Yield
+    int Waits = 0;
+    std::function<void()> OnWait; ///< runs inside each WaitUntil, again and again until the condition holds
 
-    Answer Message(const QString& text, Icon icon, Buttons buttons, const QString& title) override;
+    /// The user presses the button of the progress window.
+    void CancelProgress();
+
+    Answer Message(const QString& text, Icon icon, Buttons buttons, const QString& title,
+                   std::optional<Answer> defaultAnswer) override;
     std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& text) override;
     void Beep() override;
     std::optional<QString> OpenFileName(const FileDialog& dialog) override;
     std::optional<QString> SaveFileName(const FileDialog& dialog) override;
-    void ShowProgress() override;
-    void SetProgressText(const QString& text) override;
-    void SetProgressValue(int percent) override;
-    void HideProgress() override;
-    void UnloadProgress() override;
-
-    [[nodiscard]] bool ProgressCancelled() const override { return Cancelled; }
-
-    void CancelProgress() override;
-    void StopProgressTimer() override;
+    std::optional<QString> ChooseFolder(const QString& title, const QString& folder) override;
+    [[nodiscard]] std::unique_ptr<Progress> ShowProgress() override;
     void Yield() override;
+    /// A condition that still does not hold after many rounds fails the test.
+    bool WaitUntil(const std::function<bool()>& condition) override;
 };

@@ -19,12 +19,18 @@ void ScriptedNavigator::Record(const QString& call) {
         OnCall(call);
 }
 
+void ScriptedNavigator::RecordModal(const QString& call, QObject* owner) {
+    Owner = owner;
+    Record(call);
+}
+
 void ScriptedNavigator::ShowToolsMenu() {
     Record(u"ShowToolsMenu"_s);
 }
 
-void ScriptedNavigator::ShowBigEditor() {
+bool ScriptedNavigator::ShowBigEditor() {
     Record(u"ShowBigEditor"_s);
+    return WindowsComeUp;
 }
 
 void ScriptedNavigator::OpenBigFile(const QString& path) {
@@ -35,38 +41,32 @@ void ScriptedNavigator::ExtractBigFile(const QString& path) {
     Record(u"ExtractBigFile "_s + path);
 }
 
-void ScriptedNavigator::ShowCSFEditor() {
+bool ScriptedNavigator::ShowCSFEditor() {
     Record(u"ShowCSFEditor"_s);
+    return WindowsComeUp;
 }
 
 void ScriptedNavigator::OpenCSFFile(const QString& path) {
     Record(u"OpenCSFFile "_s + path);
 }
 
-void ScriptedNavigator::ShowPersonalFiles() {
+bool ScriptedNavigator::ShowPersonalFiles() {
     Record(u"ShowPersonalFiles"_s);
+    return WindowsComeUp;
 }
 
-void ScriptedNavigator::ShowAddFiles() {
-    Record(u"ShowAddFiles"_s);
+void ScriptedNavigator::ShowAddFiles(QObject* owner) {
+    RecordModal(u"ShowAddFiles"_s, owner);
 }
 
-void ScriptedNavigator::ShowOptions(QObject*) {
-    Record(u"ShowOptions"_s);
+void ScriptedNavigator::ShowOptions(QObject* owner) {
+    RecordModal(u"ShowOptions"_s, owner);
 }
 
-void ScriptedNavigator::ShowAbout(QObject*) {
-    Record(u"ShowAbout"_s);
+void ScriptedNavigator::ShowAbout(QObject* owner) {
+    RecordModal(u"ShowAbout"_s, owner);
 }
 
 void ScriptedNavigator::CheckForUpdates(bool automatic) {
     Record(automatic ? u"CheckForUpdates automatic"_s : u"CheckForUpdates manual"_s);
-}
-
-void ScriptedNavigator::ActivateShellMap(GameIndex game) {
-    Record(u"ActivateShellMap "_s + QString::number(game));
-}
-
-bool ScriptedNavigator::IsBuilt(Tool tool) const {
-    return !NotBuilt.contains(tool);
 }

@@ -9,7 +9,6 @@
 #include <QStringList>
 
 #include <functional>
-#include <set>
 
 class ScriptedNavigator : public Navigator {
 public:
@@ -17,23 +16,23 @@ public:
     ~ScriptedNavigator() override;
 
     QStringList Calls;                          ///< the routine's name, then a blank and its argument where it has one
-    std::set<Tool> NotBuilt;                    ///< every tool that is not named here counts as built
+    QObject* Owner = nullptr;                   ///< of the last modal window
+    bool WindowsComeUp = true;                  ///< what the three tools answer
     std::function<void(const QString&)> OnCall; ///< runs inside each call with what is recorded of it
 
     void ShowToolsMenu() override;
-    void ShowBigEditor() override;
+    bool ShowBigEditor() override;
+    bool ShowCSFEditor() override;
+    bool ShowPersonalFiles() override;
     void OpenBigFile(const QString& path) override;
     void ExtractBigFile(const QString& path) override;
-    void ShowCSFEditor() override;
     void OpenCSFFile(const QString& path) override;
-    void ShowPersonalFiles() override;
-    void ShowAddFiles() override;
     void ShowOptions(QObject* owner) override;
     void ShowAbout(QObject* owner) override;
+    void ShowAddFiles(QObject* owner) override;
     void CheckForUpdates(bool automatic) override;
-    void ActivateShellMap(GameIndex game) override;
-    [[nodiscard]] bool IsBuilt(Tool tool) const override;
 
 private:
     void Record(const QString& call);
+    void RecordModal(const QString& call, QObject* owner);
 };

@@ -3,6 +3,7 @@
 
 #include "tests/support/World.h"
 
+#include "core/GameFiles.h"
 #include "core/Settings.h"
 #include "core/mMain.h"
 #include "platform/Files.h"
@@ -50,6 +51,7 @@ void ResetStartUpState() {
     mMain::RestartRequested = false;
     mMain::CsfOpenedByHost = false;
     Game = {};
+    GameFiles::ActivateShellMap = nullptr;
 }
 
 } // namespace

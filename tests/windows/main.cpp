@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "media/PictureChild.h"
+#include "media/MediaChild.h"
 #include "tests/windows/WindowTests.h"
 
 #include <QApplication>
@@ -26,8 +26,8 @@ QStringList ReportArguments(const QString& className) {
 // goes to each of them.
 int main(int argc, char** argv) {
     // The preview starts its own executable as the child that decodes: here that is the tests'.
-    if (PictureChild::IsAsked(argc, argv))
-        return PictureChild::Run(argc, argv);
+    if (MediaChild::IsAsked(argc, argv))
+        return MediaChild::Run(argc, argv);
     const QApplication application(argc, argv);
     QStringList wanted = QApplication::arguments().mid(1);
     QStringList passedOn{QApplication::arguments().first()};

@@ -4,15 +4,17 @@
 #include "ui/window/WindowHost.h"
 
 #include "core/mTraduction.h"
-#include "platform/Paths.h"
-#include "ui/text/FileFilter.h"
 #include "ui/text/Localisation.h"
+#include "ui/window/FileChooser.h"
+#include "ui/window/frmProgress.h"
 
 #include <QApplication>
-#include <QFileDialog>
+#include <QCloseEvent>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -58,7 +60,7 @@ struct Choice {
     QString Key;
 };
 
-// The last one is what closing the box without a choice means.
+// The first one is pressed by Enter, where nothing else is asked for.
 QList<Choice> ChoicesOf(Host::Buttons buttons) {
     const Choice yes{QMessageBox::Yes, Host::Answer::Yes, u"Yes"_s};
     const Choice no{QMessageBox::No, Host::Answer::No, u"No"_s};
@@ -73,44 +75,91 @@ QList<Choice> ChoicesOf(Host::Buttons buttons) {
     return {{QMessageBox::Ok, Host::Answer::Ok, u"OK"_s}};
 }
 
-std::optional<QString> Ask(const Host::FileDialog& wanted, QFileDialog::AcceptMode mode) {
-    QFileDialog dialog(Owner(), wanted.Title);
-    dialog.setAcceptMode(mode);
-    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    dialog.setNameFilters(ToNameFilters(wanted.Filter));
-    dialog.setDefaultSuffix(wanted.DefaultExtension);
-    if (!wanted.Folder.isEmpty())
-        dialog.setDirectory(Paths::ToNative(wanted.Folder));
-    if (!wanted.DefaultName.isEmpty())
-        dialog.selectFile(Paths::ToNative(wanted.DefaultName));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    return Paths::FromNative(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
-}
+// Escape and the cross mean Cancel, or Ok where there is nothing else. A box of Yes and No has neither, whatever the
+// toolkit would take them for.
+class MessageBox : public QMessageBox {
+public:
+    MessageBox(QWidget* owner, bool mustBeAnswered) : QMessageBox(owner), mustBeAnswered_(mustBeAnswered) {
+        if (mustBeAnswered_)
+            setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!mustBeAnswered_ || !event->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(event);
+    }
+
+    void closeEvent(QCloseEvent* event) override {
+        if (mustBeAnswered_)
+            event->ignore();
+        else
+            QMessageBox::closeEvent(event);
+    }
+
+private:
+    bool mustBeAnswered_;
+};
+
+class WindowProgress : public Progress {
+public:
+    /// A window that is released goes to `left`, which outlives this object.
+    explicit WindowProgress(std::unique_ptr<frmProgress>& left)
+        : window_(std::make_unique<frmProgress>()),
+          left_(left) {
+        window_->show();
+    }
+
+    void SetText(const QString& text) override { window_->SetText(text); }
+
+    void SetValue(int percent) override { window_->SetValue(percent); }
+
+    void Hide() override { window_->hide(); }
+
+    [[nodiscard]] bool Cancelled() const override { return window_->Cancelled(); }
+
+    void Cancel() override { window_->Cancel(); }
+
+    void StopTimer() override { window_->StopTimer(); }
+
+    void Release() override { released_ = true; }
+
+    ~WindowProgress() override {
+        if (released_)
+            left_ = std::move(window_);
+    }
+
+private:
+    std::unique_ptr<frmProgress> window_;
+    std::unique_ptr<frmProgress>& left_;
+    bool released_ = false;
+};
 
 } // namespace
 
-WindowHost::WindowHost(ProgressWindowMaker maker) : maker_(std::move(maker)) {}
+WindowHost::WindowHost() = default;
 
 WindowHost::~WindowHost() = default;
 
-Host::Answer WindowHost::Message(const QString& text, Icon icon, Buttons buttons, const QString& title) {
-    QMessageBox box(Owner());
+Host::Answer WindowHost::Message(const QString& text, Icon icon, Buttons buttons, const QString& title,
+                                 std::optional<Answer> defaultAnswer) {
+    MessageBox box(Owner(), buttons == Buttons::YesNo);
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText);
     box.setText(mTraduction::DisplayText(text));
     box.setIcon(SignOf(icon));
     const QList<Choice> choices = ChoicesOf(buttons);
-    for (const Choice& choice : choices)
+    for (const Choice& choice : choices) {
         box.addButton(choice.Button)->setText(mTraduction::GetText(choice.Key));
-    box.setDefaultButton(choices.constFirst().Button);
-    box.setEscapeButton(choices.constLast().Button);
+        if (choice.Means == defaultAnswer.value_or(choices.constFirst().Means))
+            box.setDefaultButton(choice.Button);
+    }
     const int pressed = box.exec();
     for (const Choice& choice : choices) {
         if (choice.Button == pressed)
             return choice.Means;
     }
-    return choices.constLast().Means;
+    return choices.constLast().Means; // the program ends below the box
 }
 
 std::optional<QString> WindowHost::InputBox(const QString& prompt, const QString& title, const QString& text) {
@@ -130,55 +179,26 @@ void WindowHost::Beep() {
 }
 
 std::optional<QString> WindowHost::OpenFileName(const FileDialog& dialog) {
-    return Ask(dialog, QFileDialog::AcceptOpen);
+    return FileChooser::FileToOpen(Owner(), dialog);
 }
 
 std::optional<QString> WindowHost::SaveFileName(const FileDialog& dialog) {
-    return Ask(dialog, QFileDialog::AcceptSave);
+    return FileChooser::FileToSave(Owner(), dialog);
 }
 
-void WindowHost::ShowProgress() {
-    progress_ = maker_();
-    progress_->Widget()->show();
+std::optional<QString> WindowHost::ChooseFolder(const QString& title, const QString& folder) {
+    return FileChooser::Folder(Owner(), title, folder);
 }
 
-void WindowHost::SetProgressText(const QString& text) {
-    if (progress_)
-        progress_->SetText(mTraduction::DisplayText(text));
-}
-
-void WindowHost::SetProgressValue(int percent) {
-    if (progress_)
-        progress_->SetValue(percent);
-}
-
-void WindowHost::HideProgress() {
-    if (progress_)
-        progress_->Widget()->hide();
-}
-
-bool WindowHost::ProgressCancelled() const {
-    return progress_ && progress_->Cancelled();
-}
-
-void WindowHost::CancelProgress() {
-    if (progress_)
-        progress_->Cancel();
-}
-
-void WindowHost::StopProgressTimer() {
-    if (progress_)
-        progress_->StopTimer();
-}
-
-void WindowHost::UnloadProgress() {
-    progress_.reset();
+std::unique_ptr<Progress> WindowHost::ShowProgress() {
+    left_.reset();
+    return std::make_unique<WindowProgress>(left_);
 }
 
 void WindowHost::Yield() {
-    if (yielded_.isValid() && yielded_.elapsed() < yieldedEvery)
+    if (yielding_ || (yielded_.isValid() && yielded_.elapsed() < yieldedEvery))
         return;
-    yielded_.start(); // before and after: what runs now may yield too
+    const QScopedValueRollback yielding(yielding_, true);
     QCoreApplication::processEvents();
     yielded_.start();
 }

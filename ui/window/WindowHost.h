@@ -5,36 +5,29 @@
 #pragma once
 
 #include "core/Host.h"
-#include "ui/window/ProgressWindow.h"
 
 #include <QElapsedTimer>
 
-class QFileDialog;
+class frmProgress;
 
 class WindowHost : public Host {
 public:
-    /// `maker` makes the progress window each time it is shown.
-    explicit WindowHost(ProgressWindowMaker maker);
+    WindowHost();
     ~WindowHost() override;
 
-    Answer Message(const QString& text, Icon icon, Buttons buttons, const QString& title) override;
+    Answer Message(const QString& text, Icon icon, Buttons buttons, const QString& title,
+                   std::optional<Answer> defaultAnswer) override;
     std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& text) override;
     void Beep() override;
     std::optional<QString> OpenFileName(const FileDialog& dialog) override;
     std::optional<QString> SaveFileName(const FileDialog& dialog) override;
-    void ShowProgress() override;
-    void SetProgressText(const QString& text) override;
-    void SetProgressValue(int percent) override;
-    void HideProgress() override;
-    void UnloadProgress() override;
-    [[nodiscard]] bool ProgressCancelled() const override;
-    void CancelProgress() override;
-    void StopProgressTimer() override;
-    /// At most once in a few milliseconds, however often it is called.
+    std::optional<QString> ChooseFolder(const QString& title, const QString& folder) override;
+    [[nodiscard]] std::unique_ptr<Progress> ShowProgress() override;
+    /// At most once in a few milliseconds, however often it is called. What runs in a yield yields no more.
     void Yield() override;
 
 private:
-    ProgressWindowMaker maker_;
     QElapsedTimer yielded_; ///< since the last time; not valid before the first
-    std::unique_ptr<ProgressWindow> progress_;
+    bool yielding_ = false;
+    std::unique_ptr<frmProgress> left_; ///< the progress window that was told to stay on the screen
 };

@@ -15,10 +15,10 @@ namespace {
 
 constexpr int compassSize = 32;
 
-void Colour(QLabel* label, const QColor& colour) {
-    QPalette palette = label->palette();
+void Colour(QWidget* control, const QColor& colour) {
+    QPalette palette = control->palette();
     palette.setColor(QPalette::WindowText, colour);
-    label->setPalette(palette);
+    control->setPalette(palette);
 }
 
 } // namespace
@@ -31,6 +31,7 @@ WizardPage::WizardPage(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     // One label is the other one's light edge.
     Colour(ui_->Label5, Qt::white);
     Colour(ui_->Label6, Style::Colour::DisabledText);
+    Colour(ui_->linVersion, Style::Colour::DisabledBorder);
     ui_->Label5->setContentsMargins(0, 1, 0, 0);
     ui_->Label6->setContentsMargins(0, 0, 1, 1);
     connect(ui_->cmdPrevious, &QPushButton::clicked, this, [this] { Previous(); });

@@ -4,8 +4,6 @@
 /// The window that shows how far a save or an extraction has come.
 #pragma once
 
-#include "ui/window/ProgressWindow.h"
-
 #include <QTimer>
 #include <QWidget>
 
@@ -15,22 +13,24 @@ namespace Ui {
 class frmProgress;
 }
 
-class frmProgress : public QWidget, public ProgressWindow {
+class frmProgress : public QWidget {
     Q_OBJECT
 public:
     explicit frmProgress(QWidget* parent = nullptr);
     ~frmProgress() override;
 
-    QWidget* Widget() override { return this; }
-
-    void SetText(const QString& text) override;
-    void SetValue(int percent) override;
+    /// Line breaks are CR LF.
+    void SetText(const QString& text);
+    /// 0 to 100.
+    void SetValue(int percent);
 
     /// Set by the button and by closing the window; a save never looks at it.
-    [[nodiscard]] bool Cancelled() const override { return cancelled_; }
+    [[nodiscard]] bool Cancelled() const { return cancelled_; }
 
-    void Cancel() override;
-    void StopTimer() override;
+    /// As the button: stops the timer and sets Cancelled.
+    void Cancel();
+    /// The window comes to the front by itself no longer.
+    void StopTimer();
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -92,6 +92,44 @@ TEST_F(CsfFullDisk, WhatTheEditorCouldNotSaveStaysAChangeAndKeepsTheWindow) {
     }
     EXPECT_TRUE(State().Modified);
     EXPECT_EQ(World::ReadFile(path + u".sav"_s), before);
-    EXPECT_EQ(host_.Messages.size(), 1U) << "the question alone: what fails among the entries is passed over";
+    ASSERT_EQ(host_.Messages.size(), 2U) << "the question, and what became of the answer";
+    const ScriptedHost::Shown& told = host_.Messages[1];
+    EXPECT_TRUE(told.Text.startsWith(u"SaveFailed\r\n"_s + Paths::ToNative(path))) << told.Text.toStdString();
+    EXPECT_TRUE(told.Text.endsWith(u"\r\nOldFileKept"_s)) << told.Text.toStdString();
+    EXPECT_EQ(told.Sign, Host::Icon::Critical);
+    EXPECT_EQ(told.Choice, Host::Buttons::Ok);
     EXPECT_EQ(View.Busy, 0);
+}
+
+TEST_F(CsfFullDisk, TheNextSaveOfTheSameDocumentWorks) {
+    const QString path = OpenTable({{"a", "1"}, {"b", "2"}});
+    world_.UseLanguage("[LNG]\r\nOldFileKept=Before: %1\r\n");
+    world_.Start();
+    Editor.NameTyped(u"x"_s);
+    for (const rlim_t room : {40U, 30U}) {
+        const FileLengthLimit limit(room);
+        Editor.Save();
+    }
+    ASSERT_EQ(host_.Messages.size(), 2U);
+    EXPECT_TRUE(host_.Messages[1].Text.endsWith(u"\r\nBefore: "_s + Paths::ToNative(path) + u".sav"_s))
+        << host_.Messages[1].Text.toStdString();
+    EXPECT_TRUE(State().Modified);
+    Editor.Save();
+    EXPECT_EQ(World::ReadFile(path), CsfHeader(2) + EntryRecords("x", "1") + EntryRecords("b", "2"));
+    EXPECT_FALSE(Files::FileExists(path + u".sav"_s));
+    EXPECT_FALSE(State().Modified);
+    EXPECT_EQ(host_.Messages.size(), 2U);
+}
+
+TEST_F(CsfFullDisk, AnotherDocumentDoesNotTakeTheBackupForItsOwn) {
+    const QString path = OpenTable({{"a", "1"}, {"b", "2"}});
+    const QByteArray before = World::ReadFile(path);
+    {
+        const FileLengthLimit limit(24 + 23);
+        Editor.Save();
+    }
+    ASSERT_EQ(World::ReadFile(path).size(), 24 + 23) << "the half that was written reads as a table";
+    Editor.OpenCSFFile(path);
+    EXPECT_THROW(Editor.Save(), ProgramEnded);
+    EXPECT_EQ(World::ReadFile(path + u".sav"_s), before) << "the only whole copy";
 }

@@ -8,7 +8,7 @@
 #include "big/window/frmBigEditor.h"
 #include "core/mMain.h"
 #include "tests/big/document_support.h"
-#include "tests/windows/ToolWindow.h"
+#include "tests/windows/EditorTest.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/SideMenu.h"
 
@@ -21,7 +21,7 @@
 #include <QTimer>
 #include <QTreeView>
 
-class BigEditorWindow : public ToolWindow<frmBigEditor> {
+class BigEditorWindow : public EditorTest<frmBigEditor> {
 protected:
     void Begin() {
         BeginIn("[LNG]\r\nReady=Bereit\r\nFile=Datei\r\nNew=Neu\r\nOpen=Auf\r\nBIGFile=BIG-Datei\r\n"

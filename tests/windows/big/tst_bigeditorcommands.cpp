@@ -91,14 +91,14 @@ private Q_SLOTS:
         Part<QAction>("mnuOptions")->trigger();
         Part<QAction>("mnuCheckForUpdates")->trigger();
         Part<QAction>("mnuAbout")->trigger();
-        QCOMPARE(navigator_->Asked, QStringList({u"Options"_s, u"Updates"_s, u"About"_s}));
+        QCOMPARE(navigator_->Calls, QStringList({u"ShowOptions"_s, u"CheckForUpdates manual"_s, u"ShowAbout"_s}));
     }
 
     void closingShowsTheToolsMenuAgain() {
         Open();
         QTest::keyClick(window_.get(), Qt::Key_W, Qt::ControlModifier);
         QVERIFY(!window_->isVisible());
-        QCOMPARE(navigator_->Asked, QStringList({u"ToolsMenu"_s}));
+        QCOMPARE(navigator_->Calls, QStringList({u"ShowToolsMenu"_s}));
     }
 
     void openedByItsSwitchItEndsAlone_data() {
@@ -115,7 +115,7 @@ private Q_SLOTS:
         mMain::CommandLine = commandLine;
         Open();
         window_->close();
-        QCOMPARE(navigator_->Asked.contains(u"ToolsMenu"_s), menu);
+        QCOMPARE(navigator_->Calls.contains(u"ShowToolsMenu"_s), menu);
     }
 
     void closingWithChangesAsks() {
@@ -125,11 +125,11 @@ private Q_SLOTS:
         host_->Answers = {Answer::Cancel};
         window_->close();
         QVERIFY(window_->isVisible());
-        QVERIFY(navigator_->Asked.isEmpty());
+        QVERIFY(navigator_->Calls.isEmpty());
         host_->Answers = {Answer::No};
         window_->close();
         QVERIFY(!window_->isVisible());
-        QCOMPARE(navigator_->Asked, QStringList({u"ToolsMenu"_s}));
+        QCOMPARE(navigator_->Calls, QStringList({u"ShowToolsMenu"_s}));
     }
 
     void aFileThatIsNotThereOpensNothing() {

@@ -3,11 +3,12 @@
 
 #include "core/mMain.h"
 #include "core/window/frmToolsMenu.h"
+#include "tests/support/ScriptedNavigator.h"
 #include "tests/support/World.h"
-#include "tests/windows/RecordingNavigator.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/look/PictureButton.h"
 
+#include <QCloseEvent>
 #include <QLabel>
 #include <QSignalSpy>
 
@@ -18,6 +19,19 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr QColor orange{242, 142, 0};
 constexpr QColor white{255, 255, 255};
+
+/// A tool whose user may keep the document.
+class RefusingTool : public QWidget {
+public:
+    bool Refuses = true;
+    int Asked = 0;
+
+protected:
+    void closeEvent(QCloseEvent* event) override {
+        ++Asked;
+        event->setAccepted(!Refuses);
+    }
+};
 } // namespace
 
 class tst_toolsmenu : public QObject {
@@ -26,7 +40,7 @@ private Q_SLOTS:
 
     void init() {
         world_ = std::make_unique<World>();
-        navigator_ = std::make_unique<RecordingNavigator>();
+        navigator_ = std::make_unique<ScriptedNavigator>();
         world_->InstallGame(0);
         world_->UseLanguage("[LNG]\r\nPersonalFiles=Mes fichiers\r\nOptions=R\xE9glages\r\nExit=Partir\r\n"
                             "BIGEditorDescription=Les BIG\r\n");
@@ -97,9 +111,9 @@ private Q_SLOTS:
     void aClickShowsTheToolAndThenClosesTheMenu_data() {
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("tool");
-        QTest::newRow("BIG Editor") << 0 << u"BigEditor"_s;
-        QTest::newRow("CSF Editor") << 1 << u"CSFEditor"_s;
-        QTest::newRow("Personal Files") << 2 << u"PersonalFiles"_s;
+        QTest::newRow("BIG Editor") << 0 << u"ShowBigEditor"_s;
+        QTest::newRow("CSF Editor") << 1 << u"ShowCSFEditor"_s;
+        QTest::newRow("Personal Files") << 2 << u"ShowPersonalFiles"_s;
     }
 
     void aClickShowsTheToolAndThenClosesTheMenu() {
@@ -107,40 +121,41 @@ private Q_SLOTS:
         QFETCH(QString, tool);
         Open();
         bool stillOpen = false;
-        navigator_->OnShow = [&] { stillOpen = menu_->isVisible(); };
+        navigator_->OnCall = [&](const QString&) { stillOpen = menu_->isVisible(); };
         QTest::mouseClick(Entry(index), Qt::LeftButton);
-        QCOMPARE(navigator_->Asked, QStringList{tool});
+        QCOMPARE(navigator_->Calls, QStringList{tool});
         QVERIFY(stillOpen);
         QVERIFY(!menu_->isVisible());
     }
 
     void aToolThatIsNotBuiltLeavesTheMenuAsItIs() {
         Open();
-        navigator_->Built = {};
+        navigator_->WindowsComeUp = false;
         for (int index = 0; index < 3; ++index)
             QTest::mouseClick(Entry(index), Qt::LeftButton);
-        QVERIFY(navigator_->Asked.isEmpty());
         QVERIFY(menu_->isVisible());
     }
 
     void aDisabledEntryOpensNothing() {
         Open(false);
         QTest::mouseClick(Entry(2), Qt::LeftButton);
-        QVERIFY(navigator_->Asked.isEmpty());
+        QVERIFY(navigator_->Calls.isEmpty());
         QVERIFY(menu_->isVisible());
     }
 
     void theOptionsOpenOverTheMenuWhichStays() {
         Open();
         QTest::mouseClick(Entry(3), Qt::LeftButton);
-        QCOMPARE(navigator_->Asked, QStringList{u"Options"_s});
+        QCOMPARE(navigator_->Calls, QStringList{u"ShowOptions"_s});
+        QCOMPARE(navigator_->Owner, menu_.get());
         QVERIFY(menu_->isVisible());
     }
 
     void theVersionOpensTheAboutBox() {
         Open();
         QTest::mouseClick(Child<PictureButton>(u"lblVersion"_s), Qt::LeftButton);
-        QCOMPARE(navigator_->Asked, QStringList{u"About"_s});
+        QCOMPARE(navigator_->Calls, QStringList{u"ShowAbout"_s});
+        QCOMPARE(navigator_->Owner, menu_.get());
         QVERIFY(menu_->isVisible());
     }
 
@@ -151,6 +166,21 @@ private Q_SLOTS:
         QTest::mouseClick(Entry(4), Qt::LeftButton);
         QVERIFY(!menu_->isVisible());
         QVERIFY(!other.isVisible());
+    }
+
+    void exitAsksAToolOnceAndStaysWhereItKeepsItsDocument() {
+        Open();
+        RefusingTool tool;
+        tool.show();
+        QTest::mouseClick(Entry(4), Qt::LeftButton);
+        QCOMPARE(tool.Asked, 1);
+        QVERIFY(tool.isVisible());
+        QVERIFY(menu_->isVisible());
+        tool.Refuses = false;
+        QTest::mouseClick(Entry(4), Qt::LeftButton);
+        QCOMPARE(tool.Asked, 2);
+        QVERIFY(!tool.isVisible());
+        QVERIFY(!menu_->isVisible());
     }
 
     void theEntryUnderThePointerIsOrangeAndTheOthersAreWhite() {
@@ -239,7 +269,7 @@ private Q_SLOTS:
         QVERIFY(Entry(0)->hasFocus());
         QTest::keyClick(menu_->focusWidget(), Qt::Key_Down);
         QTest::keyClick(menu_->focusWidget(), Qt::Key_Return);
-        QCOMPARE(navigator_->Asked, QStringList{u"CSFEditor"_s});
+        QCOMPARE(navigator_->Calls, QStringList{u"ShowCSFEditor"_s});
     }
 
     void spaceOpensAnEntryAndEscapeDoesNothing() {
@@ -247,7 +277,7 @@ private Q_SLOTS:
         QTest::keyClick(menu_->focusWidget(), Qt::Key_Escape);
         QVERIFY(menu_->isVisible());
         QTest::keyClick(menu_->focusWidget(), Qt::Key_Space);
-        QCOMPARE(navigator_->Asked, QStringList{u"BigEditor"_s});
+        QCOMPARE(navigator_->Calls, QStringList{u"ShowBigEditor"_s});
     }
 
     void noTextIsCutInEitherLanguage_data() {
@@ -307,7 +337,7 @@ private:
     }
 
     std::unique_ptr<World> world_;
-    std::unique_ptr<RecordingNavigator> navigator_;
+    std::unique_ptr<ScriptedNavigator> navigator_;
     std::unique_ptr<frmToolsMenu> menu_;
 };
 

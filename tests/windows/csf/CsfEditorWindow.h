@@ -7,7 +7,7 @@
 #include "core/mMain.h"
 #include "csf/format/mCSF.h"
 #include "csf/window/frmCSFEditor.h"
-#include "tests/windows/ToolWindow.h"
+#include "tests/windows/EditorTest.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/SideMenu.h"
 
@@ -19,7 +19,7 @@
 #include <QStatusBar>
 #include <QTreeView>
 
-class CsfEditorWindow : public ToolWindow<frmCSFEditor> {
+class CsfEditorWindow : public EditorTest<frmCSFEditor> {
 protected:
     void Begin() {
         BeginIn("[LNG]\r\nNew=Neu\r\nFind=Suchen\r\nText=Wert\r\nKiloBytes=KB\r\nName=Name\r\nValue=Wert\r\n"
@@ -29,14 +29,13 @@ protected:
     }
 
     void End() {
-        ToolWindow::End();
+        EditorTest::End();
         mMain::CsfOpenedByHost = false;
     }
 
     void Open(const std::vector<CsfString>& table, qint16 language = 3) {
         path_ = world_->Root() + QStringLiteral("\\a.csf");
-        mCSF::CsfStrings = table;
-        mCSF::WriteTable(path_, language);
+        CsfTable{language, table}.Write(path_);
         window_ = std::make_unique<frmCSFEditor>();
         window_->OpenCSFFile(path_);
         window_->activateWindow();

@@ -283,14 +283,14 @@ private Q_SLOTS:
         QVERIFY(!window_->close());
         QVERIFY(window_->isVisible());
         QVERIFY(window_->close());
-        QCOMPARE(navigator_->Asked, QStringList{u"ToolsMenu"_s});
+        QCOMPARE(navigator_->Calls, QStringList{u"ShowToolsMenu"_s});
     }
 
     void anotherToolsHandOverLeavesTheMenuAway() {
         OpenThree();
         mMain::CsfOpenedByHost = true;
         QVERIFY(window_->close());
-        QCOMPARE(navigator_->Asked, QStringList());
+        QCOMPARE(navigator_->Calls, QStringList());
     }
 
     void aTextThatLooksLikeMarkupIsShownAsItIs() {

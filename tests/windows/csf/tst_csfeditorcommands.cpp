@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(Names(), QStringList({u"alpha"_s, u"beta"_s, u"Gamma"_s}));
         for (const char* command : {"mnuOptions", "mnuCheckForUpdates", "mnuAbout"})
             Part<QAction>(command)->trigger();
-        QCOMPARE(navigator_->Asked, QStringList({u"Options"_s, u"Updates"_s, u"About"_s}));
+        QCOMPARE(navigator_->Calls, QStringList({u"ShowOptions"_s, u"CheckForUpdates manual"_s, u"ShowAbout"_s}));
         Part<QAction>("mnuExit")->trigger();
         QVERIFY(!window_->isVisible());
     }
@@ -121,7 +121,7 @@ private Q_SLOTS:
         OpenThree();
         mMain::CommandLine = u"/tcsf a.csf"_s;
         QVERIFY(window_->close());
-        QCOMPARE(navigator_->Asked, QStringList());
+        QCOMPARE(navigator_->Calls, QStringList());
         mMain::CommandLine.clear();
     }
 

@@ -6,6 +6,8 @@
 #include "ui/window/BusyAnimation.h"
 #include "ui/window/frmProgress.h"
 
+#include <QEvent>
+#include <QImage>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -21,6 +23,36 @@ const QByteArray movingPicture = QByteArray::fromHex("47494638396101000100800000
                                                      "21f904000a0000002c00000000010001000002024401 00"
                                                      "21f904000a0000002c0000000001000100000202 4c0100"
                                                      "3b");
+
+/// The pictures of a widget, one at each tick of its timer.
+class EachTick : public QObject {
+public:
+    explicit EachTick(QWidget* watched) : watched_(watched) { watched->installEventFilter(this); }
+
+    QList<QImage> Seen;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Timer)
+            Seen += watched_->grab().toImage();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QWidget* watched_;
+};
+
+/// The mean column of all that differs from the first point; -1 when nothing does.
+double MiddleOfWhatIsPainted(const QImage& picture) {
+    double sum = 0;
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixel(x, y) != picture.pixel(0, 0)) {
+                sum += x;
+                ++count;
+            }
+    return count == 0 ? -1 : sum / count;
+}
 
 } // namespace
 
@@ -86,12 +118,24 @@ private Q_SLOTS:
         QVERIFY(!window_->Cancelled());
     }
 
-    void withoutItsFileTheAnimationDrawsAndMoves() {
+    void withoutItsFileSheetsFlyFromTheFolderToTheArchive() {
         Open();
-        auto* animation = Part<BusyAnimation>("Animation1");
+        auto* const animation = Part<BusyAnimation>("Animation1");
         QVERIFY(!animation->PlaysFile());
-        const QImage before = animation->grab().toImage();
-        QTRY_VERIFY(animation->grab().toImage() != before);
+        EachTick ticks(animation);
+        QTRY_VERIFY(ticks.Seen.size() > 40); // two sheets pass
+        // A tenth of the way in the middle, where no two sheets are at once.
+        int flights = 0;
+        double before = -1;
+        for (const QImage& picture : ticks.Seen) {
+            const QRect middle(picture.width() * 45 / 100, 0, picture.width() / 10, picture.height());
+            const double place = MiddleOfWhatIsPainted(picture.copy(middle));
+            if (place >= 0 && before >= 0)
+                QVERIFY2(place > before, "from left to right");
+            flights += place >= 0 && before < 0 ? 1 : 0;
+            before = place;
+        }
+        QVERIFY2(flights >= 2, qPrintable(QString::number(flights)));
     }
 
     void withItsFileTheAnimationPlaysThat() {
@@ -114,7 +158,7 @@ private Q_SLOTS:
 private:
     void Open() {
         window_ = std::make_unique<frmProgress>();
-        window_->Widget()->show();
+        window_->show();
         QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
     }
 

@@ -1,21 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "platform/RuntimeError.h"
 #include "tests/support/World.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/look/Drawing.h"
-#include "ui/text/FileFilter.h"
 #include "ui/window/WindowHost.h"
+#include "ui/window/frmProgress.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
 #include <QTimer>
 
 #include <functional>
@@ -23,28 +24,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class FakeProgress : public ProgressWindow {
-public:
-    explicit FakeProgress(QLabel* label) : label_(label) {}
-
-    ~FakeProgress() override { label_->hide(); }
-
-    QWidget* Widget() override { return label_; }
-
-    void SetText(const QString& text) override { label_->setText(text); }
-
-    void SetValue(int percent) override { label_->setProperty("percent", percent); }
-
-    [[nodiscard]] bool Cancelled() const override { return label_->property("cancelled").toBool(); }
-
-    void Cancel() override { label_->setProperty("cancelled", true); }
-
-    void StopTimer() override { label_->setProperty("stopped", true); }
-
-private:
-    QLabel* label_;
-};
 
 // Runs `act` on the next modal window of that kind, as soon as it is up.
 template <typename Dialog>
@@ -68,7 +47,7 @@ private Q_SLOTS:
         world_ = std::make_unique<World>();
         world_->UseLanguage("[LNG]\r\nYes=Oui\r\nNo=Non\r\nCancel=Annuler\r\nOK=D'accord\r\n");
         world_->Start();
-        host_ = std::make_unique<WindowHost>([this] { return std::make_unique<FakeProgress>(&label_); });
+        host_ = std::make_unique<WindowHost>();
     }
 
     void cleanup() {
@@ -122,7 +101,6 @@ private Q_SLOTS:
         QTest::addColumn<Host::Buttons>("buttons");
         QTest::addColumn<Host::Answer>("answer");
         QTest::newRow("ok") << Host::Buttons::Ok << Host::Answer::Ok;
-        QTest::newRow("yes or no") << Host::Buttons::YesNo << Host::Answer::No;
         QTest::newRow("with cancel") << Host::Buttons::YesNoCancel << Host::Answer::Cancel;
     }
 
@@ -131,6 +109,36 @@ private Q_SLOTS:
         QFETCH(Host::Answer, answer);
         WhenUp<QMessageBox>([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
         QCOMPARE(host_->Message(u"?"_s, Host::Icon::None, buttons, u"t"_s), answer);
+    }
+
+    void aQuestionOfYesOrNoWaitsForOneOfTheTwo() {
+        bool stays = false;
+        bool cross = true;
+        WhenUp<QMessageBox>([&](QMessageBox* box) {
+            QTest::keyClick(box, Qt::Key_Escape);
+            box->close();
+            stays = box->isVisible();
+            cross = box->windowFlags().testFlag(Qt::WindowCloseButtonHint);
+            box->button(QMessageBox::Yes)->click();
+        });
+        QCOMPARE(host_->Message(u"?"_s, Host::Icon::Question, Host::Buttons::YesNo), Host::Answer::Yes);
+        QVERIFY(stays);
+        QVERIFY(!cross);
+    }
+
+    void enterPressesTheFirstButtonOrTheOneAskedFor_data() {
+        QTest::addColumn<std::optional<Host::Answer>>("asked");
+        QTest::addColumn<Host::Answer>("answer");
+        QTest::newRow("none") << std::optional<Host::Answer>() << Host::Answer::Yes;
+        QTest::newRow("no") << std::optional(Host::Answer::No) << Host::Answer::No;
+        QTest::newRow("cancel") << std::optional(Host::Answer::Cancel) << Host::Answer::Cancel;
+    }
+
+    void enterPressesTheFirstButtonOrTheOneAskedFor() {
+        QFETCH(std::optional<Host::Answer>, asked);
+        QFETCH(Host::Answer, answer);
+        WhenUp<QMessageBox>([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Return); });
+        QCOMPARE(host_->Message(u"?"_s, Host::Icon::Question, Host::Buttons::YesNoCancel, u"t"_s, asked), answer);
     }
 
     void anInputBoxGivesTheTextOrNothing() {
@@ -145,70 +153,110 @@ private Q_SLOTS:
         QCOMPARE(host_->InputBox(u"Name?"_s, u"t"_s, u"old"_s), std::optional<QString>());
     }
 
-    void savingAddsTheExtensionThatTheTypedNameLacks() {
-        world_->WriteFile(u"out\\there.txt"_s, {});
-        WhenUp<QFileDialog>([&](QFileDialog* box) {
-            QCOMPARE(box->nameFilters(), QStringList{u"BIG (*.big)"_s});
-            box->findChild<QLineEdit*>()->setText(u"typed"_s);
-            QTest::keyClick(box, Qt::Key_Return);
-        });
-        const auto name = host_->SaveFileName({.Title = u"Save"_s,
-                                               .Filter = u"BIG (*.big)|*.big"_s,
-                                               .DefaultExtension = u"big"_s,
-                                               .DefaultName = world_->Root() + u"\\out\\first.big"_s});
-        QCOMPARE(name, std::optional(world_->Root() + u"\\out\\typed.big"_s));
-    }
-
-    void openingGivesTheFileAsAnInsidePath() {
-        const QString file = world_->WriteFile(u"in\\Here.big"_s, "x");
-        WhenUp<QFileDialog>([&](QFileDialog* box) { QTest::keyClick(box, Qt::Key_Return); });
-        const auto name = host_->OpenFileName(
-            {.Title = u"Open"_s, .Filter = u"*|*.*"_s, .DefaultExtension = {}, .DefaultName = file});
-        QCOMPARE(name, std::optional(file));
-    }
-
-    void aFileDialogBeginsInTheFolderThatWasAskedFor() {
-        const QString file = world_->WriteFile(u"in\\Here.big"_s, "x");
-        WhenUp<QFileDialog>([](QFileDialog* box) {
-            box->findChild<QLineEdit*>()->setText(u"Here.big"_s);
-            QTest::keyClick(box, Qt::Key_Return);
-        });
-        Host::FileDialog dialog{.Title = {}, .Filter = u"*|*.*"_s, .DefaultExtension = {}, .DefaultName = {}};
-        dialog.Folder = world_->Root() + u"\\in\\"_s;
-        QCOMPARE(host_->OpenFileName(dialog), std::optional(file));
-    }
-
-    void aFileDialogThatIsCancelledGivesNothing() {
-        WhenUp<QFileDialog>([](QFileDialog* box) { box->reject(); });
-        QCOMPARE(host_->OpenFileName({}), std::optional<QString>());
-    }
-
-    void theProgressWindowIsShownFilledAndUnloaded() {
-        host_->ShowProgress();
-        QVERIFY(label_.isVisible());
-        QCOMPARE(label_.windowModality(), Qt::NonModal);
-        host_->SetProgressText(u"a\r\nb"_s);
-        host_->SetProgressValue(42);
-        QCOMPARE(label_.text(), u"a\nb"_s);
-        QCOMPARE(label_.property("percent").toInt(), 42);
-        host_->UnloadProgress();
-        QVERIFY(!label_.isVisible());
-        host_->SetProgressValue(50); // after the end: nothing
-        QCOMPARE(label_.property("percent").toInt(), 42);
+    void theProgressWindowIsShownFilledAndGoesWithItsObject() {
+        auto progress = host_->ShowProgress();
+        const frmProgress* const window = ProgressWindow();
+        QVERIFY(window != nullptr);
+        QCOMPARE(window->windowModality(), Qt::NonModal);
+        progress->SetText(u"a\r\nb"_s);
+        progress->SetValue(42);
+        QCOMPARE(window->findChild<QLabel*>(u"Label1"_s)->text(), u"a\nb"_s);
+        QCOMPARE(window->findChild<QProgressBar*>()->value(), 42);
+        progress.reset();
+        QVERIFY(ProgressWindow() == nullptr);
     }
 
     void theProgressWindowIsHiddenCancelledAndItsTimerStopped() {
-        QVERIFY(!host_->ProgressCancelled());
-        host_->ShowProgress();
-        QVERIFY(!host_->ProgressCancelled());
-        host_->CancelProgress();
-        QVERIFY(host_->ProgressCancelled());
-        host_->StopProgressTimer();
-        QVERIFY(label_.property("stopped").toBool());
-        host_->HideProgress();
-        QVERIFY(!label_.isVisible());
-        host_->UnloadProgress();
-        QVERIFY2(!host_->ProgressCancelled(), "without a window nothing is cancelled");
+        const auto progress = host_->ShowProgress();
+        const frmProgress* const window = ProgressWindow();
+        QVERIFY(!progress->Cancelled());
+        progress->StopTimer();
+        QVERIFY(!window->findChild<QTimer*>(u"Timer1"_s)->isActive());
+        QVERIFY(!progress->Cancelled());
+        progress->Cancel();
+        QVERIFY(progress->Cancelled());
+        progress->Hide();
+        QVERIFY(!window->isVisible());
+    }
+
+    void theButtonOfTheProgressWindowCancels() {
+        const auto progress = host_->ShowProgress();
+        QTest::mouseClick(ProgressWindow()->findChild<QPushButton*>(u"cmdCancel"_s), Qt::LeftButton);
+        QVERIFY(progress->Cancelled());
+    }
+
+    void aReleasedProgressWindowStaysUntilTheNextOneIsShown() {
+        auto first = host_->ShowProgress();
+        first->SetText(u"first"_s);
+        first->Release();
+        first.reset();
+        QVERIFY(ProgressWindow() != nullptr);
+        auto second = host_->ShowProgress();
+        QCOMPARE(ProgressWindow()->findChild<QLabel*>(u"Label1"_s)->text(), QString());
+        second.reset();
+        QVERIFY(ProgressWindow() == nullptr);
+    }
+
+    void aWaitEndsWithItsConditionAndLetsEventsRun() {
+        bool holds = false;
+        QTimer::singleShot(20, this, [&] { holds = true; });
+        QVERIFY(host_->WaitUntil([&] { return holds; }));
+        QVERIFY(holds);
+    }
+
+    void aWaitForWhatHoldsAlreadyReturnsWithoutAnEvent() {
+        const QObject here; // the event does not outlive the test
+        bool ran = false;
+        QTimer::singleShot(0, &here, [&] { ran = true; });
+        QVERIFY(host_->WaitUntil([] { return true; }));
+        QVERIFY(!ran);
+    }
+
+    void aWaitSleepsBetweenEvents() {
+        int looks = 0;
+        bool holds = false;
+        QTimer::singleShot(300, this, [&] { holds = true; });
+        host_->WaitUntil([&] {
+            ++looks;
+            return holds;
+        });
+        QVERIFY2(looks < 100, qPrintable(QString::number(looks)));
+    }
+
+    void aWaitDeletesWhatIsDeletedLater() {
+        QPointer<QObject> object = new QObject;
+        QTimer::singleShot(0, this, [&] { object->deleteLater(); });
+        QVERIFY(host_->WaitUntil([&] { return object.isNull(); }));
+    }
+
+    void aWaitWithinAWaitEndsFirst() {
+        bool outer = false;
+        bool inner = false;
+        QTimer::singleShot(0, this, [&] {
+            outer = true;
+            QTimer::singleShot(0, this, [&] { inner = true; });
+            host_->WaitUntil([&] { return inner; });
+        });
+        QVERIFY(host_->WaitUntil([&] { return outer; }));
+        QVERIFY(inner);
+    }
+
+    void aWaitThatIsLeftAsTheProgramEndsSaysSo() {
+        bool holds = true;
+        QTimer::singleShot(0, this, [&] { holds = host_->WaitUntil([] { return false; }); });
+        QTimer::singleShot(20, this, [] { QCoreApplication::exit(); });
+        QCoreApplication::exec();
+        QVERIFY(!holds);
+    }
+
+    void whatAConditionRaisesComesOutOfTheWait() {
+        int looks = 0;
+        const auto condition = [&]() -> bool {
+            if (++looks > 1)
+                throw RuntimeError(ErrorNumber::InvalidCall, u"gone"_s);
+            return false;
+        };
+        QVERIFY_EXCEPTION_THROWN(host_->WaitUntil(condition), RuntimeError);
     }
 
     void yieldLetsWaitingEventsRun() {
@@ -218,25 +266,37 @@ private Q_SLOTS:
         QVERIFY(ran);
     }
 
-    void aLoopThatYieldsAtEachItemIsServedEveryFewMilliseconds() {
+    void whatRunsInAYieldYieldsNoMore() {
+        const QObject here; // the event does not outlive the test
+        bool inner = false;
+        QTimer::singleShot(0, &here, [&] {
+            QTimer::singleShot(0, &here, [&] { inner = true; });
+            QTest::qSleep(10); // longer than the pause between two yields
+            host_->Yield();
+            QVERIFY(!inner);
+        });
+        host_->Yield();
+    }
+
+    void theButtonIsHeardByALoopThatYieldsAtEachItem() {
+        const auto progress = host_->ShowProgress();
+        auto* const button = ProgressWindow()->findChild<QPushButton*>(u"cmdCancel"_s);
+        QTimer::singleShot(0, button, &QPushButton::click);
+        qint64 items = 0;
+        for (; !progress->Cancelled() && items < 100000000; ++items)
+            host_->Yield();
+        QVERIFY(progress->Cancelled());
+    }
+
+    void aLoopThatYieldsAtEachItemIsNotServedAtEachItem() {
         int served = 0;
         QTimer timer;
         connect(&timer, &QTimer::timeout, this, [&] { ++served; });
         timer.start(0);
-        QElapsedTimer clock;
-        clock.start();
         int items = 0;
-        for (; clock.elapsed() < 100; ++items)
+        for (; served < 3; ++items)
             host_->Yield();
-        QVERIFY(served >= 2);
-        QVERIFY2(served <= 25 && served < items, "and not once an item");
-    }
-
-    void filtersAreTurnedIntoTheToolkitsForm() {
-        QCOMPARE(ToNameFilters(u"BIG files (*.big)|*.big|Pictures|*.tga;*.dds|All|*.*"_s),
-                 (QStringList{u"BIG files (*.big)"_s, u"Pictures (*.tga *.dds)"_s, u"All (*)"_s}));
-        QVERIFY(ToNameFilters({}).isEmpty());
-        QVERIFY(ToNameFilters(u"text without a pattern"_s).isEmpty());
+        QVERIFY2(items > 10 * served, qPrintable(QString::number(items)));
     }
 
     void aPathIsShortenedInItsMiddle() {
@@ -263,9 +323,16 @@ private Q_SLOTS:
     }
 
 private:
+    /// The one on the screen.
+    static const frmProgress* ProgressWindow() {
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            if (const auto* progress = qobject_cast<const frmProgress*>(window); progress != nullptr)
+                return progress;
+        return nullptr;
+    }
+
     std::unique_ptr<World> world_;
-    std::unique_ptr<WindowHost> host_;
-    QLabel label_;
+    std::unique_ptr<Host> host_;
 };
 
 WINDOW_TEST(tst_windowhost)

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/document/ExtractCommand.h"
+
+#include "core/mTraduction.h"
+
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+std::vector<qint32> ExtractCommand::Chosen() const {
+    std::vector<qint32> extractList;
+    // A node that is not there fails the compare, and a failed compare takes the entry. This is meant.
+    const auto takeNode = [&](int node) {
+        if (panes_.Tree.Has(node))
+            Extraction::TakeFolder(extractList, panes_.Tree.Node(node).Key, Qt::CaseSensitive);
+        else
+            Extraction::TakeAll(extractList);
+    };
+    if (panes_.State.FocusPane == FocusedPane::Tree) {
+        takeNode(panes_.State.SelectedNode);
+        return extractList;
+    }
+    for (const int place : panes_.View.SelectedRows()) {
+        const FileRow& row = panes_.List.Row(place);
+        if (row.IsFolder)
+            takeNode(row.Index);
+        else if (row.Index <= mBIG::HighestIndex())
+            Extraction::Take(extractList, row.Index);
+    }
+    return extractList;
+}
+
+void ExtractCommand::Run() {
+    if (mBIG::HighestIndex() == 0 || EditorPanes::Locked())
+        return;
+    const EditorPanes::Command command(panes_);
+    const mBIG::ArchiveLock lock;
+    panes_.State.StatusText = mTraduction::GetText(u"BuildingFileList"_s);
+    panes_.View.StateChanged();
+    const std::vector<qint32> extractList = Chosen();
+    if (extractList.empty())
+        return;
+    const ExtractionTarget target = panes_.View.AskForFolder();
+    if (target.ExtractCancelled)
+        return;
+    panes_.View.EnableWindow(false);
+    const auto enabled = qScopeGuard([this] { panes_.View.EnableWindow(true); });
+    Extraction::DoExtract(extractList, target, true);
+}

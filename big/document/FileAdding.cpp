@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/document/FileAdding.h"
+
+#include "big/document/ScratchFolders.h"
+#include "core/Host.h"
+#include "core/Sizes.h"
+#include "core/mMain.h"
+#include "core/mTraduction.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using ArchiveEdits::Source;
+using mTraduction::GetText;
+
+namespace {
+
+Host::FileDialog AnyFileDialog() {
+    return {.Title = {}, .Filter = u"Tous les fichiers (*.*)|*.*"_s, .DefaultExtension = {}, .DefaultName = {}};
+}
+
+QString WithoutTrailingBackslash(const QString& path) {
+    return path.endsWith(u'\\') ? path.chopped(1) : path;
+}
+
+bool MayReplace(const QString& name) {
+    const QString question = name + "\r\n\r\n"_L1 + GetText(u"FileAlreadyExists"_s);
+    return Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNo) == Host::Answer::Yes;
+}
+
+Source SourceOf(const QString& path) {
+    Source source{.Path = path};
+    Ignoring([&] { source.Size = Files::FileLength(path); });
+    return source;
+}
+
+void DropFolder(ArchiveEdits::Drop& drop, const QString& prefix, const QString& folder) {
+    // The root of all folders has no name to stand under.
+    if (folder.isEmpty())
+        return;
+    for (const Files::FoundFile& file : Files::ListFolderFiles(folder, true))
+        drop.FileOfFolder(prefix + Paths::LastPart(folder) + file.Path.sliced(folder.size()),
+                          {.Path = file.Path, .Size = file.Size});
+}
+
+/// The one name of a list, or how many there are.
+QString NameOrCount(const QStringList& names) {
+    return names.size() == 1 ? names.front() : Sizes::Grouped(names.size());
+}
+
+} // namespace
+
+FileAdding::FileAdding(EditorPanes& panes, std::function<void(int)> recordsLost)
+    : panes_(panes),
+      recordsLost_(std::move(recordsLost)) {}
+
+void FileAdding::Add() {
+    if (EditorPanes::Locked())
+        return;
+    const EditorPanes::Command command(panes_);
+    if (const auto path = Host::Current().OpenFileName(AnyFileDialog()))
+        Ignoring([&] { AddFile(*path); });
+}
+
+void FileAdding::AddFile(const QString& path) {
+    const QString name = panes_.SelectedKey() + Paths::LastPart(path);
+    const int found = mBIG::FindEntry(name);
+    if (found >= 0 && !MayReplace(name))
+        return;
+    const bool replaces = found >= 0 && !mBIG::BigEntries[static_cast<std::size_t>(found)].Deleted;
+    ArchiveEdits::Add(mBIG::Open(), name, SourceOf(path));
+    panes_.State.Modified = true;
+    panes_.ShowSelected();
+    if (replaces)
+        TellDrop({.Taken = 1, .Replaced = {name}, .Lost = {}, .Hidden = {}});
+}
+
+QStringList FileAdding::AdoptDragged(QStringList paths) {
+    static int drops = 0;
+    const QString folder = ScratchFolders::Dropped() + QString::number(++drops) + u'\\';
+    for (QString& path : paths) {
+        if (!ScratchFolders::IsDragged(path))
+            continue;
+        const QString kept = folder + Paths::LastPart(path);
+        const bool moved = Ignoring([&] {
+            Files::MakeFolders(folder);
+            Files::Rename(path, kept);
+        });
+        if (moved)
+            path = kept;
+    }
+    return paths;
+}
+
+void FileAdding::ForgetAdopted() {
+    Files::DeleteFolder(ScratchFolders::Dropped());
+}
+
+void FileAdding::Drop(const QStringList& paths) {
+    if (EditorPanes::Locked() || paths.isEmpty())
+        return;
+    const EditorPanes::Command command(panes_);
+    const int highest = mBIG::HighestIndex();
+    ArchiveEdits::DropResult result;
+    {
+        const mBIG::ArchiveLock lock;
+        ArchiveEdits::Drop drop(mBIG::Open(), &MayReplace);
+        DropPaths(paths, drop);
+        result = drop.Result();
+    }
+    // While record 0 is blank a new record takes the place of the last one.
+    if (!result.Lost.isEmpty())
+        recordsLost_(highest);
+    panes_.State.Modified = true;
+    panes_.ShowSelected();
+    if (!result.IsQuiet())
+        TellDrop(result);
+}
+
+void FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
+    QString prefix = panes_.SelectedKey();
+    const auto lastFolder = std::find_if(paths.rbegin(), paths.rend(), &Files::FolderExists).base();
+    for (auto path = paths.begin(); path != paths.end(); ++path) {
+        if (Files::FolderExists(*path)) {
+            Ignoring([&] { DropFolder(drop, prefix, WithoutTrailingBackslash(*path)); });
+            // The tree is made anew and the root selected, where the paths behind go. This is meant. Only the last
+            // folder's tree is ever seen.
+            prefix.clear();
+            if (path + 1 == lastFolder)
+                panes_.CreateDirs();
+        } else if (Files::FileExists(*path)) {
+            Source source = SourceOf(*path);
+            source.Size = std::max<qint64>(source.Size, 0);
+            drop.File(prefix + Paths::LastPart(*path), source);
+        }
+    }
+}
+
+void FileAdding::TellDrop(const ArchiveEdits::DropResult& result) {
+    QStringList told;
+    const auto tell = [&](QString text, const QStringList& names) {
+        if (!names.isEmpty())
+            told += text.replace("%1"_L1, NameOrCount(names));
+    };
+    tell(GetText(u"DropLost"_s), result.Lost);
+    tell(GetText(u"DropHidden"_s), result.Hidden);
+    tell(GetText(u"DropReplaced"_s), result.Replaced);
+    panes_.View.ShowNotice({.Text = told.join(u' ')});
+}

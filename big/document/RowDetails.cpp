@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "big/document/RowDetails.h"
+
+#include "core/Host.h"
+#include "core/Sizes.h"
+#include "core/mTraduction.h"
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+using mTraduction::GetText;
+
+namespace {
+
+qint64 CurrentSize(const BigEntry& entry) {
+    qint64 size = 0;
+    Ignoring([&] { size = entry.IsNew ? Files::FileLength(entry.SourcePath) : entry.Size; });
+    return size;
+}
+
+} // namespace
+
+RowDetails::RowDetails(EditorPanes& panes) : panes_(panes), preview_([&panes] { panes.View.StateChanged(); }) {}
+
+void RowDetails::Show(int place) {
+    if (place < 0 || place >= panes_.List.Count())
+        return;
+    EditorState& state = panes_.State;
+    // A preview opens files under the numbers that the save or the extraction under way is using.
+    if (mBIG::ArchiveLock::IsHeld()) {
+        state.FocusPane = FocusedPane::List;
+        return;
+    }
+    const FileRow row = panes_.List.Row(place);
+    if (row.IsFolder) {
+        preview_.ShowFolderRow();
+        state.ModifyEnabled = false;
+        state.DetailsVisible = false;
+        state.FocusPane = FocusedPane::List;
+    } else if (!ShowFile(row.Index, panes_.List.Text(place))) {
+        return;
+    }
+    panes_.View.StateChanged();
+}
+
+bool RowDetails::ShowFile(int index, const QString& rowText) {
+    EditorState& state = panes_.State;
+    // A record that is gone counts as one whose file is gone: the test for it fails, and a failing test holds.
+    const bool there = static_cast<std::size_t>(index) < mBIG::BigEntries.size();
+    BigEntry missing;
+    BigEntry& entry = there ? mBIG::BigEntries[static_cast<std::size_t>(index)] : missing;
+    if (!there || (entry.IsNew && !Files::FileExists(entry.SourcePath))) {
+        Host::Current().Message(GetText(u"FileNotFound"_s), Host::Icon::Critical);
+        entry.Deleted = true;
+        panes_.ShowSelected();
+        return false;
+    }
+    state.ModifyEnabled = true;
+    state.DetailsVisible = true;
+    state.StatusText = entry.Name;
+    state.DetailsName = rowText;
+    state.DetailsSize = Sizes::KiloBytes(CurrentSize(entry));
+    // A sound that is in place already leaves the commands with the pane that they act on. This is meant.
+    if (preview_.ShowFile(index, rowText))
+        state.FocusPane = FocusedPane::List;
+    return true;
+}
+
+QString RowDetails::SelectionText() const {
+    if (!panes_.State.ArchiveOpen)
+        return {};
+    const std::vector<int> places = panes_.View.SelectedRows();
+    if (places.empty())
+        return GetText(u"RowCount"_s).replace("%1"_L1, Sizes::Grouped(panes_.List.Count()));
+    qint64 bytes = 0;
+    for (const int place : places)
+        bytes += panes_.List.Row(place).Size;
+    return GetText(u"RowsSelected"_s)
+        .replace("%1"_L1, Sizes::Grouped(static_cast<qint64>(places.size())))
+        .replace("%2"_L1, Sizes::KiloBytes(bytes));
+}

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// What a click on a row of the list shows: the details of an entry with its preview, and how much is selected.
+#pragma once
+
+#include "big/document/EditorPanes.h"
+#include "big/document/Preview.h"
+
+#include <QString>
+
+class RowDetails {
+public:
+    /// The panes outlive this.
+    explicit RowDetails(EditorPanes& panes);
+
+    /// What decodes pictures and plays sounds; both outlive this.
+    void Use(PictureDecoder* decoder, SoundPlayer* player) { preview_.Use(decoder, player); }
+
+    [[nodiscard]] const PreviewState& Previewed() const { return preview_.State(); }
+
+    /// A click on a row, or its selection by a key.
+    void Show(int place);
+
+    /// No row is shown any more.
+    void Clear() { preview_.Clear(); }
+
+    /// How many rows the list has, or how many are selected and how much they hold; empty without an archive.
+    [[nodiscard]] QString SelectionText() const;
+
+private:
+    bool ShowFile(int index, const QString& rowText);
+
+    EditorPanes& panes_;
+    Preview preview_;
+};

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The file behind the open archive, for the one who saves it.
+#pragma once
+
+#include "platform/File.h"
+
+#include <QString>
+
+namespace OpenArchive {
+
+/// Where the old entries' bytes are read from: the file that was kept open since the table was read from it, or what
+/// `BigFileName` names when the table came about in another way.
+class Source {
+public:
+    /// Raises when old entries have bytes and the file has changed since, or can't be opened.
+    Source();
+
+    /// Null when there is none.
+    [[nodiscard]] const Device* Bytes() const;
+
+private:
+    File other_;
+};
+
+/// Closes the open archive's file for as long as this lives when it is the target, as some systems put nothing in the
+/// place of an open file.
+class Aside {
+public:
+    explicit Aside(const QString& target);
+    ~Aside();
+    Aside(const Aside&) = delete;
+    Aside& operator=(const Aside&) = delete;
+
+    /// Another file stands in its place now: it is not opened again.
+    void Replaced() { replaced_ = true; }
+
+private:
+    bool wasOpen_;
+    bool replaced_ = false;
+};
+
+} // namespace OpenArchive

@@ -1,8 +1,0 @@
-// SPDX-FileCopyrightText: 2026 The Brindock authors
-// SPDX-License-Identifier: GPL-3.0-or-later
-
-#include "media/SoundSdl.h"
-
-std::unique_ptr<SoundOutput> MakeSoundOutput() {
-    return std::make_unique<SdlOutput>();
-}

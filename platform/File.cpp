@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/File.h"
+
+#include "platform/RuntimeError.h"
+
+#include <utility>
+
+File::File(qintptr handle, QString name) : handle_(handle), name_(std::move(name)) {}
+
+File::File(File&& other) noexcept
+    : Device(),
+      handle_(std::exchange(other.handle_, NoHandle)),
+      name_(std::move(other.name_)) {}
+
+File& File::operator=(File&& other) noexcept {
+    std::swap(handle_, other.handle_);
+    std::swap(name_, other.name_);
+    return *this;
+}
+
+qintptr File::Handle() const {
+    if (!IsOpen())
+        throw RuntimeError(ErrorNumber::BadFileNumber, QStringLiteral("%1: the file is not open").arg(name_));
+    return handle_;
+}
+
+QString File::Name() const {
+    return name_;
+}
+
+QByteArray ReadWhole(const QString& path) {
+    const File file = File::Open(path, File::Access::Read);
+    return file.Read(0, file.Length());
+}

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/File.h"
+
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+#include "platform/posix/Errors.h"
+#include "platform/posix/Transfer.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+namespace {
+
+int Flags(File::Access access) {
+    switch (access) {
+    case File::Access::Read:
+        return O_RDONLY;
+    case File::Access::ReadWrite:
+        return O_RDWR | O_CREAT;
+    case File::Access::Replace:
+        return O_RDWR | O_CREAT | O_TRUNC;
+    case File::Access::New:
+        return O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW;
+    }
+    return O_RDONLY;
+}
+
+[[noreturn]] void RaiseNoFile(const QString& name) {
+    throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name));
+}
+
+File OpenNative(const QString& name, File::Access access) {
+    // A pipe must not make the program wait for its other end.
+    const int flags = Flags(access) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    const int number = ::open(Paths::EncodeNative(name).constData(), flags, 0666);
+    if (number < 0) {
+        const int error = errno;
+        if (error == ENXIO)
+            RaiseNoFile(name); // a pipe or socket with nobody at its other end
+        RaiseErrno(error == ENOENT && access != File::Access::Read ? ENOTDIR : error, name);
+    }
+    File file(number, name);
+
+    struct stat status {};
+
+    if (::fstat(number, &status) != 0 || !S_ISREG(status.st_mode))
+        RaiseNoFile(name);
+    return file;
+}
+
+int Number(const File& file) {
+    return static_cast<int>(file.Handle());
+}
+
+FileState StateFrom(const struct stat& status) {
+    const QByteArray identity = QByteArray::number(static_cast<qulonglong>(status.st_dev)) + ':' +
+                                QByteArray::number(static_cast<qulonglong>(status.st_ino));
+    constexpr qint64 nanosecondsASecond = 1'000'000'000;
+    return {identity, status.st_size, qint64{status.st_mtim.tv_sec} * nanosecondsASecond + status.st_mtim.tv_nsec};
+}
+
+} // namespace
+
+File File::Open(const QString& path, Access access) {
+    return OpenNative(Paths::ToNative(path), access);
+}
+
+File File::OpenAsGiven(const QString& path, Access access) {
+    return OpenNative(Paths::ToNativeAsGiven(path), access);
+}
+
+File::~File() {
+    if (IsOpen())
+        ::close(static_cast<int>(handle_));
+}
+
+void File::Close() {
+    if (IsOpen() && ::close(static_cast<int>(std::exchange(handle_, NoHandle))) != 0)
+        RaiseErrno(errno, name_);
+}
+
+void File::Flush() {
+    if (::fsync(Number(*this)) != 0)
+        RaiseErrno(errno, name_);
+}
+
+FileState File::State() const {
+    struct stat status {};
+
+    if (::fstat(Number(*this), &status) != 0)
+        RaiseErrno(errno, name_);
+    return StateFrom(status);
+}
+
+qint64 File::CopyFrom(qint64 toOffset, const File& from, qint64 fromOffset, qint64 count) {
+    return TransferBytes(Number(*this), toOffset, Number(from), fromOffset, count, name_, from.name_);
+}
+
+qint64 File::Length() const {
+    return State().Length;
+}
+
+qint64 File::ReadInto(qint64 offset, char* bytes, qint64 count) const {
+    return ReadFully(Number(*this), offset, bytes, count, name_);
+}
+
+void File::Write(qint64 offset, QByteArrayView bytes) {
+    WriteFully(Number(*this), offset, bytes.data(), bytes.size(), name_);
+}
+
+void File::SetLength(qint64 length) {
+    if (::ftruncate(Number(*this), length) != 0)
+        RaiseErrno(errno, name_);
+}
+
+FileState StateOf(const QString& path) {
+    struct stat status {};
+
+    const bool there = ::stat(Paths::EncodeNative(Paths::ToNative(path)).constData(), &status) == 0;
+    return there && S_ISREG(status.st_mode) ? StateFrom(status) : FileState();
+}

@@ -1,0 +1,157 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/WriteAside.h"
+
+#include "platform/Paths.h"
+#include "platform/PrivateName.h"
+#include "platform/ReplacedFile.h"
+#include "platform/RuntimeError.h"
+#include "platform/posix/Errors.h"
+#include "platform/posix/Transfer.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+constexpr mode_t Permissions = 0777;
+constexpr mode_t AnyWriteBit = 0222;
+constexpr mode_t OwnersOnly = 0600;
+constexpr mode_t UsualForFiles = 0666;
+
+QString FolderOf(const QString& native) {
+    return native.first(native.lastIndexOf(u'/') + 1);
+}
+
+std::optional<struct stat> StatusOf(const QString& native) {
+    struct stat status {};
+
+    if (::stat(Paths::EncodeNative(native).constData(), &status) != 0)
+        return std::nullopt;
+    return status;
+}
+
+/// The path that a chain of links ends at, also where nothing stands there; empty when there are too many.
+QString Followed(QString native) {
+    constexpr int mostLinks = 40;
+    for (int link = 0; link < mostLinks; ++link) {
+        std::array<char, PATH_MAX> bytes{};
+        const ssize_t length = ::readlink(Paths::EncodeNative(native).constData(), bytes.data(), bytes.size());
+        if (length < 0)
+            return native;
+        const QString to = Paths::DecodeNative(QByteArray(bytes.data(), length));
+        native = to.startsWith(u'/') ? to : FolderOf(native) + to;
+    }
+    return {};
+}
+
+/// 0, or the error for a target that may not be replaced. Raises 75 for what is no plain file.
+int RefusalOf(const QString& native, const QString& name) {
+    const auto status = StatusOf(native);
+    if (!status)
+        return errno == ENOENT ? 0 : errno;
+    if (!S_ISREG(status->st_mode))
+        throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name));
+    if ((status->st_mode & AnyWriteBit) == 0)
+        return EACCES; // the system's administrator too keeps a file that was protected
+    return ::faccessat(AT_FDCWD, Paths::EncodeNative(native).constData(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
+/// The permissions that a new file gets where nobody asks for others.
+mode_t UsualMode() {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return UsualForFiles & ~mask;
+}
+
+/// Owner and permissions of what is replaced. Where the group can't be kept, another one gets what everybody has.
+bool TakeOver(int file, const struct stat& old) {
+    const bool ownerKept = ::fchown(file, old.st_uid, old.st_gid) == 0;
+    const bool groupKept = ownerKept || ::fchown(file, static_cast<uid_t>(-1), old.st_gid) == 0;
+    mode_t mode = old.st_mode & (ownerKept ? 07777 : Permissions);
+    if (!groupKept)
+        mode = (mode & ~mode_t{S_IRWXG}) | ((mode & S_IRWXO) << 3U);
+    return ::fchmod(file, mode) == 0;
+}
+
+/// The folder's new entry reaches the disk; where the system can't promise that, nothing is lost but the promise.
+void FlushFolder(const QString& native) {
+    const QString folder = FolderOf(native);
+    const QString path = folder.isEmpty() ? QStringLiteral(".") : folder;
+    const Descriptor open(::open(Paths::EncodeNative(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (open.Valid())
+        static_cast<void>(::fsync(open.Number()));
+}
+
+} // namespace
+
+WriteAside::WriteAside(const QString& target, Names names)
+    : name_(names == Names::AsGiven ? Paths::ToNativeAsGiven(target) : Paths::ToNative(target)),
+      target_(Followed(name_)) {
+    if (target_.isEmpty())
+        Raise(ELOOP);
+    if (const int error = RefusalOf(target_, name_); error != 0)
+        Raise(error);
+    int number = -1;
+    do {
+        aside_ = FolderOf(target_) + PrivateName();
+        constexpr int flags = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+        number = ::open(Paths::EncodeNative(aside_).constData(), flags, OwnersOnly);
+    } while (number < 0 && errno == EEXIST);
+    if (number < 0)
+        Raise(errno == ENOENT ? ENOTDIR : errno);
+    out_ = File(number, name_);
+}
+
+WriteAside::~WriteAside() {
+    if (!aside_.isEmpty())
+        ::unlink(Paths::EncodeNative(aside_).constData());
+}
+
+void WriteAside::Commit(bool flush) {
+    const int number = static_cast<int>(out_.Handle());
+    const auto old = StatusOf(target_);
+    if (!(old ? TakeOver(number, *old) : ::fchmod(number, UsualMode()) == 0))
+        Raise(errno);
+    if (flush)
+        out_.Flush();
+    out_.Close();
+    if (::rename(Paths::EncodeNative(aside_).constData(), Paths::EncodeNative(target_).constData()) != 0)
+        Raise(errno == ENOENT ? ENOTDIR : errno);
+    aside_.clear();
+    if (flush)
+        FlushFolder(target_);
+}
+
+void WriteAside::Raise(long error) const {
+    RaiseErrno(static_cast<int>(error), name_);
+}
+
+namespace ReplacedFile {
+
+QString BehindLinks(const QString& path) {
+    const QString native = Paths::ToNative(path);
+    const QString followed = Followed(native);
+    return followed.isEmpty() || followed == native ? path : Paths::FromNative(followed);
+}
+
+bool IsWriteProtected(const QString& path) {
+    const QString native = Paths::ToNative(path);
+    const auto status = StatusOf(native);
+    return status && S_ISREG(status->st_mode) && RefusalOf(native, native) != 0;
+}
+
+bool KeepOwnerAndMode(const File& file, const QString& old) {
+    const auto status = StatusOf(Paths::ToNative(old));
+    return status && TakeOver(static_cast<int>(file.Handle()), *status);
+}
+
+} // namespace ReplacedFile

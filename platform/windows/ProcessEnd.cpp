@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/ProcessEnd.h"
+
+#include "platform/windows/System.h"
+
+#include <QWinEventNotifier>
+
+QObject* ProcessEnd::MakeNotifier() {
+    // A process's handle is signalled once the process has ended.
+    auto* const notifier =
+        new QWinEventNotifier(reinterpret_cast<HANDLE>(process_), this); // NOLINT(performance-no-int-to-ptr)
+    connect(notifier, &QWinEventNotifier::activated, this, &ProcessEnd::Look, Qt::QueuedConnection);
+    return notifier;
+}

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Exact offsets in the window: what the strip tells of data beside their offsets, and what its links do.
+#include "big/document/OffsetNotices.h"
+#include "tests/big/document_fixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class EditorOffsets : public EditorDocument {
+protected:
+    EditorOffsets() {
+        Place.UseLanguage("[LNG]\r\nSavedShifted=Saved: %1 files %2 bytes off\r\nArchiveShifted=Here: %1 files %2 "
+                          "bytes off\r\nSaveExactly=Exactly\r\nAlways=Always\r\nReadShiftedBack=Back\r\n");
+        Place.Start();
+    }
+
+    void ClickLink(std::size_t link) {
+        ASSERT_LT(link, View.Told.Links.size());
+        const auto run = View.Told.Links[link].Run;
+        View.Told = {};
+        run();
+    }
+
+    /// The bytes of an entry where the directory of the file on disk says.
+    [[nodiscard]] static QByteArray Stored(const QString& path, std::size_t index) {
+        const Archive archive = Archives::Read(path);
+        const BigEntry& entry = archive.Entries.at(index);
+        return World::ReadFile(path).mid(entry.Offset, entry.Size);
+    }
+
+    /// Variant 2 lays the data one byte before the directory's offsets.
+    QString SaveShifted() {
+        QString path = OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}});
+        mBIG::BigVersion = 2;
+        Editor.Save();
+        return path;
+    }
+};
+
+} // namespace
+
+TEST_F(EditorOffsets, ASaveWithItsDataBesideTheirOffsetsIsTold) {
+    const QString path = SaveShifted();
+    EXPECT_NE(Stored(path, 0), "first");
+    EXPECT_EQ(View.Told.Text, u"Saved: 2 files -1 bytes off"_s);
+    ASSERT_EQ(View.Told.Links.size(), 2U);
+    EXPECT_EQ(View.Told.Links[0].Text, u"Exactly"_s);
+    EXPECT_EQ(View.Told.Links[1].Text, u"Always"_s);
+}
+
+TEST_F(EditorOffsets, SaveExactlyLosesNothing) {
+    const QString path = SaveShifted();
+    ClickLink(0);
+    EXPECT_EQ(Stored(path, 0), "first");
+    EXPECT_EQ(Stored(path, 1), "second");
+    EXPECT_EQ(View.Told.Text, QString());
+    EXPECT_FALSE(OffsetNotices::IsExactByDefault());
+    Editor.Save();
+    EXPECT_EQ(Stored(path, 1), "second") << "This archive goes on so.";
+}
+
+TEST_F(EditorOffsets, SaveExactlyTakesWhatWasAddedSince) {
+    const QString path = SaveShifted();
+    Speaker.FileNames = {Place.WriteFile(u"c.txt"_s, "third")};
+    const Notice told = View.Told;
+    Editor.Add();
+    told.Links[0].Run();
+    EXPECT_EQ(Stored(path, 0), "first");
+    EXPECT_EQ(Stored(path, 2), "third");
+}
+
+TEST_F(EditorOffsets, ALinkOfAnArchiveThatHasGoneDoesNothing) {
+    SaveShifted();
+    const Notice told = View.Told;
+    const QString other = OpenArchive({{u"x"_s, "1"}, {u"y"_s, "2"}}, u"other.big"_s);
+    const QByteArray before = World::ReadFile(other);
+    told.Links[0].Run();
+    EXPECT_EQ(World::ReadFile(other), before);
+}
+
+TEST_F(EditorOffsets, AlwaysIsRemembered) {
+    const QString path = SaveShifted();
+    ClickLink(1);
+    EXPECT_EQ(Stored(path, 0), "first");
+    EXPECT_EQ(ReadSetting(u"ExactOffsets"_s), u"1"_s);
+    OpenSample();
+    EXPECT_TRUE(State().ExactOffsets);
+}
+
+TEST_F(EditorOffsets, ASaveWithoutAShiftTellsNothing) {
+    OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}});
+    Editor.SetExactOffsets(true);
+    mBIG::BigVersion = 2;
+    Editor.Save();
+    EXPECT_EQ(View.Told.Text, QString());
+}
+
+TEST_F(EditorOffsets, AShiftedArchiveIsReadShiftedBackWhenTheUserWants) {
+    const QString path = SaveShifted();
+    Editor.OpenBigFile(path);
+    EXPECT_EQ(View.Told.Text, u"Here: 2 files -1 bytes off"_s);
+    EXPECT_FALSE(State().Modified);
+    ClickLink(0);
+    EXPECT_TRUE(State().Modified) << "A save writes other bytes.";
+    const BigEntry& entry = mBIG::BigEntries.at(1);
+    EXPECT_EQ(World::ReadFile(path).mid(entry.Offset, entry.Size), "second");
+    Editor.SetExactOffsets(true);
+    Editor.Save();
+    EXPECT_EQ(Stored(path, 1), "second");
+}
+
+TEST_F(EditorOffsets, AnArchiveOfAnotherToolIsNotCalledShifted) {
+    OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}});
+    EXPECT_EQ(View.Told.Text, QString());
+}

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// A test in a temporary folder of its own, with inside paths.
+#pragma once
+
+#include "platform/File.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+#include "tests/support/Printing.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+class InAFolder : public testing::Test {
+protected:
+    [[nodiscard]] QString At(const QString& name) const { return Paths::FromNative(folder_.path()) + u'\\' + name; }
+
+    /// Writes a file and returns its path.
+    QString Make(const QString& name, QByteArrayView bytes) const {
+        File file = File::Open(At(name), File::Access::Replace);
+        file.Write(0, bytes);
+        file.Close();
+        return At(name);
+    }
+
+    [[nodiscard]] QByteArray BytesOf(const QString& name) const { return ReadWhole(At(name)); }
+
+    /// The number of the run-time error that the step raises, 0 for none.
+    template <typename Step>
+    static int NumberRaisedBy(Step&& step) {
+        try {
+            step();
+        } catch (const RuntimeError& error) {
+            return error.Number();
+        }
+        return 0;
+    }
+
+    /// Its description, empty for none.
+    template <typename Step>
+    static QString MessageOf(Step&& step) {
+        try {
+            step();
+        } catch (const RuntimeError& error) {
+            return error.Description();
+        }
+        return {};
+    }
+
+private:
+    QTemporaryDir folder_;
+};

@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/support/ScriptedNavigator.h"
+#include "tests/support/World.h"
+#include "tests/windows/WindowTests.h"
+#include "ui/window/NoticeStrip.h"
+#include "ui/window/ToolWindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A tool with one command of its own and two boxes.
+class SampleTool : public ToolWindow {
+public:
+    SampleTool() {
+        QMenu* const menu = menuBar()->addMenu(u"File"_s);
+        QAction* const own = menu->addAction(u"Own"_s);
+        Exit->setShortcut(QKeySequence(u"Ctrl+W"_s));
+        menu->addActions({Exit, Options, CheckForUpdates, About});
+        auto* const content = new QWidget;
+        auto* const column = new QVBoxLayout(content);
+        column->addWidget(First);
+        column->addWidget(Second);
+        setCentralWidget(content);
+        Equip({.Exit = Exit, .Options = Options, .CheckForUpdates = CheckForUpdates, .About = About},
+              {{own, nullptr, {}, [this] { ++Runs; }}});
+        First->setFocus();
+        own->trigger();
+    }
+
+    using ToolWindow::SetBusy;
+    using ToolWindow::SetNotice;
+
+    QAction* Exit = new QAction(u"Exit"_s, this);
+    QAction* Options = new QAction(u"Options"_s, this);
+    QAction* CheckForUpdates = new QAction(u"Updates"_s, this);
+    QAction* About = new QAction(u"About"_s, this);
+    QLineEdit* First = new QLineEdit;
+    QLineEdit* Second = new QLineEdit;
+    int Runs = 0;
+    int Questions = 0;
+    bool Closes = true;
+    bool Menu = true;
+
+private:
+    bool MayClose() override {
+        ++Questions;
+        return Closes;
+    }
+
+    [[nodiscard]] bool MenuFollows() const override { return Menu; }
+};
+
+} // namespace
+
+class tst_toolwindow : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+
+    void init() {
+        world_ = std::make_unique<World>();
+        navigator_ = std::make_unique<ScriptedNavigator>();
+        world_->UseLanguage("[LNG]\r\n");
+        world_->Start();
+        window_ = std::make_unique<SampleTool>();
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    }
+
+    void cleanup() {
+        window_.reset();
+        navigator_.reset();
+        world_.reset();
+    }
+
+    void itsOwnCommandsRun() { QCOMPARE(window_->Runs, 1); }
+
+    void optionsAndAboutOpenOverIt() {
+        window_->Options->trigger();
+        QCOMPARE(navigator_->Owner, window_.get());
+        navigator_->Owner = nullptr;
+        window_->About->trigger();
+        QCOMPARE(navigator_->Owner, window_.get());
+        window_->CheckForUpdates->trigger();
+        QCOMPARE(navigator_->Calls, (QStringList{u"ShowOptions"_s, u"ShowAbout"_s, u"CheckForUpdates manual"_s}));
+        QVERIFY(window_->isVisible());
+    }
+
+    void closingAsksOnceAndGoesBackToTheMenu() {
+        window_->close();
+        QCOMPARE(window_->Questions, 1);
+        QVERIFY(!window_->isVisible());
+        QCOMPARE(navigator_->Calls, QStringList{u"ShowToolsMenu"_s});
+    }
+
+    void aRefusedCloseLeavesTheWindowAndNoMenu() {
+        window_->Closes = false;
+        window_->Exit->trigger();
+        QCOMPARE(window_->Questions, 1);
+        QVERIFY(window_->isVisible());
+        QVERIFY(navigator_->Calls.isEmpty());
+    }
+
+    void withoutAMenuBehindItTheWindowJustCloses() {
+        window_->Menu = false;
+        window_->close();
+        QVERIFY(!window_->isVisible());
+        QVERIFY(navigator_->Calls.isEmpty());
+    }
+
+    void bothKeysOfExitCloseIt() {
+        QTest::keyClick(window_.get(), Qt::Key_F4, Qt::AltModifier);
+        QVERIFY(!window_->isVisible());
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+        QTest::keyClick(window_.get(), Qt::Key_W, Qt::ControlModifier);
+        QVERIFY(!window_->isVisible());
+    }
+
+    void aNoticeStandsAcrossTheWindowUnderTheMenuBar() {
+        auto* const strip = window_->findChild<NoticeStrip*>();
+        QVERIFY(strip != nullptr);
+        QVERIFY(!strip->isVisible());
+        window_->SetNotice({.Text = u"Something"_s});
+        QVERIFY(strip->isVisible());
+        QCoreApplication::processEvents();
+        QCOMPARE(strip->width(), window_->width());
+        QCOMPARE(strip->mapTo(window_.get(), QPoint()).y(), window_->menuBar()->geometry().bottom() + 1);
+        QVERIFY(window_->First->mapTo(window_.get(), QPoint()).y() > strip->geometry().bottom());
+        window_->SetNotice({});
+        QVERIFY(!strip->isVisible());
+    }
+
+    void theControlsKeepTheirFocusAndTheirOrder() {
+        QCOMPARE(QApplication::focusWidget(), window_->First);
+        QTest::keyClick(window_->First, Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), window_->Second);
+    }
+
+    void theBusyPointerNests() {
+        SampleTool::SetBusy(true);
+        SampleTool::SetBusy(true);
+        SampleTool::SetBusy(false);
+        QVERIFY(QApplication::overrideCursor() != nullptr);
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        SampleTool::SetBusy(false);
+        QVERIFY(QApplication::overrideCursor() == nullptr);
+    }
+
+private:
+    std::unique_ptr<World> world_;
+    std::unique_ptr<ScriptedNavigator> navigator_;
+    std::unique_ptr<SampleTool> window_;
+};
+
+WINDOW_TEST(tst_toolwindow)
+#include "tst_toolwindow.moc"
