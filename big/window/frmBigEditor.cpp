@@ -199,7 +199,7 @@ void frmBigEditor::TellSelection() {
 }
 
 bool frmBigEditor::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == ui_->tvDirs->viewport() && event->type() == QEvent::MouseButtonPress)
+    if (event->type() == QEvent::MouseButtonPress && watched == ui_->tvDirs->viewport())
         pressedNode_ = FolderTree::None;
     if (watched == ui_->tvDirs && event->type() == QEvent::FocusIn) {
         const auto reason = static_cast<QFocusEvent*>(event)->reason();
