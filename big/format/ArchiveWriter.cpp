@@ -142,8 +142,7 @@ namespace Archives {
 
 OffsetShift::Shift Write(const Archive& archive, Device& target, const Device* old, Placement placement,
                          const Watch& watch) {
-    if (archive.Entries.size() > MaximumEntries)
-        throw RuntimeError(ErrorNumber::Overflow, u"%1: more than %2 entries"_s.arg(target.Name()).arg(MaximumEntries));
+    WritePlan::CheckCount(archive, target.Name());
     const Writing writing(archive, placement, watch);
     writing.Check(old, placement);
     writing.WriteTo(target, old);

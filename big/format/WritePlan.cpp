@@ -3,6 +3,8 @@
 
 #include "big/format/WritePlan.h"
 
+#include "platform/RuntimeError.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -79,6 +81,13 @@ OffsetShift::Shift Plan::ShiftOf(const Layout::Variant& variant, const std::vect
     shift.ExactFits =
         !shift.IsNone() && Length == ExactLength(Places, items, DirectoryEnd(items) + variant.Mark.size());
     return shift;
+}
+
+void CheckCount(const Archive& archive, const QString& target) {
+    if (archive.Entries.size() > Archives::MaximumEntries)
+        throw RuntimeError(
+            ErrorNumber::Overflow,
+            QStringLiteral("%1: more than %2 entries").arg(target, QString::number(Archives::MaximumEntries)));
 }
 
 Plan Make(const Layout::Variant& variant, const std::vector<Item>& items, Archives::Placement placement) {

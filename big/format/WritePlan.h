@@ -40,6 +40,9 @@ struct Plan {
     [[nodiscard]] OffsetShift::Shift ShiftOf(const Layout::Variant& variant, const std::vector<Item>& items) const;
 };
 
+/// Raises when an archive can't have so many; `target` is for the message.
+void CheckCount(const Archive& archive, const QString& target);
+
 Plan Make(const Layout::Variant& variant, const std::vector<Item>& items, Archives::Placement placement);
 
 } // namespace WritePlan

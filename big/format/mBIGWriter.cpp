@@ -4,6 +4,7 @@
 #include "big/format/mBIG.h"
 
 #include "big/format/OpenArchive.h"
+#include "big/format/WritePlan.h"
 #include "core/Host.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
@@ -47,6 +48,7 @@ bool HasNothingToSave(Placement placement) {
 }
 
 Shift WriteTo(const QString& path, Placement placement, Progress& progress) {
+    WritePlan::CheckCount(mBIG::Open(), Paths::ToNative(path));
     WriteAside aside(path);
     Shift shift;
     {

@@ -276,6 +276,7 @@ TEST_F(Writer, ProgressBeyondAHundredAndOfASingleKeptEntryIsNotShown) {
     SavedAs(0);
     EXPECT_EQ(host_.ProgressValues, (std::vector<int>{0, 100}));
     host_.ProgressValues.clear();
+    BigEntries[0].IsNew = true; // no archive was loaded that an old one's bytes could come from
     BigEntries[2].Deleted = BigEntries[3].Deleted = true;
     SavedAs(0);
     EXPECT_TRUE(host_.ProgressValues.empty());
