@@ -3,10 +3,12 @@
 
 #include "big/document/FileList.h"
 
+#include "core/mTraduction.h"
+
 #include <algorithm>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
+using mTraduction::GetText;
 
 namespace {
 
@@ -23,15 +25,6 @@ bool IsShownIn(const BigEntry& entry, const QString& folderKey) {
 
 QString TypeOf(const QString& name) {
     return name.sliced(name.lastIndexOf(u'.') + 1);
-}
-
-/// Sorts row numbers by a key a row, equal keys in the rows' own order.
-template <typename Key>
-void SortByKeys(std::vector<int>& rows, const std::vector<Key>& keys, bool descending) {
-    const auto keyOf = [&](int row) -> const Key& { return keys[static_cast<std::size_t>(row)]; };
-    std::stable_sort(rows.begin(), rows.end(), [&](int left, int right) {
-        return descending ? keyOf(right) < keyOf(left) : keyOf(left) < keyOf(right);
-    });
 }
 
 } // namespace
@@ -86,42 +79,44 @@ QString FileList::SizeText(int place) const {
     return row.IsFolder ? QString() : QString::number(row.Size);
 }
 
-QString FileList::ColumnText(const FileRow& row, Column column) const {
+QString FileList::Text(int place, int column) const {
+    return column == Size ? SizeText(place) : ColumnText(Row(place), column);
+}
+
+QString FileList::ColumnText(const FileRow& row, int column) const {
     if (column == Filename)
         return row.IsFolder ? row.Name : row.Name.sliced(keyLength_);
     return row.IsFolder ? folderType_ : TypeOf(row.Name);
 }
 
-void FileList::SortBy(Column column) {
-    const Order order = OrderOf(column) == Order::Ascending ? Order::Descending : Order::Ascending;
-    orders_.fill(Order::None);
-    orders_[column] = order;
+std::vector<RowColumn> FileList::Columns() const {
+    return {{.Caption = GetText(u"FileName"_s), .Pixels = 220},
+            {.Caption = GetText(u"FileType"_s), .Pixels = 100},
+            {.Caption = GetText(u"Size"_s), .Sort = SortKind::Number}};
+}
+
+std::vector<int> FileList::SortBy(int column) {
+    std::vector<int> before(rows_.size());
+    for (int place = 0; place < Count(); ++place)
+        before[static_cast<std::size_t>(place)] = static_cast<int>(Stored(place));
+    order_.Click(column);
     Sort();
+    const std::vector<int> places = PlacesOf(sorted_);
+    std::ranges::transform(before, before.begin(), [&](int row) { return places[static_cast<std::size_t>(row)]; });
+    return before;
 }
 
 void FileList::Sort() {
-    const auto* const marked = std::ranges::find_if(orders_, [](Order order) { return order != Order::None; });
-    if (marked == orders_.end())
+    const std::optional<int> column = order_.MarkedColumn();
+    if (!column)
         return;
-    const auto column = static_cast<Column>(marked - orders_.begin());
-    const bool descending = *marked == Order::Descending;
-    sorted_.resize(rows_.size());
-    std::iota(sorted_.begin(), sorted_.end(), 0);
     if (column == Size) {
-        std::vector<qint32> sizes(rows_.size());
+        std::vector<qint64> sizes(rows_.size());
         std::ranges::transform(rows_, sizes.begin(), &FileRow::Size);
-        SortByKeys(sorted_, sizes, descending);
+        sorted_ = order_.Sort(sizes);
         return;
     }
     std::vector<QString> texts(rows_.size());
-    std::ranges::transform(rows_, texts.begin(),
-                           [&](const FileRow& row) { return ColumnText(row, column).toCaseFolded(); });
-    SortByKeys(sorted_, texts, descending);
-}
-
-std::vector<int> FileList::PlacesByUnsorted() const {
-    std::vector<int> places(rows_.size());
-    for (int place = 0; place < Count(); ++place)
-        places[Stored(place)] = place;
-    return places;
+    std::ranges::transform(rows_, texts.begin(), [&](const FileRow& row) { return ColumnText(row, *column); });
+    sorted_ = order_.Sort(std::move(texts));
 }

@@ -6,10 +6,11 @@
 
 #include "big/document/FolderTree.h"
 #include "big/format/mBIG.h"
+#include "core/rows/RowOrder.h"
+#include "core/rows/RowSource.h"
 
 #include <QString>
 
-#include <array>
 #include <vector>
 
 /// A row keeps what it shows, so that it stands on when the table is replaced.
@@ -21,13 +22,13 @@ struct FileRow {
     bool IsNew = false;    ///< the file's data is not in the archive on disk
 };
 
-class FileList {
+class FileList final : public RowSource {
 public:
     enum Column { Filename, Filetype, Size };
 
     static constexpr int ColumnCount = 3;
 
-    enum class Order { None, Ascending, Descending };
+    using Order = SortOrder;
 
     /// Fills the list with the node's folders and the table's files that the folder key brings: the key occurs anywhere
     /// in the name, in any case, and no backslash stands beyond the character behind as many characters as the key has.
@@ -39,15 +40,18 @@ public:
 
     void Clear();
 
-    [[nodiscard]] int Count() const { return static_cast<int>(rows_.size()); }
+    [[nodiscard]] std::vector<RowColumn> Columns() const override;
+
+    [[nodiscard]] int Count() const override { return static_cast<int>(rows_.size()); }
 
     /// The row at a place from 0 to Count() - 1, in the order shown.
     [[nodiscard]] const FileRow& Row(int place) const { return rows_[Stored(place)]; }
 
     /// "DIR:" and the node index, or "BIG:" and the index in the table.
-    [[nodiscard]] QString Key(int place) const;
+    [[nodiscard]] QString Key(int place) const override;
     /// What the list shows: for a file its name without as many leading characters as the folder key has.
     [[nodiscard]] QString Text(int place) const;
+    [[nodiscard]] QString Text(int place, int column) const override;
     [[nodiscard]] int TextLength(int place) const;
     /// Shows another text in a row; a file's name within the archive is taken to end in it.
     void SetText(int place, const QString& text);
@@ -56,28 +60,25 @@ public:
     /// Bytes in decimal; empty for a folder.
     [[nodiscard]] QString SizeText(int place) const;
 
-    /// A click on a column's header: from no order to ascending, then descending and ascending in turn. The other
-    /// columns lose their mark. Size sorts as numbers, the others as text without regard to case.
-    void SortBy(Column column);
+    /// Folders and files of equal texts stand in the order that they had before any sorting.
+    std::vector<int> SortBy(int column) override;
 
-    [[nodiscard]] Order OrderOf(Column column) const { return orders_[column]; }
+    [[nodiscard]] Order OrderOf(int column) const override { return order_.Of(column); }
 
-    /// The place at which a row stood before any sorting, and back.
-    [[nodiscard]] int UnsortedPlace(int place) const { return static_cast<int>(Stored(place)); }
-
-    [[nodiscard]] std::vector<int> PlacesByUnsorted() const;
+    /// Files and folders can be renamed.
+    [[nodiscard]] bool CanEdit() const override { return true; }
 
 private:
     [[nodiscard]] std::size_t Stored(int place) const {
         return static_cast<std::size_t>(sorted_.empty() ? place : sorted_[static_cast<std::size_t>(place)]);
     }
 
-    [[nodiscard]] QString ColumnText(const FileRow& row, Column column) const;
+    [[nodiscard]] QString ColumnText(const FileRow& row, int column) const;
     void Sort();
 
     std::vector<FileRow> rows_;
     std::vector<int> sorted_; ///< place shown to stored row; empty when unsorted
-    std::array<Order, ColumnCount> orders_{};
+    RowOrder order_{ColumnCount};
     qsizetype keyLength_ = 0;
     QString folderType_;
 };

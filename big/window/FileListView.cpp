@@ -5,16 +5,15 @@
 
 #include "big/window/FileListModel.h"
 #include "platform/Paths.h"
+#include "ui/list/RowGestures.h"
+#include "ui/list/RowListView.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QDropEvent>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QListView>
 #include <QMimeData>
 #include <QStyledItemDelegate>
-#include <QTreeView>
 #include <QUrl>
 
 #include <algorithm>
@@ -64,17 +63,6 @@ private:
     bool large_ = false;
 };
 
-class DetailsView : public QTreeView {
-public:
-    explicit DetailsView(FileListView* list) : QTreeView(list), list_(list) {}
-
-protected:
-    void startDrag(Qt::DropActions /*supportedActions*/) override { Q_EMIT list_->DragStarted(); }
-
-private:
-    FileListView* list_;
-};
-
 QListView* MakeIcons(FileListView* parent) {
     auto* view = new IconView(parent);
     view->setWrapping(true);
@@ -85,77 +73,37 @@ QListView* MakeIcons(FileListView* parent) {
     return view;
 }
 
-QTreeView* MakeDetails(FileListView* parent) {
-    auto* view = new DetailsView(parent);
-    view->setRootIsDecorated(false);
-    view->setItemsExpandable(false);
-    view->setUniformRowHeights(true);
-    view->setAllColumnsShowFocus(true);
-    view->header()->setSectionsClickable(true);
-    view->header()->setSortIndicatorShown(false);
-    return view;
-}
-
-bool IsModifier(int key) {
-    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta ||
-           key == Qt::Key_AltGr;
-}
-
-bool IsEnter(int key) {
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
-/// Whether a text is being edited inside the view: its keys come by here too.
-bool HasField(const QAbstractItemView& view) {
-    const QWidget* focus = QApplication::focusWidget();
-    return focus != nullptr && focus != &view && view.isAncestorOf(focus);
-}
-
 } // namespace
 
 FileListView::FileListView(QWidget* parent)
     : QStackedWidget(parent),
-      details_(MakeDetails(this)),
-      icons_(MakeIcons(this)) {
+      details_(new RowListView(this)),
+      icons_(MakeIcons(this)),
+      iconGestures_(new RowGestures(icons_)) {
     addWidget(details_);
     addWidget(icons_);
-    Prepare(details_);
-    Prepare(icons_);
+    Follow(details_, details_->Gestures());
+    Follow(icons_, iconGestures_);
+    connect(details_, &RowListView::DragStarted, this, &FileListView::DragStarted);
 }
 
-void FileListView::Prepare(QAbstractItemView* view) {
-    view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    view->setSelectionBehavior(QAbstractItemView::SelectRows);
-    view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
+void FileListView::Follow(QAbstractItemView* view, RowGestures* gestures) {
     view->setDragEnabled(true);
-    view->setContextMenuPolicy(Qt::CustomContextMenu);
-    view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    view->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    view->installEventFilter(this);
     view->viewport()->installEventFilter(this);
     view->viewport()->setAcceptDrops(true);
-    connect(view, &QWidget::customContextMenuRequested, this, &FileListView::ShowMenu);
-    connect(view, &QAbstractItemView::clicked, this,
-            [this](const QModelIndex& index) { Q_EMIT RowClicked(index.row()); });
-    connect(view, &QAbstractItemView::doubleClicked, this,
-            [this](const QModelIndex& index) { Q_EMIT RowActivated(index.row()); });
+    connect(gestures, &RowGestures::RowClicked, this, &FileListView::RowClicked);
+    connect(gestures, &RowGestures::RowActivated, this, &FileListView::RowActivated);
+    connect(gestures, &RowGestures::Entered, this, &FileListView::Entered);
+    connect(gestures, &RowGestures::MenuWanted, this, &FileListView::MenuWanted);
 }
 
 void FileListView::SetModel(FileListModel* model) {
     model_ = model;
-    details_->setModel(model);
+    details_->SetRows(model);
     icons_->setModel(model);
     const QItemSelectionModel* spare = icons_->selectionModel();
     icons_->setSelectionModel(details_->selectionModel());
     delete spare;
-    details_->header()->resizeSection(FileList::Filename, 220);
-    details_->header()->resizeSection(FileList::Filetype, 100);
-    connect(details_->header(), &QHeaderView::sectionClicked, this, [this](int column) {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        model_->SortBy(column);
-        QApplication::restoreOverrideCursor();
-        RowsChanged();
-    });
     SetMode(mode_);
 }
 
@@ -191,14 +139,6 @@ void FileListView::SizeCells() {
 }
 
 void FileListView::RowsChanged() {
-    for (const auto column : {FileList::Filename, FileList::Filetype, FileList::Size}) {
-        const FileList::Order order = model_->List().OrderOf(column);
-        if (order == FileList::Order::None)
-            continue;
-        Header()->setSortIndicatorShown(true);
-        Header()->setSortIndicator(column,
-                                   order == FileList::Order::Ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
-    }
     SizeCells();
 }
 
@@ -217,11 +157,7 @@ QItemSelectionModel* FileListView::Selection() const {
 }
 
 std::vector<int> FileListView::SelectedRows() const {
-    std::vector<int> places;
-    for (const QModelIndex& index : Selection()->selectedRows())
-        places.push_back(index.row());
-    std::ranges::sort(places);
-    return places;
+    return details_->Gestures()->SelectedRows();
 }
 
 QHeaderView* FileListView::Header() const {
@@ -235,34 +171,6 @@ QAbstractItemView* FileListView::Current() const {
 void FileListView::AddAction(QAction* action) {
     details_->addAction(action);
     icons_->addAction(action);
-}
-
-// A row under the pointer becomes the only selected one; the menu key asks for the current row.
-void FileListView::ShowMenu(QPoint place) {
-    QAbstractItemView* view = Current();
-    const QModelIndex row = view->indexAt(place);
-    if (row.isValid())
-        view->selectionModel()->setCurrentIndex(row.siblingAtColumn(0),
-                                                QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    Q_EMIT MenuWanted(row.row(), view->viewport()->mapToGlobal(place));
-}
-
-bool FileListView::KeyEvent(const QKeyEvent& event) {
-    const QModelIndex row = Selection() == nullptr ? QModelIndex() : Selection()->currentIndex();
-    if (!row.isValid() || HasField(*Current()))
-        return false;
-    const int key = event.key();
-    const bool press = event.type() == QEvent::KeyPress;
-    if (press && IsEnter(key)) {
-        // A key that is held down opens a file once.
-        if (!event.isAutoRepeat())
-            Q_EMIT RowActivated(row.row());
-        return true;
-    }
-    // A key has moved the selection by the time it is let go of.
-    if (!press && !IsEnter(key) && key != Qt::Key_Delete && !IsModifier(key) && Selection()->isSelected(row))
-        Q_EMIT RowClicked(row.row());
-    return false;
 }
 
 bool FileListView::DropEvent(QDropEvent& event) {
@@ -286,19 +194,6 @@ bool FileListView::DropEvent(QDropEvent& event) {
 
 bool FileListView::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-        return KeyEvent(*static_cast<QKeyEvent*>(event));
-    case QEvent::FocusIn:
-        if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
-            watched == Current() && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason))
-            Q_EMIT Entered();
-        return false;
-    case QEvent::MouseButtonPress:
-        if (watched == Current()->viewport() &&
-            !Current()->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint()).isValid())
-            Q_EMIT Entered();
-        return false;
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::Drop:

@@ -14,9 +14,9 @@ class QAction;
 class QDropEvent;
 class QHeaderView;
 class QItemSelectionModel;
-class QKeyEvent;
 class QListView;
-class QTreeView;
+class RowGestures;
+class RowListView;
 
 class FileListView : public QStackedWidget {
     Q_OBJECT
@@ -43,7 +43,7 @@ public:
     /// The view that the mode shows.
     [[nodiscard]] QAbstractItemView* Current() const;
 
-    /// Brings the header's mark and the size of the icons' cells in line with the rows. To be called after each change.
+    /// Brings the size of the icons' cells in line with the rows. To be called after each change.
     void RowsChanged();
 
     /// Adds what the list and its keys share with the menus, such as the Delete key.
@@ -67,14 +67,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Prepare(QAbstractItemView* view);
-    void ShowMenu(QPoint place);
-    bool KeyEvent(const QKeyEvent& event);
+    void Follow(QAbstractItemView* view, RowGestures* gestures);
     bool DropEvent(QDropEvent& event);
     void SizeCells();
 
     FileListModel* model_ = nullptr;
-    QTreeView* details_;
+    RowListView* details_;
     QListView* icons_;
+    RowGestures* iconGestures_;
     ViewMode mode_ = ViewMode::SmallIcons;
 };

@@ -14,12 +14,8 @@
 
 #include <vector>
 
-enum class LabelChange {
-    Reset,  ///< all rows are others
-    Insert, ///< one row comes in at the place
-    Remove, ///< the row at the place goes
-    Sort,   ///< the same rows in another order: CsfEditor::NewPlaces tells which
-};
+/// For Sort, CsfEditor::NewPlaces tells the order.
+using LabelChange = RowChange;
 
 /// What the table asks of its window besides.
 class CsfEditorView : public DocumentView {
@@ -65,6 +61,9 @@ public:
     [[nodiscard]] const CsfEditorState& State() const { return state_; }
 
     [[nodiscard]] const LabelList& List() const { return list_; }
+
+    /// For the list's model.
+    [[nodiscard]] LabelList& List() { return list_; }
 
     /// The entries of cmbLanguage, by number.
     [[nodiscard]] static QStringList Languages();

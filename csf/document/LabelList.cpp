@@ -3,20 +3,25 @@
 
 #include "csf/document/LabelList.h"
 
+#include "core/mTraduction.h"
+
 #include <QStringMatcher>
 
 #include <algorithm>
-#include <numeric>
-#include <utility>
 
 using namespace Qt::StringLiterals;
+using mTraduction::GetText;
+
+namespace {
+constexpr int nameWidth = 2500 / 15; // twips at 96 dots an inch
+} // namespace
 
 void LabelList::Load(const std::vector<CsfString>& table) {
     rows_.clear();
     rows_.reserve(table.size());
     for (const CsfString& entry : table)
         rows_.push_back({entry.Name, entry.Value, Count()});
-    orders_ = {Order::Ascending, Order::None};
+    order_.Mark(Name, Order::Ascending);
     Sort();
 }
 
@@ -33,34 +38,26 @@ std::vector<CsfString> LabelList::Table() const {
     return table;
 }
 
-std::vector<int> LabelList::SortBy(Column column) {
-    const Order order = OrderOf(column) == Order::Ascending ? Order::Descending : Order::Ascending;
-    orders_.fill(Order::None);
-    orders_.at(column) = order;
+QString LabelList::Text(int place, int column) const {
+    return column == Name ? Row(place).Name : Row(place).Value;
+}
+
+std::vector<RowColumn> LabelList::Columns() const {
+    return {{.Caption = GetText(u"Name"_s), .Pixels = nameWidth}, {.Caption = GetText(u"Value"_s)}};
+}
+
+std::vector<int> LabelList::SortBy(int column) {
+    order_.Click(column);
     return Sort();
 }
 
 std::vector<int> LabelList::Sort() {
     const bool byName = OrderOf(Name) != Order::None;
-    const bool descending = orders_.at(byName ? Name : Value) == Order::Descending;
-    std::vector<QString> keys(rows_.size());
-    std::ranges::transform(rows_, keys.begin(),
-                           [&](const LabelRow& row) { return (byName ? row.Name : row.Value).toCaseFolded(); });
-    const auto keyOf = [&](int row) -> const QString& { return keys[static_cast<std::size_t>(row)]; };
-    std::vector<int> sorted(rows_.size());
-    std::iota(sorted.begin(), sorted.end(), 0);
-    std::ranges::stable_sort(sorted, [&](int left, int right) {
-        return descending ? keyOf(right) < keyOf(left) : keyOf(left) < keyOf(right);
-    });
-    std::vector<LabelRow> rows;
-    rows.reserve(rows_.size());
-    std::vector<int> newPlaces(rows_.size());
-    for (const int old : sorted) {
-        newPlaces[static_cast<std::size_t>(old)] = static_cast<int>(rows.size());
-        rows.push_back(std::move(rows_[static_cast<std::size_t>(old)]));
-    }
-    rows_ = std::move(rows);
-    return newPlaces;
+    std::vector<QString> texts(rows_.size());
+    std::ranges::transform(rows_, texts.begin(), byName ? &LabelRow::Name : &LabelRow::Value);
+    const std::vector<int> sorted = order_.Sort(std::move(texts));
+    Reorder(rows_, sorted);
+    return PlacesOf(sorted);
 }
 
 int LabelList::Find(const QString& text, int from) const {

@@ -4,11 +4,12 @@
 /// The rows of the CSF Editor's list as plain data: name and value, in the order shown.
 #pragma once
 
+#include "core/rows/RowOrder.h"
+#include "core/rows/RowSource.h"
 #include "csf/format/CsfTable.h"
 
 #include <QString>
 
-#include <array>
 #include <vector>
 
 struct LabelRow {
@@ -17,20 +18,22 @@ struct LabelRow {
     int Index = -1; ///< in the table at load; -1 for a row that was added since
 };
 
-class LabelList {
+class LabelList final : public RowSource {
 public:
     enum Column { Name, Value };
 
     static constexpr int ColumnCount = 2;
 
-    enum class Order { None, Ascending, Descending };
+    using Order = SortOrder;
 
     /// Takes the table's entries as rows, sorted by name upwards.
     void Load(const std::vector<CsfString>& table);
 
     void Clear() { rows_.clear(); }
 
-    [[nodiscard]] int Count() const { return static_cast<int>(rows_.size()); }
+    [[nodiscard]] std::vector<RowColumn> Columns() const override;
+
+    [[nodiscard]] int Count() const override { return static_cast<int>(rows_.size()); }
 
     [[nodiscard]] bool Has(int place) const { return place >= 0 && place < Count(); }
 
@@ -38,7 +41,12 @@ public:
     [[nodiscard]] const LabelRow& Row(int place) const { return rows_[static_cast<std::size_t>(place)]; }
 
     /// "I" and the index in the table at load; empty for a row that was added since.
-    [[nodiscard]] QString Key(int place) const;
+    [[nodiscard]] QString Key(int place) const override;
+
+    [[nodiscard]] QString Text(int place, int column) const override;
+
+    /// The whole value.
+    [[nodiscard]] QString Tip(int place) const override { return Row(place).Value; }
 
     void SetName(int place, const QString& name) { rows_[static_cast<std::size_t>(place)].Name = name; }
 
@@ -52,12 +60,10 @@ public:
     /// The rows as a table, in the order shown.
     [[nodiscard]] std::vector<CsfString> Table() const;
 
-    /// A click on a column's header: from no order to ascending, then descending and ascending in turn; the other
-    /// column loses its mark. Text without regard to case, equal texts in the order that they had. Returns the new
-    /// place of each row by its old one.
-    std::vector<int> SortBy(Column column);
+    /// Equal texts stand in the order that they had.
+    std::vector<int> SortBy(int column) override;
 
-    [[nodiscard]] Order OrderOf(Column column) const { return orders_.at(column); }
+    [[nodiscard]] Order OrderOf(int column) const override { return order_.Of(column); }
 
     /// The first place from `from` on whose name contains the text, in any case; -1 when there is none.
     [[nodiscard]] int Find(const QString& text, int from) const;
@@ -69,5 +75,5 @@ private:
     std::vector<int> Sort();
 
     std::vector<LabelRow> rows_;
-    std::array<Order, ColumnCount> orders_{};
+    RowOrder order_{ColumnCount};
 };

@@ -5,8 +5,8 @@
 
 #include "core/mMain.h"
 #include "core/mTraduction.h"
-#include "csf/window/LabelListModel.h"
 #include "csf/window/ValueText.h"
+#include "ui/list/RowListModel.h"
 #include "ui/text/Localisation.h"
 #include "ui/window/SideMenu.h"
 #include "ui_frmCSFEditor.h"
@@ -21,7 +21,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int nameWidth = 2500 / 15; // twips at 96 dots an inch
 constexpr QColor promptColour{0x80, 0x80, 0x80};
 } // namespace
 
@@ -29,11 +28,12 @@ frmCSFEditor::frmCSFEditor(QWidget* parent)
     : ToolWindow(parent),
       ui_(std::make_unique<Ui::frmCSFEditor>()),
       editor_(*this),
-      model_(new LabelListModel(editor_, this)),
+      model_(new RowListModel(editor_.List(), this)),
       count_(new QLabel) {
     ui_->setupUi(this);
     mTraduction::ApplyLanguage(this);
-    ui_->lvStrings2->setModel(model_);
+    ui_->lvStrings2->SetRows(model_,
+                             [this](int column) { editor_.ClickHeader(static_cast<LabelList::Column>(column)); });
     Equip({.Exit = ui_->mnuExit,
            .Options = ui_->mnuOptions,
            .CheckForUpdates = ui_->mnuCheckForUpdates,
@@ -56,8 +56,6 @@ void frmCSFEditor::OpenCSFFile(const QString& path) {
 void frmCSFEditor::Dress() {
     ui_->cmbLanguage->addItems(CsfEditor::Languages());
     ui_->cmbLanguage->setCurrentIndex(-1);
-    ui_->lvStrings2->header()->resizeSection(LabelList::Name, nameWidth);
-    ui_->lvStrings2->header()->setSectionsClickable(true);
     ui_->lvStrings2->setAccessibleName(mTraduction::GetText(u"CSFFile"_s));
     ui_->txtFind->setAccessibleName(mTraduction::GetText(u"Find"_s));
     ui_->txtName->setMaxLength(std::numeric_limits<int>::max());
@@ -96,8 +94,6 @@ void frmCSFEditor::ConnectControls() {
                 if (!following_ && !selected.isEmpty())
                     editor_.ClickRow(selected.first().top());
             });
-    connect(ui_->lvStrings2->header(), &QHeaderView::sectionClicked, this,
-            [this](int column) { editor_.ClickHeader(static_cast<LabelList::Column>(column)); });
     connect(ui_->txtName, &QLineEdit::textEdited, this, [this](const QString& text) { editor_.NameTyped(text); });
     connect(ui_->txtValue, &QPlainTextEdit::textChanged, this, [this] {
         if (!following_)
@@ -158,21 +154,7 @@ void frmCSFEditor::ListChanging(LabelChange change, int place) {
 
 void frmCSFEditor::ListChanged(LabelChange change, int /*place*/) {
     const QScopedValueRollback following(following_, true);
-    model_->End(change);
-    MarkSortedColumn();
-}
-
-void frmCSFEditor::MarkSortedColumn() {
-    QHeaderView* const header = ui_->lvStrings2->header();
-    header->setSortIndicatorShown(false);
-    for (const auto column : {LabelList::Name, LabelList::Value}) {
-        const LabelList::Order order = editor_.List().OrderOf(column);
-        if (order == LabelList::Order::None)
-            continue;
-        header->setSortIndicatorShown(true);
-        header->setSortIndicator(column,
-                                 order == LabelList::Order::Ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
-    }
+    model_->End(change, editor_.NewPlaces());
 }
 
 void frmCSFEditor::RowChanged(int place) {

@@ -11,8 +11,8 @@
 #include <memory>
 #include <vector>
 
-class LabelListModel;
 class QLabel;
+class RowListModel;
 
 namespace Ui {
 class frmCSFEditor;
@@ -52,11 +52,10 @@ private:
     void ConnectControls();
     bool FindEvent(QEvent& event);
     void ShowFind();
-    void MarkSortedColumn();
 
     std::unique_ptr<Ui::frmCSFEditor> ui_;
     CsfEditor editor_;
-    LabelListModel* model_;
+    RowListModel* model_;
     QLabel* count_;          ///< the status bar's text
     bool following_ = false; ///< the controls follow the document, not the other way round
 };

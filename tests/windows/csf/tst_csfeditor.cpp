@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "core/mMain.h"
-#include "csf/window/LabelListModel.h"
 #include "platform/AnsiCodec.h"
 #include "tests/windows/csf/CsfEditorWindow.h"
 

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// What mouse and keyboard do to the rows of a list, the same in each view that shows a RowListModel.
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+
+#include <vector>
+
+class QAbstractItemView;
+class QKeyEvent;
+
+class RowGestures : public QObject {
+    Q_OBJECT
+public:
+    /// Sets the view up: whole rows are selected, several at once; a row's text is edited with F2 or a second click. A
+    /// child of the view.
+    explicit RowGestures(QAbstractItemView* view);
+
+    /// The places of the selected rows, in the order shown.
+    [[nodiscard]] std::vector<int> SelectedRows() const;
+
+Q_SIGNALS:
+    /// A row was clicked, or a key other than Enter and Delete was pressed on it.
+    void RowClicked(int place);
+    /// A row was double clicked, or Enter was pressed on it.
+    void RowActivated(int place);
+    /// The view was clicked beside its rows, or reached with the Tab key.
+    void Entered();
+    /// The context menu is asked for: over a row, which is then the only one selected, or beside them (-1).
+    void MenuWanted(int place, QPoint globalPlace);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void ShowMenu(QPoint place);
+    bool KeyEvent(const QKeyEvent& event);
+    bool ToggleChecks();
+    [[nodiscard]] bool IsEditing() const;
+
+    QAbstractItemView* view_;
+};

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/list/RowListView.h"
+
+#include "ui/list/RowListModel.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+
+RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new RowGestures(this)) {
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    header()->setSectionsClickable(true);
+    header()->setSortIndicatorShown(false);
+    connect(header(), &QHeaderView::sectionClicked, this, &RowListView::Sort);
+    connect(header(), &QHeaderView::sectionResized, this, [this] { userSized_ = userSized_ || !sizing_; });
+}
+
+void RowListView::SetRows(RowListModel* model, const std::function<void(int)>& sort) {
+    rows_ = model;
+    sort_ = sort;
+    setModel(model);
+    connect(model, &QAbstractItemModel::modelReset, this, &RowListView::MarkColumns);
+    connect(model, &QAbstractItemModel::layoutChanged, this, &RowListView::MarkColumns);
+    const QScopedValueRollback sizing(sizing_, true);
+    for (int column = 0; column < model->columnCount(); ++column)
+        if (const int pixels = model->Columns()[static_cast<std::size_t>(column)].Pixels; pixels > 0)
+            header()->resizeSection(column, pixels);
+    userSized_ = false;
+    SizeColumns();
+    MarkColumns();
+}
+
+void RowListView::SelectRow(int place) {
+    setCurrentIndex(rows_->index(place, 0));
+}
+
+void RowListView::Sort(int column) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (sort_)
+        sort_(column);
+    else
+        rows_->SortBy(column);
+    QApplication::restoreOverrideCursor();
+}
+
+void RowListView::MarkColumns() {
+    header()->setSortIndicatorShown(false);
+    for (int column = 0; column < rows_->columnCount(); ++column) {
+        const SortOrder order = rows_->Rows().OrderOf(column);
+        if (order == SortOrder::None)
+            continue;
+        header()->setSortIndicatorShown(true);
+        header()->setSortIndicator(column, order == SortOrder::Ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+    }
+}
+
+void RowListView::SizeColumns() {
+    if (rows_ == nullptr || userSized_)
+        return;
+    const QScopedValueRollback sizing(sizing_, true);
+    for (int column = 0; column < rows_->columnCount(); ++column)
+        if (const double fraction = rows_->Columns()[static_cast<std::size_t>(column)].Fraction; fraction > 0)
+            header()->resizeSection(column, static_cast<int>(fraction * viewport()->width()));
+}
+
+void RowListView::resizeEvent(QResizeEvent* event) {
+    const QScopedValueRollback sizing(sizing_, true); // the last column takes what is left
+    QTreeView::resizeEvent(event);
+    SizeColumns();
+}
+
+void RowListView::startDrag(Qt::DropActions /*supportedActions*/) {
+    Q_EMIT DragStarted();
+}
