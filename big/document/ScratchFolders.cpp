@@ -95,15 +95,19 @@ bool IsDragged(const QString& path) {
 }
 
 void RemoveAbandoned() {
+    // What a link leads to is somebody else's.
+    if (Files::IsLink(ProgramFolders::SharedScratchFolder()))
+        return;
     const QString scratch = ProgramFolders::SharedScratchFolder() + u'\\';
     for (const QString& name : Files::ListFolder(scratch + u"*.*"_s, true)) {
         const QString folder = scratch + name;
         const qint64 owner = OwnerOf(name);
-        if (!Files::FolderExists(folder))
+        const qint64 program = NumberBehind({}, name);
+        if (!Files::FolderExists(folder) || Files::IsLink(folder))
             continue;
         if (owner > 0 && !Processes::IsRunning(owner))
             Files::DeleteFolder(folder);
-        else if (NumberBehind({}, name) > 1)
+        else if (program > 1 && program <= mostPrograms)
             RemoveScratch(folder);
     }
 }
