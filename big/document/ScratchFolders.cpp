@@ -47,9 +47,16 @@ qint64 OwnerOf(const QString& folder) {
 
 /// Whether the folder is a further program's, which runs no more. What is locked meanwhile is nobody else's.
 void RemoveScratch(const QString& folder) {
-    const FolderLock lock(folder);
-    if (lock.Held())
+    {
+        const FolderLock lock(folder);
+        if (!lock.Held())
+            return;
         Files::DeleteFolder(folder);
+        if (!Files::FolderExists(folder))
+            return;
+    }
+    // Where the lock is a file in the folder, that file was the last one. Whoever took the folder since has one there.
+    Ignoring([&] { Files::RemoveFolder(folder); });
 }
 
 } // namespace

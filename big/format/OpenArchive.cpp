@@ -54,7 +54,8 @@ Source::Source() {
         return;
     if (!kept.Open.IsOpen())
         RefuseOld(current.FileName, u"the open archive can't be read any more"_s);
-    if (kept.Open.State() != kept.State)
+    // It is the very file that was read: only what is in it can be another's.
+    if (const FileState now = kept.Open.State(); now.Length != kept.State.Length || now.Time != kept.State.Time)
         RefuseOld(kept.Path, u"the open archive was changed by another program"_s);
 }
 
