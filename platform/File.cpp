@@ -9,10 +9,7 @@
 
 File::File(qintptr handle, QString name) : handle_(handle), name_(std::move(name)) {}
 
-File::File(File&& other) noexcept
-    : Device(),
-      handle_(std::exchange(other.handle_, NoHandle)),
-      name_(std::move(other.name_)) {}
+File::File(File&& other) noexcept : handle_(std::exchange(other.handle_, NoHandle)), name_(std::move(other.name_)) {}
 
 File& File::operator=(File&& other) noexcept {
     std::swap(handle_, other.handle_);

@@ -85,7 +85,7 @@ void OpenCopies::Modify(int place, Trigger trigger) {
         Host::Current().Beep();
         return;
     }
-    ChangeMark{path}; // the attributes are cleared, and a write in this very moment shows
+    static_cast<void>(ChangeMark(path)); // the attributes are cleared, and a write in this very moment shows
     Open({.Number = ++lastNumber_, .Index = index, .Path = path, .Began = trigger, .IsCopy = true});
 }
 

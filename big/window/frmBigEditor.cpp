@@ -179,7 +179,7 @@ void frmBigEditor::DragOut() {
     DragRows(this, picture.pixmap(32),
              {.Names = [this] { return editor_.DragNames(); },
               .Extract = [this] { return editor_.ExtractForDrag(); },
-              .Ended = [this] { editor_.DragEnded(); }});
+              .Ended = [] { BigEditor::DragEnded(); }});
 }
 
 // The list may have the keyboard without having been clicked since the archive was opened.

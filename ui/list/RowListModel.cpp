@@ -84,9 +84,8 @@ void RowListModel::Check(const std::vector<int>& places, bool checked) {
 }
 
 void RowListModel::CheckAll(bool checked) {
-    std::vector<int> places;
-    for (int place = 0; place < rows_.Count(); ++place)
-        places.push_back(place);
+    std::vector<int> places(static_cast<std::size_t>(rows_.Count()));
+    std::iota(places.begin(), places.end(), 0);
     Check(places, checked);
 }
 
@@ -158,3 +157,5 @@ QVariant RowListModel::headerData(int section, Qt::Orientation orientation, int 
         return {Qt::AlignRight | Qt::AlignVCenter};
     return {};
 }
+
+#include <numeric>
