@@ -5,7 +5,6 @@
 
 #include "big/format/ArchiveReader.h"
 #include "big/format/mBIG.h"
-#include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
@@ -64,7 +63,9 @@ const Device* Source::Bytes() const {
     return kept.Open.IsOpen() ? &kept.Open : nullptr;
 }
 
-Aside::Aside(const QString& target) : wasOpen_(kept.Open.IsOpen() && Files::SameFile(target, kept.Path)) {
+// By the file, not by the path: another file may stand under the path by now, and then this is the last hold on the
+// old bytes.
+Aside::Aside(const QString& target) : wasOpen_(kept.Open.IsOpen() && StateOf(target).Identity == kept.State.Identity) {
     if (wasOpen_)
         Ignoring([] { kept.Open.Close(); });
 }
