@@ -32,6 +32,10 @@ void RaiseWhenLocked(const QString& path) {
         throw RuntimeError(ErrorNumber::PermissionDenied, Paths::ToNative(path) + u": the open archive is in use"_s);
 }
 
+bool IsThere(const FileState& state) {
+    return !state.Identity.isEmpty();
+}
+
 /// Whether bytes of the file on disk are to be saved.
 bool NeedsOldBytes() {
     return std::ranges::any_of(current.Entries,
@@ -47,13 +51,15 @@ bool NeedsOldBytes() {
 namespace OpenArchive {
 
 Source::Source() {
+    const bool isKept = kept.Path == current.FileName && IsThere(kept.State);
     if (!kept.Open.IsOpen() || kept.Path != current.FileName)
         Ignoring([this] { other_ = File::Open(current.FileName, File::Access::Read); });
-    if (!NeedsOldBytes() || other_.IsOpen())
+    if (!NeedsOldBytes() || (other_.IsOpen() && !isKept))
         return;
-    if (!kept.Open.IsOpen())
+    const File& read = other_.IsOpen() ? other_ : kept.Open;
+    if (!read.IsOpen())
         RefuseOld(current.FileName, u"the open archive can't be read any more"_s);
-    if (kept.Open.State() != kept.State)
+    if (read.State() != kept.State)
         RefuseOld(kept.Path, u"the open archive was changed by another program"_s);
 }
 

@@ -138,3 +138,18 @@ TEST_F(SaveSources, AnotherFileInTheArchivesPlaceDoesNotCostItsBytesWhenTheSaveF
     EXPECT_EQ(FailureOf(At(u"out.big"_s)), QString());
     EXPECT_EQ(World::ReadFile(At(u"out.big"_s)).sliced(40), Bytes("L225\0\0\0\0hello\0\0\0hi"));
 }
+
+TEST_F(SaveSources, AFileThatComesInTheArchivesPlaceBehindAFailedSaveIsNotTakenForIt) {
+    const QString link = At(u"link.big"_s);
+    ASSERT_EQ(::link(Native(path_).constData(), Native(link).constData()), 0);
+    Files::DeleteForced(path_);
+    LetTheCommitFail();
+    EXPECT_NE(FailureOf(link), QString());
+    host_.OnYield = {};
+    Put(u"open.big"_s, QByteArray(500, 'x'));
+    EXPECT_TRUE(FailureOf(At(u"out.big"_s)).contains(u"changed"_s));
+    EXPECT_FALSE(Files::FileExists(At(u"out.big"_s)));
+    Files::Replace(link, path_);
+    EXPECT_EQ(FailureOf(At(u"out.big"_s)), QString()) << "This is the file that was read.";
+    EXPECT_EQ(World::ReadFile(At(u"out.big"_s)).sliced(40), Bytes("L225\0\0\0\0hello\0\0\0hi"));
+}
