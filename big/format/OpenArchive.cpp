@@ -25,6 +25,7 @@ struct Kept {
 Archive current;
 Kept kept;
 mBIG::Identity identity = std::make_shared<int>();
+bool saved = false; ///< the table's offsets are not those of the file that a save wrote
 int locks = 0;
 
 void RaiseWhenLocked(const QString& path) {
@@ -51,6 +52,8 @@ bool NeedsOldBytes() {
 namespace OpenArchive {
 
 Source::Source() {
+    if (mBIG::HasLostBytes())
+        RefuseOld(current.FileName, u"the open archive was saved, and the new file was not read since"_s);
     const bool isKept = kept.Path == current.FileName && IsThere(kept.State);
     if (!kept.Open.IsOpen() || kept.Path != current.FileName)
         Ignoring([this] { other_ = File::Open(current.FileName, File::Access::Read); });
@@ -85,6 +88,16 @@ Aside::~Aside() {
         Ignoring([] { kept.Open = File::Open(kept.Path, File::Access::Read); });
 }
 
+bool IsAsRead() {
+    if (saved)
+        return false;
+    return kept.Path != current.FileName || !IsThere(kept.State) || StateOf(kept.Path) == kept.State;
+}
+
+void Saved() {
+    saved = true;
+}
+
 } // namespace OpenArchive
 
 namespace mBIG {
@@ -109,6 +122,7 @@ void Load(const QString& path) {
     read.FileName = path;
     current = std::move(read);
     kept = std::move(file);
+    saved = false;
     identity = std::make_shared<int>();
 }
 
@@ -116,6 +130,7 @@ void New(const QString& path, qint32 version) {
     RaiseWhenLocked(path);
     current = {.Entries = std::vector<BigEntry>(1), .Version = version, .FileName = path};
     kept = {};
+    saved = false;
     identity = std::make_shared<int>();
 }
 
@@ -123,7 +138,12 @@ void Close() {
     RaiseWhenLocked(current.FileName);
     current = {.Entries = {}, .Version = current.Version, .FileName = {}};
     kept = {};
+    saved = false;
     identity = std::make_shared<int>();
+}
+
+bool HasLostBytes() {
+    return saved && NeedsOldBytes();
 }
 
 qint64 LengthOnDisk() {
@@ -139,6 +159,7 @@ bool ReadBigFile(const QString& path) {
         identity = std::make_shared<int>();
         ArchiveReader::Fill(file.Open, current);
         kept = std::move(file);
+        saved = false;
     });
 }
 
