@@ -129,6 +129,22 @@ TEST_F(EditorModifyMeanwhile, ARecordThatADropTookThePlaceOfIsOfferedNothing) {
     EXPECT_TRUE(Speaker.Messages.empty());
 }
 
+TEST_F(EditorModifyMeanwhile, ADeletedRecordThatADropTookThePlaceOfIsOfferedNothing) {
+    Speaker.FileNames = {Place.Root() + u"\\fresh.big"_s, Place.WriteFile(u"a.csf"_s, "1")};
+    Editor.New();
+    Editor.Add();
+    Editor.ActivateRow(0);
+    ASSERT_EQ(Given.size(), 1);
+    Entry(1).Deleted = true;
+    Editor.DropFiles({Place.WriteFile(u"b.csf"_s, "2")});
+    ASSERT_EQ(Entry(1).Name, u"b.csf"_s);
+    Entry(1).IsNew = Entry(1).Deleted = false;
+    Write(Place.Root() + u"\\a.csf"_s, "written");
+    Editor.Copies().Look();
+    Editor.Copies().Look();
+    EXPECT_TRUE(Speaker.Messages.empty());
+}
+
 TEST_F(EditorModifyMeanwhile, AnEntryThatWasRenamedMeanwhileStillGetsItsFile) {
     OpenStrings();
     Program = [&](const QString& path) {
