@@ -4,6 +4,7 @@
 #include "big/document/OpenCopies.h"
 
 #include "big/format/ArchiveEdits.h"
+#include "big/format/OpenArchive.h"
 #include "core/FolderGateway.h"
 #include "core/Host.h"
 #include "core/mMain.h"
@@ -114,7 +115,7 @@ QString OpenCopies::CopyForProgram(int index, const QString& text) const {
         mBIG::CloseExtraction();
         Ignoring([&] { mBIG::ExtractEntryAsGiven(index, mBIG::BigFileName, path); });
         mBIG::CloseExtraction();
-        if (Files::FileLength(path) == EntryAt(index)->Size)
+        if (OpenArchive::IsAsRead() && Files::FileLength(path) == EntryAt(index)->Size)
             copy = path;
     });
     return copy;

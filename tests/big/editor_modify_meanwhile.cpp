@@ -145,6 +145,15 @@ TEST_F(EditorModifyMeanwhile, ADeletedRecordThatADropTookThePlaceOfIsOfferedNoth
     EXPECT_TRUE(Speaker.Messages.empty());
 }
 
+TEST_F(EditorModifyMeanwhile, AnEntryOfAnArchiveThatWasChangedOnDiskIsNotOpened) {
+    OpenStrings();
+    QByteArray other = World::ReadFile(mBIG::BigFileName);
+    Write(mBIG::BigFileName, other.replace("the first", "garbage!!") + "more");
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Given, QStringList());
+    EXPECT_EQ(Speaker.Beeps, 1);
+}
+
 TEST_F(EditorModifyMeanwhile, AnEntryThatWasRenamedMeanwhileStillGetsItsFile) {
     OpenStrings();
     Program = [&](const QString& path) {
