@@ -274,6 +274,8 @@ void OpenCopies::OfferEnded(int number) {
 void OpenCopies::Look() {
     const auto alive = alive_;
     OfferAll();
+    if (!*alive)
+        return;
     std::vector<int> changed;
     for (Copy& copy : copies_) {
         if (copy.At != Stage::Watched)

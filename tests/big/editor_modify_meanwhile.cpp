@@ -4,7 +4,9 @@
 /// What the user does while another program has an entry's copy open.
 #include "tests/big/modify_fixture.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -13,6 +15,20 @@ using Answer = Host::Answer;
 namespace {
 
 using EditorModifyMeanwhile = EditorModify;
+
+/// A host on whose question something happens.
+class ClosingHost : public ScriptedHost {
+public:
+    std::function<void()> OnMessage;
+    int Asked = 0;
+
+    Answer Message(const QString& /*text*/, Icon /*icon*/, Buttons /*buttons*/, const QString& /*title*/,
+                   std::optional<Answer> /*defaultAnswer*/) override {
+        ++Asked;
+        OnMessage();
+        return Answer::No;
+    }
+};
 
 } // namespace
 
@@ -220,4 +236,25 @@ TEST_F(EditorModifyMeanwhile, TheDocumentMayGoMeanwhile) {
     editor->ActivateRow(0);
     EXPECT_EQ(Given.size(), 1);
     EXPECT_TRUE(Speaker.Messages.empty());
+}
+
+TEST_F(EditorModifyMeanwhile, TheDocumentMayGoWhileALookAsks) {
+    OpenStrings();
+    CountingView view;
+    auto editor = std::make_unique<BigEditor>(view);
+    editor->OpenBigFile(mBIG::BigFileName);
+    editor->ClickNode(editor->Tree().Find(u"data\\"_s));
+    std::unique_ptr<mBIG::ArchiveLock> lock;
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        lock = std::make_unique<mBIG::ArchiveLock>();
+    };
+    editor->ActivateRow(0);
+    editor->ActivateRow(1);
+    lock.reset();
+    editor->Copies().SetHandoverTime({});
+    ClosingHost speaker;
+    speaker.OnMessage = [&] { editor.reset(); };
+    editor->Copies().Look();
+    EXPECT_EQ(speaker.Asked, 1);
 }
