@@ -50,6 +50,11 @@ void DropFolder(ArchiveEdits::Drop& drop, const QString& prefix, const QString& 
                           {.Path = file.Path, .Size = file.Size});
 }
 
+QString NameAt(int index) {
+    const auto at = static_cast<std::size_t>(index);
+    return at < mBIG::BigEntries.size() ? mBIG::BigEntries[at].Name : QString();
+}
+
 /// The one name of a list, or how many there are.
 QString NameOrCount(const QStringList& names) {
     return names.size() == 1 ? names.front() : Sizes::Grouped(names.size());
@@ -108,6 +113,7 @@ void FileAdding::Drop(const QStringList& paths) {
         return;
     const EditorPanes::Command command(panes_);
     const int highest = mBIG::HighestIndex();
+    const QString last = NameAt(highest);
     ArchiveEdits::DropResult result;
     {
         const mBIG::ArchiveLock lock;
@@ -115,8 +121,9 @@ void FileAdding::Drop(const QStringList& paths) {
         DropPaths(paths, drop);
         result = drop.Result();
     }
-    // While record 0 is blank a new record takes the place of the last one.
-    if (!result.Lost.isEmpty())
+    // While record 0 is blank a new record takes the place of the last one, of a deleted one too, which is no loss to
+    // tell.
+    if (!result.Lost.isEmpty() || NameAt(highest).compare(last, Qt::CaseInsensitive) != 0)
         recordsLost_(highest);
     panes_.State.Modified = true;
     panes_.ShowSelected();

@@ -38,6 +38,41 @@ std::function<bool()> ReadBack(const OffsetShift::Shift& shift) {
     };
 }
 
+/// Shows a notice. It comes back when a link of it is refused, as the archive is locked.
+void Tell(EditorPanes& panes, const Notice& notice) {
+    Notice shown = notice;
+    for (NoticeLink& link : shown.Links)
+        link.Run = [&panes, notice, run = link.Run] {
+            if (EditorPanes::Locked())
+                Tell(panes, notice);
+            else
+                run();
+        };
+    panes.View.ShowNotice(shown);
+}
+
+bool HidesOnlyEntry(const EditorPanes& panes) {
+    const std::vector<BigEntry>& entries = mBIG::BigEntries;
+    return !panes.State.ShowsOnlyEntry && entries.size() == 1 && !entries.front().Name.isEmpty();
+}
+
+/// Tells what there is to tell of a shift, which may be nothing, and of an only entry that is not shown; `both` is the
+/// text when it is both.
+void TellWithOnlyEntry(EditorPanes& panes, const Notice& notice, const QString& both) {
+    if (!HidesOnlyEntry(panes))
+        return Tell(panes, notice);
+    const auto show = [&panes, notice] {
+        panes.State.ShowsOnlyEntry = true;
+        panes.ShowSelected();
+        Tell(panes, notice);
+    };
+    const bool isBoth = !notice.Text.isEmpty();
+    Notice told{.Text = isBoth ? both : GetText(u"OneEntryNotShown"_s), .Links = {{GetText(u"Show"_s), show}}};
+    if (isBoth && !notice.Links.empty())
+        told.Links.push_back(notice.Links.front());
+    Tell(panes, told);
+}
+
 } // namespace
 
 namespace OffsetNotices {
@@ -48,47 +83,42 @@ bool IsExactByDefault() {
 
 void TellWritten(EditorPanes& panes, const OffsetShift::Shift& shift, const std::function<void()>& saveExactly) {
     if (shift.IsNone())
-        return panes.View.ShowNotice({});
+        return TellWithOnlyEntry(panes, {}, {});
     const auto save = [readBack = ReadBack(shift), saveExactly] {
-        if (!EditorPanes::Locked() && readBack())
+        if (readBack())
             saveExactly();
     };
     const auto always = [save] {
         WriteSetting(SettingKeys::ExactOffsets, u"1"_s);
         save();
     };
-    panes.View.ShowNotice({.Text = TextOf(GetText(u"SavedShifted"_s), shift),
-                           .Links = {{GetText(u"SaveExactly"_s), save}, {GetText(u"Always"_s), always}}});
+    TellWithOnlyEntry(panes,
+                      {.Text = TextOf(GetText(u"SavedShifted"_s), shift),
+                       .Links = {{GetText(u"SaveExactly"_s), save}, {GetText(u"Always"_s), always}}},
+                      TextOf(GetText(u"OneEntryShifted"_s), shift));
 }
 
 void TellNotSaved(EditorPanes& panes, const std::function<void()>& saveExactly) {
-    panes.View.ShowNotice(
-        {.Text = GetText(u"OneEntryNotSaved"_s), .Links = {{GetText(u"SaveExactly"_s), saveExactly}}});
+    Tell(panes, {.Text = GetText(u"OneEntryNotSaved"_s), .Links = {{GetText(u"SaveExactly"_s), saveExactly}}});
 }
 
 void TellOpened(EditorPanes& panes) {
-    const std::vector<BigEntry>& entries = mBIG::BigEntries;
     const OffsetShift::Shift shift = OffsetShift::ShiftOf(mBIG::Open(), mBIG::LengthOnDisk());
-    Notice notice;
-    if (entries.size() == 1 && !entries.front().Name.isEmpty()) {
-        const auto show = [&panes] {
-            panes.State.ShowsOnlyEntry = true;
-            panes.ShowSelected();
-        };
-        notice = {.Text = GetText(u"OneEntryNotShown"_s), .Links = {{GetText(u"Show"_s), show}}};
-    } else if (!shift.IsNone() && shift.ExactFits) {
-        notice.Text = TextOf(GetText(u"MayBeShifted"_s), shift);
-    } else if (!shift.IsNone()) {
-        const auto mend = [&panes, readBack = ReadBack(shift)] {
-            if (EditorPanes::Locked() || !readBack())
-                return;
-            panes.State.Modified = true;
-            panes.View.StateChanged();
-        };
-        notice = {.Text = TextOf(GetText(u"ArchiveShifted"_s), shift),
-                  .Links = {{GetText(u"ReadShiftedBack"_s), mend}}};
-    }
-    panes.View.ShowNotice(notice);
+    if (shift.IsNone())
+        return TellWithOnlyEntry(panes, {}, {});
+    if (shift.ExactFits)
+        return TellWithOnlyEntry(panes, {.Text = TextOf(GetText(u"MayBeShifted"_s), shift)},
+                                 TextOf(GetText(u"OneEntryMayBeShifted"_s), shift));
+    const auto mend = [&panes, readBack = ReadBack(shift)] {
+        if (!readBack())
+            return;
+        panes.State.Modified = true;
+        panes.View.StateChanged();
+        TellWithOnlyEntry(panes, {}, {});
+    };
+    TellWithOnlyEntry(
+        panes, {.Text = TextOf(GetText(u"ArchiveShifted"_s), shift), .Links = {{GetText(u"ReadShiftedBack"_s), mend}}},
+        TextOf(GetText(u"OneEntryShifted"_s), shift));
 }
 
 } // namespace OffsetNotices

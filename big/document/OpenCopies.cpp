@@ -4,6 +4,7 @@
 #include "big/document/OpenCopies.h"
 
 #include "big/format/ArchiveEdits.h"
+#include "big/format/OpenArchive.h"
 #include "core/FolderGateway.h"
 #include "core/Host.h"
 #include "core/mMain.h"
@@ -114,7 +115,7 @@ QString OpenCopies::CopyForProgram(int index, const QString& text) const {
         mBIG::CloseExtraction();
         Ignoring([&] { mBIG::ExtractEntryAsGiven(index, mBIG::BigFileName, path); });
         mBIG::CloseExtraction();
-        if (Files::FileLength(path) == EntryAt(index)->Size)
+        if (OpenArchive::IsAsRead() && Files::FileLength(path) == EntryAt(index)->Size)
             copy = path;
     });
     return copy;
@@ -273,6 +274,8 @@ void OpenCopies::OfferEnded(int number) {
 void OpenCopies::Look() {
     const auto alive = alive_;
     OfferAll();
+    if (!*alive)
+        return;
     std::vector<int> changed;
     for (Copy& copy : copies_) {
         if (copy.At != Stage::Watched)

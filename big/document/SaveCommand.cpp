@@ -115,6 +115,11 @@ Saved SaveCommand::SaveTo(const QString& path) {
         return Saved::NothingToSave;
     }
     ShowWritten(path, newIndices);
+    if (mBIG::HasLostBytes()) {
+        panes_.View.ShowNotice({});
+        Host::Current().Message(GetText(u"SavedNotRead"_s), Host::Icon::Critical);
+        return Saved::Yes;
+    }
     OffsetNotices::TellWritten(panes_, *shift, [this] { SaveExactly(); });
     return Saved::Yes;
 }
@@ -126,10 +131,10 @@ void SaveCommand::SaveExactly() {
 
 void SaveCommand::ShowWritten(const QString& path, const std::vector<int>& newIndices) {
     const QString folderKey = panes_.SelectedKey();
-    panes_.State.Modified = false;
     // The table's offsets must be the written file's.
     if (Ignoring([&] { mBIG::Load(path); }))
         copies_.EntriesMoved(newIndices);
+    panes_.State.Modified = mBIG::HasLostBytes();
     panes_.Shown = mBIG::CurrentIdentity();
     mBIG::BigFileName = path;
     // A name that is no archive's is not shown anew. This is meant.

@@ -5,7 +5,6 @@
 
 #include "big/format/ArchiveReader.h"
 #include "big/format/mBIG.h"
-#include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
@@ -26,11 +25,16 @@ struct Kept {
 Archive current;
 Kept kept;
 mBIG::Identity identity = std::make_shared<int>();
+bool saved = false; ///< the table's offsets are not those of the file that a save wrote
 int locks = 0;
 
 void RaiseWhenLocked(const QString& path) {
     if (mBIG::ArchiveLock::IsHeld())
         throw RuntimeError(ErrorNumber::PermissionDenied, Paths::ToNative(path) + u": the open archive is in use"_s);
+}
+
+bool IsThere(const FileState& state) {
+    return !state.Identity.isEmpty();
 }
 
 /// Whether bytes of the file on disk are to be saved.
@@ -48,14 +52,20 @@ bool NeedsOldBytes() {
 namespace OpenArchive {
 
 Source::Source() {
+    if (mBIG::HasLostBytes())
+        RefuseOld(current.FileName, u"the open archive was saved, and the new file was not read since"_s);
+    const bool isKept = kept.Path == current.FileName && IsThere(kept.State);
     if (!kept.Open.IsOpen() || kept.Path != current.FileName)
         Ignoring([this] { other_ = File::Open(current.FileName, File::Access::Read); });
-    if (!NeedsOldBytes() || other_.IsOpen())
+    if (!NeedsOldBytes() || (other_.IsOpen() && !isKept))
         return;
-    if (!kept.Open.IsOpen())
+    const File& read = other_.IsOpen() ? other_ : kept.Open;
+    if (!read.IsOpen())
         RefuseOld(current.FileName, u"the open archive can't be read any more"_s);
-    // It is the very file that was read: only what is in it can be another's.
-    if (const FileState now = kept.Open.State(); now.Length != kept.State.Length || now.Time != kept.State.Time)
+    // The kept file is the very one that was read: only what is in it can be another's.
+    const FileState now = read.State();
+    const bool isOther = other_.IsOpen() && now.Identity != kept.State.Identity;
+    if (isOther || now.Length != kept.State.Length || now.Time != kept.State.Time)
         RefuseOld(kept.Path, u"the open archive was changed by another program"_s);
 }
 
@@ -65,7 +75,9 @@ const Device* Source::Bytes() const {
     return kept.Open.IsOpen() ? &kept.Open : nullptr;
 }
 
-Aside::Aside(const QString& target) : wasOpen_(kept.Open.IsOpen() && Files::SameFile(target, kept.Path)) {
+// By the file, not by the path: another file may stand under the path by now, and then this is the last hold on the
+// old bytes.
+Aside::Aside(const QString& target) : wasOpen_(kept.Open.IsOpen() && StateOf(target).Identity == kept.State.Identity) {
     if (wasOpen_)
         Ignoring([] { kept.Open.Close(); });
 }
@@ -77,6 +89,16 @@ Aside::~Aside() {
         kept = {};
     else
         Ignoring([] { kept.Open = File::Open(kept.Path, File::Access::Read); });
+}
+
+bool IsAsRead() {
+    if (saved)
+        return false;
+    return kept.Path != current.FileName || !IsThere(kept.State) || StateOf(kept.Path) == kept.State;
+}
+
+void Saved() {
+    saved = true;
 }
 
 } // namespace OpenArchive
@@ -103,6 +125,7 @@ void Load(const QString& path) {
     read.FileName = path;
     current = std::move(read);
     kept = std::move(file);
+    saved = false;
     identity = std::make_shared<int>();
 }
 
@@ -110,6 +133,7 @@ void New(const QString& path, qint32 version) {
     RaiseWhenLocked(path);
     current = {.Entries = std::vector<BigEntry>(1), .Version = version, .FileName = path};
     kept = {};
+    saved = false;
     identity = std::make_shared<int>();
 }
 
@@ -117,7 +141,12 @@ void Close() {
     RaiseWhenLocked(current.FileName);
     current = {.Entries = {}, .Version = current.Version, .FileName = {}};
     kept = {};
+    saved = false;
     identity = std::make_shared<int>();
+}
+
+bool HasLostBytes() {
+    return saved && NeedsOldBytes();
 }
 
 qint64 LengthOnDisk() {
@@ -133,6 +162,7 @@ bool ReadBigFile(const QString& path) {
         identity = std::make_shared<int>();
         ArchiveReader::Fill(file.Open, current);
         kept = std::move(file);
+        saved = false;
     });
 }
 

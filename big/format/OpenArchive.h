@@ -14,7 +14,8 @@ namespace OpenArchive {
 /// `BigFileName` names when the table came about in another way.
 class Source {
 public:
-    /// Raises when old entries have bytes and the file has changed since, or can't be opened.
+    /// Raises when old entries have bytes and the file has changed since, a save of the program's own included, or
+    /// can't be opened.
     Source();
 
     /// Null when there is none.
@@ -40,5 +41,12 @@ private:
     bool wasOpen_;
     bool replaced_ = false;
 };
+
+/// Whether the table's offsets lead to its bytes in the file under its name: false when that was changed, replaced or
+/// saved since the table was read.
+bool IsAsRead();
+
+/// To be called when a save has written the table: no offset in it is one of the written file's.
+void Saved();
 
 } // namespace OpenArchive

@@ -51,10 +51,13 @@ struct SaveOptions {
 /// nothing written, when there is nothing to save: for the told placement a table of one record or none, for the exact
 /// one the blank record of a fresh archive; the progress window stays on the screen then. Behind a save no record but a
 /// deleted one is new any more, and the scratch folder's files are deleted but for those kept; the table has the old
-/// archive's offsets until the written one is loaded. Returns how far the data lie from where the directory says.
-/// Raises, besides what Archives::Write raises, when old entries have bytes and the open archive has changed on disk,
-/// or can't be opened.
+/// archive's offsets until the written one is loaded, and until then no entry with bytes is saved again. Returns how
+/// far the data lie from where the directory says. Raises, besides what Archives::Write raises, when old entries have
+/// bytes and the open archive has changed on disk, or can't be opened.
 std::optional<OffsetShift::Shift> Save(const QString& path, const SaveOptions& options = {});
+
+/// Whether entries have bytes that lie nobody knows where: a save has written them, and the file was not loaded since.
+bool HasLostBytes();
 
 /// The open archive's length on disk as it was when loaded; 0 when there is none.
 qint64 LengthOnDisk();

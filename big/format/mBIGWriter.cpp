@@ -56,6 +56,7 @@ Shift WriteTo(const QString& path, Placement placement, Progress& progress) {
     OpenArchive::Aside closed(path);
     aside.Commit();
     closed.Replaced();
+    OpenArchive::Saved();
     for (BigEntry& entry : mBIG::BigEntries)
         entry.IsNew = entry.IsNew && entry.Deleted;
     return shift;

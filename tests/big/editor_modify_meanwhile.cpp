@@ -4,7 +4,9 @@
 /// What the user does while another program has an entry's copy open.
 #include "tests/big/modify_fixture.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -13,6 +15,20 @@ using Answer = Host::Answer;
 namespace {
 
 using EditorModifyMeanwhile = EditorModify;
+
+/// A host on whose question something happens.
+class ClosingHost : public ScriptedHost {
+public:
+    std::function<void()> OnMessage;
+    int Asked = 0;
+
+    Answer Message(const QString& /*text*/, Icon /*icon*/, Buttons /*buttons*/, const QString& /*title*/,
+                   std::optional<Answer> /*defaultAnswer*/) override {
+        ++Asked;
+        OnMessage();
+        return Answer::No;
+    }
+};
 
 } // namespace
 
@@ -129,6 +145,31 @@ TEST_F(EditorModifyMeanwhile, ARecordThatADropTookThePlaceOfIsOfferedNothing) {
     EXPECT_TRUE(Speaker.Messages.empty());
 }
 
+TEST_F(EditorModifyMeanwhile, ADeletedRecordThatADropTookThePlaceOfIsOfferedNothing) {
+    Speaker.FileNames = {Place.Root() + u"\\fresh.big"_s, Place.WriteFile(u"a.csf"_s, "1")};
+    Editor.New();
+    Editor.Add();
+    Editor.ActivateRow(0);
+    ASSERT_EQ(Given.size(), 1);
+    Entry(1).Deleted = true;
+    Editor.DropFiles({Place.WriteFile(u"b.csf"_s, "2")});
+    ASSERT_EQ(Entry(1).Name, u"b.csf"_s);
+    Entry(1).IsNew = Entry(1).Deleted = false;
+    Write(Place.Root() + u"\\a.csf"_s, "written");
+    Editor.Copies().Look();
+    Editor.Copies().Look();
+    EXPECT_TRUE(Speaker.Messages.empty());
+}
+
+TEST_F(EditorModifyMeanwhile, AnEntryOfAnArchiveThatWasChangedOnDiskIsNotOpened) {
+    OpenStrings();
+    QByteArray other = World::ReadFile(mBIG::BigFileName);
+    Write(mBIG::BigFileName, other.replace("the first", "garbage!!") + "more");
+    Editor.ActivateRow(0);
+    EXPECT_EQ(Given, QStringList());
+    EXPECT_EQ(Speaker.Beeps, 1);
+}
+
 TEST_F(EditorModifyMeanwhile, AnEntryThatWasRenamedMeanwhileStillGetsItsFile) {
     OpenStrings();
     Program = [&](const QString& path) {
@@ -195,4 +236,25 @@ TEST_F(EditorModifyMeanwhile, TheDocumentMayGoMeanwhile) {
     editor->ActivateRow(0);
     EXPECT_EQ(Given.size(), 1);
     EXPECT_TRUE(Speaker.Messages.empty());
+}
+
+TEST_F(EditorModifyMeanwhile, TheDocumentMayGoWhileALookAsks) {
+    OpenStrings();
+    CountingView view;
+    auto editor = std::make_unique<BigEditor>(view);
+    editor->OpenBigFile(mBIG::BigFileName);
+    editor->ClickNode(editor->Tree().Find(u"data\\"_s));
+    std::unique_ptr<mBIG::ArchiveLock> lock;
+    Program = [&](const QString& path) {
+        Write(path, "written");
+        lock = std::make_unique<mBIG::ArchiveLock>();
+    };
+    editor->ActivateRow(0);
+    editor->ActivateRow(1);
+    lock.reset();
+    editor->Copies().SetHandoverTime({});
+    ClosingHost speaker;
+    speaker.OnMessage = [&] { editor.reset(); };
+    editor->Copies().Look();
+    EXPECT_EQ(speaker.Asked, 1);
 }

@@ -144,6 +144,20 @@ TEST_F(EditorNotices, AnOnlyEntryIsShownWhenTheUserWantsToSeeIt) {
     EXPECT_EQ(Shown(), QStringList()) << "The next archive is another matter.";
 }
 
+TEST_F(EditorNotices, ASaveThatLeavesOneEntryTellsThatItIsNotShown) {
+    OpenArchive({{u"a.txt"_s, "1"}, {u"b.txt"_s, "2"}});
+    Entry(0).Deleted = true;
+    Editor.SetExactOffsets(true);
+    Editor.Save();
+    EXPECT_EQ(Shown(), QStringList());
+    EXPECT_EQ(View.Told.Text, u"OneEntryNotShown"_s);
+    ClickLink(0);
+    EXPECT_EQ(Shown(), QStringList{u"b.txt"_s});
+    EXPECT_EQ(View.Told.Text, QString());
+    Editor.Save();
+    EXPECT_EQ(View.Told.Text, QString()) << "It is shown.";
+}
+
 TEST_F(EditorNotices, AFreshArchiveHidesNothing) {
     OpenArchive({{u"only.txt"_s, "x"}});
     MakeNew();
@@ -163,6 +177,21 @@ TEST_F(EditorNotices, AnOnlyEntryIsNotSavedUnlessExactly) {
     ASSERT_EQ(mBIG::BigEntries.size(), 1U);
     EXPECT_EQ(Entry(0).Name, u"renamed.txt"_s);
     EXPECT_EQ(World::ReadFile(path).mid(Entry(0).Offset, Entry(0).Size), "x");
+}
+
+TEST_F(EditorNotices, ALinkThatIsRefusedLeavesItsNotice) {
+    OpenArchive({{u"only.txt"_s, "x"}});
+    Editor.Save();
+    for (int round = 0; round < 2; ++round) {
+        const mBIG::ArchiveLock lock;
+        ClickLink(0);
+        EXPECT_EQ(View.Told.Text, u"OneEntryNotSaved"_s);
+        EXPECT_EQ(Links(), QStringList{u"SaveExactly"_s});
+    }
+    EXPECT_EQ(Speaker.Beeps, 2);
+    EXPECT_FALSE(State().ExactOffsets);
+    ClickLink(0);
+    EXPECT_TRUE(State().ExactOffsets);
 }
 
 TEST_F(EditorNotices, YesDoesNotLeadOnAsIfAnOnlyEntryWereSaved) {

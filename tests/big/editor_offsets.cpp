@@ -13,7 +13,8 @@ class EditorOffsets : public EditorDocument {
 protected:
     EditorOffsets() {
         Place.UseLanguage("[LNG]\r\nSavedShifted=Saved: %1 files %2 bytes off\r\nArchiveShifted=Here: %1 files %2 "
-                          "bytes off\r\nSaveExactly=Exactly\r\nAlways=Always\r\nReadShiftedBack=Back\r\n");
+                          "bytes off\r\nSaveExactly=Exactly\r\nAlways=Always\r\nReadShiftedBack=Back\r\n"
+                          "OneEntryShifted=Both: %2\r\nOneEntryNotShown=Hidden\r\n");
         Place.Start();
     }
 
@@ -110,6 +111,40 @@ TEST_F(EditorOffsets, AShiftedArchiveIsReadShiftedBackWhenTheUserWants) {
     Editor.SetExactOffsets(true);
     Editor.Save();
     EXPECT_EQ(Stored(path, 1), "second");
+}
+
+TEST_F(EditorOffsets, AnOnlyEntryThatIsShiftedIsToldAsBothWithBothLinks) {
+    const QString path = OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}});
+    mBIG::BigVersion = 2;
+    mBIG::BigEntries.at(0).Deleted = true;
+    Editor.Save();
+    EXPECT_EQ(View.Told.Text, u"Both: -1"_s);
+    ASSERT_EQ(View.Told.Links.size(), 2U);
+    EXPECT_EQ(View.Told.Links[1].Text, u"Exactly"_s);
+    Editor.OpenBigFile(path);
+    EXPECT_EQ(View.Told.Text, u"Both: -1"_s);
+    ASSERT_EQ(View.Told.Links.size(), 2U);
+    EXPECT_EQ(View.Told.Links[1].Text, u"Back"_s);
+    const Notice both = View.Told;
+    ClickLink(1);
+    EXPECT_TRUE(State().Modified);
+    EXPECT_EQ(View.Told.Text, u"Hidden"_s) << "What is left of it.";
+    View.Told = both;
+    ClickLink(0);
+    EXPECT_EQ(Shown(), QStringList{u"b.txt"_s});
+    EXPECT_EQ(View.Told.Text, u"Here: 1 files -1 bytes off"_s);
+}
+
+TEST_F(EditorOffsets, ARefusedLinkLeavesItsNotice) {
+    const QString path = SaveShifted();
+    {
+        const mBIG::ArchiveLock lock;
+        ClickLink(1);
+        EXPECT_EQ(View.Told.Text, u"Saved: 2 files -1 bytes off"_s);
+        EXPECT_FALSE(OffsetNotices::IsExactByDefault());
+    }
+    ClickLink(0);
+    EXPECT_EQ(Stored(path, 0), "first");
 }
 
 TEST_F(EditorOffsets, AnArchiveOfAnotherToolIsNotCalledShifted) {

@@ -320,3 +320,23 @@ TEST_F(EditorSave, EveryCommandTakesInWhatIsBeingTypedFirst) {
         EXPECT_EQ(mBIG::BigEntries[0].Name, u"typed.txt"_s) << command;
     }
 }
+
+TEST_F(EditorSave, AWrittenArchiveThatCanNotBeReadBackIsToldAndNothingIsSavedOverIt) {
+    const QString path = OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}}, u"program\\Temp\\a.big"_s);
+    mBIG::BigVersion = 2;
+    Editor.Save();
+    ASSERT_FALSE(Files::FileExists(path)) << "A save empties the folder in which it lies.";
+    ASSERT_EQ(Speaker.Messages.size(), 1U);
+    EXPECT_EQ(Speaker.Messages[0].Text, u"SavedNotRead"_s);
+    EXPECT_TRUE(State().Modified);
+    EXPECT_EQ(View.Told.Text, QString()) << "No link gives the old offsets other distances.";
+    const QByteArray other(200, 'x');
+    Place.WriteFile(u"program\\Temp\\a.big"_s, other);
+    Editor.Save();
+    ASSERT_EQ(Speaker.Messages.size(), 2U);
+    EXPECT_TRUE(Speaker.Messages[1].Text.startsWith(u"SaveFailed"_s));
+    EXPECT_EQ(World::ReadFile(path), other);
+    OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}}, u"c.big"_s);
+    Editor.Save();
+    EXPECT_EQ(Speaker.Messages.size(), 2U) << "Another archive can be saved.";
+}

@@ -138,6 +138,16 @@ TEST_F(OpenArchiveTest, AfterASaveOverItTheNewOneIsRead) {
                                                        "123"));
 }
 
+TEST_F(OpenArchiveTest, BehindASaveNothingIsSavedUntilTheNewFileIsLoaded) {
+    ExpectSavedWhole(path_);
+    EXPECT_TRUE(mBIG::HasLostBytes());
+    EXPECT_TRUE(FailureOf(At(u"out.big"_s)).contains(u"not read since"_s));
+    EXPECT_FALSE(Files::FileExists(At(u"out.big"_s)));
+    mBIG::Load(path_);
+    EXPECT_FALSE(mBIG::HasLostBytes());
+    ExpectSavedWhole(path_);
+}
+
 TEST_F(OpenArchiveTest, ATmpFileOfTheUsersOwnIsNotTouched) {
     const QString own = Put(u"open.big.tmp"_s, "mine");
     ExpectSavedWhole(path_);

@@ -39,9 +39,22 @@ protected:
         EXPECT_EQ(Files::ListFolder(At(u"*"_s)), before) << "nothing is left beside it";
     }
 
+    /// The next save writes all, and can't put it in the target's place.
+    void LetTheCommitFail() {
+        host_.OnYield = [this] {
+            for (const QString& name : Files::ListFolder(At(u"*"_s)))
+                if (!stays_.contains(name))
+                    Files::DeleteForced(At(name));
+        };
+        stays_ = Files::ListFolder(At(u"*"_s));
+    }
+
     static QByteArray Native(const QString& path) { return QFile::encodeName(Paths::ToNative(path)); }
 
     QString path_;
+
+private:
+    QStringList stays_;
 };
 
 } // namespace
@@ -114,4 +127,29 @@ TEST_F(SaveSources, NothingIsEmptiedBehindAScratchFolderThatIsALink) {
     ASSERT_EQ(::symlink(Native(At(u"precious"_s)).constData(), scratch.constData()), 0);
     EXPECT_TRUE(mBIG::WriteBigFile(At(u"out.big"_s)));
     EXPECT_EQ(World::ReadFile(precious), "x");
+}
+
+TEST_F(SaveSources, AnotherFileInTheArchivesPlaceDoesNotCostItsBytesWhenTheSaveFails) {
+    Files::Replace(Put(u"other"_s, QByteArray(500, 'x')), path_);
+    LetTheCommitFail();
+    EXPECT_NE(FailureOf(path_), QString());
+    host_.OnYield = {};
+    EXPECT_EQ(World::ReadFile(path_), QByteArray(500, 'x'));
+    EXPECT_EQ(FailureOf(At(u"out.big"_s)), QString());
+    EXPECT_EQ(World::ReadFile(At(u"out.big"_s)).sliced(40), Bytes("L225\0\0\0\0hello\0\0\0hi"));
+}
+
+TEST_F(SaveSources, AFileThatComesInTheArchivesPlaceBehindAFailedSaveIsNotTakenForIt) {
+    const QString link = At(u"link.big"_s);
+    ASSERT_EQ(::link(Native(path_).constData(), Native(link).constData()), 0);
+    Files::DeleteForced(path_);
+    LetTheCommitFail();
+    EXPECT_NE(FailureOf(link), QString());
+    host_.OnYield = {};
+    Put(u"open.big"_s, QByteArray(500, 'x'));
+    EXPECT_TRUE(FailureOf(At(u"out.big"_s)).contains(u"changed"_s));
+    EXPECT_FALSE(Files::FileExists(At(u"out.big"_s)));
+    Files::Replace(link, path_);
+    EXPECT_EQ(FailureOf(At(u"out.big"_s)), QString()) << "This is the file that was read.";
+    EXPECT_EQ(World::ReadFile(At(u"out.big"_s)).sliced(40), Bytes("L225\0\0\0\0hello\0\0\0hi"));
 }
