@@ -25,8 +25,8 @@ Q_SIGNALS:
     void Ended();
 
 private:
-    /// Makes the system's notifier, which has Look called when the process may have ended. It calls by a queued
-    /// connection, so that it can be deleted there.
+    /// Makes the system's notifier, which has Look called when the process may have ended: by a
+    /// queued call, so that it can be deleted there.
     QObject* MakeNotifier();
     void Look();
 

@@ -4,6 +4,7 @@
 #include "app/cli/BigArchive.h"
 
 #include "app/cli/Output.h"
+#include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "platform/Console.h"
 #include "platform/File.h"
@@ -64,7 +65,7 @@ Parameter Exact() {
 }
 
 void SaveArchive(const Archive& archive, const QString& target, const Arguments& given) {
-    const bool exact = given.Has("--exact") || ReadSetting(u"ExactOffsets"_s) == "1"_L1;
+    const bool exact = given.Has("--exact") || ReadSetting(SettingKeys::ExactOffsets) == "1"_L1;
     CheckSavable(archive, target, exact);
     const auto placement = exact ? Archives::Placement::Exact : Archives::Placement::Told;
     const OffsetShift::Shift shift = Archives::Write(archive, target, placement);

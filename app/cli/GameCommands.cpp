@@ -5,6 +5,7 @@
 
 #include "app/cli/Output.h"
 #include "core/Game.h"
+#include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "core/mLaunch.h"
 #include "core/mMain.h"
@@ -87,7 +88,7 @@ void PrintLaunchCommand(GameIndex game) {
 
 void PrintText(const QString& key) {
     mMain::UseRuntimes();
-    mMain::LanguageFileName = ReadSetting(u"TradFileName"_s);
+    mMain::LanguageFileName = ReadSetting(SettingKeys::TradFileName);
     Print(mTraduction::GetText(key).replace(u"\r\n"_s, u"\n"_s));
 }
 

@@ -53,8 +53,8 @@ void EntryChanges::DeleteRows() {
         if (place < 0 || place >= panes_.List.Count())
             continue;
         const FileRow& row = panes_.List.Row(place);
-        // A folder that went before has moved the nodes behind it, and the rows' indices are taken as they are. This is
-        // meant.
+        // A folder that went before has moved the nodes behind it; the rows' indices are taken as they are.
+        // This is meant.
         if (row.IsFolder)
             DeleteFolder(row.Index);
         else if (static_cast<std::size_t>(row.Index) < mBIG::BigEntries.size())

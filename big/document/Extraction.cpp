@@ -136,6 +136,8 @@ void DoExtract(const std::vector<qint32>& extractList, const ExtractionTarget& t
     const bool completed = ExtractAll(extractList, target, *progress);
     // Within a run an entry of no bytes keeps all later ones from being extracted. The next run begins afresh.
     mBIG::CloseExtraction();
+    if (showCompletion) // what is dragged out is copied from there, and nothing lasts there
+        Ignoring([&] { Files::FlushSystem(target.ExtractFolder); });
     if (completed) {
         progress->StopTimer();
         if (showCompletion)

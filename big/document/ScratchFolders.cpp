@@ -47,9 +47,16 @@ qint64 OwnerOf(const QString& folder) {
 
 /// Whether the folder is a further program's, which runs no more. What is locked meanwhile is nobody else's.
 void RemoveScratch(const QString& folder) {
-    const FolderLock lock(folder);
-    if (lock.Held())
+    {
+        const FolderLock lock(folder);
+        if (!lock.Held())
+            return;
         Files::DeleteFolder(folder);
+        if (!Files::FolderExists(folder))
+            return;
+    }
+    // Where the lock is a file in the folder, that file was the last one. Whoever took the folder since has one there.
+    Ignoring([&] { Files::RemoveFolder(folder); });
 }
 
 } // namespace
@@ -95,15 +102,19 @@ bool IsDragged(const QString& path) {
 }
 
 void RemoveAbandoned() {
+    // What a link leads to is somebody else's.
+    if (Files::IsLink(ProgramFolders::SharedScratchFolder()))
+        return;
     const QString scratch = ProgramFolders::SharedScratchFolder() + u'\\';
     for (const QString& name : Files::ListFolder(scratch + u"*.*"_s, true)) {
         const QString folder = scratch + name;
         const qint64 owner = OwnerOf(name);
-        if (!Files::FolderExists(folder))
+        const qint64 program = NumberBehind({}, name);
+        if (!Files::FolderExists(folder) || Files::IsLink(folder))
             continue;
         if (owner > 0 && !Processes::IsRunning(owner))
             Files::DeleteFolder(folder);
-        else if (NumberBehind({}, name) > 1)
+        else if (program > 1 && program <= mostPrograms)
             RemoveScratch(folder);
     }
 }

@@ -41,8 +41,8 @@ void ArchiveData::LoadOld(const BigEntry& entry) {
                    {Piece::Place::Zeros, {}, 0, entry.Size - there}};
         return;
     }
-    // An entry of no bytes leaves the buffer as it was, and reads its beginning again from its own place. This is
-    // meant.
+    // An entry of no bytes leaves the buffer as it was, and reads its beginning again from its own place.
+    // This is meant.
     qint64 size = 0;
     for (const Piece& piece : buffer_)
         size += piece.Length;

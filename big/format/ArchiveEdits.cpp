@@ -29,8 +29,8 @@ void TakeSource(BigEntry& entry, const Source& source) {
 int Add(Archive& archive, const QString& name, const Source& source) {
     int index = Archives::Find(archive, name);
     if (index < 0) {
-        // A new record goes behind index 0 even when there is no table, so that a blank one stays in front. This is
-        // meant.
+        // A new record goes behind index 0 even when there is no table, so that a blank one stays in front.
+        // This is meant.
         index = HighestIndex(archive) + 1;
         archive.Entries.resize(static_cast<std::size_t>(index) + 1);
     }

@@ -15,8 +15,6 @@
 
 #include <QScopedValueRollback>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 using Archives::Placement;
 using mTraduction::GetText;
@@ -64,20 +62,6 @@ Shift WriteTo(const QString& path, Placement placement, Progress& progress) {
     return shift;
 }
 
-/// Empties the scratch folder's top level but for some files; what can't be deleted stays, and so does everything
-/// behind a link.
-void EmptyScratch(const mBIG::SaveOptions& options) {
-    const QString scratch = options.Scratch.isEmpty() ? mMain::ScratchFolder() : options.Scratch;
-    if (Files::IsLink(scratch))
-        return;
-    const QString folder = scratch + u'\\';
-    for (const QString& name : Files::ListFolder(folder + u"*.*"_s)) {
-        const QString file = folder + name;
-        if (std::ranges::none_of(options.Kept, [&](const QString& each) { return Files::SameFile(each, file); }))
-            Ignoring([&] { Files::DeleteForced(file); });
-    }
-}
-
 } // namespace
 
 namespace mBIG {
@@ -96,7 +80,8 @@ std::optional<Shift> Save(const QString& path, const SaveOptions& options) {
     // What an entry of size 0 left open would stand in the way of its archive's replacement.
     CloseExtraction();
     Shift shift = WriteTo(path, options.Place, *progress);
-    Ignoring([&] { EmptyScratch(options); });
+    const QString scratch = options.Scratch.isEmpty() ? mMain::ScratchFolder() : options.Scratch;
+    Ignoring([&] { Files::EmptyFolder(scratch, options.Kept); });
     return shift;
 }
 

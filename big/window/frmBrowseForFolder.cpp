@@ -58,7 +58,8 @@ void frmBrowseForFolder::Choose() {
 
 void frmBrowseForFolder::reject() {
     target_.ExtractCancelled = true;
-    target_.RecreateFolders = ui_->ckCreateDirs->isChecked(); // meant, though nothing is extracted
+    // Taken although nothing is extracted. This is meant.
+    target_.RecreateFolders = ui_->ckCreateDirs->isChecked();
     QDialog::reject();
 }
 

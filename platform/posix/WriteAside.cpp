@@ -72,6 +72,21 @@ mode_t UsualMode() {
     return UsualForFiles & ~mask;
 }
 
+/// False, with the reason in errno, when the file lets more people in than the mode says. File systems without
+/// permissions of their own refuse the change, and what they give all files is then as good.
+bool GiveMode(int file, mode_t mode) {
+    if (::fchmod(file, mode) == 0)
+        return true;
+    const int error = errno;
+
+    struct stat status {};
+
+    const bool asGood = (error == EPERM || error == ENOTSUP || error == ENOSYS) && ::fstat(file, &status) == 0 &&
+                        (status.st_mode & 07777 & ~mode) == 0;
+    errno = error;
+    return asGood;
+}
+
 /// Owner and permissions of what is replaced. Where the group can't be kept, another one gets what everybody has.
 bool TakeOver(int file, const struct stat& old) {
     const bool ownerKept = ::fchown(file, old.st_uid, old.st_gid) == 0;
@@ -79,7 +94,7 @@ bool TakeOver(int file, const struct stat& old) {
     mode_t mode = old.st_mode & (ownerKept ? 07777 : Permissions);
     if (!groupKept)
         mode = (mode & ~mode_t{S_IRWXG}) | ((mode & S_IRWXO) << 3U);
-    return ::fchmod(file, mode) == 0;
+    return GiveMode(file, mode);
 }
 
 /// The folder's new entry reaches the disk; where the system can't promise that, nothing is lost but the promise.
@@ -119,7 +134,7 @@ WriteAside::~WriteAside() {
 void WriteAside::Commit(bool flush) {
     const int number = static_cast<int>(out_.Handle());
     const auto old = StatusOf(target_);
-    if (!(old ? TakeOver(number, *old) : ::fchmod(number, UsualMode()) == 0))
+    if (!(old ? TakeOver(number, *old) : GiveMode(number, UsualMode())))
         Raise(errno);
     if (flush)
         out_.Flush();

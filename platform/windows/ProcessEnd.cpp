@@ -11,6 +11,11 @@ QObject* ProcessEnd::MakeNotifier() {
     // A process's handle is signalled once the process has ended.
     auto* const notifier =
         new QWinEventNotifier(reinterpret_cast<HANDLE>(process_), this); // NOLINT(performance-no-int-to-ptr)
-    connect(notifier, &QWinEventNotifier::activated, this, &ProcessEnd::Look, Qt::QueuedConnection);
+    // The signal's own argument is of no type that a queued connection can carry. The handle stays signalled: an
+    // enabled notifier would call again and again.
+    connect(notifier, &QWinEventNotifier::activated, this, [this, notifier] {
+        notifier->setEnabled(false);
+        QMetaObject::invokeMethod(this, &ProcessEnd::Look, Qt::QueuedConnection);
+    });
     return notifier;
 }

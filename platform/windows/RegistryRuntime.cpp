@@ -135,8 +135,8 @@ void RegistryRuntime::SaveString(RootKey root, const QString& path, const QStrin
         source_->File->Write(root, path, name, {RegistryValue::Kind::Text, kept, 0});
         return;
     }
-    // The length is that of the characters alone, so that no zero is stored behind them. Meant. The system would add
-    // a zero that it sees there, so it sees a blank.
+    // The length is that of the characters alone, so that no zero is stored behind them. The system would add a zero
+    // that it sees there, so it sees a blank. This is meant.
     const QString seen = kept + u' ';
     SaveSystem(root, path, name, REG_SZ, seen.utf16(), static_cast<DWORD>(kept.size() * sizeof(wchar_t)));
 }

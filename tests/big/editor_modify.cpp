@@ -217,7 +217,7 @@ TEST_F(EditorModify, FileNumbersThatWereLeftOpenAreNoHindrance) {
 
 TEST_F(EditorModify, AnArchiveThatHasGoneOpensNothingAndBeeps) {
     OpenStrings();
-    Files::Delete(mBIG::BigFileName);
+    Files::Rename(mBIG::BigFileName, mBIG::BigFileName + u".away"_s);
     Editor.ActivateRow(0);
     ModifyByMenu(0);
     EXPECT_TRUE(Given.isEmpty());

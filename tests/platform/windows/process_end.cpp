@@ -19,16 +19,19 @@ namespace {
 
 class ProcessEndTest : public testing::Test {
 protected:
-    static HANDLE Start(std::wstring command) {
+    static HANDLE Start(std::wstring command, DWORD flags = 0) {
         STARTUPINFOW startup{};
         startup.cb = sizeof(startup);
         PROCESS_INFORMATION started{};
-        if (::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+        if (::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, flags, nullptr, nullptr, &startup,
                              &started) == 0)
             return nullptr;
         ::CloseHandle(started.hThread);
         return started.hProcess;
     }
+
+    /// A program that does nothing until it is ended.
+    static HANDLE StartWaiting() { return Start(L"cmd.exe", CREATE_SUSPENDED); }
 
     void Count(ProcessEnd& end, int number) {
         QObject::connect(&end, &ProcessEnd::Ended, [this, number] { ended_ << number; });
@@ -64,8 +67,8 @@ TEST_F(ProcessEndTest, AProgramThatEndedBeforeIsTold) {
 }
 
 TEST_F(ProcessEndTest, ProgramsEndInAnyOrderAndEachIsToldOnce) {
-    const HANDLE first = Start(L"cmd.exe /c pause");
-    const HANDLE second = Start(L"cmd.exe /c pause");
+    const HANDLE first = StartWaiting();
+    const HANDLE second = StartWaiting();
     HANDLE secondAgain = nullptr;
     ::DuplicateHandle(::GetCurrentProcess(), second, ::GetCurrentProcess(), &secondAgain, 0, FALSE,
                       DUPLICATE_SAME_ACCESS);
