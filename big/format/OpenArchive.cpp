@@ -62,10 +62,10 @@ Source::Source() {
     const File& read = other_.IsOpen() ? other_ : kept.Open;
     if (!read.IsOpen())
         RefuseOld(current.FileName, u"the open archive can't be read any more"_s);
-    // The kept file is the very one that was read: only what is in it can be another's.
+    // What was kept open is the very file that was read: only what is in it can be another's.
     const FileState now = read.State();
-    const bool isOther = other_.IsOpen() && now.Identity != kept.State.Identity;
-    if (isOther || now.Length != kept.State.Length || now.Time != kept.State.Time)
+    const bool isRead = !other_.IsOpen() || now.Identity == kept.State.Identity;
+    if (!isRead || now.Length != kept.State.Length || now.Time != kept.State.Time)
         RefuseOld(kept.Path, u"the open archive was changed by another program"_s);
 }
 
