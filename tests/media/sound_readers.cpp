@@ -78,10 +78,10 @@ TEST(CheckedWav, DecodedLengthsBeyondReasonAreRefused) {
     // Half a million bytes at the lowest rate are eight minutes, and become 84 millions; sixteen minutes are too long.
     EXPECT_FALSE(IsRefused(Format(1, 1, 1000, 1, 8), Chunk("data", QByteArray(480000, 'x'))));
     EXPECT_TRUE(IsRefused(Format(1, 1, 1000, 1, 8), Chunk("data", QByteArray(960000, 'x'))));
-    EXPECT_TRUE(Sounds::IsSane(760 * 44100, 44100, 2));
-    EXPECT_FALSE(Sounds::IsSane(762 * 44100, 44100, 2));
-    EXPECT_FALSE(Sounds::IsSane(762 * 8000, 8000, 1));
-    EXPECT_FALSE(Sounds::IsSane(200 * 44100, 44100, 8));
+    EXPECT_TRUE(Sounds::IsSane(qint64{760} * 44100, 44100, 2));
+    EXPECT_FALSE(Sounds::IsSane(qint64{762} * 44100, 44100, 2));
+    EXPECT_FALSE(Sounds::IsSane(qint64{762} * 8000, 8000, 1));
+    EXPECT_FALSE(Sounds::IsSane(qint64{200} * 44100, 44100, 8));
     EXPECT_FALSE(Sounds::IsSane(qint64{1} << 62, 384000, 8));
 }
 
