@@ -279,9 +279,9 @@ TEST_F(Extracting, TheEndOfADragRemovesItsFilesAndFolders) {
     Select({u"data"_s, u"readme.txt"_s});
     Editor.ExtractForDrag();
     EXPECT_FALSE(FilesBelow(u"program\\Temp"_s).isEmpty());
-    Editor.DragEnded();
+    BigEditor::DragEnded();
     EXPECT_EQ(Files::ListFolder(mMain::ProgramFolder + u"\\Temp\\*.*"_s, true), QStringList{});
-    Editor.DragEnded(); // once more: nothing
+    BigEditor::DragEnded(); // once more: nothing
 }
 
 TEST_F(Extracting, ADragLeavesTheFilesOfUnsavedModifiedEntriesAlone) {
@@ -291,6 +291,6 @@ TEST_F(Extracting, ADragLeavesTheFilesOfUnsavedModifiedEntriesAlone) {
     Select({u"readme.txt"_s});
     const QStringList dragged = Editor.ExtractForDrag();
     EXPECT_EQ(World::ReadFile(dragged[0]), "changed by the user");
-    Editor.DragEnded();
+    BigEditor::DragEnded();
     EXPECT_EQ(World::ReadFile(mBIG::BigEntries[0].SourcePath), "changed by the user");
 }

@@ -286,7 +286,7 @@ TEST_F(EditorSave, WithoutAnAnswerToAMissingSourceTheWindowStays) {
 TEST_F(EditorSave, EveryCommandTakesInWhatIsBeingTypedFirst) {
     OpenSample();
     View.Target.ExtractCancelled = true;
-    View.OnCommit = [this] { mBIG::BigEntries[0].Name = u"typed.txt"_s; };
+    View.OnCommit = [] { mBIG::BigEntries[0].Name = u"typed.txt"_s; };
     const std::vector<std::function<void()>> commands{
         [this] { Editor.Save(); },
         [this] {

@@ -39,7 +39,7 @@ struct Sample {
 
     Shift Save(Placement placement, QByteArray& bytes) const {
         MemoryDevice target;
-        const Shift shift = Archives::Write(Table, target, &Old, placement);
+        Shift shift = Archives::Write(Table, target, &Old, placement);
         bytes = target.Bytes();
         return shift;
     }

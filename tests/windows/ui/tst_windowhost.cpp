@@ -256,7 +256,7 @@ private Q_SLOTS:
                 throw RuntimeError(ErrorNumber::InvalidCall, u"gone"_s);
             return false;
         };
-        QVERIFY_EXCEPTION_THROWN(host_->WaitUntil(condition), RuntimeError);
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, host_->WaitUntil(condition));
     }
 
     void yieldLetsWaitingEventsRun() {
@@ -293,8 +293,9 @@ private Q_SLOTS:
         QTimer timer;
         connect(&timer, &QTimer::timeout, this, [&] { ++served; });
         timer.start(0);
+        const auto enough = [&] { return served >= 3; };
         int items = 0;
-        for (; served < 3; ++items)
+        for (; !enough(); ++items)
             host_->Yield();
         QVERIFY2(items > 10 * served, qPrintable(QString::number(items)));
     }
