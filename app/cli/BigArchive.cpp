@@ -23,10 +23,10 @@ void CheckSavable(const Archive& archive, const QString& target, bool exact) {
         Fail(target, u"no entry would be left"_s);
     if (archive.Entries.size() < 2 && !exact)
         Fail(target, u"an archive of fewer than two entries can't be saved without --exact"_s);
-    if (const std::vector<int> missing = Archives::MissingSources(archive); !missing.empty()) {
-        const BigEntry& entry = archive.Entries[static_cast<std::size_t>(missing.front())];
-        Fail(Paths::ToNative(entry.SourcePath), u"no such file"_s);
-    }
+}
+
+void FailAsGone(const BigEntry& entry) {
+    Fail(Paths::ToNative(entry.SourcePath), u"no such file"_s);
 }
 
 void TellShift(const QString& target, const OffsetShift::Shift& shift) {
@@ -68,7 +68,7 @@ void SaveArchive(const Archive& archive, const QString& target, const Arguments&
     const bool exact = given.Has("--exact") || ReadSetting(SettingKeys::ExactOffsets) == "1"_L1;
     CheckSavable(archive, target, exact);
     const auto placement = exact ? Archives::Placement::Exact : Archives::Placement::Told;
-    const OffsetShift::Shift shift = Archives::Write(archive, target, placement);
+    const OffsetShift::Shift shift = Archives::Write(archive, target, placement, {.Gone = FailAsGone});
     if (!shift.IsNone())
         TellShift(Paths::ToNative(target), shift);
 }

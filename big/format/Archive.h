@@ -58,11 +58,12 @@ enum class Placement {
     Exact, ///< where the directory says; an entry without bytes takes none
 };
 
-/// What may be shown while an archive is written; any of them may be empty.
+/// What may be told while an archive is written; any of them may be empty.
 struct Watch {
-    std::function<void(const QString& name)> Entry; ///< before an entry's bytes
-    std::function<void(int percent)> Percent;       ///< behind them, 0 to 100
-    std::function<void()> Yield;                    ///< often; nothing may change the archive meanwhile
+    std::function<void(const BigEntry& entry)> Gone = {}; ///< before anything is written: its file is gone; may raise
+    std::function<void(const QString& name)> Entry = {};  ///< before an entry's bytes
+    std::function<void(int percent)> Percent = {};        ///< behind them, 0 to 100
+    std::function<void()> Yield = {};                     ///< often; nothing may change the archive meanwhile
 };
 
 /// Writes the entries that are not deleted; old ones out of `old`, which may be null when there is none, new ones from

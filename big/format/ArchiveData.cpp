@@ -10,7 +10,9 @@
 
 namespace {
 
-constexpr qsizetype BlockSize = qsizetype{512} * 1024;
+constexpr qsizetype BlockSize = qsizetype{128} * 1024;
+/// From here on a file is left to the system to be copied; shorter ones are gathered in the block.
+constexpr qint64 LongFile = 64 * 1024;
 /// The gaps of a run are written behind it, while its bytes are still at hand.
 constexpr qint64 LongestRun = qint64{1} << 20;
 
@@ -118,6 +120,13 @@ void ArchiveData::PutOld(qint64 offset, qint64 length) {
 }
 
 void ArchiveData::PutNew(qint64 offset, qint64 length) {
+    if (length >= LongFile) {
+        Flush();
+        if (CopyBytes(target_, blockStart_, source_, offset, length) < length)
+            Raise(source_, QStringLiteral("breaks off"));
+        blockStart_ += length;
+        return;
+    }
     FlushRun();
     for (qint64 done = 0; done < length;) {
         if (filled_ == block_.size())

@@ -41,6 +41,8 @@ public:
                 continue;
             kept_.push_back(&entry);
             items_.push_back(ItemOf(entry));
+            if (items_.back().From == WritePlan::Origin::GoneFile && watch_.Gone)
+                watch_.Gone(entry);
             Yield();
         }
         plan_ = WritePlan::Make(variant_, items_, placement);

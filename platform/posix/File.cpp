@@ -58,6 +58,14 @@ int Number(const File& file) {
     return static_cast<int>(file.Handle());
 }
 
+struct stat Status(const File& file, const QString& name) {
+    struct stat status {};
+
+    if (::fstat(Number(file), &status) != 0)
+        RaiseErrno(errno, name);
+    return status;
+}
+
 FileState StateFrom(const struct stat& status) {
     const QByteArray identity = QByteArray::number(static_cast<qulonglong>(status.st_dev)) + ':' +
                                 QByteArray::number(static_cast<qulonglong>(status.st_ino));
@@ -91,11 +99,7 @@ void File::Flush() {
 }
 
 FileState File::State() const {
-    struct stat status {};
-
-    if (::fstat(Number(*this), &status) != 0)
-        RaiseErrno(errno, name_);
-    return StateFrom(status);
+    return StateFrom(Status(*this, name_));
 }
 
 qint64 File::CopyFrom(qint64 toOffset, const File& from, qint64 fromOffset, qint64 count) {
@@ -103,7 +107,7 @@ qint64 File::CopyFrom(qint64 toOffset, const File& from, qint64 fromOffset, qint
 }
 
 qint64 File::Length() const {
-    return State().Length;
+    return Status(*this, name_).st_size;
 }
 
 qint64 File::ReadInto(qint64 offset, char* bytes, qint64 count) const {

@@ -41,7 +41,12 @@ private:
 std::optional<struct stat> Status(const QString& path) {
     struct stat status {};
 
-    if (::stat(Native(path).Path(), &status) != 0)
+    // Most paths have the case that the disk has, and a look at it can be saved.
+    const Native given = Native::AsGiven(path);
+    if (::stat(given.Path(), &status) == 0)
+        return status;
+    const Native found(path);
+    if (found.Bytes == given.Bytes || ::stat(found.Path(), &status) != 0)
         return std::nullopt;
     return status;
 }
