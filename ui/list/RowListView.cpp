@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QPainter>
 #include <QScopedValueRollback>
 
 RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new RowGestures(this)) {
@@ -33,6 +34,12 @@ void RowListView::SetRows(RowListModel* model, const std::function<void(int)>& s
     userSized_ = false;
     SizeColumns();
     MarkColumns();
+}
+
+void RowListView::SetHint(const Hint& hint) {
+    hint_ = hint;
+    setAccessibleDescription(hint.Text);
+    viewport()->update();
 }
 
 void RowListView::SelectRow(int place) {
@@ -72,6 +79,14 @@ void RowListView::resizeEvent(QResizeEvent* event) {
     const QScopedValueRollback sizing(sizing_, true); // the last column takes what is left
     QTreeView::resizeEvent(event);
     SizeColumns();
+}
+
+void RowListView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (rows_ != nullptr && rows_->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    DrawHint(painter, viewport()->rect(), hint_);
 }
 
 void RowListView::startDrag(Qt::DropActions /*supportedActions*/) {
