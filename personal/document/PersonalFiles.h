@@ -7,7 +7,12 @@
 /// Tree and lists are not watched: what is changed outside shows after a click on a node or a Refresh.
 #pragma once
 
+#include "core/GameFiles.h"
+#include "personal/document/CheckedRows.h"
+#include "personal/document/LossNotices.h"
+#include "personal/document/MapPicture.h"
 #include "personal/document/PersonalFilesView.h"
+#include "personal/document/PersonalTexts.h"
 #include "personal/lists/MapList.h"
 #include "personal/lists/ModList.h"
 #include "personal/lists/ReplayList.h"
@@ -15,6 +20,8 @@
 
 #include <QString>
 
+#include <optional>
+#include <set>
 #include <vector>
 
 class PictureDecoder;
@@ -93,6 +100,35 @@ public:
     [[nodiscard]] static bool MenuFollows();
 
 private:
+    enum class By { User, Selection };
+
+    void SelectNode(const QString& key);
+    void ShowKind(PersonalKind kind, GameIndex game);
+    void Relist(PersonalKind kind, qint32 game);
+    void ForgetRows();
+    void HideDetails();
+    void RebuildAround(const QString& node);
+    void HandOver();
+
+    [[nodiscard]] bool Has(int place) const;
+    [[nodiscard]] const ListRow& Row(int place) const;
+    void ShowMap(const ListRow& row);
+    void ShowReplay(const ListRow& row);
+    void ShowMod(const ListRow& row);
+    void ShowShellMap(const ListRow& row);
+    void CheckLikeBefore(const std::set<QString>& keys);
+    void UpdateStatus();
+
+    [[nodiscard]] const GameList& List(PersonalKind kind) const;
+    [[nodiscard]] std::optional<GameFiles::RecordPlace> PlaceOfBoxes() const;
+    void FillBoxes();
+    void ChangeName(const QString& text, By by);
+    void ChangeComments(const QString& text, By by);
+    void WriteModComment(const GameFiles::RecordPlace& place, const QString& text, By by);
+    void Write(const GameFiles::RecordPlace& place, const QString& key, const QString& value, By by);
+    void ForgetLost();
+    void CommentKept(const LossNotices::Lost& lost);
+
     PersonalFilesView& view_;
     PersonalFilesState state_;
     ReplayList replays_;
@@ -100,4 +136,9 @@ private:
     ModList mods_;
     ShellMapList shellMaps_;
     std::vector<int> newPlaces_;
+    QString modPath_; ///< the row key of the mod that was selected last
+    PersonalTexts texts_;
+    CheckedRows checked_;
+    MapPicture picture_;
+    LossNotices notices_;
 };
