@@ -3,9 +3,9 @@
 
 #include "personal/window/KeyedTreeModel.h"
 
-#include <algorithm>
+#include "ui/list/RowListModel.h"
 
-using namespace Qt::StringLiterals;
+#include <algorithm>
 
 void KeyedTreeModel::Reset(std::vector<KeyedNode> nodes) {
     beginResetModel();
@@ -69,8 +69,8 @@ QVariant KeyedTreeModel::data(const QModelIndex& index, int role) const {
     const KeyedNode& node = places_.at(index.internalId()).Node;
     if (role == Qt::DisplayRole)
         return node.Text;
-    if (role == Qt::ToolTipRole) // plain, also where a player's name looks like markup
-        return u"<p style='white-space:pre'>"_s + node.Text.toHtmlEscaped() + u"</p>"_s;
+    if (role == Qt::ToolTipRole)
+        return RowListModel::PlainTip(node.Text);
     if (role == Qt::DecorationRole && !node.Picture.isNull())
         return node.Picture;
     return {};

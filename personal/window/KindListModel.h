@@ -14,6 +14,9 @@ public:
     /// The rows outlive the model. A null picture is none.
     KindListModel(RowSource& rows, QIcon picture, QObject* parent = nullptr);
 
+    /// The tip of a cell is its own text, which may not fit into its column.
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+
 protected:
     [[nodiscard]] QVariant Look(int place, int column, int role) const override;
 

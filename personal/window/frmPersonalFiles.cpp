@@ -21,6 +21,8 @@
 #include <QScopedValueRollback>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -60,6 +62,7 @@ frmPersonalFiles::frmPersonalFiles(QWidget* parent)
     Dress();
     files_.UseDecoder(&decoder_);
     files_.RebuildTree();
+    MakeRoomForTree();
     StateChanged();
 }
 
@@ -70,8 +73,10 @@ frmPersonalFiles::~frmPersonalFiles() {
 
 void frmPersonalFiles::Dress() {
     // A long name scrolls, it is not cut.
-    ui_->tvFiles->header()->setStretchLastSection(false);
-    ui_->tvFiles->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    for (const QTreeView* const tree : {ui_->tvFiles, ui_->tvPlayers}) {
+        tree->header()->setStretchLastSection(false);
+        tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    }
     status_->setObjectName(u"lblStatus"_s);
     status_->setTextFormat(Qt::PlainText);
     status_->setContentsMargins(6, 0, 0, 0);
@@ -80,6 +85,14 @@ void frmPersonalFiles::Dress() {
     ShareActions();
     NameForReaders();
     ui_->tvFiles->setFocus();
+}
+
+// As wide as the longest name in the user's language, where that leaves the list its room.
+void frmPersonalFiles::MakeRoomForTree() {
+    constexpr int widest = 320;
+    ui_->tvFiles->header()->resizeSections(QHeaderView::ResizeToContents);
+    const int wanted = ui_->tvFiles->columnWidth(0) + 2 * ui_->tvFiles->frameWidth() + 4;
+    ui_->picSplitter->SetPosition(std::clamp(wanted, ui_->picSplitter->Position(), widest));
 }
 
 void frmPersonalFiles::NameForReaders() {

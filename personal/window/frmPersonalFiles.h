@@ -72,6 +72,7 @@ private:
     void ShowNotice(const Notice& notice) override { SetNotice(notice); }
 
     void Dress();
+    void MakeRoomForTree();
     void NameForReaders();
     void ShareActions();
     std::vector<ToolCommand> Commands();

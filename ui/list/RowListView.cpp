@@ -10,6 +10,10 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 
+namespace {
+constexpr int narrowest = 24;
+} // namespace
+
 RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new RowGestures(this)) {
     setRootIsDecorated(false);
     setItemsExpandable(false);
@@ -17,6 +21,7 @@ RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new Row
     setAllColumnsShowFocus(true);
     header()->setSectionsClickable(true);
     header()->setSortIndicatorShown(false);
+    header()->setMinimumSectionSize(narrowest); // else the last column would not fit into what the others leave
     connect(header(), &QHeaderView::sectionClicked, this, &RowListView::Sort);
     connect(header(), &QHeaderView::sectionResized, this, [this] { userSized_ = userSized_ || !sizing_; });
 }

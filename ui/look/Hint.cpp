@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int widest = 360;
+constexpr int widest = 420;
 constexpr int margin = 16;
 constexpr int pictureSide = 48;
 constexpr int gap = 8;
