@@ -3,6 +3,7 @@
 
 #include "core/GameFiles.h"
 
+#include "core/NameOrder.h"
 #include "core/mMain.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
@@ -27,15 +28,6 @@ const GameEntry& EntryOf(GameIndex game) {
     return Game.at(static_cast<std::size_t>(game));
 }
 
-/// Capitals stand for both, as in Windows' folders, so that "_" comes behind the letters.
-bool IsBefore(const QString& first, const QString& second) {
-    const auto capital = [](QChar letter) { return letter.toUpper(); };
-    const auto [one, other] = std::ranges::mismatch(first, second, {}, capital, capital);
-    if (one == first.end() && other == second.end())
-        return first < second;
-    return one == first.end() || (other != second.end() && capital(*one) < capital(*other));
-}
-
 QString MapsFolder(GameIndex game) {
     return EntryOf(game).InstallPath + u"Maps\\"_s;
 }
@@ -45,7 +37,7 @@ QStringList Listed(GameIndex game, const QString& pattern, bool withFolders) {
     if (EntryOf(game).InstallPath.isEmpty())
         return {};
     QStringList names = Files::ListFolder(pattern, withFolders);
-    std::ranges::sort(names, IsBefore);
+    NameOrder::Sort(names);
     return names;
 }
 
@@ -76,12 +68,21 @@ QStringList GameFiles::ShellMaps(GameIndex game, Kind kind) {
     return ListedInMaps(game, ShellMapBegin() + QString(Digits, u'?'), kind);
 }
 
+std::optional<int> GameFiles::NumberIn(const QString& name) {
+    const QString last = name.last(std::min(Digits, name.size()));
+    const auto isDigit = [](QChar letter) { return letter >= u'0' && letter <= u'9'; };
+    if (last.size() != Digits || !std::ranges::all_of(last, isDigit))
+        return std::nullopt;
+    return last.toInt();
+}
+
 std::optional<int> GameFiles::HighestShellMapNumber(GameIndex game, Kind kind) {
     const QStringList names = ListedInMaps(game, {}, kind);
     // The last name counts and not the greatest number. This is meant.
-    const auto last = std::find_if(names.rbegin(), names.rend(),
-                                   [](const QString& name) { return name.startsWith(ShellMapBegin()); });
-    return last == names.rend() ? std::nullopt : std::optional(ShellMapNumber(*last));
+    const auto last = std::find_if(names.rbegin(), names.rend(), [](const QString& name) {
+        return name.startsWith(ShellMapBegin()) && NumberIn(name).has_value();
+    });
+    return last == names.rend() ? std::nullopt : NumberIn(*last);
 }
 
 QString GameFiles::ShellMapName(const QString& number) {
