@@ -167,6 +167,7 @@ private Q_SLOTS:
     }
 
     void exportWithoutACheckMarkEndsInTheRunTimeError() {
+        [[maybe_unused]] const LostMemory lost;
         RowListView& list = ShowTwoReplays();
         Click(list, 0);
         QVERIFY(Fails([this] { Part<QAction>("mnuExport")->trigger(); })); // This is meant.

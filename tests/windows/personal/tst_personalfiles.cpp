@@ -286,6 +286,7 @@ private Q_SLOTS:
     }
 
     void whatAReplayWithAWrongMarkLeavesOpenIsToldAndLetGoOf() {
+        [[maybe_unused]] const LostMemory lost;
         Write(Of(0).ReplayPath + u"b.rep"_s, "no replay");
         AddReplay(u"a"_s);
         Open();

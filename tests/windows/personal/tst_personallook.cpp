@@ -54,6 +54,11 @@ private:
         return {};
     }
 
+    static void ExpectWholeCaptions(const QHeaderView& header) {
+        for (int column = 0; column < header.count(); ++column)
+            QVERIFY(header.sectionSize(column) >= header.sectionSizeHint(column));
+    }
+
 private Q_SLOTS:
 
     void cleanup() { End(); }
@@ -83,7 +88,9 @@ private Q_SLOTS:
             QCOMPARE(CutText(), QString());
             QCOMPARE(Overlap(), QString());
             QVERIFY(List(list)->width() >= 200);
-            QVERIFY2(!List(list)->horizontalScrollBar()->isVisible(), list);
+            ExpectWholeCaptions(*List(list)->header());
+            if (size.width() == 1000)
+                QVERIFY2(!List(list)->horizontalScrollBar()->isVisible(), list);
         }
         QVERIFY(Comments()->height() >= 40 && NameBox()->height() >= NameBox()->sizeHint().height());
     }
@@ -185,6 +192,7 @@ private Q_SLOTS:
         ClickNode(u"GenReplays"_s);
         RowListView& list = *List("lstReplays");
         QCOMPARE(list.model()->rowCount(), 3000);
+        list.setFocus();
         QTest::keyClick(&list, Qt::Key_End);
         QCOMPARE(Text("lblRFileName"), u"Replay 2999"_s);
         QVERIFY(list.findChildren<QWidget*>().size() < 20); // no control a row
