@@ -3,6 +3,7 @@
 
 #include "app/cli/GameCommands.h"
 
+#include "app/cli/GameArgument.h"
 #include "app/cli/Output.h"
 #include "core/Game.h"
 #include "core/SettingKeys.h"
@@ -17,7 +18,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -115,11 +115,6 @@ void StoreINI(const QString& section, const QString& key, const QString& value, 
         Fail(Paths::ToNative(file), u"The file could not be written."_s);
 }
 
-const std::map<std::string, GameIndex>& Games() {
-    static const std::map<std::string, GameIndex> games{{"gen", 0}, {"zh", 1}, {"bfme", 2}, {"bfme2", 3}};
-    return games;
-}
-
 using Kind = Parameter::Kind;
 
 Parameter Key(const std::string& description) {
@@ -139,9 +134,6 @@ Parameter File() {
 }
 
 CommandGroup Alone() {
-    Parameter game{Kind::Place, "game", "gen, zh, bfme or bfme2", "GAME"};
-    for (const auto& [name, index] : Games())
-        game.Members.push_back(name);
     return {{},
             {},
             {{"games",
@@ -151,8 +143,8 @@ CommandGroup Alone() {
               [](const Arguments& given) { PrintGames(given.Has("--json")); }},
              {"launch-command",
               "Prints the command text that starts a game, and starts nothing",
-              {game},
-              [](const Arguments& given) { PrintLaunchCommand(Games().at(given.Raw("game"))); }},
+              {GameArgument::Word(Kind::Place, "game")},
+              [](const Arguments& given) { PrintLaunchCommand(GameArgument::Of(given, "game")); }},
              {"text",
               "Prints a text of the language in use; the key when it has none",
               {Key("The text's key")},

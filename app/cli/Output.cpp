@@ -46,6 +46,16 @@ void Print(const QString& line) {
     Print({}, line);
 }
 
+void PrintRow(QStringList columns) {
+    for (QString& column : columns) {
+        for (QChar& unit : column) {
+            if (unit < u' ')
+                unit = u' ';
+        }
+    }
+    Print(columns.join(u'\t'));
+}
+
 void Flush() {
     const auto forget = qScopeGuard([] { Gathered().resize(0); }); // its memory is used again
     Console::Write(Gathered());

@@ -8,6 +8,7 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <QStringList>
 
 #include <string>
 
@@ -17,6 +18,10 @@ void Print(const QString& line);
 
 /// The same for a line that begins with plain letters, which are at hand as bytes.
 void Print(QByteArrayView head, const QString& line);
+
+/// Prints a row: its columns with tabs between them. A tab, a line break or another control character in a column comes
+/// out as a blank, so that a row stays a line.
+void PrintRow(QStringList columns);
 
 /// Raises when standard output takes no more.
 void Flush();
