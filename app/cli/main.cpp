@@ -6,6 +6,7 @@
 #include "app/cli/CsfCommands.h"
 #include "app/cli/GameCommands.h"
 #include "app/cli/Output.h"
+#include "app/cli/ReplayCommands.h"
 #include "app/cli/ScriptHost.h"
 
 #include "core/mMain.h"
@@ -29,6 +30,7 @@ int Run(const std::vector<std::string>& words) {
     std::vector<CommandGroup> groups = GameCommands();
     groups.push_back(Big());
     groups.push_back({"csf", "CSF string tables", CsfCommands()});
+    groups.push_back({"replays", "A game's replays", ReplayCommands()});
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));
 }
