@@ -114,6 +114,10 @@ void Suite::ShowAddFiles(QObject* /*owner*/) {
     StayInMenu();
 }
 
+void Suite::ShowExportFiles(QObject* /*owner*/) {
+    StayInMenu();
+}
+
 void Suite::ShowOptions(QObject* /*owner*/) {
     StayInMenu();
 }
