@@ -68,12 +68,21 @@ QStringList GameFiles::ShellMaps(GameIndex game, Kind kind) {
     return ListedInMaps(game, ShellMapBegin() + QString(Digits, u'?'), kind);
 }
 
+std::optional<int> GameFiles::NumberIn(const QString& name) {
+    const QString last = name.last(std::min(Digits, name.size()));
+    const auto isDigit = [](QChar letter) { return letter >= u'0' && letter <= u'9'; };
+    if (last.size() != Digits || !std::ranges::all_of(last, isDigit))
+        return std::nullopt;
+    return last.toInt();
+}
+
 std::optional<int> GameFiles::HighestShellMapNumber(GameIndex game, Kind kind) {
     const QStringList names = ListedInMaps(game, {}, kind);
     // The last name counts and not the greatest number. This is meant.
-    const auto last = std::find_if(names.rbegin(), names.rend(),
-                                   [](const QString& name) { return name.startsWith(ShellMapBegin()); });
-    return last == names.rend() ? std::nullopt : std::optional(ShellMapNumber(*last));
+    const auto last = std::find_if(names.rbegin(), names.rend(), [](const QString& name) {
+        return name.startsWith(ShellMapBegin()) && NumberIn(name).has_value();
+    });
+    return last == names.rend() ? std::nullopt : NumberIn(*last);
 }
 
 QString GameFiles::ShellMapName(const QString& number) {

@@ -34,8 +34,11 @@ enum class Kind {
 /// The names in the game's "Maps" folder that are "QvShellMap" and three more characters.
 QStringList ShellMaps(GameIndex game, Kind kind = Kind::FilesToo);
 
-/// The number of the last name in the "Maps" folder that begins with "QvShellMap", capitals as here, whatever follows;
-/// nothing without such a name. Raises 13 when its last three characters are no number.
+/// The number in the last three characters of a shell map's name; nothing where they are no three digits.
+std::optional<int> NumberIn(const QString& name);
+
+/// The number of the last name in the "Maps" folder that begins with "QvShellMap", capitals as here, whatever follows,
+/// and ends in a number; nothing without such a name.
 std::optional<int> HighestShellMapNumber(GameIndex game, Kind kind = Kind::FilesToo);
 
 /// "QvShellMap" and the number with leading zeros up to three characters. Raises 5 when it has more than three.

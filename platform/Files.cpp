@@ -4,6 +4,7 @@
 #include "platform/Files.h"
 
 #include "platform/FolderEntries.h"
+#include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Wildcards.h"
 #include "platform/WriteAside.h"
@@ -117,17 +118,24 @@ void CopyAsGiven(const QString& from, const QString& to) {
     CopyWhole(from, to, WriteAside::Names::AsGiven);
 }
 
+void DeleteUnprotected(const QString& path) {
+    // Of a link nothing goes but the link: what it leads to is not asked.
+    if (!IsLink(path) && ReplacedFile::IsWriteProtected(path))
+        throw RuntimeError(ErrorNumber::PermissionDenied, QStringLiteral("%1: write-protected").arg(path));
+    DeleteForced(path);
+}
+
 void Delete(const QString& pattern) {
     const qsizetype split = pattern.lastIndexOf(u'\\') + 1;
     if (!IsPattern(QStringView(pattern).sliced(split)) && split < pattern.size()) {
-        DeleteForced(pattern);
+        DeleteUnprotected(pattern);
         return;
     }
     const QStringList names = ListFolder(pattern);
     if (names.isEmpty())
         throw RuntimeError(ErrorNumber::FileNotFound, QStringLiteral("%1: no such file").arg(pattern));
     for (const QString& name : names)
-        DeleteForced(pattern.first(split) + name);
+        DeleteUnprotected(pattern.first(split) + name);
 }
 
 void DeleteFolder(const QString& path) {

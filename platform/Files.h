@@ -40,6 +40,9 @@ Standing StandingAsGiven(const QString& path);
 /// True for a symbolic link, wherever it leads.
 bool IsLink(const QString& path);
 
+/// Removes a symbolic link, whatever it leads to, and nothing else. Raises 53 when there is no link.
+void RemoveLink(const QString& path);
+
 /// Makes the folder and those above it; a folder that stands already is fine.
 void MakeFolders(const QString& path);
 
@@ -49,8 +52,12 @@ void RemoveFolder(const QString& path);
 /// Removes a folder with everything in it. Links are never followed; what can't be removed stays, without a word.
 void DeleteFolder(const QString& path);
 
-/// Deletes every file that `pattern` names ('*' and '?' in its last part). Raises 53 when there is none.
+/// Deletes every file that `pattern` names ('*' and '?' in its last part) up to the first that is refused. Raises 53
+/// when there is none, 70 for a write-protected one, whoever asks.
 void Delete(const QString& pattern);
+
+/// Deletes one file, whatever its name holds. Raises 53 when missing, 70 when it is write-protected or refused.
+void DeleteUnprotected(const QString& path);
 
 /// Deletes one file, a write-protected one too. Raises 53 when missing, 70 when refused.
 void DeleteForced(const QString& path);

@@ -172,6 +172,14 @@ bool IsLink(const QString& path) {
     return ::lstat(Native(path).Path(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
+void RemoveLink(const QString& path) {
+    const Native native(FolderPath(path));
+    if (!IsLink(FolderPath(path)))
+        native.Raise(ENOENT);
+    if (::unlink(native.Path()) != 0)
+        native.Raise(errno);
+}
+
 void RemoveFolder(const QString& path) {
     const Native native(FolderPath(path));
     if (::rmdir(native.Path()) == 0)

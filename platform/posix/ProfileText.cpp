@@ -101,7 +101,15 @@ ProfileText::ProfileText(const QByteArray& bytes) {
 }
 
 QString ProfileText::Read(const QString& section, const QString& key) const {
+    return ValueAt(Locate(section, key));
+}
+
+std::optional<QString> ProfileText::ReadFromBeginning(const QString& section, const QString& key) const {
     const Place place = Locate(section, key);
+    return place.Settled ? std::optional(ValueAt(place)) : std::nullopt;
+}
+
+QString ProfileText::ValueAt(const Place& place) const {
     if (!place.KeyFound)
         return {};
     const QByteArrayView written = QByteArrayView(bytes_).sliced(place.ValueStart, place.ValueEnd - place.ValueStart);
@@ -143,6 +151,7 @@ ProfileText::Place ProfileText::Locate(const QString& section, const QString& ke
             continue;
         const qsizetype close = text.front() == '[' ? text.lastIndexOf(']') : -1;
         if (close > 0) {
+            place.Settled = place.SectionFound && line.End < bytes.size();
             if (place.SectionFound)
                 break;
             place.SectionFound = Same(Trimmed(UpToZero(text.sliced(1, close - 1))), askedSection, sectionBytes);
@@ -155,6 +164,7 @@ ProfileText::Place ProfileText::Locate(const QString& section, const QString& ke
         if (close > 0 || !Same(Trimmed(UpToZero(name)), askedKey, keyBytes))
             continue;
         place.KeyFound = true;
+        place.Settled = line.End < bytes.size();
         place.HasEqualSign = equal >= 0;
         const Range value = Trimmed(bytes, {equal < 0 ? content.End : content.Start + equal + 1, line.End});
         place.ValueStart = value.Start;

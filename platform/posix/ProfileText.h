@@ -19,6 +19,9 @@ public:
     /// belong to the section without a name.
     [[nodiscard]] QString Read(const QString& section, const QString& key) const;
 
+    /// The same for the beginning of a longer file; nothing when it is for the rest to decide.
+    [[nodiscard]] std::optional<QString> ReadFromBeginning(const QString& section, const QString& key) const;
+
     /// The file's new bytes, in which all but the value's place stays as it was; the old bytes when the value stands
     /// there already.
     [[nodiscard]] QByteArray Write(const QString& section, const QString& key, const QString& value) const;
@@ -31,11 +34,13 @@ private:
         bool SectionFound = false;
         bool KeyFound = false;
         bool HasEqualSign = false;
+        bool Settled = false;     ///< no byte behind these can change it
         qsizetype ValueStart = 0; ///< of the value without surrounding blanks, with its quotes
         qsizetype ValueEnd = 0;
         qsizetype SectionEnd = 0; ///< behind the section's last line that isn't blank
     };
 
+    [[nodiscard]] QString ValueAt(const Place& place) const;
     [[nodiscard]] Place Locate(const QString& section, const QString& key) const;
     [[nodiscard]] bool Same(QByteArrayView written, const QString& asked, const QByteArray& askedBytes) const;
     [[nodiscard]] QByteArray Encode(const QString& text) const;

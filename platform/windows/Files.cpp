@@ -135,6 +135,15 @@ bool IsLink(const QString& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 }
 
+void RemoveLink(const QString& path) {
+    const std::wstring wide = WidePath(FolderPath(path));
+    if (!IsLink(path))
+        RaiseLastError(ERROR_FILE_NOT_FOUND, path);
+    const BOOL removed = FolderExists(path) ? RemoveDirectoryW(wide.c_str()) : DeleteFileW(wide.c_str());
+    if (removed == 0)
+        RaiseLastError(GetLastError(), path);
+}
+
 void RemoveFolder(const QString& path) {
     if (RemoveDirectoryW(WidePath(FolderPath(path)).c_str()) != 0)
         return;

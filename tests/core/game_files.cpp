@@ -117,9 +117,21 @@ TEST_F(GameFilesTest, TheHighestNumberIsThatOfANameInTheSuitesOwnLetters) {
     EXPECT_EQ(GameFiles::HighestShellMapNumber(0), 2);
 }
 
+TEST_F(GameFilesTest, ANameThatEndsInNoNumberIsPassedOverWhereTheHighestNumberIsWanted) {
+    MakeShellMaps({u"QvShellMapOld"_s, u"QvShellMap"_s, u"QvShellMap-05"_s, u"QvShellMap1.5"_s});
+    EXPECT_EQ(GameFiles::HighestShellMapNumber(0), std::nullopt);
+    MakeShellMaps({u"QvShellMap001"_s, u"QvShellMap9e9"_s});
+    EXPECT_EQ(GameFiles::HighestShellMapNumber(0), 1);
+}
+
+TEST_F(GameFilesTest, ANumberIsThreeDigits) {
+    EXPECT_EQ(GameFiles::NumberIn(u"QvShellMap042"_s), 42);
+    EXPECT_EQ(GameFiles::NumberIn(u"000"_s), 0);
+    for (const QString& name : {u"QvShellMapOld"_s, u"+05"_s, u"5e1"_s, u" 05"_s, u"05"_s, u"1٠١"_s, QString()})
+        EXPECT_EQ(GameFiles::NumberIn(name), std::nullopt) << name.toStdString();
+}
+
 TEST_F(GameFilesTest, ANameThatEndsInNoNumberRaisesATypeMismatch) {
-    MakeShellMaps({u"QvShellMap001"_s, u"QvShellMapOld"_s});
-    EXPECT_EQ(NumberRaisedBy([] { GameFiles::HighestShellMapNumber(0); }), 13);
     for (const QString& name : {u"QvShellMapnan"_s, u"QvShellMapinf"_s, QString()})
         EXPECT_EQ(NumberRaisedBy([&] { GameFiles::ShellMapNumber(name); }), 13) << name.toStdString();
     EXPECT_EQ(GameFiles::ShellMapNumber(u"C:\\Maps\\QvShellMap042"_s), 42);

@@ -6,6 +6,7 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -128,6 +129,17 @@ TEST_F(FilesTest, DeletesByPatternAndRaises53WhenNothingFits) {
     EXPECT_EQ(Files::ListFolder(At(u"*.*"_s)), QStringList{u"c.txt"_s});
     EXPECT_EQ(NumberRaisedBy([&] { Files::Delete(At(u"*.tmp"_s)); }), 53);
     EXPECT_EQ(NumberRaisedBy([&] { Files::Delete(At(u"missing"_s)); }), 53);
+}
+
+TEST_F(FilesTest, AWriteProtectedFileIsDeletedByForceOnly) {
+    const QString path = Make(u"a.tmp"_s, "1");
+    QFile::setPermissions(Paths::ToNative(path), QFile::ReadOwner);
+    EXPECT_EQ(NumberRaisedBy([&] { Files::DeleteUnprotected(path); }), 70);
+    EXPECT_EQ(NumberRaisedBy([&] { Files::Delete(path); }), 70);
+    EXPECT_EQ(NumberRaisedBy([&] { Files::Delete(At(u"*.*"_s)); }), 70);
+    EXPECT_TRUE(Files::FileExists(path));
+    Files::DeleteForced(path);
+    EXPECT_FALSE(Files::FileExists(path));
 }
 
 TEST_F(FilesTest, CopyReplacesTheWholeTarget) {

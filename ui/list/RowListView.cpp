@@ -7,7 +7,12 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QPainter>
 #include <QScopedValueRollback>
+
+namespace {
+constexpr int narrowest = 24;
+} // namespace
 
 RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new RowGestures(this)) {
     setRootIsDecorated(false);
@@ -16,6 +21,7 @@ RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new Row
     setAllColumnsShowFocus(true);
     header()->setSectionsClickable(true);
     header()->setSortIndicatorShown(false);
+    header()->setMinimumSectionSize(narrowest); // else the last column would not fit into what the others leave
     connect(header(), &QHeaderView::sectionClicked, this, &RowListView::Sort);
     connect(header(), &QHeaderView::sectionResized, this, [this] { userSized_ = userSized_ || !sizing_; });
 }
@@ -33,6 +39,12 @@ void RowListView::SetRows(RowListModel* model, const std::function<void(int)>& s
     userSized_ = false;
     SizeColumns();
     MarkColumns();
+}
+
+void RowListView::SetHint(const Hint& hint) {
+    hint_ = hint;
+    setAccessibleDescription(hint.Text);
+    viewport()->update();
 }
 
 void RowListView::SelectRow(int place) {
@@ -72,6 +84,14 @@ void RowListView::resizeEvent(QResizeEvent* event) {
     const QScopedValueRollback sizing(sizing_, true); // the last column takes what is left
     QTreeView::resizeEvent(event);
     SizeColumns();
+}
+
+void RowListView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (rows_ != nullptr && rows_->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    DrawHint(painter, viewport()->rect(), hint_);
 }
 
 void RowListView::startDrag(Qt::DropActions /*supportedActions*/) {

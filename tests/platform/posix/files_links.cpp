@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "platform/Files.h"
+#include "platform/RuntimeError.h"
 #include "tests/platform/Scratch.h"
 
 #include <gtest/gtest.h>
@@ -40,4 +41,29 @@ TEST(FilesAndLinks, RemovingAFolderFollowsNoLink) {
     Files::DeleteFolder(scratch.Inside(u"folder"_s));
     EXPECT_EQ(scratch.Read(u"outside/keep"_s), "keep");
     EXPECT_FALSE(Files::FileExists(scratch.Inside(u"folder/file"_s)));
+}
+
+TEST(FilesAndLinks, RemovingALinkLeavesWhatItLeadsTo) {
+    const Scratch scratch;
+    scratch.Write(u"folder/file"_s, "x");
+    for (const char* target : {"folder", "folder/file", "nothing"}) {
+        Link(scratch, u"way"_s, target);
+        Files::RemoveLink(scratch.Inside(u"WAY"_s));
+        EXPECT_FALSE(Files::IsLink(scratch.Inside(u"way"_s))) << target;
+    }
+    Link(scratch, u"way"_s, "folder");
+    Files::RemoveLink(scratch.Inside(u"way"_s) + u'\\');
+    EXPECT_FALSE(Files::IsLink(scratch.Inside(u"way"_s)));
+    EXPECT_EQ(scratch.Read(u"folder/file"_s), "x");
+    EXPECT_THROW(Files::RemoveLink(scratch.Inside(u"folder"_s)), RuntimeError) << "what is no link stays";
+    EXPECT_TRUE(Files::FolderExists(scratch.Inside(u"folder"_s)));
+}
+
+TEST(FilesAndLinks, DeletingALinkDoesNotAskWhetherWhatItLeadsToIsProtected) {
+    const Scratch scratch;
+    scratch.Write(u"file"_s, "x");
+    QFile::setPermissions(scratch.Native(u"file"_s), QFile::ReadOwner);
+    Link(scratch, u"way"_s, "file");
+    Files::Delete(scratch.Inside(u"way"_s));
+    EXPECT_EQ(scratch.Read(u"file"_s), "x");
 }

@@ -10,6 +10,8 @@
 
 #include <sys/stat.h>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -82,4 +84,25 @@ TEST(IniFile, APipeReadsAsEmptyTextAndNobodyWaits) {
 TEST(IniFile, AFullDeviceAnswersZero) {
     EXPECT_EQ(INIRuntime().WriteINI(u"A"_s, u"k"_s, u"1"_s, u"\\proc\\file.ini"_s), u"0"_s);
     EXPECT_EQ(INIRuntime().WriteINI(u"A"_s, u"k"_s, u"1"_s, u"\\dev\\full"_s), u"0"_s);
+}
+
+TEST(LongProfiles, WhatTheBeginningSettlesNeedsNoMoreOfTheFile) {
+    const ProfileText text("[A]\r\nk=1\r\n[B]\r\n");
+    EXPECT_EQ(text.ReadFromBeginning(u"A"_s, u"k"_s), u"1"_s);
+    EXPECT_EQ(text.ReadFromBeginning(u"A"_s, u"j"_s), QString()) << "the section has ended";
+    EXPECT_EQ(text.ReadFromBeginning(u"B"_s, u"j"_s), std::nullopt);
+    EXPECT_EQ(text.ReadFromBeginning(u"C"_s, u"j"_s), std::nullopt);
+    EXPECT_EQ(ProfileText("[A]\nk=1").ReadFromBeginning(u"A"_s, u"k"_s), std::nullopt) << "the value may go on";
+    EXPECT_EQ(ProfileText("[A]\nj=1\n[B]").ReadFromBeginning(u"A"_s, u"k"_s), std::nullopt) << "so may the line";
+}
+
+TEST(LongProfiles, AValueIsFoundWhereverItStands) {
+    const Scratch scratch;
+    const INIRuntime ini;
+    for (const qsizetype before : {0, 65520, 65521, 65525, 65526, 65527, 65528, 65529, 65530, 65536, 200'000}) {
+        const QByteArray filler = "[Z]\r\n" + QByteArray(before, 'x') + "\r\n";
+        const QString file = scratch.Write(u"long.ini"_s, filler + "[A]\r\nkey=value\r\n" + QByteArray(70'000, 'y'));
+        EXPECT_EQ(ini.ReadINI(u"A"_s, u"key"_s, file), u"value"_s) << before;
+        EXPECT_EQ(ini.ReadINI(u"A"_s, u"other"_s, file), QString()) << before;
+    }
 }
