@@ -6,7 +6,9 @@
 #include "app/Application.h"
 #include "app/Suite.h"
 #include "big/document/ScratchFolders.h"
+#include "core/GameFiles.h"
 #include "core/mMain.h"
+#include "personal/mShellMaps.h"
 #include "platform/Processes.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
@@ -18,6 +20,7 @@
 int RunSuite(int argc, char** argv, QObject* watcher) {
     Suite suite;
     Navigator::Use(&suite);
+    GameFiles::ActivateShellMap = mShellMaps::ActivateShellMap;
     // A game is launched without a window, so also where there is no display.
     const mMain::Dispatched dispatched = mMain::Prepare(Processes::CommandLine(argc, argv));
     if (dispatched.What == mMain::Dispatched::Action::LaunchGame)

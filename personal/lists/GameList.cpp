@@ -24,6 +24,18 @@ const ListRow& GameList::SelectedRow() const {
     return rows_.Row(selected_);
 }
 
+void GameList::FillExportRecords(const std::function<ExportRecord(const ListRow&)>& recordOf) const {
+    ExportRecords.assign(1, {});
+    for (const int place : rows_.Checked()) {
+        ExportRecords.back() = recordOf(rows_.Row(place));
+        ExportRecords.emplace_back();
+    }
+    // The record behind the last one is taken away, and of an only record nothing would be left. This is meant.
+    if (ExportRecords.size() == 1)
+        throw RuntimeError(ErrorNumber::Subscript, u"no row has a check mark"_s);
+    ExportRecords.pop_back();
+}
+
 void GameList::Increment(qint16& count) {
     if (count == std::numeric_limits<qint16>::max())
         throw RuntimeError(ErrorNumber::Overflow, u"a list has 32,767 rows at most"_s);

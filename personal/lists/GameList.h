@@ -7,6 +7,9 @@
 
 #include "core/Game.h"
 #include "core/rows/RowList.h"
+#include "personal/lists/ExportRecords.h"
+
+#include <functional>
 
 class GameList {
 public:
@@ -59,6 +62,9 @@ protected:
 
     /// The selected row. Raises 91 when there is none.
     [[nodiscard]] const ListRow& SelectedRow() const;
+
+    /// The rows with a check mark become ExportRecords. Raises 9 when there is none, and leaves one empty record then.
+    void FillExportRecords(const std::function<ExportRecord(const ListRow&)>& recordOf) const;
 
     /// One more in a 16-bit count. Raises 6.
     static void Increment(qint16& count);
