@@ -58,13 +58,15 @@ public:
     void TreeChanged() override { Log += QStringLiteral("Tree"); }
 
     void ListChanging(PersonalKind list, RowChange change, int /*place*/) override {
-        Log += QStringLiteral("Changing ") + NameOf(list) + (change == RowChange::Sort ? u" Sort" : u"");
+        Log += QStringLiteral("Changing ") + NameOf(list) +
+               (change == RowChange::Sort ? QStringLiteral(" Sort") : QString());
         ++open_;
     }
 
     void ListChanged(PersonalKind list, RowChange change, int /*place*/) override {
         EXPECT_EQ(open_--, 1) << "changes come in pairs";
-        Log += QStringLiteral("Changed ") + NameOf(list) + (change == RowChange::Sort ? u" Sort" : u"");
+        Log += QStringLiteral("Changed ") + NameOf(list) +
+               (change == RowChange::Sort ? QStringLiteral(" Sort") : QString());
     }
 
     void RowChanged(PersonalKind /*list*/, int place) override { Rows.push_back(place); }
