@@ -115,10 +115,12 @@ void frmPersonalFiles::NameForReaders() {
 // What keys and context menus share. In the boxes these keys edit text.
 void frmPersonalFiles::ShareActions() {
     rowMenu_->setObjectName(u"mnuRow"_s);
-    FillRowMenu(PersonalKind::Replay, true);
-    Mnemonics::AddTo(*rowMenu_); // with all entries there are
     treeMenu_->setObjectName(u"mnuTree"_s);
     treeMenu_->addActions({ui_->mnuAdd, ui_->mnuRefresh});
+    FillRowMenu(PersonalKind::Replay, true);
+    // The short words first; the other menu then with all entries that it can have.
+    Mnemonics::AddTo(*treeMenu_);
+    Mnemonics::AddTo(*rowMenu_);
     ui_->mnuRename->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_->lstReplays->addAction(ui_->mnuRename);
     for (QAction* const action :

@@ -10,9 +10,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 
-namespace {
-constexpr int narrowest = 24;
-} // namespace
+#include <algorithm>
 
 RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new RowGestures(this)) {
     setRootIsDecorated(false);
@@ -21,9 +19,10 @@ RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new Row
     setAllColumnsShowFocus(true);
     header()->setSectionsClickable(true);
     header()->setSortIndicatorShown(false);
-    header()->setMinimumSectionSize(narrowest); // else the last column would not fit into what the others leave
     connect(header(), &QHeaderView::sectionClicked, this, &RowListView::Sort);
-    connect(header(), &QHeaderView::sectionResized, this, [this] { userSized_ = userSized_ || !sizing_; });
+    // The last column has no border to move: the toolkit stretches it by itself, and not at once.
+    connect(header(), &QHeaderView::sectionResized, this,
+            [this](int column) { userSized_ = userSized_ || (!sizing_ && column != header()->count() - 1); });
 }
 
 void RowListView::SetRows(RowListModel* model, const std::function<void(int)>& sort) {
@@ -75,9 +74,16 @@ void RowListView::SizeColumns() {
     if (rows_ == nullptr || userSized_)
         return;
     const QScopedValueRollback sizing(sizing_, true);
-    for (int column = 0; column < rows_->columnCount(); ++column)
-        if (const double fraction = rows_->Columns()[static_cast<std::size_t>(column)].Fraction; fraction > 0)
-            header()->resizeSection(column, static_cast<int>(fraction * viewport()->width()));
+    const int last = rows_->columnCount() - 1;
+    // What the toolkit stretches it from.
+    header()->resizeSection(last, header()->sectionSizeHint(last));
+    for (int column = 0; column <= last; ++column) {
+        const double fraction = rows_->Columns()[static_cast<std::size_t>(column)].Fraction;
+        // A list that is too narrow for its captions scrolls.
+        if (fraction > 0)
+            header()->resizeSection(
+                column, std::max(static_cast<int>(fraction * viewport()->width()), header()->sectionSizeHint(column)));
+    }
 }
 
 void RowListView::resizeEvent(QResizeEvent* event) {

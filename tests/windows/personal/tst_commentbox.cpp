@@ -7,6 +7,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -54,9 +55,17 @@ private Q_SLOTS:
         QCOMPARE(box_->Text(), u"new"_s);
     }
 
-    void theTabKeyIsNoText() {
-        QTest::keyClick(box_.get(), Qt::Key_Tab);
-        QCOMPARE(box_->Text(), QString());
+    void theTabKeyLeavesTheBox() {
+        QWidget window;
+        auto* const box = new CommentBox(&window);
+        auto* const next = new QLineEdit(&window);
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_Tab);
+        QVERIFY(next->hasFocus());
+        QCOMPARE(box->Text(), QString());
     }
 
     void everyCharacterComesBackAsItWasTyped() {
