@@ -7,6 +7,7 @@
 #include "core/window/frmAbout.h"
 #include "core/window/frmToolsMenu.h"
 #include "csf/window/frmCSFEditor.h"
+#include "personal/window/frmPersonalFiles.h"
 #include "platform/Processes.h"
 
 #include <QApplication>
@@ -105,12 +106,20 @@ void Suite::OpenCSFFile(const QString& path) {
     StayInMenu();
 }
 
+// One is enough: a second one would show what the first one deletes.
 bool Suite::ShowPersonalFiles() {
-    StayInMenu();
-    return false;
+    if (auto* const files = Shown<frmPersonalFiles>(); files != nullptr)
+        files->activateWindow();
+    else
+        Open<frmPersonalFiles>();
+    return true;
 }
 
 void Suite::ShowAddFiles(QObject* /*owner*/) {
+    StayInMenu();
+}
+
+void Suite::ShowExportFiles(QObject* /*owner*/) {
     StayInMenu();
 }
 

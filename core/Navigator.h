@@ -27,6 +27,8 @@ public:
     /// Modal over `owner`, a window, and back when they are closed.
     virtual void ShowOptions(QObject* owner) = 0;
     virtual void ShowAbout(QObject* owner) = 0;
+    /// For the ExportRecords.
+    virtual void ShowExportFiles(QObject* owner) = 0;
     /// As these; without an owner a window of its own, and back at once.
     virtual void ShowAddFiles(QObject* owner) = 0;
 

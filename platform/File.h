@@ -6,6 +6,8 @@
 
 #include "platform/Device.h"
 
+#include <QDateTime>
+
 /// What tells a file from what it was earlier: another one in its place, another length, written since.
 struct FileState {
     QByteArray Identity; ///< the file system and the file's number there; empty where there is no file
@@ -13,6 +15,9 @@ struct FileState {
     qint64 Time = 0;     ///< of the last write, in the system's own unit
 
     bool operator==(const FileState&) const = default;
+
+    /// `Time` as all systems tell it.
+    [[nodiscard]] QDateTime Modified() const;
 };
 
 /// A file of the disk; pipes and devices are refused. What is opened to be read leaves others free to read, write,

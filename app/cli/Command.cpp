@@ -95,7 +95,8 @@ std::optional<int> Arguments::Number(const std::string& name) const {
 }
 
 int RunCommand(const std::vector<CommandGroup>& groups, const std::vector<std::string>& words) {
-    CLI::App app("Brindock 2005 for scripts: the games' archives, settings and texts.", "brindock-cli");
+    CLI::App app("Brindock 2005 for scripts: the games' archives, settings and texts, and the players' own files.",
+                 "brindock-cli");
     app.require_subcommand(1);
     app.set_version_flag("--version", mMain::VersionText().toStdString());
     for (const CommandGroup& group : groups) {

@@ -7,6 +7,7 @@
 #include "app/cli/GameCommands.h"
 #include "app/cli/ListCommands.h"
 #include "app/cli/Output.h"
+#include "app/cli/ReplayCommands.h"
 #include "app/cli/ScriptHost.h"
 
 #include "core/mMain.h"
@@ -30,6 +31,7 @@ int Run(const std::vector<std::string>& words) {
     std::vector<CommandGroup> groups = GameCommands();
     groups.push_back(Big());
     groups.push_back({"csf", "CSF string tables", CsfCommands()});
+    groups.push_back({"replays", "A game's replays", ReplayCommands()});
     groups.push_back({"maps", "A game's maps", MapCommands()});
     groups.push_back({"mods", "A game's mods", ModCommands()});
     groups.push_back({"shellmaps", "A game's shell maps", ShellMapCommands()});

@@ -32,4 +32,8 @@ public:
     void Delete(bool& done) override { DeleteReplay(done); }
 
     void BuildExportList() override;
+
+private:
+    /// `path` is the file's in the case that the disk has.
+    void AddReplay(const QString& name, const QString& path);
 };

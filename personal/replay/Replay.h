@@ -12,6 +12,7 @@
 #include "core/Game.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 
 struct Replay {
@@ -37,6 +38,9 @@ QString Extension(GameIndex game);
 
 /// Whether a header begins with one of the marks.
 bool HasMark(const QByteArray& header);
+
+/// A file's date in the system's short form.
+QString DateText(const QDateTime& modified);
 
 /// What a header says; one that is shorter than HeaderLength counts as filled up with zeros. Each raises 5 or 9 for
 /// what is missing or cut off, and fills in what stands before that.

@@ -123,6 +123,13 @@ void File::SetLength(qint64 length) {
         RaiseErrno(errno, name_);
 }
 
+QDateTime FileState::Modified() const {
+    constexpr qint64 nanosecondsAMillisecond = 1'000'000;
+    const qint64 partial = Time % nanosecondsAMillisecond;
+    // Times before 1970 are rounded down as well.
+    return QDateTime::fromMSecsSinceEpoch(Time / nanosecondsAMillisecond - (partial < 0 ? 1 : 0));
+}
+
 FileState StateOf(const QString& path) {
     struct stat status {};
 

@@ -157,6 +157,12 @@ void File::SetLength(qint64 length) {
         RaiseLastError(GetLastError(), name_);
 }
 
+QDateTime FileState::Modified() const {
+    constexpr qint64 ticksAMillisecond = 10'000;
+    constexpr qint64 millisecondsFrom1601To1970 = 11'644'473'600'000;
+    return QDateTime::fromMSecsSinceEpoch(Time / ticksAMillisecond - millisecondsFrom1601To1970);
+}
+
 FileState StateOf(const QString& path) {
     FileState state;
     const HANDLE handle = CreateFileW(WidePath(path).c_str(), FILE_READ_ATTRIBUTES,

@@ -3,6 +3,7 @@
 
 #include "platform/Files.h"
 
+#include "platform/File.h"
 #include "platform/FolderEntries.h"
 #include "platform/Paths.h"
 #include "platform/PrivateName.h"
@@ -16,8 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint64 MillisecondsFrom1601To1970 = 11'644'473'600'000;
 
 struct HandleCloser {
     void operator()(HANDLE handle) const { CloseHandle(handle); }
@@ -192,9 +191,9 @@ QDateTime ModifiedTime(const QString& path) {
     if (!attributes)
         RaiseLastError(ERROR_FILE_NOT_FOUND, path);
     const FILETIME& time = attributes->ftLastWriteTime;
-    constexpr qint64 ticksAMillisecond = 10'000;
-    return QDateTime::fromMSecsSinceEpoch(Wide(time.dwHighDateTime, time.dwLowDateTime) / ticksAMillisecond -
-                                          MillisecondsFrom1601To1970);
+    FileState state;
+    state.Time = Wide(time.dwHighDateTime, time.dwLowDateTime);
+    return state.Modified();
 }
 
 bool SameFile(const QString& first, const QString& second) {

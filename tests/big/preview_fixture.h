@@ -5,10 +5,9 @@
 #pragma once
 
 #include "platform/Files.h"
-#include "platform/Paths.h"
 #include "tests/big/document_fixture.h"
+#include "tests/support/ScriptedDecoder.h"
 
-#include <QFile>
 #include <QStringList>
 
 /// The start of a bitmap of that size; the preview reads no more of it.
@@ -19,47 +18,6 @@ inline QByteArray BitmapOf(int width, int height) {
     qToLittleEndian<qint32>(height, bytes.data() + 22);
     return bytes;
 }
-
-class ScriptedDecoder : public PictureDecoder {
-public:
-    QByteArray Bitmap; ///< written for every picture; empty: none can be read
-    bool Waits = false;
-    int Abandoned = 0;
-    QStringList Sources;
-    QStringList Bitmaps;
-    QByteArray SourceBytes; ///< of the last source, when it was asked for
-    Done Pending;
-
-    void Prepare() override {}
-
-    void Decode(const QString& source, const QString& bitmap, Done done) override {
-        Sources += source;
-        Bitmaps += bitmap;
-        SourceBytes = Files::FileExists(source) ? World::ReadFile(source) : QByteArray();
-        target_ = bitmap;
-        Pending = std::move(done);
-        if (!Waits)
-            Answer();
-    }
-
-    void Abandon() override {
-        ++Abandoned;
-        Pending = {};
-    }
-
-    void Answer() {
-        if (!Bitmap.isEmpty()) {
-            QFile file(Paths::ToNative(target_));
-            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-            file.write(Bitmap);
-        }
-        if (const Done done = std::exchange(Pending, {}))
-            done(!Bitmap.isEmpty());
-    }
-
-private:
-    QString target_;
-};
 
 class ScriptedPlayer : public SoundPlayer {
 public:

@@ -6,6 +6,8 @@
 #include "platform/Files.h"
 #include "tests/platform/InAFolder.h"
 
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -84,6 +86,17 @@ TEST_F(FileTest, TheStateTellsAnotherFileInItsPlaceAnotherLengthAndALaterWrite) 
     file.Close();
     Files::Replace(Make(u"g"_s, "bytes"), path);
     EXPECT_NE(StateOf(path).Identity, before.Identity);
+}
+
+TEST_F(FileTest, TheStateHasTheTimeOfTheLastWrite) {
+    const QString path = Make(u"f"_s, "bytes");
+    QFile native(Paths::ToNative(path));
+    ASSERT_TRUE(native.open(QIODevice::ReadWrite));
+    const QDateTime time = QDateTime::fromMSecsSinceEpoch(1'062'277'729'250);
+    ASSERT_TRUE(native.setFileTime(time, QFileDevice::FileModificationTime));
+    native.close();
+    EXPECT_EQ(StateOf(path).Modified(), time);
+    EXPECT_EQ(Files::ModifiedTime(path), time);
 }
 
 TEST_F(FileTest, NoFileAndAFolderHaveNoState) {

@@ -59,6 +59,10 @@ void ScriptedNavigator::ShowAddFiles(QObject* owner) {
     RecordModal(u"ShowAddFiles"_s, owner);
 }
 
+void ScriptedNavigator::ShowExportFiles(QObject* owner) {
+    RecordModal(u"ShowExportFiles"_s, owner);
+}
+
 void ScriptedNavigator::ShowOptions(QObject* owner) {
     RecordModal(u"ShowOptions"_s, owner);
 }

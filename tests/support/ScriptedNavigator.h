@@ -30,6 +30,7 @@ public:
     void ShowOptions(QObject* owner) override;
     void ShowAbout(QObject* owner) override;
     void ShowAddFiles(QObject* owner) override;
+    void ShowExportFiles(QObject* owner) override;
     void CheckForUpdates(bool automatic) override;
 
 private:

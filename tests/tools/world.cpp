@@ -252,6 +252,17 @@ TEST(MeasuredArchive, EntriesLieInOneFolderOrInMany) {
     EXPECT_TRUE(MakeTinyArchive(folder.path() + u"/missing/a.big"_s, 1, false).contains(u"missing"_s));
 }
 
+TEST(MeasuredReplays, AFolderHasAsManyAsAsked) {
+    const QTemporaryDir folder;
+    ASSERT_EQ(MakeReplays(folder.path() + u"/r"_s, 50), QString());
+    const QStringList files = FilesBelow(folder.path() + u"/r"_s);
+    EXPECT_EQ(files.size(), 50);
+    for (const QString& file : files)
+        EXPECT_TRUE(file.endsWith(u".rep"_s) && FileBytes(folder.path() + u"/r/"_s + file).startsWith("GENREP"));
+    Put(folder.path() + u"/file"_s, {});
+    EXPECT_TRUE(MakeReplays(folder.path() + u"/file/r"_s, 1).contains(u"can't be written"_s));
+}
+
 TEST(MeasuredStrings, ATableHasAsManyRowsAsAsked) {
     const QTemporaryDir folder;
     const QString file = folder.path() + u"/many.csf"_s;

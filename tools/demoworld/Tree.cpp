@@ -7,6 +7,7 @@
 #include "tools/demoworld/Bytes.h"
 #include "tools/demoworld/Random.h"
 #include "tools/demoworld/Texts.h"
+#include "tools/demoworld/UserFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -142,6 +143,18 @@ QString MakeStrings(const QString& file, int rows) {
     QFile output(file);
     const bool written = output.open(QIODevice::WriteOnly) && output.write(table) == table.size() && output.flush();
     return written ? QString() : u"%1 can't be written."_s.arg(file);
+}
+
+QString MakeReplays(const QString& folder, int count) {
+    QDir().mkpath(folder);
+    for (int number = 0; number < count; ++number) {
+        const auto seed = static_cast<quint64>(number);
+        const QByteArray replay = Replay(0, RandomReplayFacts(0, seed), 0, seed);
+        QFile output(folder + u"/%1 %2"_s.arg(PlaceName(seed)).arg(number) + ReplayExtension(0));
+        if (!output.open(QIODevice::WriteOnly) || output.write(replay) != replay.size() || !output.flush())
+            return u"%1 can't be written."_s.arg(output.fileName());
+    }
+    return {};
 }
 
 } // namespace Demo

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// Folders, archives and string tables to measure with.
+/// Folders, archives, string tables and replays to measure with.
 #pragma once
 
 #include <QString>
@@ -17,5 +17,8 @@ QString MakeTinyArchive(const QString& file, int entries, bool nested);
 
 /// A French string table. `file` is a native path.
 QString MakeStrings(const QString& file, int rows);
+
+/// A folder of replays of the first game. `folder` is a native path.
+QString MakeReplays(const QString& folder, int count);
 
 } // namespace Demo

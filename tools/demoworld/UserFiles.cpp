@@ -21,6 +21,9 @@ namespace {
 
 constexpr int HeadSize = 2048;
 constexpr int SlotCount = 8;
+constexpr int WorldReplayCount = 6;
+constexpr int FewestPlayers = 3;
+constexpr int ObservingSide = -2;
 
 void AddWide(Bytes& bytes, const QString& text) {
     for (const QChar unit : text)
@@ -33,7 +36,7 @@ QByteArrayView MarkOf(GameIndex game) {
     return marks.at(static_cast<size_t>(game));
 }
 
-/// Numbers of the sides that a game's replays use; -1 is a random one.
+/// Numbers of the sides that a game's players can have; -1 is a random one.
 const std::vector<int>& SidesOf(GameIndex game) {
     static const std::array<std::vector<int>, GameCount> sides{{
         {-1, 2, 3, 4},
@@ -44,20 +47,37 @@ const std::vector<int>& SidesOf(GameIndex game) {
     return sides.at(static_cast<size_t>(game));
 }
 
-QString HumanSlot(Random& random, GameIndex game, const QString& name, int team) {
+/// Gives the sides out in turn, so that a game's few replays have them all.
+class Sides {
+public:
+    Sides(GameIndex game, quint64 seed) : sides_(SidesOf(game)), next_(seed % WorldReplayCount * FewestPlayers) {}
+
+    int Next() { return sides_[next_++ % sides_.size()]; }
+
+private:
+    const std::vector<int>& sides_;
+    std::size_t next_;
+};
+
+QString HumanSlot(Random& random, const QString& name, int side, int team) {
     return u"H%1,C0A80%2,8088,TT,%3,%4,-1,%5,1"_s.arg(name)
         .arg(random.Between(100, 199))
         .arg(random.Below(8))
-        .arg(random.Pick(SidesOf(game)))
+        .arg(side)
         .arg(team);
 }
 
-QString ComputerSlot(Random& random, GameIndex game, int team) {
+QString ComputerSlot(Random& random, int side, int team) {
     static const QStringList strengths{u"CE"_s, u"CM"_s, u"CH"_s};
-    return u"%1,%2,%3,-1,%4"_s.arg(random.Pick(strengths))
-        .arg(random.Below(8))
-        .arg(random.Pick(SidesOf(game)))
-        .arg(team);
+    return u"%1,%2,%3,-1,%4"_s.arg(random.Pick(strengths)).arg(random.Below(8)).arg(side).arg(team);
+}
+
+/// A map as the game writes it: "03maps/" and its name, or the path of its file.
+QString MapEntry(GameIndex game, quint64 seed) {
+    if (game != 3)
+        return u"03maps/"_s + PlaceName(seed).toLower();
+    const QString name = seed % WorldReplayCount == 0 ? u"wor rhun"_s : PlaceName(seed).toLower();
+    return u"data/maps/official/map %1/map %1.map"_s.arg(name);
 }
 
 void AddChunk(Bytes& bytes, int id, const QByteArray& data) {
@@ -83,18 +103,18 @@ QByteArray Replay(GameIndex game, const ReplayFacts& facts, qsizetype bodySize, 
         .Little32(begin)
         .Little32(begin + random.Between(300, 3600))
         .Little32(random.Between(9000, 90000));
-    bytes.Zeros(8);
+    bytes.Zeros(10);
     AddWide(bytes, u"Last Replay"_s);
     bytes.Little16(2005).Little16(11).Little16(1).Little16(7).Little16(20).Little16(15).Little16(30).Little16(0);
     AddWide(bytes, u"Version "_s + facts.Version);
     AddWide(bytes, u"Nov 7 2005 12:00:00"_s);
     bytes.Little32(65540).Little32(random.Below(1 << 30)).Little32(0);
     bytes.Raw(AnsiCodec::Encode(u"US=1;M=%1;MC=%2;MS=%3;SD=%4;C=100;SR=0;SC=10000;O=N;S=%5:;"_s.arg(facts.Map)
-                                    .arg(random.Below(1 << 30), 0, 16)
+                                    .arg(QString::number(random.Below(1 << 30), 16).toUpper())
                                     .arg(random.Between(100000, 900000))
                                     .arg(random.Below(1 << 30))
                                     .arg(facts.Slots)));
-    bytes.Byte(0).Raw("0").Byte(0);
+    bytes.Byte(0);
     const qsizetype end = std::max<qsizetype>(HeadSize, bytes.Size() + bodySize);
     while (bytes.Size() < end)
         bytes.Little32(random.Below(1 << 20)).Little32(random.Between(1000, 1120)).Little32(random.Below(8));
@@ -102,22 +122,38 @@ QByteArray Replay(GameIndex game, const ReplayFacts& facts, qsizetype bodySize, 
 }
 
 ReplayFacts RandomReplayFacts(GameIndex game, quint64 seed) {
-    static const QStringList names{u"Alice"_s, u"Bertrand"_s, u"Chloé"_s, u"Dirk"_s,
-                                   u"Elena"_s, u"Farid"_s,    u"Günter"_s};
+    static const QStringList names{u"Alice"_s,         u"Bertrand"_s, u"Chloé"_s,    u"Dirk [CLAN]"_s,
+                                   u"Älvira (late)"_s, u"Farid"_s,    u"{Günter}"_s, u"Jöß <Ü>"_s};
     static const std::array<QString, GameCount> versions{u"1.08"_s, u"1.04"_s, u"1.03"_s, u"1.06"_s};
     Random random(seed);
-    const int humans = random.Between(1, 3), computers = random.Between(1, 3), firstName = random.Below(4);
-    const bool teams = random.Below(3) != 0;
+    Sides sides(game, seed);
+    const int humans = random.Between(1, 2), computers = random.Between(FewestPlayers - 1, 3);
+    const int firstName = random.Below(static_cast<int>(names.size()));
+    const bool teams = seed % 3 != 0;
+    const int teamCount = random.Between(2, 4), firstTeam = random.Below(5);
+    const auto teamOf = [&](int player) { return teams ? firstTeam + player % teamCount : -1; };
     QStringList slotTexts;
     for (int i = 0; i < humans; ++i)
-        slotTexts += HumanSlot(random, game, names[firstName + i], teams ? i % 2 : -1);
+        slotTexts += HumanSlot(random, names[(firstName + i) % names.size()], sides.Next(), teamOf(i));
     for (int i = 0; i < computers; ++i)
-        slotTexts += ComputerSlot(random, game, teams ? (humans + i) % 2 : -1);
-    if (random.Below(2) == 0)
+        slotTexts += ComputerSlot(random, sides.Next(), teamOf(humans + i));
+    if (seed % 3 != 1)
         slotTexts += u"O"_s;
+    if (seed % 3 != 2)
+        slotTexts.insert(1, HumanSlot(random, u"Émile the watcher"_s, ObservingSide, -1));
     while (slotTexts.size() < SlotCount)
-        slotTexts += u"X"_s;
-    return {versions.at(static_cast<size_t>(game)), u"077maps/"_s + PlaceName(seed).toLower(), slotTexts.join(u':')};
+        slotTexts.insert(random.Between(1, static_cast<int>(slotTexts.size())), u"X"_s);
+    return {versions.at(static_cast<size_t>(game)), MapEntry(game, seed), slotTexts.join(u':')};
+}
+
+std::vector<NamedReplay> WorldReplays(GameIndex game) {
+    std::vector<NamedReplay> replays;
+    for (int i = 0; i < WorldReplayCount; ++i) {
+        const quint64 seed = static_cast<quint64>(game) * WorldReplayCount + static_cast<quint64>(i);
+        const QString name = i == 0 ? u"Last Replay"_s : PlaceName(seed) + u" %1"_s.arg(i);
+        replays.push_back({name + ReplayExtension(game), RandomReplayFacts(game, seed), seed});
+    }
+    return replays;
 }
 
 QByteArray Map(int size, quint64 seed) {

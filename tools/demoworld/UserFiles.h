@@ -16,15 +16,25 @@ namespace Demo {
 /// What a replay's head tells.
 struct ReplayFacts {
     QString Version = QStringLiteral("1.04"); ///< behind the word "Version"
-    QString Map;                              ///< as the game writes it: "077maps/" and the map's name
+    QString Map;                              ///< as the game writes it, see RandomReplayFacts
     QString Slots;                            ///< without the closing colon, eight of them joined by colons
 };
 
 /// A replay of `bodySize` bytes behind its head; never shorter than 2,048 bytes in all.
 QByteArray Replay(GameIndex game, const ReplayFacts& facts, qsizetype bodySize, quint64 seed);
 
-/// The facts of a game between made-up players, with sides that the game knows.
+/// The facts of a game between made-up players, with sides that the game knows, teams or none, observers and closed
+/// slots. The map is "03maps/" and its name, in the last game the path of its file.
 ReplayFacts RandomReplayFacts(GameIndex game, quint64 seed);
+
+struct NamedReplay {
+    QString FileName;
+    ReplayFacts Facts;
+    quint64 Seed;
+};
+
+/// The replays of a world, in which each side of the game plays.
+std::vector<NamedReplay> WorldReplays(GameIndex game);
 
 /// The extension with its dot: ".rep", or ".BfME2Replay" for game 3.
 QString ReplayExtension(GameIndex game);

@@ -146,11 +146,10 @@ private:
     }
 
     void MakeReplays(GameIndex game) {
-        for (int i = 0; i < 6; ++i) {
-            const auto seed = static_cast<quint64>(game) * 6 + static_cast<quint64>(i);
-            const QString name = i == 0 ? u"Last Replay"_s : PlaceName(seed) + u" %1"_s.arg(i);
-            Write(UserFolder(game) + u"Replays/"_s + name + ReplayExtension(game),
-                  Replay(game, RandomReplayFacts(game, seed), options_.Small ? 0 : 20000 * (i + 1), seed));
+        qsizetype size = 0;
+        for (const NamedReplay& replay : WorldReplays(game)) {
+            size += options_.Small ? 0 : 20000;
+            Write(UserFolder(game) + u"Replays/"_s + replay.FileName, Replay(game, replay.Facts, size, replay.Seed));
         }
     }
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// demoworld: makes the demo world, the tree that is measured with, an archive of many entries, and a string table of
-/// many rows.
+/// demoworld: makes the demo world, the tree that is measured with, an archive of many entries, a string table of many
+/// rows, and a folder of many replays.
 #include "tools/demoworld/Tree.h"
 #include "tools/demoworld/World.h"
 
@@ -80,13 +80,16 @@ int main(int argc, char* argv[]) {
     const QCommandLineOption folders(u"folders"_s, u"spread the entries over nested folders"_s);
     const QCommandLineOption strings(u"strings"_s, u"make a string table instead"_s, u"file"_s);
     const QCommandLineOption rows(u"rows"_s, u"number of rows in the string table"_s, u"number"_s, u"20000"_s);
-    parser.addOptions({language, small, again, tree, files, bytes, archive, entries, folders, strings, rows});
+    const QCommandLineOption replays(u"replays"_s, u"make a folder of replays instead"_s, u"folder"_s);
+    const QCommandLineOption count(u"count"_s, u"number of replays in the folder"_s, u"number"_s, u"5000"_s);
+    parser.addOptions(
+        {language, small, again, tree, files, bytes, archive, entries, folders, strings, rows, replays, count});
     parser.process(application);
 
     const std::optional<qint64> size = ByteCount(parser.value(bytes));
     const int fileCount = parser.value(files).toInt(), entryCount = parser.value(entries).toInt();
-    const int rowCount = parser.value(rows).toInt();
-    if (!size || fileCount <= 0 || entryCount <= 0 || rowCount <= 0)
+    const int rowCount = parser.value(rows).toInt(), replayCount = parser.value(count).toInt();
+    if (!size || fileCount <= 0 || entryCount <= 0 || rowCount <= 0 || replayCount <= 0)
         return WrongUsage(parser);
     if (parser.isSet(tree))
         return Report(Demo::MakeTree(parser.value(tree), fileCount, *size));
@@ -94,6 +97,8 @@ int main(int argc, char* argv[]) {
         return Report(Demo::MakeTinyArchive(parser.value(archive), entryCount, parser.isSet(folders)));
     if (parser.isSet(strings))
         return Report(Demo::MakeStrings(parser.value(strings), rowCount));
+    if (parser.isSet(replays))
+        return Report(Demo::MakeReplays(parser.value(replays), replayCount));
     if (parser.positionalArguments().size() != 1)
         return WrongUsage(parser);
     return Report(Demo::MakeWorld(

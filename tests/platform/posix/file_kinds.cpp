@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "platform/File.h"
+#include "platform/Files.h"
 #include "tests/platform/InAFolder.h"
 
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstring>
 
 using namespace Qt::StringLiterals;
@@ -73,4 +76,12 @@ TEST_F(FileKinds, TheStateTellsAWriteInTheSameSecond) {
     file.Write(0, "BYTES");
     EXPECT_NE(file.State().Time, before.Time);
     EXPECT_EQ(file.State().Length, before.Length);
+}
+
+TEST_F(FileKinds, AWriteBefore1970IsRoundedDownToTheMillisecond) {
+    Make(u"f"_s, "1");
+    const std::array<timespec, 2> times{{{0, UTIME_OMIT}, {-2, 250'900'000}}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, Native(u"f"_s).constData(), times.data(), 0), 0);
+    EXPECT_EQ(StateOf(At(u"f"_s)).Modified().toMSecsSinceEpoch(), -1750);
+    EXPECT_EQ(Files::ModifiedTime(At(u"f"_s)).toMSecsSinceEpoch(), -1750);
 }

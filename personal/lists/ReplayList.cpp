@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "personal/lists/ReplayList.h"
+
+#include "core/FolderGateway.h"
+#include "core/NameOrder.h"
+#include "core/mTraduction.h"
+#include "personal/lists/ExportRecords.h"
+#include "personal/replay/Replay.h"
+#include "platform/FileNumbers.h"
+#include "platform/Files.h"
+#include "platform/NumberedFiles.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+using namespace Qt::StringLiterals;
+using mTraduction::GetText;
+
+namespace {
+
+constexpr qint32 ReplayKind = 2;
+
+std::vector<RowColumn> Columns() {
+    return {{.Caption = GetText(u"FileName"_s), .Fraction = 1 / 2.4},
+            {.Caption = GetText(u"Date"_s), .Fraction = 1 / 4.0},
+            {.Caption = GetText(u"Version"_s), .Fraction = 1 / 8.0},
+            {.Caption = GetText(u"Players"_s), .Sort = SortKind::Number, .Fraction = 1 / 8.0},
+            {.Caption = GetText(u"Map"_s)}};
+}
+
+QStringList ReplayNames(const QString& folder) {
+    QStringList names = Files::ListFolder(folder + u"*.*"_s);
+    names.removeIf([](const QString& name) { return !Replays::IsFileName(name); });
+    NameOrder::Sort(names);
+    return names;
+}
+
+/// Opens a replay, its folder's case known, under the replays' number.
+void OpenReplay(const QString& path) {
+    if (NumberedFiles::IsOpen(FileNumbers::Replay)) {
+        const QString holder = NumberedFiles::Of(FileNumbers::Replay).Name();
+        throw RuntimeError(ErrorNumber::FileAlreadyOpen,
+                           u"%1: can't be opened while %2 is, which is no whole replay and was left open"_s.arg(
+                               Paths::ToNativeAsGiven(path), holder));
+    }
+    NumberedFiles::OpenAsGiven(FileNumbers::Replay, path, NumberedFiles::Access::Read);
+}
+
+/// Runs a step on what a replay holds; what it raises names the file, so that its owner knows which one to take away.
+template <typename Step>
+void Naming(const QString& path, Step&& step) {
+    try {
+        std::forward<Step>(step)();
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.Number(), Paths::ToNativeAsGiven(path) + u": "_s + error.Description());
+    }
+}
+
+void RequirePlainName(const QString& fileName) {
+    QString refusal = FolderGateway::RefusalOf(fileName);
+    if (fileName.contains(u'\\') || fileName.contains(u'/'))
+        refusal = u"a name can't lead into another folder"_s;
+    if (!refusal.isEmpty())
+        throw RuntimeError(ErrorNumber::InvalidCall, fileName + u": "_s + refusal);
+}
+
+} // namespace
+
+ReplayList::ReplayList() : GameList(Columns(), RowList::Edits::Yes) {}
+
+qint16 ReplayList::ListReplays(qint32& game, bool countOnly) {
+    if (!countOnly) {
+        Begin(game);
+        SetFolder(EntryOf(game).ReplayPath);
+    }
+    const QString folder = EntryOf(game).ReplayPath;
+    // Looked up once and not for each file.
+    const QString found = Paths::FromNative(Paths::ToNative(folder));
+    qint16 count = 0;
+    for (const QString& name : ReplayNames(folder)) {
+        if (!countOnly)
+            AddReplay(name, found + name);
+        // Names count, also those of files with a wrong mark. This is meant.
+        Increment(count);
+    }
+    return count;
+}
+
+void ReplayList::AddReplay(const QString& name, const QString& path) {
+    OpenReplay(path);
+    const QByteArray header = NumberedFiles::Read(FileNumbers::Replay, 0, Replays::HeaderLength);
+    // The file stays open, and the next true replay's open fails. This is meant.
+    if (!Replays::HasMark(header))
+        return;
+    Naming(path, [&] {
+        // Each step fills in what it has found before the next one can fail.
+        const int place = Rows().Add({.Text = Replays::NameOf(name), .Key = Folder() + name});
+        Replay replay;
+        Replays::ReadMatch(header, replay);
+        const QDateTime modified = NumberedFiles::Of(FileNumbers::Replay).State().Modified();
+        Rows().SetSubItem(place, Date, Replays::DateText(modified));
+        Replays::ReadVersion(header, replay);
+        Rows().SetSubItem(place, Version, replay.Version);
+        Rows().SetSubItem(place, Players, QString::number(replay.Players));
+        Rows().SetSubItem(place, Map, replay.Map);
+        Rows().SetTag(place, replay.Slots + u';');
+    });
+    NumberedFiles::Close(FileNumbers::Replay);
+}
+
+void ReplayList::DeleteReplay(bool& done) {
+    const QString path = SelectedRow().Key;
+    Ignoring([&] { Files::DeleteForced(path); });
+    done = !Files::FileExists(path);
+}
+
+void ReplayList::Rename(int place, const QString& text) {
+    const QString old = Rows().Row(place).Text;
+    if (text == old)
+        return;
+    Rows().SetText(place, text);
+    // The game decides the extension, whatever the file's own is. This is meant.
+    const QString extension = Replays::Extension(Listed());
+    RequirePlainName(text.isEmpty() ? text : text + extension);
+    const QString from = Folder() + old + extension;
+    const QString to = Folder() + text + extension;
+    // Another name of the same file, such as a link to it, is no free name either.
+    if (from.compare(to, Qt::CaseInsensitive) != 0 && Files::SameFile(from, to))
+        throw RuntimeError(ErrorNumber::FileAlreadyExists, Paths::ToNative(to) + u": exists already"_s);
+    Files::Rename(from, to);
+    Rows().SetKey(place, to);
+}
+
+void ReplayList::LoadPlayerList(std::vector<PlayerNode>& tree) const {
+    if (Selected() < 0 || Selected() >= Rows().Count())
+        return;
+    if (const QString& tag = Rows().Row(Selected()).Tag; !tag.isEmpty())
+        tree = ReplayPlayers::Tree(tag, Listed());
+}
+
+void ReplayList::BuildExportList() {
+    ExportRecords = {};
+    for (const int place : Rows().Checked()) {
+        const ListRow& row = Rows().Row(place);
+        ExportRecords.push_back({row.Key, row.Text + Replays::Extension(Listed()), ReplayKind});
+    }
+    if (!ExportRecords.empty())
+        return;
+    // The list is made with an empty record, whose taking away fails. This is meant.
+    ExportRecords.emplace_back();
+    throw RuntimeError(ErrorNumber::Subscript, u"no replay is checked"_s);
+}
