@@ -51,7 +51,8 @@ void PersonalFiles::ShowMap(const ListRow& row) {
     state_.MapDetailsVisible = true;
     state_.MapName = row.Text;
     state_.MapSize = Sizes::KiloBytes(Files::FileLength(row.Key + u'\\' + row.Text + u".map"_s));
-    const QString picture = MapFiles::Preview(row.Key, row.Text);
+    QString picture;
+    Ignoring([&] { picture = MapFiles::Preview(row.Key, row.Text); });
     state_.MapPaneHeight = picture.isEmpty() ? MapPaneWithout : MapPaneWithPicture;
     if (picture.isEmpty())
         picture_.Abandon();
@@ -93,7 +94,7 @@ void PersonalFiles::ShowShellMap(const ListRow& row) {
 }
 
 void PersonalFiles::RenameRow(int place, const QString& text) {
-    if (!Has(place) || state_.ShownList != PersonalKind::Replay)
+    if (!Has(place) || state_.ShownList != PersonalKind::Replay || !replays_.Rows().TakesEdit(place, text))
         return;
     const bool isChecked = Row(place).Checked;
     checked_.Set(PersonalKind::Replay, Row(place), false);

@@ -62,7 +62,6 @@ frmPersonalFiles::frmPersonalFiles(QWidget* parent)
     Dress();
     files_.UseDecoder(&decoder_);
     files_.RebuildTree();
-    MakeRoomForTree();
     StateChanged();
 }
 
@@ -87,12 +86,16 @@ void frmPersonalFiles::Dress() {
     ui_->tvFiles->setFocus();
 }
 
-// As wide as the longest name in the user's language, where that leaves the list its room.
+// As wide as the longest name in the user's language, where that leaves the list its room; as wide as the user wants as
+// soon as the divider was moved.
 void frmPersonalFiles::MakeRoomForTree() {
-    constexpr int widest = 320;
+    constexpr int narrowest = 160;
+    constexpr int listsRoom = 324;
+    if (userSized_)
+        return;
     ui_->tvFiles->header()->resizeSections(QHeaderView::ResizeToContents);
     const int wanted = ui_->tvFiles->columnWidth(0) + 2 * ui_->tvFiles->frameWidth() + 4;
-    ui_->picSplitter->SetPosition(std::clamp(wanted, ui_->picSplitter->Position(), widest));
+    ui_->picSplitter->SetPosition(std::max(narrowest, std::min(wanted, ui_->picSplitter->width() - listsRoom)));
 }
 
 void frmPersonalFiles::NameForReaders() {
@@ -168,6 +171,8 @@ void frmPersonalFiles::ConnectTree() {
     connect(ui_->tvFiles, &QWidget::customContextMenuRequested, this,
             [this](QPoint place) { treeMenu_->popup(ui_->tvFiles->viewport()->mapToGlobal(place)); });
     ui_->tvFiles->viewport()->installEventFilter(this);
+    ui_->picSplitter->installEventFilter(this);
+    connect(ui_->picSplitter, &SplitterBox::BeforeDrag, this, [this] { userSized_ = true; });
 }
 
 void frmPersonalFiles::ConnectList(KindPart& part) {
@@ -208,6 +213,8 @@ bool frmPersonalFiles::eventFilter(QObject* watched, QEvent* event) {
         pressedNode_.clear();
         pressedRow_ = GameList::None;
     }
+    if (event->type() == QEvent::Resize && watched == ui_->picSplitter)
+        MakeRoomForTree();
     return ToolWindow::eventFilter(watched, event);
 }
 
@@ -262,6 +269,7 @@ void frmPersonalFiles::TreeChanged() {
         nodes.push_back({node.Key, node.Text, node.Parent, PersonalPictures::Of(node.Kind)});
     treeModel_->Reset(std::move(nodes));
     ui_->tvFiles->expandAll();
+    MakeRoomForTree();
 }
 
 void frmPersonalFiles::ListChanging(PersonalKind list, RowChange change, int place) {

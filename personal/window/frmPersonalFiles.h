@@ -103,5 +103,6 @@ private:
     QLabel* status_;      ///< the status bar's text
     QString pressedNode_; ///< what the mouse button that is down has selected
     int pressedRow_ = GameList::None;
+    bool userSized_ = false; ///< the user moved the divider beside the tree
     bool following_ = false; ///< the controls follow the document, not the other way round
 };

@@ -77,7 +77,7 @@ void RowListView::SizeColumns() {
     const int last = rows_->columnCount() - 1;
     // What the toolkit stretches it from.
     header()->resizeSection(last, header()->sectionSizeHint(last));
-    for (int column = 0; column <= last; ++column) {
+    for (int column = 0; column < last; ++column) {
         const double fraction = rows_->Columns()[static_cast<std::size_t>(column)].Fraction;
         // A list that is too narrow for its captions scrolls.
         if (fraction > 0)

@@ -184,6 +184,14 @@ protected:
         return list.model()->index(row, 0).data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
     }
 
+    RowListView& ShowTwoReplays() {
+        AddReplay(QStringLiteral("a"));
+        AddReplay(QStringLiteral("b"));
+        Open();
+        ClickNode(QStringLiteral("GenReplays"));
+        return *List("lstReplays");
+    }
+
     SideLink* Link(int index) {
         return window_->findChild<SideLink*>(QStringLiteral("Label2_%1").arg(index));
     }

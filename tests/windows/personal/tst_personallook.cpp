@@ -184,17 +184,17 @@ private Q_SLOTS:
         QCOMPARE(Part<SideGroup>("mnuDetailsMaps")->height(), SideGroup::HeadingHeight);
     }
 
-    void thousandsOfRowsComeUpAtOnceAndScroll() {
+    void aThousandRowsNeedNoControlOfTheirOwn() {
         Begin();
-        for (int number = 0; number < 3000; ++number)
+        for (int number = 0; number < 1000; ++number)
             AddReplay(u"Replay %1"_s.arg(number, 4, 10, QChar(u'0')));
         Open();
         ClickNode(u"GenReplays"_s);
         RowListView& list = *List("lstReplays");
-        QCOMPARE(list.model()->rowCount(), 3000);
+        QCOMPARE(list.model()->rowCount(), 1000);
         list.setFocus();
         QTest::keyClick(&list, Qt::Key_End);
-        QCOMPARE(Text("lblRFileName"), u"Replay 2999"_s);
+        QCOMPARE(Text("lblRFileName"), u"Replay 0999"_s);
         QVERIFY(list.findChildren<QWidget*>().size() < 20); // no control a row
     }
 
