@@ -7,6 +7,7 @@
 #include "core/window/frmAbout.h"
 #include "core/window/frmToolsMenu.h"
 #include "csf/window/frmCSFEditor.h"
+#include "personal/window/frmPersonalFiles.h"
 #include "platform/Processes.h"
 
 #include <QApplication>
@@ -25,8 +26,11 @@ template <typename Window>
 Window* Make() {
     auto* const window = new Window;
     window->setAttribute(Qt::WA_DeleteOnClose);
+    const QRect screen = window->screen()->availableGeometry();
+    constexpr QSize frame(16, 48); // about what title and borders take, which are not there yet
+    window->resize(window->size().boundedTo(screen.size() - frame));
     QRect place = window->geometry();
-    place.moveCenter(window->screen()->availableGeometry().center());
+    place.moveCenter(screen.center());
     window->move(place.topLeft());
     return window;
 }
@@ -105,9 +109,13 @@ void Suite::OpenCSFFile(const QString& path) {
     StayInMenu();
 }
 
+// One is enough: a second one would show what the first one deletes.
 bool Suite::ShowPersonalFiles() {
-    StayInMenu();
-    return false;
+    if (auto* const files = Shown<frmPersonalFiles>(); files != nullptr)
+        files->activateWindow();
+    else
+        Open<frmPersonalFiles>();
+    return true;
 }
 
 void Suite::ShowAddFiles(QObject* /*owner*/) {

@@ -113,7 +113,6 @@ GameFiles::RecordPlace GameFiles::ShellMapRecord(GameIndex game, const QString& 
 }
 
 GameFiles::Record GameFiles::ReadRecord(const RecordPlace& place) {
-    INIRuntime& ini = mMain::INI();
-    return {.Name = ini.ReadINI(place.Section, u"Name"_s, place.File),
-            .Comments = ini.ReadINI(place.Section, u"Comments"_s, place.File)};
+    const QStringList values = mMain::INI().ReadValues(place.Section, {u"Name"_s, u"Comments"_s}, place.File);
+    return {.Name = values[0], .Comments = values[1]};
 }

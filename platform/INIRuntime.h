@@ -8,12 +8,16 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class INIRuntime {
 public:
     /// At most the first 254 characters of the value; empty when file, section or key is missing.
     /// `file` is a full inside path.
     [[nodiscard]] QString ReadINI(const QString& section, const QString& key, const QString& file) const;
+
+    /// The same for several keys of one section, which need the file once only.
+    [[nodiscard]] QStringList ReadValues(const QString& section, const QStringList& keys, const QString& file) const;
 
     /// Makes the file, section or key when missing. Returns "1" for done and "0" for failed.
     QString WriteINI(const QString& section, const QString& key, const QString& value, const QString& file) const;

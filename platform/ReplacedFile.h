@@ -20,4 +20,20 @@ bool IsWriteProtected(const QString& path);
 /// it has not got the permissions.
 bool KeepOwnerAndMode(const File& file, const QString& old);
 
+/// While this lives another file may be put in the place of an open one whose bytes are still needed; behind it the
+/// file is open as before, and is gone from the disk when it is closed. Where the system can't do that the file is
+/// closed.
+class StaysOpen {
+public:
+    /// `path` is the open file's inside path; the file outlives this.
+    StaysOpen(File& file, const QString& path);
+    ~StaysOpen();
+    StaysOpen(const StaysOpen&) = delete;
+    StaysOpen& operator=(const StaysOpen&) = delete;
+
+private:
+    File& file_;
+    QString name_; ///< the system's path of a second name that holds the bytes; empty where none is needed
+};
+
 } // namespace ReplacedFile

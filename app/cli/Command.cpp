@@ -23,7 +23,7 @@ struct Taken {
 CLI::Option* AddTo(CLI::App& app, const Parameter& parameter) {
     using Kind = Parameter::Kind;
     if (parameter.What == Kind::Flag)
-        return app.add_flag(parameter.Name, parameter.Description);
+        return app.add_flag(parameter.Name, parameter.Description)->required(parameter.Required);
     CLI::Option* option = app.add_option(parameter.Name, parameter.Description);
     option->required(parameter.Required || parameter.What == Kind::Place);
     if (parameter.What == Kind::Places || parameter.What == Kind::List)

@@ -50,7 +50,7 @@ struct Parameter {
     std::string Name{};
     std::string Description{};
     std::string TypeName{};                      ///< of the value, in the help
-    bool Required = false;                       ///< for options and Places
+    bool Required = false;                       ///< for options, flags and Places
     std::vector<std::string> Members{};          ///< the only values allowed, where there are any
     int Least = std::numeric_limits<int>::min(); ///< of a Number
     int Most = std::numeric_limits<int>::max();

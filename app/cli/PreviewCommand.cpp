@@ -3,19 +3,14 @@
 
 #include "app/cli/BigArchive.h"
 #include "app/cli/BigCommands.h"
+#include "app/cli/DecodedPicture.h"
 #include "app/cli/Output.h"
 #include "big/document/ArchiveExtractor.h"
-#include "media/MediaProcess.h"
-#include "platform/Files.h"
 #include "platform/Paths.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QEventLoop>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -25,23 +20,6 @@ namespace {
 QString Kind(const QString& name) {
     const QString extension = name.sliced(name.lastIndexOf(u'.') + 1).toLower();
     return QRegularExpression(u"^[a-z]{1,4}$"_s).match(extension).hasMatch() ? extension : QString();
-}
-
-/// Decodes in the child process and waits for it.
-bool Decode(const QString& source, const QString& target) {
-    std::array<char, 1> name{};
-    char* arguments = name.data();
-    int count = 1;
-    const QCoreApplication application(count, &arguments);
-    MediaClient client;
-    QEventLoop loop;
-    bool decoded = false;
-    client.Ask({MediaJob::Kind::Picture, source, target}, [&](bool done) {
-        decoded = done;
-        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
-    });
-    loop.exec();
-    return decoded;
 }
 
 void SavePreview(const Arguments& given) {
@@ -54,11 +32,9 @@ void SavePreview(const Arguments& given) {
         Fail(archive.FileName, folder.errorString());
     const QString inside = Paths::FromNative(QDir::toNativeSeparators(folder.path()));
     const QString source = u"picture."_s + Kind(name);
-    const QString bitmap = inside + u"\\preview.out"_s;
     ArchiveExtractor(archive.FileName, inside).Extract(entry, source);
-    if (!Decode(inside + u'\\' + source, bitmap))
+    if (!DecodeToBitmap(inside + u'\\' + source, given.Path("OUT.bmp")))
         Fail(archive.FileName, u"%1 is no picture that can be read"_s.arg(name));
-    Files::Copy(bitmap, given.Path("OUT.bmp"));
 }
 
 } // namespace

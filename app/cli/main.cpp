@@ -5,6 +5,7 @@
 #include "app/cli/BigCommands.h"
 #include "app/cli/CsfCommands.h"
 #include "app/cli/GameCommands.h"
+#include "app/cli/ListCommands.h"
 #include "app/cli/Output.h"
 #include "app/cli/ReplayCommands.h"
 #include "app/cli/ScriptHost.h"
@@ -31,6 +32,9 @@ int Run(const std::vector<std::string>& words) {
     groups.push_back(Big());
     groups.push_back({"csf", "CSF string tables", CsfCommands()});
     groups.push_back({"replays", "A game's replays", ReplayCommands()});
+    groups.push_back({"maps", "A game's maps", MapCommands()});
+    groups.push_back({"mods", "A game's mods", ModCommands()});
+    groups.push_back({"shellmaps", "A game's shell maps", ShellMapCommands()});
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));
 }

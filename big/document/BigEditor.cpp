@@ -40,6 +40,7 @@ bool BigEditor::LoadBig(const QString& path) {
     if (!Ignoring([&] { mBIG::Load(path); }))
         return false;
     panes_.Shown = mBIG::CurrentIdentity();
+    saves_.ForgetOriginals();
     copies_.EntriesGone();
     panes_.State.ShowsOnlyEntry = false;
     panes_.CreateDirs();
@@ -52,7 +53,7 @@ void BigEditor::ResetAfterOpen() {
     panes_.State.Modified = false;
     panes_.State.ExactOffsets = OffsetNotices::IsExactByDefault();
     ArchiveOpened();
-    OffsetNotices::TellOpened(panes_);
+    saves_.TellOpened();
 }
 
 void BigEditor::ArchiveOpened() {
@@ -135,6 +136,7 @@ void BigEditor::New() {
     panes_.View.ShowVersion();
     mBIG::New(*path, mBIG::BigVersion);
     panes_.Shown = mBIG::CurrentIdentity();
+    saves_.ForgetOriginals();
     copies_.EntriesGone();
     panes_.State.ShowsOnlyEntry = false;
     panes_.CreateDirs();

@@ -9,7 +9,6 @@
 #include "core/mTraduction.h"
 
 #include <algorithm>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
@@ -19,23 +18,6 @@ namespace {
 QString TextOf(QString text, const OffsetShift::Shift& shift) {
     const QString distance = (shift.First < 0 ? u"-"_s : u"+"_s) + Sizes::Grouped(std::abs(shift.First));
     return text.replace("%1"_L1, Sizes::Grouped(shift.Count)).replace("%2"_L1, distance);
-}
-
-/// Gives the entries the offsets at which their bytes lie, whatever was changed in the table since. Does nothing when
-/// another archive is open by then.
-std::function<bool()> ReadBack(const OffsetShift::Shift& shift) {
-    std::vector<qint32> offsets;
-    for (const BigEntry& entry : OffsetShift::ReadShiftedBack(mBIG::Open(), shift).Entries)
-        offsets.push_back(entry.Offset);
-    return [offsets = std::move(offsets), archive = mBIG::CurrentIdentity()] {
-        if (archive != mBIG::CurrentIdentity())
-            return false;
-        const std::size_t count = std::min(offsets.size(), mBIG::BigEntries.size());
-        for (std::size_t index = 0; index < count; ++index)
-            if (BigEntry& entry = mBIG::BigEntries[index]; !entry.IsNew)
-                entry.Offset = offsets[index];
-        return true;
-    };
 }
 
 /// Shows a notice. It comes back when a link of it is refused, as the archive is locked.
@@ -81,35 +63,35 @@ bool IsExactByDefault() {
     return ReadSetting(SettingKeys::ExactOffsets) == "1"_L1;
 }
 
-void TellWritten(EditorPanes& panes, const OffsetShift::Shift& shift, const std::function<void()>& saveExactly) {
-    if (shift.IsNone())
+void TellWritten(EditorPanes& panes, const Written& written, const std::function<void()>& saveExactly) {
+    if (written.Shift.IsNone() && written.CutCount == 0)
         return TellWithOnlyEntry(panes, {}, {});
-    const auto save = [readBack = ReadBack(shift), saveExactly] {
-        if (readBack())
-            saveExactly();
-    };
-    const auto always = [save] {
+    const auto always = [saveExactly] {
         WriteSetting(SettingKeys::ExactOffsets, u"1"_s);
-        save();
+        saveExactly();
     };
-    TellWithOnlyEntry(panes,
-                      {.Text = TextOf(GetText(u"SavedShifted"_s), shift),
-                       .Links = {{GetText(u"SaveExactly"_s), save}, {GetText(u"Always"_s), always}}},
-                      TextOf(GetText(u"OneEntryShifted"_s), shift));
+    Notice notice;
+    if (saveExactly)
+        notice.Links = {{GetText(u"SaveExactly"_s), saveExactly}, {GetText(u"Always"_s), always}};
+    if (written.Shift.IsNone()) {
+        notice.Text = GetText(u"SavedCut"_s).replace("%1"_L1, Sizes::Grouped(written.CutCount));
+        return TellWithOnlyEntry(panes, notice, GetText(u"OneEntryCut"_s));
+    }
+    notice.Text = TextOf(GetText(u"SavedShifted"_s), written.Shift);
+    TellWithOnlyEntry(panes, notice, TextOf(GetText(u"OneEntryShifted"_s), written.Shift));
 }
 
 void TellNotSaved(EditorPanes& panes, const std::function<void()>& saveExactly) {
     Tell(panes, {.Text = GetText(u"OneEntryNotSaved"_s), .Links = {{GetText(u"SaveExactly"_s), saveExactly}}});
 }
 
-void TellOpened(EditorPanes& panes) {
-    const OffsetShift::Shift shift = OffsetShift::ShiftOf(mBIG::Open(), mBIG::LengthOnDisk());
+void TellOpened(EditorPanes& panes, const OffsetShift::Shift& shift, const std::function<bool()>& readBack) {
     if (shift.IsNone())
         return TellWithOnlyEntry(panes, {}, {});
     if (shift.ExactFits)
         return TellWithOnlyEntry(panes, {.Text = TextOf(GetText(u"MayBeShifted"_s), shift)},
                                  TextOf(GetText(u"OneEntryMayBeShifted"_s), shift));
-    const auto mend = [&panes, readBack = ReadBack(shift)] {
+    const auto mend = [&panes, readBack] {
         if (!readBack())
             return;
         panes.State.Modified = true;

@@ -15,14 +15,20 @@ namespace OffsetNotices {
 /// Whether archives are saved with exact offsets unless their own choice is another.
 [[nodiscard]] bool IsExactByDefault();
 
-/// Behind a save, which was read back: how many entries lie how far beside, with the links to save exactly, now or
-/// always. Without a shift the strip is closed.
-void TellWritten(EditorPanes& panes, const OffsetShift::Shift& shift, const std::function<void()>& saveExactly);
+struct Written {
+    OffsetShift::Shift Shift;
+    int CutCount = 0; ///< entries of which a part was not saved, as the directory that was read led beside them
+};
+
+/// Behind a save, which was read back: how many entries lie how far beside, or were cut off, with the links to save
+/// exactly, now or always; without them when `saveExactly` is empty. With nothing to tell the strip is closed.
+void TellWritten(EditorPanes& panes, const Written& written, const std::function<void()>& saveExactly);
 
 /// Behind a save that wrote nothing, as there is one entry only.
 void TellNotSaved(EditorPanes& panes, const std::function<void()>& saveExactly);
 
-/// Behind an opening: a shift with the link that reads it back, an only entry with the link that shows it.
-void TellOpened(EditorPanes& panes);
+/// Behind an opening: a shift with the link that reads it back (false when another archive is open by then), an only
+/// entry with the link that shows it.
+void TellOpened(EditorPanes& panes, const OffsetShift::Shift& shift, const std::function<bool()>& readBack);
 
 } // namespace OffsetNotices

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using Document::Saved;
@@ -64,15 +65,15 @@ Saved SaveCommand::SaveBeforeGoingOn() {
     return Saved::Failed;
 }
 
-Saved SaveCommand::SaveUnderName() {
+Saved SaveCommand::SaveUnderName(Bytes bytes) {
     if (mBIG::BigFileName != GetText(u"New"_s) + "BIG.big"_L1)
-        return SaveTo(mBIG::BigFileName);
+        return SaveTo(mBIG::BigFileName, bytes);
     const auto path = Host::Current().SaveFileName(ArchiveDialog());
     if (!path)
         return Saved::Cancelled;
     Ignoring([&] { panes_.Tree.SetRootText(Paths::LastPart(*path)); });
     panes_.View.StateChanged();
-    return SaveTo(*path);
+    return SaveTo(*path, bytes);
 }
 
 /// The question about new entries whose files have gone, before anything is written.
@@ -94,16 +95,20 @@ bool SaveCommand::GoesOnWithoutSources() {
                                    u"Brindock 2005"_s, Host::Answer::No) == Host::Answer::Yes;
 }
 
-Saved SaveCommand::SaveTo(const QString& path) {
-    const auto placement = panes_.State.ExactOffsets ? Archives::Placement::Exact : Archives::Placement::Told;
-    const bool writes = placement == Archives::Placement::Exact || mBIG::HighestIndex() > 0;
+Saved SaveCommand::SaveTo(const QString& path, Bytes bytes) {
+    const bool exact = panes_.State.ExactOffsets;
+    const auto placement = exact ? Archives::Placement::Exact : Archives::Placement::Told;
+    const bool writes = exact || mBIG::HighestIndex() > 0;
     if (writes && !GoesOnWithoutSources())
         return Saved::Cancelled;
     const std::vector<int> newIndices = Archives::IndicesAfterSave(mBIG::Open());
     copies_.BeforeSave();
     std::optional<OffsetShift::Shift> shift;
     try {
-        shift = mBIG::Save(path, {.Kept = copies_.Kept(), .Place = placement});
+        shift = mBIG::Save(path, {.Kept = copies_.Kept(),
+                                  .Place = placement,
+                                  .Originals = &originals_,
+                                  .FromOriginals = bytes == Bytes::Original || (exact && originals_.AreOfASave())});
     } catch (const RuntimeError& error) {
         Host::Current().Message(GetText(u"SaveFailed"_s) + "\r\n"_L1 + error.Description(), Host::Icon::Critical);
         return Saved::Failed;
@@ -111,29 +116,67 @@ Saved SaveCommand::SaveTo(const QString& path) {
     // With nothing to save no message comes, and the progress window stays on the screen. This is meant.
     if (!shift) {
         if (!Archives::IsBlank(mBIG::Open()))
-            OffsetNotices::TellNotSaved(panes_, [this] { SaveExactly(); });
+            TellNotSaved();
         return Saved::NothingToSave;
     }
-    ShowWritten(path, newIndices);
+    ShowWritten(path, *shift, newIndices);
     if (mBIG::HasLostBytes()) {
         panes_.View.ShowNotice({});
         Host::Current().Message(GetText(u"SavedNotRead"_s), Host::Icon::Critical);
         return Saved::Yes;
     }
-    OffsetNotices::TellWritten(panes_, *shift, [this] { SaveExactly(); });
+    TellWritten(*shift);
     return Saved::Yes;
 }
 
-void SaveCommand::SaveExactly() {
-    panes_.State.ExactOffsets = true;
-    Save();
+std::function<void()> SaveCommand::ExactSave(std::function<void()> tellAgain) {
+    return [this, archive = mBIG::CurrentIdentity(), tellAgain = std::move(tellAgain)] {
+        if (archive != mBIG::CurrentIdentity())
+            return;
+        const EditorPanes::Command command(panes_);
+        panes_.State.ExactOffsets = true;
+        if (SaveUnderName(Bytes::Original) != Saved::Yes)
+            tellAgain();
+    };
 }
 
-void SaveCommand::ShowWritten(const QString& path, const std::vector<int>& newIndices) {
+void SaveCommand::TellOpened() {
+    const OffsetShift::Shift shift = OffsetShift::ShiftOf(mBIG::Open(), mBIG::LengthOnDisk());
+    const bool isMendable = !shift.IsNone() && !shift.ExactFits;
+    if (isMendable)
+        originals_.Know(shift);
+    else
+        originals_.Forget();
+    OffsetNotices::TellOpened(panes_, shift, [this, archive = mBIG::CurrentIdentity()] {
+        const bool isSame = archive == mBIG::CurrentIdentity();
+        if (isSame)
+            originals_.ReadBack();
+        return isSame;
+    });
+}
+
+void SaveCommand::TellWritten(const OffsetShift::Shift& shift) {
+    const OffsetNotices::Written written{shift, originals_.CutCount()};
+    // Nothing is offered that can't be held.
+    const std::function<void()> none;
+    OffsetNotices::TellWritten(panes_, written,
+                               originals_.AreWhole() ? ExactSave([this, shift] { TellWritten(shift); }) : none);
+}
+
+void SaveCommand::TellNotSaved() {
+    OffsetNotices::TellNotSaved(panes_, ExactSave([this] { TellNotSaved(); }));
+}
+
+void SaveCommand::ShowWritten(const QString& path, const OffsetShift::Shift& shift,
+                              const std::vector<int>& newIndices) {
     const QString folderKey = panes_.SelectedKey();
     // The table's offsets must be the written file's.
-    if (Ignoring([&] { mBIG::Load(path); }))
+    if (Ignoring([&] { mBIG::Load(path); })) {
+        originals_.Loaded(shift);
         copies_.EntriesMoved(newIndices);
+    } else {
+        originals_.Forget();
+    }
     panes_.State.Modified = mBIG::HasLostBytes();
     panes_.Shown = mBIG::CurrentIdentity();
     mBIG::BigFileName = path;

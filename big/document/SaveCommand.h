@@ -7,7 +7,10 @@
 #include "big/document/EditorPanes.h"
 #include "big/document/OpenCopies.h"
 #include "big/document/RowDetails.h"
+#include "big/format/OriginalBytes.h"
 #include "core/Host.h"
+
+#include <functional>
 
 class SaveCommand {
 public:
@@ -24,6 +27,12 @@ public:
     /// The question about unsaved changes, if there are any; true when they are saved or given up.
     bool GoOnWithoutChanges();
 
+    /// Another archive is open: what was kept of the one before goes.
+    void ForgetOriginals() { originals_.Forget(); }
+
+    /// Tells what there is to tell of an archive that was opened.
+    void TellOpened();
+
     /// Whether a path ends like an archive's.
     [[nodiscard]] static bool IsArchiveName(const QString& path);
 
@@ -31,13 +40,23 @@ public:
     [[nodiscard]] static Host::FileDialog ArchiveDialog();
 
 private:
-    Document::Saved SaveUnderName();
-    Document::Saved SaveTo(const QString& path);
+    /// Where the bytes of entries come from that the directory leads beside.
+    enum class Bytes {
+        Usual,    ///< where the offsets lead; for an exact save behind one of our own, where they lie
+        Original, ///< where they lie
+    };
+
+    Document::Saved SaveUnderName(Bytes bytes = Bytes::Usual);
+    Document::Saved SaveTo(const QString& path, Bytes bytes = Bytes::Usual);
     Document::Saved SaveBeforeGoingOn();
     [[nodiscard]] static bool GoesOnWithoutSources();
-    void ShowWritten(const QString& path, const std::vector<int>& newIndices);
-    void SaveExactly();
+    void ShowWritten(const QString& path, const OffsetShift::Shift& shift, const std::vector<int>& newIndices);
+    void TellWritten(const OffsetShift::Shift& shift);
+    void TellNotSaved();
+    /// For the links of a notice about the archive that is open now: saves it exactly, from the original bytes.
+    [[nodiscard]] std::function<void()> ExactSave(std::function<void()> tellAgain);
 
+    OriginalBytes originals_;
     EditorPanes& panes_;
     OpenCopies& copies_;
     RowDetails& details_;

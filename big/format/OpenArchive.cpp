@@ -43,6 +43,12 @@ bool NeedsOldBytes() {
                                [](const BigEntry& entry) { return !entry.Deleted && !entry.IsNew && entry.Size > 0; });
 }
 
+/// By the file, not by the path: another file may stand under the path by now, and then this is the last hold on the
+/// old bytes.
+bool IsKept(const QString& target) {
+    return kept.Open.IsOpen() && StateOf(target).Identity == kept.State.Identity;
+}
+
 [[noreturn]] void RefuseOld(const QString& path, const QString& reason) {
     throw RuntimeError(ErrorNumber::PathFileAccess, Paths::ToNative(path) + u": "_s + reason);
 }
@@ -75,20 +81,30 @@ const Device* Source::Bytes() const {
     return kept.Open.IsOpen() ? &kept.Open : nullptr;
 }
 
-// By the file, not by the path: another file may stand under the path by now, and then this is the last hold on the
-// old bytes.
-Aside::Aside(const QString& target) : wasOpen_(kept.Open.IsOpen() && StateOf(target).Identity == kept.State.Identity) {
-    if (wasOpen_)
+Aside::Aside(const QString& target, bool staysOpen) : wasOpen_(IsKept(target)) {
+    if (wasOpen_ && staysOpen)
+        stays_.emplace(kept.Open, target);
+    else if (wasOpen_)
         Ignoring([] { kept.Open.Close(); });
 }
 
 Aside::~Aside() {
+    const bool stays = stays_.has_value();
+    stays_.reset();
     if (!wasOpen_)
         return;
-    if (replaced_)
+    if (replaced_ && !stays)
         kept = {};
-    else
+    else if (!replaced_ && !kept.Open.IsOpen())
         Ignoring([] { kept.Open = File::Open(kept.Path, File::Access::Read); });
+}
+
+File TakeOld() {
+    File old = std::move(kept.Open);
+    bool isAsRead = false;
+    if (old.IsOpen() && kept.Path == current.FileName)
+        Ignoring([&] { isAsRead = old.State() == kept.State; });
+    return isAsRead ? std::move(old) : File();
 }
 
 bool IsAsRead() {

@@ -5,8 +5,11 @@
 #pragma once
 
 #include "platform/File.h"
+#include "platform/ReplacedFile.h"
 
 #include <QString>
+
+#include <optional>
 
 namespace OpenArchive {
 
@@ -29,7 +32,8 @@ private:
 /// place of an open file.
 class Aside {
 public:
-    explicit Aside(const QString& target);
+    /// With `staysOpen` the old file is still open behind this, though another was put in its place, to be taken.
+    explicit Aside(const QString& target, bool staysOpen = false);
     ~Aside();
     Aside(const Aside&) = delete;
     Aside& operator=(const Aside&) = delete;
@@ -40,7 +44,12 @@ public:
 private:
     bool wasOpen_;
     bool replaced_ = false;
+    std::optional<ReplacedFile::StaysOpen> stays_;
 };
+
+/// The file that the table was read from, given out of hand by a save; closed when there is none, or it is not as it
+/// was read any more.
+File TakeOld();
 
 /// Whether the table's offsets lead to its bytes in the file under its name: false when that was changed, replaced or
 /// saved since the table was read.

@@ -15,6 +15,8 @@
 #include <optional>
 #include <vector>
 
+class OriginalBytes;
+
 namespace mBIG {
 
 using Archives::MaximumEntries;
@@ -45,6 +47,10 @@ struct SaveOptions {
     QStringList Kept = {}; ///< inside paths of files in the scratch folder that stay
     Archives::Placement Place = Archives::Placement::Told;
     QString Scratch = {}; ///< inside path of the folder that is emptied; the program's scratch folder without one
+    /// What is known of bytes beside their offsets; null when nobody asks. The save keeps it in step, and the archive
+    /// that it replaces open where that has bytes which were cut off.
+    OriginalBytes* Originals = nullptr;
+    bool FromOriginals = false; ///< write those bytes, and not what the offsets lead to
 };
 
 /// Writes the open archive in one step; whatever stood at the path stands there still when this raises. Nothing, with

@@ -4,6 +4,7 @@
 #include "big/format/mBIG.h"
 
 #include "big/format/OpenArchive.h"
+#include "big/format/OriginalBytes.h"
 #include "big/format/WritePlan.h"
 #include "core/Host.h"
 #include "core/mMain.h"
@@ -45,18 +46,37 @@ bool HasNothingToSave(Placement placement) {
     return placement == Placement::Told ? mBIG::HighestIndex() == 0 : Archives::IsBlank(mBIG::Open());
 }
 
-Shift WriteTo(const QString& path, Placement placement, Progress& progress) {
-    WritePlan::CheckCount(mBIG::Open(), Paths::ToNative(path));
-    WriteAside aside(path);
-    Shift shift;
+Shift WriteBytes(Device& target, const mBIG::SaveOptions& options, bool fromOriginals, Progress& progress) {
+    const OpenArchive::Source old;
+    const Archives::Watch watch = InProgressWindow(progress);
+    if (!fromOriginals)
+        return Archives::Write(mBIG::Open(), target, old.Bytes(), options.Place, watch);
+    const OriginalBytes::Gathered gathered(*options.Originals, old.Bytes());
+    return Archives::Write(gathered.Table(), target, &gathered, options.Place, watch);
+}
+
+/// Puts the written file in the target's place. What is replaced stays open where bytes of it are needed once more.
+void PutInPlace(WriteAside& aside, const QString& path, OriginalBytes* originals, bool fromOriginals) {
+    const bool needsOld = originals != nullptr && !fromOriginals && originals->NeedOpenArchive();
     {
-        const OpenArchive::Source old;
-        shift = Archives::Write(mBIG::Open(), aside.Out(), old.Bytes(), placement, InProgressWindow(progress));
+        OpenArchive::Aside closed(path, needsOld);
+        std::vector<std::unique_ptr<ReplacedFile::StaysOpen>> staying;
+        if (originals != nullptr)
+            staying = originals->MakeWay(path);
+        aside.Commit();
+        closed.Replaced();
     }
-    OpenArchive::Aside closed(path);
-    aside.Commit();
-    closed.Replaced();
+    if (originals != nullptr)
+        originals->Saved(fromOriginals, needsOld ? OpenArchive::TakeOld() : File());
     OpenArchive::Saved();
+}
+
+Shift WriteTo(const QString& path, const mBIG::SaveOptions& options, Progress& progress) {
+    WritePlan::CheckCount(mBIG::Open(), Paths::ToNative(path));
+    const bool fromOriginals = options.FromOriginals && options.Originals != nullptr && options.Originals->AreKnown();
+    WriteAside aside(path);
+    const Shift shift = WriteBytes(aside.Out(), options, fromOriginals, progress);
+    PutInPlace(aside, path, options.Originals, fromOriginals);
     for (BigEntry& entry : mBIG::BigEntries)
         entry.IsNew = entry.IsNew && entry.Deleted;
     return shift;
@@ -79,7 +99,7 @@ std::optional<Shift> Save(const QString& path, const SaveOptions& options) {
     }
     // What an entry of size 0 left open would stand in the way of its archive's replacement.
     CloseExtraction();
-    Shift shift = WriteTo(path, options.Place, *progress);
+    Shift shift = WriteTo(path, options, *progress);
     const QString scratch = options.Scratch.isEmpty() ? mMain::ScratchFolder() : options.Scratch;
     Ignoring([&] { Files::EmptyFolder(scratch, options.Kept); });
     return shift;

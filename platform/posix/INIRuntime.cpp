@@ -19,20 +19,47 @@ constexpr qsizetype LongestValue = 254;
 /// Most files are shorter, and in a longer one the value mostly stands at its beginning.
 constexpr qint64 Beginning = 65536;
 
-QString Read(const File& file, const QString& section, const QString& key) {
-    const QByteArray beginning = file.Read(0, Beginning);
-    if (beginning.size() < Beginning)
-        return ProfileText(beginning).Read(section, key);
-    const std::optional<QString> value = ProfileText(beginning).ReadFromBeginning(section, key);
-    return value ? *value : ProfileText(file.Read(0, file.Length())).Read(section, key);
-}
+/// A file's beginning, and the rest only when it has to decide.
+class LongText {
+public:
+    explicit LongText(const File& file)
+        : file_(file),
+          beginning_(file.Read(0, Beginning)),
+          text_(beginning_),
+          isWhole_(beginning_.size() < Beginning) {}
+
+    QString Read(const QString& section, const QString& key) {
+        if (!isWhole_) {
+            if (const std::optional<QString> value = text_.ReadFromBeginning(section, key))
+                return *value;
+            text_ = ProfileText(file_.Read(0, file_.Length()));
+            isWhole_ = true;
+        }
+        return text_.Read(section, key);
+    }
+
+private:
+    const File& file_;
+    QByteArray beginning_;
+    ProfileText text_;
+    bool isWhole_;
+};
 
 } // namespace
 
 QString INIRuntime::ReadINI(const QString& section, const QString& key, const QString& file) const {
-    QString value;
-    Ignoring([&] { value = Read(File::Open(file, File::Access::Read), section, key); });
-    return value.left(LongestValue);
+    return ReadValues(section, {key}, file).first();
+}
+
+QStringList INIRuntime::ReadValues(const QString& section, const QStringList& keys, const QString& file) const {
+    QStringList values(keys.size());
+    Ignoring([&] {
+        const File opened = File::Open(file, File::Access::Read);
+        LongText text(opened);
+        for (qsizetype at = 0; at < keys.size(); ++at)
+            values[at] = text.Read(section, keys[at]).left(LongestValue);
+    });
+    return values;
 }
 
 QString INIRuntime::WriteINI(const QString& section, const QString& key, const QString& value,

@@ -48,6 +48,17 @@ class Lines {
 public:
     explicit Lines(QByteArrayView bytes) : bytes_(bytes) {}
 
+    /// Passes over the lines before the next one that holds the character.
+    void SkipTo(char character) {
+        const qsizetype found = bytes_.indexOf(character, at_);
+        if (found < 0) {
+            at_ = bytes_.size();
+            return;
+        }
+        const auto between = bytes_.sliced(at_, found - at_);
+        at_ += std::max(between.lastIndexOf('\n'), between.lastIndexOf('\r')) + 1;
+    }
+
     bool Next(Range& line) {
         if (at_ >= bytes_.size())
             return false;
@@ -144,7 +155,11 @@ ProfileText::Place ProfileText::Locate(const QString& section, const QString& ke
     Place place;
     place.SectionFound = askedSection.isEmpty();
     Lines lines(bytes);
-    for (Range line{}; lines.Next(line);) {
+    for (Range line{}; true;) {
+        if (!place.SectionFound)
+            lines.SkipTo('[');
+        if (!lines.Next(line))
+            break;
         const Range content = Trimmed(bytes, line);
         const QByteArrayView text = bytes.sliced(content.Start, content.End - content.Start);
         if (text.isEmpty())

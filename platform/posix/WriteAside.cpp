@@ -164,6 +164,15 @@ bool IsWriteProtected(const QString& path) {
     return status && S_ISREG(status->st_mode) && RefusalOf(native, native) != 0;
 }
 
+// What is open lives on without a name.
+StaysOpen::StaysOpen(File& file, const QString& path) : file_(file) {
+    static_cast<void>(path);
+}
+
+StaysOpen::~StaysOpen() {
+    static_cast<void>(file_);
+}
+
 bool KeepOwnerAndMode(const File& file, const QString& old) {
     const auto status = StatusOf(Paths::ToNative(old));
     return status && TakeOver(static_cast<int>(file.Handle()), *status);

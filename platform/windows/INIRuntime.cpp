@@ -36,6 +36,13 @@ QString INIRuntime::ReadINI(const QString& section, const QString& key, const QS
     return AnsiCodec::Decode(QByteArrayView(buffer.data(), static_cast<qsizetype>(length)));
 }
 
+QStringList INIRuntime::ReadValues(const QString& section, const QStringList& keys, const QString& file) const {
+    QStringList values;
+    for (const QString& key : keys)
+        values.append(ReadINI(section, key, file));
+    return values;
+}
+
 QString INIRuntime::WriteINI(const QString& section, const QString& key, const QString& value,
                              const QString& file) const {
     const QByteArray path = AnsiPath(file);

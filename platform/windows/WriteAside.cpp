@@ -125,6 +125,28 @@ bool IsWriteProtected(const QString& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & either) == FILE_ATTRIBUTE_READONLY;
 }
 
+// Nothing takes the place of an open file here, so it is held by a second name meanwhile, which goes with its handle,
+// even when the process dies. Some file systems have no second names.
+StaysOpen::StaysOpen(File& file, const QString& path) : file_(file) {
+    const QString target = Followed(path);
+    name_ = FolderOf(target) + PrivateName();
+    if (CreateHardLinkW(WidePath(name_).c_str(), WidePath(target).c_str(), nullptr) == 0)
+        name_.clear();
+    Ignoring([&] { file_.Close(); });
+}
+
+StaysOpen::~StaysOpen() {
+    if (name_.isEmpty())
+        return;
+    const HANDLE handle = CreateFileW(WidePath(name_).c_str(), GENERIC_READ | DELETE,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        DeleteFileW(WidePath(name_).c_str());
+    else
+        file_ = File(reinterpret_cast<qintptr>(handle), name_);
+}
+
 // The owner is the folder's matter here; hidden and system files stay so.
 bool KeepOwnerAndMode(const File& file, const QString& old) {
     FILE_BASIC_INFO information{}; // times of zero stay as they are

@@ -3,35 +3,14 @@
 
 /// Exact offsets in the window: what the strip tells of data beside their offsets, and what its links do.
 #include "big/document/OffsetNotices.h"
-#include "tests/big/document_fixture.h"
+#include "tests/big/offsets_fixture.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class EditorOffsets : public EditorDocument {
+class EditorShifts : public EditorOffsets {
 protected:
-    EditorOffsets() {
-        Place.UseLanguage("[LNG]\r\nSavedShifted=Saved: %1 files %2 bytes off\r\nArchiveShifted=Here: %1 files %2 "
-                          "bytes off\r\nSaveExactly=Exactly\r\nAlways=Always\r\nReadShiftedBack=Back\r\n"
-                          "OneEntryShifted=Both: %2\r\nOneEntryNotShown=Hidden\r\n");
-        Place.Start();
-    }
-
-    void ClickLink(std::size_t link) {
-        ASSERT_LT(link, View.Told.Links.size());
-        const auto run = View.Told.Links[link].Run;
-        View.Told = {};
-        run();
-    }
-
-    /// The bytes of an entry where the directory of the file on disk says.
-    [[nodiscard]] static QByteArray Stored(const QString& path, std::size_t index) {
-        const Archive archive = Archives::Read(path);
-        const BigEntry& entry = archive.Entries.at(index);
-        return World::ReadFile(path).mid(entry.Offset, entry.Size);
-    }
-
     /// Variant 2 lays the data one byte before the directory's offsets.
     QString SaveShifted() {
         QString path = OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}});
@@ -43,7 +22,7 @@ protected:
 
 } // namespace
 
-TEST_F(EditorOffsets, ASaveWithItsDataBesideTheirOffsetsIsTold) {
+TEST_F(EditorShifts, ASaveWithItsDataBesideTheirOffsetsIsTold) {
     const QString path = SaveShifted();
     EXPECT_NE(Stored(path, 0), "first");
     EXPECT_EQ(View.Told.Text, u"Saved: 2 files -1 bytes off"_s);
@@ -52,7 +31,7 @@ TEST_F(EditorOffsets, ASaveWithItsDataBesideTheirOffsetsIsTold) {
     EXPECT_EQ(View.Told.Links[1].Text, u"Always"_s);
 }
 
-TEST_F(EditorOffsets, SaveExactlyLosesNothing) {
+TEST_F(EditorShifts, SaveExactlyLosesNothing) {
     const QString path = SaveShifted();
     ClickLink(0);
     EXPECT_EQ(Stored(path, 0), "first");
@@ -63,7 +42,7 @@ TEST_F(EditorOffsets, SaveExactlyLosesNothing) {
     EXPECT_EQ(Stored(path, 1), "second") << "This archive goes on so.";
 }
 
-TEST_F(EditorOffsets, SaveExactlyTakesWhatWasAddedSince) {
+TEST_F(EditorShifts, SaveExactlyTakesWhatWasAddedSince) {
     const QString path = SaveShifted();
     Speaker.FileNames = {Place.WriteFile(u"c.txt"_s, "third")};
     const Notice told = View.Told;
@@ -73,7 +52,7 @@ TEST_F(EditorOffsets, SaveExactlyTakesWhatWasAddedSince) {
     EXPECT_EQ(Stored(path, 2), "third");
 }
 
-TEST_F(EditorOffsets, ALinkOfAnArchiveThatHasGoneDoesNothing) {
+TEST_F(EditorShifts, ALinkOfAnArchiveThatHasGoneDoesNothing) {
     SaveShifted();
     const Notice told = View.Told;
     const QString other = OpenArchive({{u"x"_s, "1"}, {u"y"_s, "2"}}, u"other.big"_s);
@@ -82,7 +61,7 @@ TEST_F(EditorOffsets, ALinkOfAnArchiveThatHasGoneDoesNothing) {
     EXPECT_EQ(World::ReadFile(other), before);
 }
 
-TEST_F(EditorOffsets, AlwaysIsRemembered) {
+TEST_F(EditorShifts, AlwaysIsRemembered) {
     const QString path = SaveShifted();
     ClickLink(1);
     EXPECT_EQ(Stored(path, 0), "first");
@@ -91,7 +70,7 @@ TEST_F(EditorOffsets, AlwaysIsRemembered) {
     EXPECT_TRUE(State().ExactOffsets);
 }
 
-TEST_F(EditorOffsets, ASaveWithoutAShiftTellsNothing) {
+TEST_F(EditorShifts, ASaveWithoutAShiftTellsNothing) {
     OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}});
     Editor.SetExactOffsets(true);
     mBIG::BigVersion = 2;
@@ -99,7 +78,7 @@ TEST_F(EditorOffsets, ASaveWithoutAShiftTellsNothing) {
     EXPECT_EQ(View.Told.Text, QString());
 }
 
-TEST_F(EditorOffsets, AShiftedArchiveIsReadShiftedBackWhenTheUserWants) {
+TEST_F(EditorShifts, AShiftedArchiveIsReadShiftedBackWhenTheUserWants) {
     const QString path = SaveShifted();
     Editor.OpenBigFile(path);
     EXPECT_EQ(View.Told.Text, u"Here: 2 files -1 bytes off"_s);
@@ -113,7 +92,7 @@ TEST_F(EditorOffsets, AShiftedArchiveIsReadShiftedBackWhenTheUserWants) {
     EXPECT_EQ(Stored(path, 1), "second");
 }
 
-TEST_F(EditorOffsets, AnOnlyEntryThatIsShiftedIsToldAsBothWithBothLinks) {
+TEST_F(EditorShifts, AnOnlyEntryThatIsShiftedIsToldAsBothWithBothLinks) {
     const QString path = OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}});
     mBIG::BigVersion = 2;
     mBIG::BigEntries.at(0).Deleted = true;
@@ -135,7 +114,7 @@ TEST_F(EditorOffsets, AnOnlyEntryThatIsShiftedIsToldAsBothWithBothLinks) {
     EXPECT_EQ(View.Told.Text, u"Here: 1 files -1 bytes off"_s);
 }
 
-TEST_F(EditorOffsets, ARefusedLinkLeavesItsNotice) {
+TEST_F(EditorShifts, ARefusedLinkLeavesItsNotice) {
     const QString path = SaveShifted();
     {
         const mBIG::ArchiveLock lock;
@@ -147,7 +126,7 @@ TEST_F(EditorOffsets, ARefusedLinkLeavesItsNotice) {
     EXPECT_EQ(Stored(path, 0), "first");
 }
 
-TEST_F(EditorOffsets, AnArchiveOfAnotherToolIsNotCalledShifted) {
+TEST_F(EditorShifts, AnArchiveOfAnotherToolIsNotCalledShifted) {
     OpenArchive({{u"a.txt"_s, "first"}, {u"b.txt"_s, "second"}});
     EXPECT_EQ(View.Told.Text, QString());
 }

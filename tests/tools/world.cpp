@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tools/demoworld/World.h"
-#include "core/Game.h"
+#include "core/GameFiles.h"
 #include "core/mMain.h"
 #include "platform/Paths.h"
 #include "tests/support/Printing.h"
@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QSet>
 #include <QTemporaryDir>
 
@@ -89,17 +90,16 @@ TEST_F(SmallWorld, AllFourGamesAreFoundWithTheirFolders) {
     }
 }
 
-TEST_F(SmallWorld, EveryGameHasItsOwnArchivesAndTwoMods) {
+TEST_F(SmallWorld, EveryGameHasItsOwnArchivesAndModsWithAndWithoutARecord) {
     for (GameIndex game = 0; game < GameCount; ++game) {
-        QStringList mods;
-        const QStringList archives = QDir(Installed(game)).entryList({u"*.big"_s}, QDir::Files);
-        for (const QString& name : archives)
-            if (!Game.at(static_cast<size_t>(game)).GameBigFiles.contains(u'/' + name + u'/', Qt::CaseInsensitive))
-                mods += name;
-        EXPECT_GE(archives.size(), 16);
-        ASSERT_EQ(mods.size(), 2) << game;
+        EXPECT_GE(QDir(Installed(game)).entryList({u"*.big"_s}, QDir::Files).size(), 18);
+        QStringList mods = GameFiles::Mods(game);
+        ASSERT_EQ(mods.size(), 3) << game;
+        EXPECT_TRUE(mods.removeOne(u"Untitled.big"_s));
+        EXPECT_FALSE(QFileInfo::exists(Installed(game) + u"Untitled.ini"_s));
         for (const QString& mod : mods)
             EXPECT_TRUE(FileBytes(Installed(game) + mod.chopped(4) + u".ini"_s).startsWith("[Mod]\r\nName="));
+        EXPECT_TRUE(QFileInfo::exists(Installed(game) + u"_Disabled.big"_s));
     }
 }
 
@@ -133,6 +133,15 @@ TEST_F(SmallWorld, MapsHaveEveryChoiceOfPreviews) {
         }
     }
     EXPECT_EQ(choices, (QSet<QString>{u"000"_s, u"100"_s, u"110"_s, u"101"_s, u"111"_s}));
+}
+
+TEST_F(SmallWorld, MapsHaveNamesOfEveryKind) {
+    for (GameIndex game = 0; game < GameCount; ++game) {
+        const QDir maps(Paths::ToNative(Game.at(static_cast<size_t>(game)).MapPath));
+        const QString names = maps.entryList(QDir::Dirs | QDir::NoDotAndDotDot).join(u'\n');
+        EXPECT_TRUE(names.contains(u"[RANK] "_s)) << game;
+        EXPECT_TRUE(names.contains(u"\u0440\u0435\u043A\u0438"_s)) << game;
+    }
 }
 
 TEST_F(SmallWorld, ShellMapsAreNumberedFromOneWithoutGaps) {

@@ -50,6 +50,9 @@ QByteArray RegistryText(const QString& root, const QString& language) {
     lines.Value(u"TradFileName"_s, language);
     lines.Value(u"AutoCheckForUpdates"_s, u"0"_s);
     lines.Value(u"ViewFileIcons"_s, u"1"_s);
+    lines.Value(u"GenShellMapMode"_s, u"Load002"_s);
+    lines.Value(u"ZHShellMapMode"_s, u"Load001"_s);
+    lines.Value(u"BFMEShellMapMode"_s, u"Random"_s);
     return lines.Bytes();
 }
 

@@ -102,6 +102,10 @@ private:
             WriteBig(InstallFolder(game) + mod.Name + u".big"_s, PlanOf(game).ModVersion, entries);
             Write(InstallFolder(game) + mod.Name + u".ini"_s, ModRecord(mod.Title, mod.Comments));
         }
+        // One that nothing is told of, and one that is put aside.
+        for (const QString& name : {u"Untitled"_s, u"_Disabled"_s})
+            WriteBig(InstallFolder(game) + name + u".big"_s, PlanOf(game).ModVersion,
+                     {{u"ReadMe.txt"_s, ReadMe(name)}});
     }
 
     void MakeShellMaps(GameIndex game) {
@@ -118,19 +122,25 @@ private:
         }
     }
 
-    /// A folder with each choice of previews, and one that is no map.
+    /// A folder with each choice of previews, names of all kinds, and a folder that is no map.
     void MakeMaps(GameIndex game) {
         const QString maps = UserFolder(game) + u"Maps/"_s;
-        for (int i = 0; i < 5; ++i) {
-            const auto seed = static_cast<quint64>(game) * 4 + static_cast<quint64>(i);
-            const QString name = PlaceName(seed), folder = maps + name + u'/';
-            Write(folder + name + u".map"_s, Map(MapSize(), seed));
+        QStringList names;
+        const quint64 first = static_cast<quint64>(game) * 4;
+        for (quint64 seed = first; seed < first + 5; ++seed)
+            names += PlaceName(seed);
+        names += u"[RANK] %1 ZH v2"_s.arg(PlaceName(first + 5));
+        names += u"\u0414\u043E\u043B\u0438\u043D\u0430 \u0440\u0435\u043A\u0438"_s;
+        for (qsizetype i = 0; i < names.size(); ++i) {
+            const quint64 seed = first + static_cast<quint64>(i);
+            const QString folder = maps + names[i] + u'/';
+            Write(folder + names[i] + u".map"_s, Map(MapSize(), seed));
             if (i != 2 && i != 3)
-                Write(folder + name + u".tga"_s, Preview(seed));
+                Write(folder + names[i] + u".tga"_s, Preview(seed));
             if (i == 1 || i == 3)
-                Write(folder + name + u"_pic.tga"_s, Preview(seed + 50));
+                Write(folder + names[i] + u"_pic.tga"_s, Preview(seed + 50));
             Write(folder + u"map.ini"_s, MapIni(seed));
-            Write(folder + u"map.str"_s, MapStr(name));
+            Write(folder + u"map.str"_s, MapStr(names[i]));
         }
         Write(maps + u"Drafts/Ideas.txt"_s, ReadMe(u"Ideas"_s));
     }

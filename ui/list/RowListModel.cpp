@@ -14,17 +14,16 @@ QString OneLine(const QString& text) {
     return line.replace(u'\n', u'\u21B5').replace(u'\r', u' ');
 }
 
-/// A tip never takes a file's text for markup.
-QString PlainTip(const QString& text) {
-    return text.isEmpty() ? QString() : u"<p style='white-space:pre-wrap'>"_s + text.toHtmlEscaped() + u"</p>"_s;
-}
-
 } // namespace
 
 RowListModel::RowListModel(RowSource& rows, QObject* parent)
     : QAbstractTableModel(parent),
       rows_(rows),
       columns_(rows.Columns()) {}
+
+QString RowListModel::PlainTip(const QString& text) {
+    return text.isEmpty() ? QString() : u"<p style='white-space:pre-wrap'>"_s + text.toHtmlEscaped() + u"</p>"_s;
+}
 
 void RowListModel::Begin(RowChange change, int place) {
     switch (change) {

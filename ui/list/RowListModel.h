@@ -45,6 +45,9 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+    /// A tool tip that never takes a text for markup.
+    static QString PlainTip(const QString& text);
+
 Q_SIGNALS:
     /// The end of the edit of a row's text, as typed; not for a text that the rows don't take.
     void RenameWanted(int place, const QString& text);

@@ -7,7 +7,10 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QPainter>
 #include <QScopedValueRollback>
+
+#include <algorithm>
 
 RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new RowGestures(this)) {
     setRootIsDecorated(false);
@@ -17,7 +20,9 @@ RowListView::RowListView(QWidget* parent) : QTreeView(parent), gestures_(new Row
     header()->setSectionsClickable(true);
     header()->setSortIndicatorShown(false);
     connect(header(), &QHeaderView::sectionClicked, this, &RowListView::Sort);
-    connect(header(), &QHeaderView::sectionResized, this, [this] { userSized_ = userSized_ || !sizing_; });
+    // The last column has no border to move: the toolkit stretches it by itself, and not at once.
+    connect(header(), &QHeaderView::sectionResized, this,
+            [this](int column) { userSized_ = userSized_ || (!sizing_ && column != header()->count() - 1); });
 }
 
 void RowListView::SetRows(RowListModel* model, const std::function<void(int)>& sort) {
@@ -33,6 +38,12 @@ void RowListView::SetRows(RowListModel* model, const std::function<void(int)>& s
     userSized_ = false;
     SizeColumns();
     MarkColumns();
+}
+
+void RowListView::SetHint(const Hint& hint) {
+    hint_ = hint;
+    setAccessibleDescription(hint.Text);
+    viewport()->update();
 }
 
 void RowListView::SelectRow(int place) {
@@ -63,15 +74,30 @@ void RowListView::SizeColumns() {
     if (rows_ == nullptr || userSized_)
         return;
     const QScopedValueRollback sizing(sizing_, true);
-    for (int column = 0; column < rows_->columnCount(); ++column)
-        if (const double fraction = rows_->Columns()[static_cast<std::size_t>(column)].Fraction; fraction > 0)
-            header()->resizeSection(column, static_cast<int>(fraction * viewport()->width()));
+    const int last = rows_->columnCount() - 1;
+    // What the toolkit stretches it from.
+    header()->resizeSection(last, header()->sectionSizeHint(last));
+    for (int column = 0; column < last; ++column) {
+        const double fraction = rows_->Columns()[static_cast<std::size_t>(column)].Fraction;
+        // A list that is too narrow for its captions scrolls.
+        if (fraction > 0)
+            header()->resizeSection(
+                column, std::max(static_cast<int>(fraction * viewport()->width()), header()->sectionSizeHint(column)));
+    }
 }
 
 void RowListView::resizeEvent(QResizeEvent* event) {
     const QScopedValueRollback sizing(sizing_, true); // the last column takes what is left
     QTreeView::resizeEvent(event);
     SizeColumns();
+}
+
+void RowListView::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    if (rows_ != nullptr && rows_->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    DrawHint(painter, viewport()->rect(), hint_);
 }
 
 void RowListView::startDrag(Qt::DropActions /*supportedActions*/) {

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "ui/list/RowGestures.h"
+#include "ui/look/Hint.h"
 
 #include <QTreeView>
 
@@ -24,6 +25,9 @@ public:
     /// What the user does to the rows.
     [[nodiscard]] RowGestures* Gestures() const { return gestures_; }
 
+    /// What stands in the list's place while it has no rows.
+    void SetHint(const Hint& hint);
+
     /// Makes a row the only selected one, and scrolls to it. None for a place that is none.
     void SelectRow(int place);
 
@@ -33,6 +37,7 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void startDrag(Qt::DropActions supportedActions) override;
 
 private:
@@ -42,6 +47,7 @@ private:
 
     RowGestures* gestures_;
     RowListModel* rows_ = nullptr;
+    Hint hint_;
     std::function<void(int)> sort_;
     bool sizing_ = false;
     bool userSized_ = false; ///< the user moved a column's border: widths are the user's from then on

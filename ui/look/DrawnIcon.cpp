@@ -6,6 +6,7 @@
 #include "ui/look/Picture.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QStyle>
@@ -37,6 +38,10 @@ DrawnIcon::DrawnIcon(QString picture, QString selectedPicture)
 
 QIcon DrawnIcon::Named(const QString& name) {
     return QIcon(new DrawnIcon(name, name)); // the icon owns it
+}
+
+bool DrawnIcon::Has(const QString& name) {
+    return QFile::exists(u":/art/icons/%1-%2.png"_s.arg(name).arg(drawnSizes.front()));
 }
 
 void DrawnIcon::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) {

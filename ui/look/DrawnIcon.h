@@ -17,6 +17,9 @@ public:
     /// An icon of one picture, such as "new" or "folder".
     static QIcon Named(const QString& name);
 
+    /// Whether there is a picture of that name.
+    static bool Has(const QString& name);
+
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
     QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override;

@@ -72,3 +72,7 @@ void Mnemonics::AddTo(QMenuBar& menuBar) {
         if (const QMenu* menu = entry->menu())
             SpreadOver(menu->actions());
 }
+
+void Mnemonics::AddTo(const QMenu& menu) {
+    SpreadOver(menu.actions());
+}

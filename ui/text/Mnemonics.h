@@ -6,6 +6,7 @@
 
 #include <QStringList>
 
+class QMenu;
 class QMenuBar;
 
 namespace Mnemonics {
@@ -17,5 +18,8 @@ QStringList Spread(const QStringList& texts);
 
 /// Spreads keys over a menu bar and over each of its menus.
 void AddTo(QMenuBar& menuBar);
+
+/// Spreads keys over a context menu.
+void AddTo(const QMenu& menu);
 
 } // namespace Mnemonics
