@@ -10,9 +10,7 @@ using namespace Qt::StringLiterals;
 
 MapsFolder::MapsFolder(GameIndex game) {
     const QString& install = Game.at(static_cast<std::size_t>(game)).InstallPath;
-    if (install.isEmpty())
-        return;
-    game_ = Paths::Real(install);
+    game_ = Paths::Real(install); // none without a game: the current folder is not meant
     const QString maps = Paths::Real(install + u"Maps"_s);
     if (!Holds(maps) || !Files::FolderExists(maps))
         return;

@@ -126,6 +126,9 @@ TEST_F(Removal, AGapInTheNumbersLosesNothing) {
 
 TEST_F(Removal, ANumberWithoutAFolderRemovesNothing) {
     StoreUpTo(2);
+    const QString other = Write(Folder(u"QvShellMap0-5\\file"_s));
+    RemoveShellMap(-5, 0);
+    EXPECT_TRUE(Files::FileExists(other));
     for (const qint16 number : {qint16(0), qint16(-1), qint16(-32768), qint16(3), qint16(1000), qint16(32767)})
         RemoveShellMap(number, 0);
     EXPECT_EQ(Held(), (QList<QByteArray>{"1", "2"}));

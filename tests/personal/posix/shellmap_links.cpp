@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// Shell maps and links: nothing that a link leads to is written or deleted.
+#include "personal/lists/ShellMapList.h"
 #include "tests/personal/shellmap_support.h"
 
 #include <sys/stat.h>
@@ -180,4 +181,17 @@ TEST_F(ShellMapLinks, AFileThatIsALinkIsNotWrittenThroughWhenAnotherMovesOverIt)
     EXPECT_EQ(World::ReadFile(Outside(u"secret.txt"_s)), QByteArray("secret"));
     EXPECT_EQ(Bytes(u"QvShellMap001\\shellmap1.map"_s), QByteArray("secret"));
     EXPECT_EQ(Bytes(u"QvShellMap002\\shellmap1.map"_s), QByteArray("3"));
+}
+
+TEST_F(ShellMapLinks, OfTwoFoldersThatDifferInCaseOnlyTheOtherIsNotDeleted) {
+    Store(1);
+    const QString other = Folder(u"qvshellmap001"_s);
+    ASSERT_EQ(::mkdir(Native(other).constData(), 0700), 0);
+    ShellMapList list;
+    ASSERT_EQ(ListGame(list, 0), 2);
+    list.Select(static_cast<int>(Keys(list).indexOf(other)));
+    bool done = true;
+    list.Delete(done);
+    EXPECT_FALSE(done);
+    EXPECT_EQ(FilesIn(Name(1)), (QStringList{u"QvInfos.ini"_s, u"shellmap1.map"_s}));
 }
