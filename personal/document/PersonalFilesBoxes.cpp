@@ -35,10 +35,13 @@ QString WholeValue(const QString& value, const QString& file) {
     const qsizetype at = text.indexOf(value);
     if (at < 0)
         return value;
-    const QString rest = text.sliced(at);
-    const auto end =
-        std::find_if(rest.begin(), rest.end(), [](QChar letter) { return letter == u'\r' || letter == u'\n'; });
-    return rest.first(end - rest.begin()).trimmed();
+    qsizetype end = at;
+    while (end < text.size() && text[end] != u'\r' && text[end] != u'\n')
+        ++end;
+    const QString whole = text.sliced(at, end - at).trimmed();
+    const QChar before = at > 0 ? text[at - 1] : QChar();
+    const bool isQuoted = (before == u'"' || before == u'\'') && whole.endsWith(before);
+    return isQuoted ? whole.chopped(1) : whole;
 }
 
 } // namespace

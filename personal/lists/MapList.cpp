@@ -6,7 +6,7 @@
 #include "core/NameOrder.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
-#include "platform/FolderEntries.h"
+#include "platform/Namesakes.h"
 #include "platform/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
@@ -15,22 +15,12 @@ namespace {
 
 constexpr qint32 KindMap = 0;
 
-QString MapFile(const QString& mapFolder, const QString& map) {
-    return mapFolder + u'\\' + map + u".map"_s;
+QString Ending() {
+    return u".map"_s;
 }
 
-/// The names of the map folders, in the directory's order. A file can't hold another one and is not asked for it.
-QStringList MapsIn(const QString& folder) {
-    QStringList names;
-    if (folder.isEmpty()) // would be the current folder
-        return names;
-    Ignoring([&] {
-        for (const FolderEntry& entry : FolderEntries(folder)) {
-            if (entry.IsFolder && Files::FileExists(MapFile(folder + entry.Name, entry.Name)))
-                names.append(entry.Name);
-        }
-    });
-    return names;
+QString MapFile(const QString& mapFolder, const QString& map) {
+    return mapFolder + u'\\' + map + Ending();
 }
 
 /// Of a link only the link goes: what it leads to is somebody else's.
@@ -53,7 +43,9 @@ qint16 MapList::ListMaps(qint32& game, bool countOnly) {
         SetFolder(EntryOf(game).MapPath);
     }
     const QString& folder = EntryOf(game).MapPath;
-    QStringList names = MapsIn(folder);
+    if (folder.isEmpty()) // would be the current folder
+        return 0;
+    QStringList names = FoldersWithNamesake(folder, Ending());
     if (!countOnly)
         NameOrder::Sort(names);
     qint16 count = 0;

@@ -266,6 +266,14 @@ TEST_F(PersonalBoxes, ALongCommentOfAShellMapIsCutAndPutBackAndThatOfAModIsNot) 
     EXPECT_TRUE(World::ReadFile(infos).contains(whole));
 }
 
+TEST_F(PersonalBoxes, ALongNameInQuotesIsPutBackWithoutThem) {
+    const QByteArray whole = QByteArray(254, 'n') + " and the rest";
+    const QString infos = PutShellMap(1, "[Infos]\r\nName=\"" + whole + "\"\r\n") + u"\\QvInfos.ini"_s;
+    Open(u"GenShellMaps"_s, 0);
+    ClickLink(u"KeepIt"_s);
+    EXPECT_TRUE(World::ReadFile(infos).contains("Name=" + whole + "\r\n"));
+}
+
 TEST_F(PersonalBoxes, ATextOfExactlyTheLongestLengthIsNotCut) {
     PutShellMap(1, "[Infos]\r\nName=" + QByteArray(254, 'n') + "\r\n");
     Open(u"GenShellMaps"_s, 0);

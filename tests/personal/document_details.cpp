@@ -34,11 +34,9 @@ TEST_F(PersonalDetails, OfAMapAreItsNameAndTheWholeKilobytesOfItsMapFile) {
 }
 
 TEST_F(PersonalDetails, OfAMapHaveAMarkBetweenTheThousands) {
-    QLocale::setDefault(QLocale(QLocale::English));
     PutMap(u"Alpine"_s, 1234 * 1024);
     Open(u"GenMaps"_s, 0);
     EXPECT_EQ(State().MapSize, u"1,234 KiloBytes"_s);
-    QLocale::setDefault(QLocale::c());
 }
 
 TEST_F(PersonalDetails, OfAMapWithoutAPictureAreLowAndDecodeNothing) {

@@ -12,6 +12,8 @@
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/ScriptedNavigator.h"
 
+#include <QLocale>
+
 #include <ostream>
 
 inline void PrintTo(PersonalKind kind, std::ostream* out) {
@@ -100,6 +102,7 @@ private:
 class PersonalDocument : public testing::Test {
 protected:
     PersonalDocument() {
+        QLocale::setDefault(QLocale(QLocale::English));
         for (GameIndex game = 0; game < GameCount; ++game)
             Place.InstallGame(game);
         Place.Start();
@@ -109,6 +112,7 @@ protected:
     ~PersonalDocument() override {
         Personal.UseDecoder(nullptr);
         mMain::CommandLine.clear();
+        QLocale::setDefault(locale_);
     }
 
     [[nodiscard]] const PersonalFilesState& State() const { return Personal.State(); }
@@ -213,4 +217,7 @@ protected:
     ScriptedDecoder Decoder;
     RecordingPersonalView View;
     PersonalFiles Personal{View};
+
+private:
+    QLocale locale_; ///< the one in use before
 };

@@ -105,8 +105,10 @@ TEST_F(PersonalRows, AreCountedInTheStatusBarWithTheSizeOfTheMarkedOnes) {
     personal.CheckChanged(1, true);
     EXPECT_EQ(personal.State().StatusText, u"Items: 2, Checked: 2 (1.5 MB)"_s);
     personal.CheckChanged(1, true);
-    personal.CheckChanged(0, false);
+    EXPECT_EQ(personal.State().StatusText, u"Items: 2, Checked: 2 (1.5 MB)"_s) << "a mark counts once";
     personal.CheckChanged(1, false);
+    EXPECT_EQ(personal.State().StatusText, u"Items: 2, Checked: 1 (2 KB)"_s);
+    personal.CheckChanged(0, false);
     EXPECT_EQ(personal.State().StatusText, u"Items: 2"_s);
     personal.NodeClicked(u"Gen"_s);
     EXPECT_EQ(personal.State().StatusText, QString());
