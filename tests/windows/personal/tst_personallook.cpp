@@ -104,6 +104,23 @@ private Q_SLOTS:
         QVERIFY(Tree()->viewport()->width() >= Tree()->columnWidth(0));
     }
 
+    void theTreeGivesWayToTheListUntilTheUserMovesTheDivider() {
+        Begin(u"French"_s);
+        world_->InstallGame(3);
+        world_->Start();
+        Open();
+        auto* const splitter = Part<SplitterBox>("picSplitter");
+        const int whole = splitter->Position();
+        window_->resize(700, 500);
+        QVERIFY(splitter->Position() < whole);
+        QVERIFY(Part<QWidget>("picLists")->width() >= 300);
+        window_->resize(1200, 500);
+        QCOMPARE(splitter->Position(), whole);
+        QTest::keyClick(splitter->Bar(), Qt::Key_Left);
+        window_->resize(1300, 500);
+        QCOMPARE(splitter->Position(), whole - 16);
+    }
+
     void splittersMoveByMouseAndKeys() {
         Begin();
         Open();
