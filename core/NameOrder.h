@@ -5,14 +5,11 @@
 /// letters alike.
 #pragma once
 
-#include <QString>
 #include <QStringList>
 
 namespace NameOrder {
 
 /// Capitals stand for both, so that "_" comes behind the letters; names that differ in nothing else are apart too.
-bool IsBefore(const QString& first, const QString& second);
-
 void Sort(QStringList& names);
 
 } // namespace NameOrder

@@ -4,6 +4,7 @@
 /// The time of day.
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 namespace Clock {
@@ -13,5 +14,8 @@ QString Now();
 
 /// Seconds since midnight, with their fraction.
 double SecondsOfDay();
+
+/// The user's day of a point in time. The system's time zone is not looked up anew for each.
+QDate LocalDay(const QDateTime& time);
 
 } // namespace Clock

@@ -7,13 +7,20 @@
 
 #include <utility>
 
-File::File(qintptr handle, QString name) : handle_(handle), name_(std::move(name)) {}
+File::File(qintptr handle, QString name, std::optional<qint64> modified)
+    : handle_(handle),
+      name_(std::move(name)),
+      modified_(modified) {}
 
-File::File(File&& other) noexcept : handle_(std::exchange(other.handle_, NoHandle)), name_(std::move(other.name_)) {}
+File::File(File&& other) noexcept
+    : handle_(std::exchange(other.handle_, NoHandle)),
+      name_(std::move(other.name_)),
+      modified_(other.modified_) {}
 
 File& File::operator=(File&& other) noexcept {
     std::swap(handle_, other.handle_);
     std::swap(name_, other.name_);
+    std::swap(modified_, other.modified_);
     return *this;
 }
 

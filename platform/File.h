@@ -8,6 +8,8 @@
 
 #include <QDateTime>
 
+#include <optional>
+
 /// What tells a file from what it was earlier: another one in its place, another length, written since.
 struct FileState {
     QByteArray Identity; ///< the file system and the file's number there; empty where there is no file
@@ -15,9 +17,6 @@ struct FileState {
     qint64 Time = 0;     ///< of the last write, in the system's own unit
 
     bool operator==(const FileState&) const = default;
-
-    /// `Time` as all systems tell it.
-    [[nodiscard]] QDateTime Modified() const;
 };
 
 /// A file of the disk; pipes and devices are refused. What is opened to be read leaves others free to read, write,
@@ -40,8 +39,9 @@ public:
     /// No file.
     File() = default;
 
-    /// Takes over a file that the system has opened, by the system's own handle. `name` is for messages.
-    File(qintptr handle, QString name);
+    /// Takes over a file that the system has opened, by the system's own handle. `name` is for messages. `modified`,
+    /// the milliseconds since 1970, is known of one that is only read.
+    File(qintptr handle, QString name, std::optional<qint64> modified = {});
 
     ~File() override;
     File(File&& other) noexcept;
@@ -57,6 +57,10 @@ public:
     void Flush();
 
     [[nodiscard]] FileState State() const;
+
+    /// When the file was last written, to the millisecond, in UTC; as far as it is known from the opening, as it was
+    /// then.
+    [[nodiscard]] QDateTime Modified() const;
 
     /// CopyBytes between two files, within the system where it can.
     qint64 CopyFrom(qint64 toOffset, const File& from, qint64 fromOffset, qint64 count);
@@ -75,6 +79,7 @@ private:
 
     qintptr handle_ = NoHandle;
     QString name_;
+    std::optional<qint64> modified_;
 };
 
 /// The state of what stands at an inside path, links followed; without an identity where there is no plain file.

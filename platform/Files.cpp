@@ -4,6 +4,7 @@
 #include "platform/Files.h"
 
 #include "platform/FolderEntries.h"
+#include "platform/ListedFolder.h"
 #include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Wildcards.h"
@@ -79,10 +80,8 @@ QStringList ListFolder(const QString& pattern, bool withFolders) {
     const QString last = pattern.sliced(split);
     QStringList names;
     Ignoring([&] {
-        for (const FolderEntry& entry : FolderEntries(pattern.first(split))) {
-            if ((withFolders || !entry.IsFolder) && FitsPattern(entry.Name, last))
-                names.append(entry.Name);
-        }
+        names = ListedFolder(pattern.first(split)).Names(withFolders);
+        names.removeIf([&](const QString& name) { return !FitsPattern(name, last); });
     });
     return names;
 }

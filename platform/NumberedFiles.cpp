@@ -34,6 +34,11 @@ void OpenAsGiven(int number, const QString& path, Access access) {
     Table().emplace(number, File::OpenAsGiven(path, access));
 }
 
+void Open(int number, const ListedFolder& folder, const QString& name) {
+    RequireFree(number);
+    Table().emplace(number, folder.Open(name));
+}
+
 bool IsOpen(int number) {
     return Table().contains(number);
 }

@@ -6,7 +6,7 @@
 /// the file. Who needs no number opens a File.
 #pragma once
 
-#include "platform/File.h"
+#include "platform/ListedFolder.h"
 
 namespace NumberedFiles {
 
@@ -17,6 +17,9 @@ void Open(int number, const QString& path, Access access);
 
 /// The same for a path whose case is known to be right: nothing is looked up.
 void OpenAsGiven(int number, const QString& path, Access access);
+
+/// The same for a file of a listed folder, to be read.
+void Open(int number, const ListedFolder& folder, const QString& name);
 
 bool IsOpen(int number);
 

@@ -10,6 +10,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -22,38 +23,54 @@ QByteArray& Gathered() {
     return bytes;
 }
 
-} // namespace
-
-void Print(QByteArrayView head, const QString& line) {
-    QByteArray& bytes = Gathered();
-    bytes += head;
+/// A name that is no text comes out with the bytes that it has.
+void Append(QByteArray& bytes, QStringView text) {
     char16_t seen = 0;
-    for (const QChar unit : line)
+    for (const QChar unit : text)
         seen = static_cast<char16_t>(seen | unit.unicode());
-    if (seen < 0x80) {
-        const qsizetype before = bytes.size();
-        bytes.resize(before + line.size());
-        std::transform(line.begin(), line.end(), bytes.begin() + before, [](QChar unit) { return unit.toLatin1(); });
-    } else {
-        bytes += Paths::EncodeNative(line);
+    if (seen >= 0x80) {
+        bytes += Paths::EncodeNative(text.toString());
+        return;
     }
+    const qsizetype before = bytes.size();
+    bytes.resize(before + text.size());
+    std::transform(text.begin(), text.end(), bytes.begin() + before, [](QChar unit) { return unit.toLatin1(); });
+}
+
+void EndLine() {
+    QByteArray& bytes = Gathered();
     bytes += '\n';
     if (bytes.size() >= GatheredBytes)
         Flush();
+}
+
+} // namespace
+
+void Print(QByteArrayView head, const QString& line) {
+    Gathered() += head;
+    Append(Gathered(), line);
+    EndLine();
 }
 
 void Print(const QString& line) {
     Print({}, line);
 }
 
-void PrintRow(QStringList columns) {
-    for (QString& column : columns) {
-        for (QChar& unit : column) {
-            if (unit < u' ')
-                unit = u' ';
-        }
+void PrintRow(std::span<const QStringView> columns) {
+    QByteArray& bytes = Gathered();
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        if (column > 0)
+            bytes += '\t';
+        const qsizetype begin = bytes.size();
+        Append(bytes, columns[column]);
+        const auto isControl = [](char byte) { return static_cast<unsigned char>(byte) < ' '; };
+        std::replace_if(bytes.begin() + begin, bytes.end(), isControl, ' ');
     }
-    Print(columns.join(u'\t'));
+    EndLine();
+}
+
+void PrintRow(const QStringList& columns) {
+    PrintRow(std::vector<QStringView>(columns.begin(), columns.end()));
 }
 
 void Flush() {

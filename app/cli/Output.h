@@ -9,7 +9,9 @@
 #include <QByteArrayView>
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
+#include <span>
 #include <string>
 
 /// Prints one line on standard output, in UTF-8; a name that is no text comes out with the bytes that it has. Lines are
@@ -21,7 +23,8 @@ void Print(QByteArrayView head, const QString& line);
 
 /// Prints a row: its columns with tabs between them. A tab, a line break or another control character in a column comes
 /// out as a blank, so that a row stays a line.
-void PrintRow(QStringList columns);
+void PrintRow(const QStringList& columns);
+void PrintRow(std::span<const QStringView> columns);
 
 /// Raises when standard output takes no more.
 void Flush();

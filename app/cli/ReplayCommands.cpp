@@ -14,6 +14,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -33,10 +35,6 @@ struct Shown {
     QString Path; ///< native
 };
 
-QStringList Columns(const Shown& row) {
-    return {row.Name, row.Date, row.Version, row.Players, row.Map};
-}
-
 QJsonObject Object(const Shown& row) {
     return {{u"name"_s, row.Name},       {u"date"_s, row.Date},
             {u"version"_s, row.Version}, {u"players"_s, row.Players.toInt()},
@@ -48,34 +46,40 @@ void PrintJson(const Json& json) {
     Print(QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Indented)).trimmed());
 }
 
-/// The rows that are whole: where a file has ended the listing, its own is the last one and lacks the tag.
-std::vector<Shown> RowsOf(const ReplayList& list) {
-    std::vector<Shown> shown;
-    const RowList& rows = list.Rows();
-    for (int place = 0; place < rows.Count(); ++place) {
-        const ListRow& row = rows.Row(place);
-        if (!row.Tag.isEmpty())
-            shown.push_back({.Name = Paths::NameToNative(row.Text),
-                             .Date = rows.Text(place, ReplayList::Date),
-                             .Version = rows.Text(place, ReplayList::Version),
-                             .Players = rows.Text(place, ReplayList::Players),
-                             .Map = rows.Text(place, ReplayList::Map),
-                             .Path = Paths::ToNativeAsGiven(row.Key)});
-    }
-    return shown;
+/// Where a file has ended the listing, its row is the last one and lacks the tag.
+bool IsWhole(const ListRow& row) {
+    return !row.Tag.isEmpty();
 }
 
-void PrintList(const ReplayList& list, int count, bool asJson) {
-    const std::vector<Shown> rows = RowsOf(list);
-    if (!asJson) {
-        Print(u"count %1"_s.arg(count));
-        for (const Shown& row : rows)
-            PrintRow(Columns(row));
-        return;
+Shown ShownOf(const RowList& rows, int place) {
+    const ListRow& row = rows.Row(place);
+    return {.Name = Paths::NameToNative(row.Text),
+            .Date = rows.Text(place, ReplayList::Date),
+            .Version = rows.Text(place, ReplayList::Version),
+            .Players = rows.Text(place, ReplayList::Players),
+            .Map = rows.Text(place, ReplayList::Map),
+            .Path = Paths::ToNativeAsGiven(row.Key)};
+}
+
+void PrintLines(const RowList& rows, int count) {
+    Print(u"count %1"_s.arg(count));
+    for (int place = 0; place < rows.Count(); ++place) {
+        const ListRow& row = rows.Row(place);
+        if (!IsWhole(row))
+            continue;
+        const QString name = Paths::NameToNative(row.Text);
+        std::array<QStringView, ReplayList::Map + 1> columns{name};
+        std::ranges::copy(row.SubItems, columns.begin() + 1);
+        PrintRow(columns);
     }
+}
+
+void PrintObjects(const RowList& rows, int count) {
     QJsonArray replays;
-    for (const Shown& row : rows)
-        replays.append(Object(row));
+    for (int place = 0; place < rows.Count(); ++place) {
+        if (IsWhole(rows.Row(place)))
+            replays.append(Object(ShownOf(rows, place)));
+    }
     PrintJson(QJsonObject{{u"count"_s, count}, {u"replays"_s, replays}});
 }
 
@@ -91,11 +95,13 @@ void List(const Arguments& given) {
         count = list.Rows().Count(); // where there are too many to be counted
         Ignoring([&] { count = ReplayList().ListReplays(game, true); });
     }
-    PrintList(list, count, given.Has("--json"));
-    if (!failure)
-        return;
+    if (given.Has("--json"))
+        PrintObjects(list.Rows(), count);
+    else
+        PrintLines(list.Rows(), count);
     Flush();
-    EndWith(Report(*failure));
+    // All is done by then; taking thousands of rows apart would only cost time.
+    EndWith(failure ? Report(*failure) : 0);
 }
 
 /// The children of a node, or the branches for an empty key.
@@ -130,7 +136,7 @@ Shown Read(const QString& path, QString& slotEntry) {
     } catch (const RuntimeError& error) {
         Fail(native, error.Description());
     }
-    shown.Date = Replays::DateText(file.State().Modified());
+    shown.Date = Replays::Dates().Of(file.Modified());
     shown.Version = replay.Version;
     shown.Players = QString::number(replay.Players);
     shown.Map = replay.Map;
@@ -149,7 +155,7 @@ void Show(const Arguments& given) {
         PrintJson(object);
         return;
     }
-    PrintRow(Columns(shown));
+    PrintRow({shown.Name, shown.Date, shown.Version, shown.Players, shown.Map});
     for (const PlayerNode& node : tree)
         PrintRow(QStringList((node.Parent.isEmpty() ? u"  "_s : u"    "_s) + node.Text));
 }

@@ -32,8 +32,10 @@ void RowList::SetText(int place, const QString& text) {
 
 void RowList::SetSubItem(int place, int column, const QString& text) {
     QStringList& texts = At(place).SubItems;
-    if (texts.size() < column)
+    if (texts.size() < column) {
+        texts.reserve(static_cast<qsizetype>(columns_.size()) - 1); // those of a row come one after the other
         texts.resize(column);
+    }
     texts[column - 1] = text;
 }
 

@@ -33,6 +33,9 @@ public:
     /// Puts a row at the end, whatever the order. Returns its place.
     int Add(ListRow row);
 
+    /// Makes room for that many rows in all, so that they need not move as others come in.
+    void Reserve(int count) { rows_.reserve(static_cast<std::size_t>(count)); }
+
     void Remove(int place);
 
     [[nodiscard]] const ListRow& Row(int place) const { return rows_.at(static_cast<std::size_t>(place)); }

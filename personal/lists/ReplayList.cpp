@@ -10,9 +10,15 @@
 #include "personal/replay/Replay.h"
 #include "platform/FileNumbers.h"
 #include "platform/Files.h"
+#include "platform/ListedFolder.h"
 #include "platform/NumberedFiles.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+
+#include <QStringBuilder>
+
+#include <array>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
@@ -29,31 +35,32 @@ std::vector<RowColumn> Columns() {
             {.Caption = GetText(u"Map"_s)}};
 }
 
-QStringList ReplayNames(const QString& folder) {
-    QStringList names = Files::ListFolder(folder + u"*.*"_s);
+QStringList ReplayNames(const ListedFolder& folder) {
+    QStringList names;
+    Ignoring([&] { names = folder.Names(false); });
     names.removeIf([](const QString& name) { return !Replays::IsFileName(name); });
     NameOrder::Sort(names);
     return names;
 }
 
-/// Opens a replay, its folder's case known, under the replays' number.
-void OpenReplay(const QString& path) {
+/// Opens a replay under the replays' number.
+void OpenReplay(const ListedFolder& folder, const QString& name) {
     if (NumberedFiles::IsOpen(FileNumbers::Replay)) {
         const QString holder = NumberedFiles::Of(FileNumbers::Replay).Name();
         throw RuntimeError(ErrorNumber::FileAlreadyOpen,
                            u"%1: can't be opened while %2 is, which is no whole replay and was left open"_s.arg(
-                               Paths::ToNativeAsGiven(path), holder));
+                               folder.NativePath(name), holder));
     }
-    NumberedFiles::OpenAsGiven(FileNumbers::Replay, path, NumberedFiles::Access::Read);
+    NumberedFiles::Open(FileNumbers::Replay, folder, name);
 }
 
 /// Runs a step on what a replay holds; what it raises names the file, so that its owner knows which one to take away.
 template <typename Step>
-void Naming(const QString& path, Step&& step) {
+void Naming(const File& file, Step&& step) {
     try {
         std::forward<Step>(step)();
     } catch (const RuntimeError& error) {
-        throw RuntimeError(error.Number(), Paths::ToNativeAsGiven(path) + u": "_s + error.Description());
+        throw RuntimeError(error.Number(), file.Name() + u": "_s + error.Description());
     }
 }
 
@@ -67,6 +74,25 @@ void RequirePlainName(const QString& fileName) {
 
 } // namespace
 
+/// What the reading of many files shares.
+struct ReplayList::Reading {
+    explicit Reading(const QString& folder) : Files(folder), Names(ReplayNames(Files)) {}
+
+    /// One text for all rows with that number.
+    const QString& NumberText(int number) {
+        QString& text = Numbers.at(static_cast<std::size_t>(number));
+        if (text.isEmpty())
+            text = QString::number(number);
+        return text;
+    }
+
+    ListedFolder Files;
+    QStringList Names;
+    Replays::Dates Dates;
+    QByteArray Header;
+    std::array<QString, Replays::CountedSlots + 1> Numbers;
+};
+
 ReplayList::ReplayList() : GameList(Columns(), RowList::Edits::Yes) {}
 
 qint16 ReplayList::ListReplays(qint32& game, bool countOnly) {
@@ -75,36 +101,40 @@ qint16 ReplayList::ListReplays(qint32& game, bool countOnly) {
         SetFolder(EntryOf(game).ReplayPath);
     }
     const QString folder = EntryOf(game).ReplayPath;
-    // Looked up once and not for each file.
-    const QString found = Paths::FromNative(Paths::ToNative(folder));
+    std::optional<Reading> reading;
+    Ignoring([&] { reading.emplace(folder); }); // a folder that is not there has no replays
+    if (reading && !countOnly)
+        Rows().Reserve(static_cast<int>(reading->Names.size()));
     qint16 count = 0;
-    for (const QString& name : ReplayNames(folder)) {
+    for (const QString& name : reading ? reading->Names : QStringList()) {
         if (!countOnly)
-            AddReplay(name, found + name);
+            AddReplay(name, *reading);
         // Names count, also those of files with a wrong mark. This is meant.
         Increment(count);
     }
     return count;
 }
 
-void ReplayList::AddReplay(const QString& name, const QString& path) {
-    OpenReplay(path);
-    const QByteArray header = NumberedFiles::Read(FileNumbers::Replay, 0, Replays::HeaderLength);
+void ReplayList::AddReplay(const QString& name, Reading& reading) {
+    OpenReplay(reading.Files, name);
+    const File& file = NumberedFiles::Of(FileNumbers::Replay);
+    reading.Header.resize(Replays::HeaderLength);
+    reading.Header.resize(file.ReadInto(0, reading.Header.data(), Replays::HeaderLength));
     // The file stays open, and the next true replay's open fails. This is meant.
-    if (!Replays::HasMark(header))
+    if (!Replays::HasMark(reading.Header))
         return;
-    Naming(path, [&] {
-        // Each step fills in what it has found before the next one can fail.
-        const int place = Rows().Add({.Text = Replays::NameOf(name), .Key = Folder() + name});
+    Naming(file, [&] {
+        // Each step fills in what it has found before the next one can fail. Texts that stay take no more memory than
+        // they need, as filling fresh memory is what thousands of rows cost most.
+        const int place = Rows().Add({.Text = Replays::NameOf(name), .Key = Folder() % QStringView(name)});
         Replay replay;
-        Replays::ReadMatch(header, replay);
-        const QDateTime modified = NumberedFiles::Of(FileNumbers::Replay).State().Modified();
-        Rows().SetSubItem(place, Date, Replays::DateText(modified));
-        Replays::ReadVersion(header, replay);
+        Replays::ReadMatch(reading.Header, replay);
+        Rows().SetSubItem(place, Date, reading.Dates.Of(file.Modified()));
+        Replays::ReadVersion(reading.Header, replay);
         Rows().SetSubItem(place, Version, replay.Version);
-        Rows().SetSubItem(place, Players, QString::number(replay.Players));
+        Rows().SetSubItem(place, Players, reading.NumberText(replay.Players));
         Rows().SetSubItem(place, Map, replay.Map);
-        Rows().SetTag(place, replay.Slots + u';');
+        Rows().SetTag(place, QString(replay.Slots % u';'));
     });
     NumberedFiles::Close(FileNumbers::Replay);
 }

@@ -34,6 +34,7 @@ public:
     void BuildExportList() override;
 
 private:
-    /// `path` is the file's in the case that the disk has.
-    void AddReplay(const QString& name, const QString& path);
+    struct Reading;
+
+    void AddReplay(const QString& name, Reading& reading);
 };

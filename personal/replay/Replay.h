@@ -13,6 +13,8 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QHash>
+#include <QLocale>
 #include <QString>
 
 struct Replay {
@@ -25,6 +27,7 @@ struct Replay {
 namespace Replays {
 
 inline constexpr qsizetype HeaderLength = 2048;
+inline constexpr int CountedSlots = 8;
 
 /// Whether a file of that name is taken for a replay: its last 3 characters are "rep" or its last 11 "bfme2replay", in
 /// any case.
@@ -39,8 +42,16 @@ QString Extension(GameIndex game);
 /// Whether a header begins with one of the marks.
 bool HasMark(const QByteArray& header);
 
-/// A file's date in the system's short form.
-QString DateText(const QDateTime& modified);
+/// Days in the system's short form, for one listing: thousands of files have few days between them.
+class Dates {
+public:
+    /// The user's day of a point in time.
+    QString Of(const QDateTime& time);
+
+private:
+    QLocale locale_ = QLocale::system();
+    QHash<qint64, QString> texts_; ///< by day
+};
 
 /// What a header says; one that is shorter than HeaderLength counts as filled up with zeros. Each raises 5 or 9 for
 /// what is missing or cut off, and fills in what stands before that.

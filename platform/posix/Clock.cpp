@@ -6,6 +6,8 @@
 #include <QDateTime>
 #include <QLocale>
 
+#include <ctime>
+
 QString Clock::Now() {
     const QDateTime now = QDateTime::currentDateTime();
     const QLocale locale = QLocale::system();
@@ -13,6 +15,16 @@ QString Clock::Now() {
     const QString timeFormat = locale.timeFormat(QLocale::LongFormat).remove(u't');
     const QString date = locale.toString(now.date(), QLocale::ShortFormat);
     return (date + u' ' + locale.toString(now.time(), timeFormat)).simplified();
+}
+
+QDate Clock::LocalDay(const QDateTime& time) {
+    // Qt asks for the zone's file each time, which costs thousands of dates more than all else.
+    const std::time_t seconds = time.toSecsSinceEpoch();
+    std::tm day{};
+    if (::localtime_r(&seconds, &day) == nullptr)
+        return time.toLocalTime().date();
+    constexpr int firstYear = 1900;
+    return {day.tm_year + firstYear, day.tm_mon + 1, day.tm_mday};
 }
 
 double Clock::SecondsOfDay() {

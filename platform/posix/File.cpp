@@ -6,6 +6,8 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/posix/Errors.h"
+#include "platform/posix/FileTime.h"
+#include "platform/posix/OpenNative.h"
 #include "platform/posix/Transfer.h"
 
 #include <fcntl.h>
@@ -35,25 +37,6 @@ int Flags(File::Access access) {
     throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name));
 }
 
-File OpenNative(const QString& name, File::Access access) {
-    // A pipe must not make the program wait for its other end.
-    const int flags = Flags(access) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
-    const int number = ::open(Paths::EncodeNative(name).constData(), flags, 0666);
-    if (number < 0) {
-        const int error = errno;
-        if (error == ENXIO)
-            RaiseNoFile(name); // a pipe or socket with nobody at its other end
-        RaiseErrno(error == ENOENT && access != File::Access::Read ? ENOTDIR : error, name);
-    }
-    File file(number, name);
-
-    struct stat status {};
-
-    if (::fstat(number, &status) != 0 || !S_ISREG(status.st_mode))
-        RaiseNoFile(name);
-    return file;
-}
-
 int Number(const File& file) {
     return static_cast<int>(file.Handle());
 }
@@ -75,12 +58,36 @@ FileState StateFrom(const struct stat& status) {
 
 } // namespace
 
+File OpenNative(int folder, const QByteArray& path, const QString& name, File::Access access) {
+    // A pipe must not make the program wait for its other end.
+    const int flags = Flags(access) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    const int number = ::openat(folder, path.constData(), flags, 0666);
+    if (number < 0) {
+        const int error = errno;
+        if (error == ENXIO)
+            RaiseNoFile(name); // a pipe or socket with nobody at its other end
+        RaiseErrno(error == ENOENT && access != File::Access::Read ? ENOTDIR : error, name);
+    }
+
+    struct stat status {};
+
+    if (::fstat(number, &status) != 0 || !S_ISREG(status.st_mode)) {
+        ::close(number);
+        RaiseNoFile(name);
+    }
+    if (access == File::Access::Read)
+        return {number, name, Milliseconds(status.st_mtim)};
+    return {number, name};
+}
+
 File File::Open(const QString& path, Access access) {
-    return OpenNative(Paths::ToNative(path), access);
+    const QString name = Paths::ToNative(path);
+    return OpenNative(AT_FDCWD, Paths::EncodeNative(name), name, access);
 }
 
 File File::OpenAsGiven(const QString& path, Access access) {
-    return OpenNative(Paths::ToNativeAsGiven(path), access);
+    const QString name = Paths::ToNativeAsGiven(path);
+    return OpenNative(AT_FDCWD, Paths::EncodeNative(name), name, access);
 }
 
 File::~File() {
@@ -102,6 +109,11 @@ FileState File::State() const {
     return StateFrom(Status(*this, name_));
 }
 
+QDateTime File::Modified() const {
+    const qint64 known = modified_ ? *modified_ : Milliseconds(Status(*this, name_).st_mtim);
+    return QDateTime::fromMSecsSinceEpoch(known, Qt::UTC);
+}
+
 qint64 File::CopyFrom(qint64 toOffset, const File& from, qint64 fromOffset, qint64 count) {
     return TransferBytes(Number(*this), toOffset, Number(from), fromOffset, count, name_, from.name_);
 }
@@ -121,13 +133,6 @@ void File::Write(qint64 offset, QByteArrayView bytes) {
 void File::SetLength(qint64 length) {
     if (::ftruncate(Number(*this), length) != 0)
         RaiseErrno(errno, name_);
-}
-
-QDateTime FileState::Modified() const {
-    constexpr qint64 nanosecondsAMillisecond = 1'000'000;
-    const qint64 partial = Time % nanosecondsAMillisecond;
-    // Times before 1970 are rounded down as well.
-    return QDateTime::fromMSecsSinceEpoch(Time / nanosecondsAMillisecond - (partial < 0 ? 1 : 0));
 }
 
 FileState StateOf(const QString& path) {

@@ -7,9 +7,10 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/posix/Errors.h"
+#include "platform/posix/FileTime.h"
+#include "platform/posix/Listing.h"
 #include "platform/posix/Transfer.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -61,32 +62,9 @@ bool ParentExists(const QString& path) {
     return split <= 0 || Files::FolderExists(path.first(split));
 }
 
-/// A directory that is closed with its scope.
-class Listing {
-public:
-    explicit Listing(const Native& folder) : name_(folder.Text), directory_(::opendir(folder.Path()), &::closedir) {
-        if (!directory_)
-            Raise();
-    }
-
-    const dirent* Next() {
-        errno = 0; // the one way to tell an end from a failure
-        const dirent* entry = ::readdir(directory_.get());
-        if (entry == nullptr && errno != 0)
-            Raise();
-        return entry;
-    }
-
-    [[nodiscard]] int Descriptor() const { return ::dirfd(directory_.get()); }
-
-private:
-    [[noreturn]] void Raise() const {
-        throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(name_));
-    }
-
-    QString name_;
-    std::unique_ptr<DIR, int (*)(DIR*)> directory_;
-};
+Listing ListingOf(const QString& folder) {
+    return Listing(Paths::ToNative(folder.isEmpty() ? QStringLiteral(".") : folder));
+}
 
 void MakeNative(const QString& native) {
     if (::mkdir(Paths::EncodeNative(native).constData(), 0777) == 0)
@@ -102,19 +80,15 @@ void MakeNative(const QString& native) {
 } // namespace
 
 std::vector<FolderEntry> FolderEntries(const QString& folder) {
-    Listing listing{Native(folder.isEmpty() ? QStringLiteral(".") : folder)};
+    Listing listing = ListingOf(folder);
     std::vector<FolderEntry> entries;
     while (const dirent* entry = listing.Next()) {
-        const QByteArray name(static_cast<const char*>(entry->d_name));
-        if (name == "." || name == "..")
-            continue;
-
         struct stat status {};
 
-        const bool known = ::fstatat(listing.Descriptor(), name.constData(), &status, 0) == 0;
+        const bool known = listing.StatusOf(*entry, status);
         const bool isFolder = known && S_ISDIR(status.st_mode);
-        entries.push_back({Paths::NameFromNative(Paths::DecodeNative(name)), isFolder ? 0 : status.st_size, isFolder,
-                           known && S_ISREG(status.st_mode)});
+        entries.push_back(
+            {Listing::NameOf(*entry), isFolder ? 0 : status.st_size, isFolder, known && S_ISREG(status.st_mode)});
     }
     return entries;
 }
@@ -235,7 +209,7 @@ QDateTime ModifiedTime(const QString& path) {
     const auto status = Status(path);
     if (!status)
         Native(path).Raise(ENOENT);
-    return QDateTime::fromMSecsSinceEpoch(qint64{status->st_mtim.tv_sec} * 1000 + status->st_mtim.tv_nsec / 1'000'000);
+    return QDateTime::fromMSecsSinceEpoch(Milliseconds(status->st_mtim));
 }
 
 bool SameFile(const QString& first, const QString& second) {

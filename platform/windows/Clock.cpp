@@ -32,6 +32,10 @@ QString Clock::Now() {
     return (Formatted(&::GetDateFormatW, now) + u' ' + Formatted(&::GetTimeFormatW, now)).simplified();
 }
 
+QDate Clock::LocalDay(const QDateTime& time) {
+    return time.toLocalTime().date();
+}
+
 double Clock::SecondsOfDay() {
     const SYSTEMTIME now = LocalTime();
     return (now.wHour * 60 + now.wMinute) * 60 + now.wSecond + now.wMilliseconds / 1000.0;

@@ -5,6 +5,7 @@
 
 #include "platform/RuntimeError.h"
 #include "platform/windows/Errors.h"
+#include "platform/windows/FileTime.h"
 #include "platform/windows/System.h"
 
 #include <algorithm>
@@ -113,6 +114,13 @@ qint64 File::CopyFrom(qint64 toOffset, const File& from, qint64 fromOffset, qint
     return done;
 }
 
+QDateTime File::Modified() const {
+    FILETIME time{};
+    if (GetFileTime(SystemHandle(*this), nullptr, nullptr, &time) == 0)
+        RaiseLastError(GetLastError(), name_);
+    return FromFileTime(time);
+}
+
 qint64 File::Length() const {
     LARGE_INTEGER length{};
     if (GetFileSizeEx(SystemHandle(*this), &length) == 0)
@@ -155,12 +163,6 @@ void File::SetLength(qint64 length) {
     const HANDLE handle = SystemHandle(*this);
     if (SetFilePointerEx(handle, end, nullptr, FILE_BEGIN) == 0 || SetEndOfFile(handle) == 0)
         RaiseLastError(GetLastError(), name_);
-}
-
-QDateTime FileState::Modified() const {
-    constexpr qint64 ticksAMillisecond = 10'000;
-    constexpr qint64 millisecondsFrom1601To1970 = 11'644'473'600'000;
-    return QDateTime::fromMSecsSinceEpoch(Time / ticksAMillisecond - millisecondsFrom1601To1970);
 }
 
 FileState StateOf(const QString& path) {

@@ -3,12 +3,12 @@
 
 #include "platform/Files.h"
 
-#include "platform/File.h"
 #include "platform/FolderEntries.h"
 #include "platform/Paths.h"
 #include "platform/PrivateName.h"
 #include "platform/RuntimeError.h"
 #include "platform/windows/Errors.h"
+#include "platform/windows/FileTime.h"
 #include "platform/windows/System.h"
 
 #include <memory>
@@ -190,10 +190,7 @@ QDateTime ModifiedTime(const QString& path) {
     const auto attributes = Attributes(path);
     if (!attributes)
         RaiseLastError(ERROR_FILE_NOT_FOUND, path);
-    const FILETIME& time = attributes->ftLastWriteTime;
-    FileState state;
-    state.Time = Wide(time.dwHighDateTime, time.dwLowDateTime);
-    return state.Modified();
+    return FromFileTime(attributes->ftLastWriteTime).toLocalTime();
 }
 
 bool SameFile(const QString& first, const QString& second) {

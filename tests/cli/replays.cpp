@@ -35,7 +35,7 @@ protected:
     static QJsonObject Json(const QByteArray& output) { return QJsonDocument::fromJson(output).object(); }
 
     /// The date column of a file.
-    static QByteArray DateOf(const QString& path) { return Replays::DateText(Files::ModifiedTime(path)).toUtf8(); }
+    static QByteArray DateOf(const QString& path) { return Replays::Dates().Of(Files::ModifiedTime(path)).toUtf8(); }
 
     static QByteArray Teams() {
         return ReplayBytes(

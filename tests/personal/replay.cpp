@@ -183,6 +183,6 @@ TEST(ReplayHeader, AVersionThatRunsToTheEndIsError9) {
 
 TEST(ReplayHeader, TheDateIsTheSystemsShortOne) {
     const QDateTime time(QDate(2003, 8, 30), QTime(20, 55));
-    EXPECT_EQ(Replays::DateText(time), QLocale::system().toString(time.date(), QLocale::ShortFormat));
-    EXPECT_FALSE(Replays::DateText(time).isEmpty());
+    EXPECT_EQ(Replays::Dates().Of(time), QLocale::system().toString(time.date(), QLocale::ShortFormat));
+    EXPECT_FALSE(Replays::Dates().Of(time).isEmpty());
 }

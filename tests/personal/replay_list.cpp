@@ -229,7 +229,7 @@ TEST_F(ReplayListing, FewerThanEightSlotsEndTheListingWithError9) {
 TEST_F(ReplayListing, AVersionWithoutEndLeavesARowWithNameAndDate) {
     QByteArray replay = MatchOf("a", "X:X:X:X:X:X:X:X:") + Wide("Version 1").chopped(2);
     ExpectEndAtTheSecond("GENREP" + replay + QByteArray(3000, '1'), 9);
-    const QString today = Replays::DateText(Files::ModifiedTime(Folder() + u"2.rep"_s));
+    const QString today = Replays::Dates().Of(Files::ModifiedTime(Folder() + u"2.rep"_s));
     EXPECT_EQ(SecondRow(), QStringList({today, {}, {}, {}, {}}));
 }
 

@@ -20,6 +20,17 @@ TEST(Clock, NowIsOneLineWithTheDateAndTheTime) {
     EXPECT_FALSE(now.contains(u'\n') || now.contains(u'\r')) << now.toStdString();
 }
 
+TEST(Clock, TheLocalDayIsThatOfTheUsersZone) {
+    constexpr qint64 halfAnHour = 30LL * 60 * 1000;
+    const QDateTime start(QDate(2003, 8, 28), QTime(0, 0), Qt::UTC);
+    for (int step = 0; step < 400; ++step) {
+        const QDateTime time = start.addMSecs(step * halfAnHour);
+        EXPECT_EQ(Clock::LocalDay(time), time.toLocalTime().date()) << step;
+    }
+    const QDateTime early = QDateTime::fromMSecsSinceEpoch(-1, Qt::UTC);
+    EXPECT_EQ(Clock::LocalDay(early), early.toLocalTime().date());
+}
+
 TEST(Clock, SecondsOfDayCountFromLocalMidnightWithAFraction) {
     const double before = QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
     const double now = Clock::SecondsOfDay();

@@ -9,6 +9,7 @@
 #include "tools/demoworld/Texts.h"
 #include "tools/demoworld/UserFiles.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -151,7 +152,11 @@ QString MakeReplays(const QString& folder, int count) {
         const auto seed = static_cast<quint64>(number);
         const QByteArray replay = Replay(0, RandomReplayFacts(0, seed), 0, seed);
         QFile output(folder + u"/%1 %2"_s.arg(PlaceName(seed)).arg(number) + ReplayExtension(0));
-        if (!output.open(QIODevice::WriteOnly) || output.write(replay) != replay.size() || !output.flush())
+        constexpr qint64 started = 1131400000;
+        constexpr qint64 secondsBetween = 4 * 60 * 60; // a few replays a day
+        const QDateTime played = QDateTime::fromSecsSinceEpoch(started + number * secondsBetween);
+        if (!output.open(QIODevice::WriteOnly) || output.write(replay) != replay.size() || !output.flush() ||
+            !output.setFileTime(played, QFileDevice::FileModificationTime))
             return u"%1 can't be written."_s.arg(output.fileName());
     }
     return {};

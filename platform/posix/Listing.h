@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// A directory as the system lists it, closed with its scope.
+#pragma once
+
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <memory>
+#include <string_view>
+
+class Listing {
+public:
+    /// Raises 76 when the native path can't be listed.
+    explicit Listing(const QString& nativeFolder)
+        : name_(nativeFolder),
+          directory_(::opendir(Paths::EncodeNative(nativeFolder).constData()), &::closedir) {
+        if (!directory_)
+            Raise();
+    }
+
+    /// The next entry that is neither the folder itself nor the one above it. Raises 76 when reading on fails.
+    const dirent* Next() {
+        const dirent* entry = Read();
+        while (entry != nullptr && IsDots(static_cast<const char*>(entry->d_name)))
+            entry = Read();
+        return entry;
+    }
+
+    /// Begins anew.
+    void Rewind() { ::rewinddir(directory_.get()); }
+
+    [[nodiscard]] int Descriptor() const { return ::dirfd(directory_.get()); }
+
+    [[nodiscard]] static QString NameOf(const dirent& entry) {
+        return Paths::NameFromNative(Paths::DecodeNative(static_cast<const char*>(entry.d_name)));
+    }
+
+    /// What stands behind an entry, links followed; false where nothing does.
+    bool StatusOf(const dirent& entry, struct stat& status) const {
+        return ::fstatat(Descriptor(), static_cast<const char*>(entry.d_name), &status, 0) == 0;
+    }
+
+    /// The system mostly tells what an entry is, and a look at it can be saved.
+    [[nodiscard]] bool IsFolder(const dirent& entry) const {
+        if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN)
+            return entry.d_type == DT_DIR;
+
+        struct stat status {};
+
+        return StatusOf(entry, status) && S_ISDIR(status.st_mode);
+    }
+
+private:
+    static bool IsDots(std::string_view name) { return name == "." || name == ".."; }
+
+    const dirent* Read() {
+        errno = 0; // the one way to tell an end from a failure
+        const dirent* entry = ::readdir(directory_.get());
+        if (entry == nullptr && errno != 0)
+            Raise();
+        return entry;
+    }
+
+    [[noreturn]] void Raise() const {
+        throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(name_));
+    }
+
+    QString name_;
+    std::unique_ptr<DIR, int (*)(DIR*)> directory_;
+};
