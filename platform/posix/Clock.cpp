@@ -19,7 +19,9 @@ QString Clock::Now() {
 
 QDate Clock::LocalDay(const QDateTime& time) {
     // Qt asks for the zone's file each time, which costs thousands of dates more than all else.
-    const std::time_t seconds = time.toSecsSinceEpoch();
+    constexpr qint64 second = 1000;
+    const qint64 milliseconds = time.toMSecsSinceEpoch();
+    const std::time_t seconds = milliseconds / second - (milliseconds % second < 0 ? 1 : 0);
     std::tm day{};
     if (::localtime_r(&seconds, &day) == nullptr)
         return time.toLocalTime().date();
