@@ -12,7 +12,7 @@ namespace {
 
 constexpr qsizetype BlockSize = qsizetype{128} * 1024;
 /// From here on a file is left to the system to be copied; shorter ones are gathered in the block.
-constexpr qint64 LongFile = 64 * 1024;
+constexpr qint64 LongFile = qint64{64} * 1024;
 /// The gaps of a run are written behind it, while its bytes are still at hand.
 constexpr qint64 LongestRun = qint64{1} << 20;
 

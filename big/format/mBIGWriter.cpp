@@ -75,7 +75,7 @@ Shift WriteTo(const QString& path, const mBIG::SaveOptions& options, Progress& p
     WritePlan::CheckCount(mBIG::Open(), Paths::ToNative(path));
     const bool fromOriginals = options.FromOriginals && options.Originals != nullptr && options.Originals->AreKnown();
     WriteAside aside(path);
-    const Shift shift = WriteBytes(aside.Out(), options, fromOriginals, progress);
+    Shift shift = WriteBytes(aside.Out(), options, fromOriginals, progress);
     PutInPlace(aside, path, options.Originals, fromOriginals);
     for (BigEntry& entry : mBIG::BigEntries)
         entry.IsNew = entry.IsNew && entry.Deleted;

@@ -8,9 +8,6 @@
 #include "platform/Paths.h"
 #include "tests/personal/replay_bytes.h"
 
-#include <QElapsedTimer>
-#include <QFile>
-
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -128,19 +125,4 @@ TEST_F(ReplayBadInput, TheLettersOfAnotherCodePageComeOutOneEach) {
     EXPECT_EQ(List(), 1);
     EXPECT_EQ(Column(ReplayList::Map), QStringList{u"Ìèð"_s});
     EXPECT_TRUE(list_.Rows().Row(0).Tag.startsWith(u"HÌèð,"_s));
-}
-
-TEST_F(ReplayBadInput, TenThousandReplaysAreListedInATimeThatNobodyNotices) {
-    const QString native = Paths::ToNative(Folder());
-    Put(u"0.rep"_s, SampleReplay());
-    for (int i = 1; i < 10000; ++i) {
-        QFile file(native + QString::number(i) + u".rep"_s);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(SampleReplay());
-    }
-    QElapsedTimer timer;
-    timer.start();
-    EXPECT_EQ(List(), 10000);
-    // A build with sanitizers on a busy machine; the benchmarks hold the release build to its limit.
-    EXPECT_LT(timer.elapsed(), 10'000);
 }

@@ -13,8 +13,6 @@
 #include <QFile>
 #include <QLocale>
 
-#include <limits>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -264,19 +262,6 @@ TEST_F(ReplayListing, AFolderWhoseCaseIsNotTheDisksIsListed) {
     bool done = false;
     list_.DeleteReplay(done);
     EXPECT_TRUE(done);
-}
-
-TEST_F(ReplayListing, ACountOf32768IsError6) {
-    Put(u"0.rep"_s, "");
-    const QString native = Paths::ToNative(Folder());
-    for (int i = 1; i <= std::numeric_limits<qint16>::max(); ++i) {
-        QFile file(native + QString::number(i) + u".rep"_s);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
-    qint32 game = 0;
-    EXPECT_EQ(NumberRaisedBy([&] { list_.ListReplays(game, true); }), 6);
-    ASSERT_TRUE(QFile::remove(native + u"0.rep"_s));
-    EXPECT_EQ(list_.ListReplays(game, true), 32767);
 }
 
 TEST_F(ReplayListing, ADeletedReplayIsGoneAndItsRowStays) {
