@@ -22,6 +22,11 @@ protected:
 
 } // namespace
 
+/// Some systems write a whole file anew, without blanks around the signs.
+static QByteArray Plain(QByteArray text) {
+    return text.replace(" = ", "=");
+}
+
 TEST_F(PersonalBoxes, ANameThatIsTypedIsTheModsAtOnceWithItsCell) {
     PutMod(u"A"_s, "[Mod]\r\nName=old\r\n");
     Open(u"GenMods"_s, 0);
@@ -81,7 +86,7 @@ TEST_F(PersonalBoxes, ASelectionWithTheTextsThatStandInTheBoxesWritesNothing) {
     Personal.RowSelected(1);
     EXPECT_EQ(World::ReadFile(IniOf(u"B"_s)), same);
     const QByteArray first = World::ReadFile(IniOf(u"A"_s));
-    EXPECT_TRUE(first.contains("Name = same\r\n") && first.contains("Commentse")) << first.toStdString();
+    EXPECT_TRUE(Plain(first).contains("Name=same\r\n") && first.contains("Commentse")) << first.toStdString();
 }
 
 TEST_F(PersonalBoxes, ASelectedModWithoutARecordGetsAnEmptyOneBehindBoxesThatHeldText) {
@@ -114,8 +119,9 @@ TEST_F(PersonalBoxes, TextsGoOverFromAModToAShellMapAsAChange) {
     Open(u"GenShellMaps"_s, 0);
     EXPECT_EQ(ModText(u"A"_s, u"Name"_s), u"A"_s) << "the mod keeps its own";
     const QByteArray written = World::ReadFile(folder + u"\\QvInfos.ini"_s);
-    EXPECT_TRUE(written.contains("Name = S\r\n")) << "the name is another one and is written";
-    EXPECT_TRUE(written.contains("Comments = \"same\"\r\n")) << "the same comment is no change";
+    EXPECT_TRUE(Plain(written).contains("Name=S\r\n")) << "the name is another one and is written";
+    EXPECT_TRUE(Plain(written).contains("Comments=\"same\"\r\n") || Plain(written).contains("Comments=same\r\n"))
+        << "the same comment is no change";
 }
 
 TEST_F(PersonalBoxes, OfMapsAndReplaysWriteNothing) {
