@@ -153,7 +153,7 @@ QString MakeReplays(const QString& folder, int count) {
         const QByteArray replay = Replay(0, RandomReplayFacts(0, seed), 0, seed);
         QFile output(folder + u"/%1 %2"_s.arg(PlaceName(seed)).arg(number) + ReplayExtension(0));
         constexpr qint64 started = 1131400000;
-        constexpr qint64 secondsBetween = 4 * 60 * 60; // a few replays a day
+        constexpr qint64 secondsBetween = qint64{4} * 60 * 60; // a few replays a day
         const QDateTime played = QDateTime::fromSecsSinceEpoch(started + number * secondsBetween);
         if (!output.open(QIODevice::WriteOnly) || output.write(replay) != replay.size() || !output.flush() ||
             !output.setFileTime(played, QFileDevice::FileModificationTime))
