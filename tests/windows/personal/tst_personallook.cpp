@@ -217,7 +217,7 @@ private Q_SLOTS:
 
     void textsThatLookLikeMarkupAreShownAsTheyAre() {
         Begin();
-        AddMod(u"<b>x.big"_s, "[Mod]\r\nName=<i>y\r\n");
+        AddMod(u"&lt;x.big"_s, "[Mod]\r\nName=<i>y\r\n");
         Open();
         ClickNode(u"GenMods"_s);
         Click(*List("lstMods"), 0);
