@@ -3,6 +3,7 @@
 
 #include "core/GameFiles.h"
 
+#include "core/NameOrder.h"
 #include "core/mMain.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
@@ -27,15 +28,6 @@ const GameEntry& EntryOf(GameIndex game) {
     return Game.at(static_cast<std::size_t>(game));
 }
 
-/// Capitals stand for both, as in Windows' folders, so that "_" comes behind the letters.
-bool IsBefore(const QString& first, const QString& second) {
-    const auto capital = [](QChar letter) { return letter.toUpper(); };
-    const auto [one, other] = std::ranges::mismatch(first, second, {}, capital, capital);
-    if (one == first.end() && other == second.end())
-        return first < second;
-    return one == first.end() || (other != second.end() && capital(*one) < capital(*other));
-}
-
 QString MapsFolder(GameIndex game) {
     return EntryOf(game).InstallPath + u"Maps\\"_s;
 }
@@ -45,7 +37,7 @@ QStringList Listed(GameIndex game, const QString& pattern, bool withFolders) {
     if (EntryOf(game).InstallPath.isEmpty())
         return {};
     QStringList names = Files::ListFolder(pattern, withFolders);
-    std::ranges::sort(names, IsBefore);
+    NameOrder::Sort(names);
     return names;
 }
 
