@@ -22,7 +22,7 @@ public:
     /// never changed.
     QString CurrentDirectory;
 
-    /// Serves the interface between files and folders, where it is set.
+    /// Serves the interface between files and folders, where it is set. What it runs leaves this archive alone.
     std::function<void()> Yield;
 
     ZipClass();

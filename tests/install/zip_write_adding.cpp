@@ -92,6 +92,14 @@ TEST_F(ZipAdding, ListingsAreByNameWithoutRegardToCase) {
     EXPECT_EQ(Added(u"*.t"_s), (QStringList{u"10.t"_s, u"9.t"_s, u"a.t"_s, u"b.t"_s, u"C.t"_s, u"_.t"_s}));
 }
 
+TEST_F(ZipAdding, SubfoldersAreByNameWithoutRegardToCase) {
+    for (const QString& name : {u"b"_s, u"C"_s, u"a"_s, u"_"_s, u"10"_s, u"9"_s, u"D"_s, u"e"_s})
+        Put(u"f\\"_s + name + u"\\x.t"_s);
+    zip_.CurrentDirectory = At(u"f"_s);
+    EXPECT_EQ(Added(u"*.t"_s, true), (QStringList{u"10\\x.t"_s, u"9\\x.t"_s, u"a\\x.t"_s, u"b\\x.t"_s, u"C\\x.t"_s,
+                                                  u"D\\x.t"_s, u"e\\x.t"_s, u"_\\x.t"_s}));
+}
+
 TEST_F(ZipAdding, AFileWithoutADotIsLeftOutByStarDotStar) {
     Put(u"f\\readme"_s);
     Put(u"f\\read.me"_s);
@@ -125,9 +133,11 @@ TEST_F(ZipAdding, PatternsHaveQuestionMarksDigitsAndBrackets) {
 
 TEST_F(ZipAdding, WithoutAStarNothingIsAPattern) {
     Put(u"f\\map1.tga"_s);
-    EXPECT_EQ(Added(u"f\\map?.tga"_s), QStringList{});
-    EXPECT_EQ(Added(u"f\\map#.tga"_s), QStringList{});
-    EXPECT_EQ(Added(u"f\\map[1].tga"_s), QStringList{});
+    for (const bool recurse : {false, true}) {
+        EXPECT_EQ(Added(u"f\\map?.tga"_s, recurse), QStringList{});
+        EXPECT_EQ(Added(u"f\\map#.tga"_s, recurse), QStringList{});
+        EXPECT_EQ(Added(u"f\\map[1].tga"_s, recurse), QStringList{});
+    }
     Put(u"f\\[RANK] map#1.tga"_s);
     EXPECT_EQ(Added(u"f\\[RANK] map#1.tga"_s), QStringList{u"f\\[RANK] map#1.tga"_s})
         << "these letters are a name's too";
@@ -190,6 +200,10 @@ TEST_F(ZipAdding, AnEmptyTextOrARootIsNotWalked) {
     EXPECT_EQ(zip_.FileAdd({}, 0, true), 0);
     EXPECT_EQ(zip_.FileAdd(u"\\"_s, 0, true), 0);
     EXPECT_EQ(zip_.FileAdd(u"Z:\\"_s, 0, true), 0);
+    Put(u"other\\f"_s);
+    Files::MakeFolder(At(u"f"_s));
+    zip_.CurrentDirectory = At(u"f"_s);
+    EXPECT_EQ(zip_.FileAdd({}, 0, true), 0) << "nor is what lies beside the current directory";
 }
 
 TEST_F(ZipAdding, AnEmptyFileEndsTheWalkAtOnce) {

@@ -97,6 +97,7 @@ TEST_F(ZipWriting, AFileThatExistsIsNotTouchedWithoutLeave) {
     Put(u"out.zip"_s, "precious");
     AddThree();
     EXPECT_FALSE(zip_.WriteZip(At(u"out.zip"_s), false));
+    EXPECT_FALSE(zip_.WriteZip(u"out.zip"_s, false));
     EXPECT_EQ(Read(u"out.zip"_s), "precious");
     EXPECT_EQ(Archives(), QStringList{u"out.zip"_s});
 }
