@@ -28,7 +28,7 @@ protected:
 
     /// The same with the time of its last write, local time.
     QString PutAt(const QDateTime& time, const QString& name, const QByteArray& bytes) {
-        const QString path = Put(name, bytes);
+        QString path = Put(name, bytes);
         QFile file(Paths::ToNative(path));
         EXPECT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFileDevice::FileModificationTime));
         return path;
