@@ -7,6 +7,7 @@
 #include "app/cli/GameCommands.h"
 #include "app/cli/Output.h"
 #include "app/cli/ScriptHost.h"
+#include "app/cli/ZipReadCommands.h"
 
 #include "core/mMain.h"
 #include "media/MediaChild.h"
@@ -29,6 +30,7 @@ int Run(const std::vector<std::string>& words) {
     std::vector<CommandGroup> groups = GameCommands();
     groups.push_back(Big());
     groups.push_back({"csf", "CSF string tables", CsfCommands()});
+    groups.push_back({"zip", "ZIP archives", ZipReadCommands()});
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));
 }

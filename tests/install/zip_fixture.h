@@ -10,7 +10,7 @@
 #include "tests/install/ZipBytes.h"
 #include "tests/platform/InAFolder.h"
 
-class ZipTest : public InAFolder {
+class ZipReadTest : public InAFolder {
 protected:
     /// Writes the archive and reads it.
     void Open(const QByteArray& bytes) { zip_.Init(Make(QStringLiteral("a.zip"), bytes)); }

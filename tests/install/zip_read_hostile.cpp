@@ -14,7 +14,7 @@ using ZipBytes::Part;
 
 namespace {
 
-class ZipHostile : public ZipTest {
+class ZipHostile : public ZipReadTest {
 protected:
     static QByteArray Sample() {
         const QByteArray lines = QByteArray("line\n").repeated(20);

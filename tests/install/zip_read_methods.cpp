@@ -11,7 +11,7 @@ using ZipBytes::Part;
 
 namespace {
 
-class ZipMethods : public ZipTest {
+class ZipMethods : public ZipReadTest {
 protected:
     static QByteArray Lines() { return QByteArray("the same line again and again\n").repeated(40); }
 

@@ -17,7 +17,7 @@ namespace {
 constexpr int Utf8Flag = 0x800;
 constexpr int Unix = 3;
 
-class ZipNamesRead : public ZipTest {
+class ZipNamesRead : public ZipReadTest {
 protected:
     QString NameOf(const Part& part) {
         Open({part});

@@ -23,7 +23,7 @@ public:
     QStringList Asked;
 };
 
-class ZipPasswords : public ZipTest {
+class ZipPasswords : public ZipReadTest {
 protected:
     static QByteArray Lines() { return QByteArray("the same line again and again\n").repeated(40); }
 

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class ZipDisk : public ZipTest {
+class ZipDisk : public ZipReadTest {
 protected:
     ZipDisk() { Files::MakeFolder(Out()); }
 
