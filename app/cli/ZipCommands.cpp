@@ -3,9 +3,11 @@
 
 #include "app/cli/ZipCommands.h"
 
+#include "app/cli/ZipReadCommands.h"
+
 std::vector<Command> ZipCommands() {
     std::vector<Command> all;
-    for (const auto& commands : {ZipCreateCommands()})
+    for (const auto& commands : {ZipCreateCommands(), ZipReadCommands()})
         all.insert(all.end(), commands.begin(), commands.end());
     return all;
 }
