@@ -128,6 +128,12 @@ FolderGateway::Folder& FolderGateway::FolderFor(QStringView relative) {
     return **folders_.insert(key, folder);
 }
 
+void FolderGateway::MakeFolder(const QString& name) {
+    if (const QString refusal = RefusalOf(name); !refusal.isEmpty())
+        Refuse(name, refusal);
+    FolderFor(QStringView(name).chopped(IsSeparator(name.back()) ? 1 : 0));
+}
+
 QString FolderGateway::TargetFor(const QString& name) {
     if (const QString refusal = RefusalOf(name); !refusal.isEmpty())
         Refuse(name, refusal);

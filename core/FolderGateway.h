@@ -24,6 +24,10 @@ public:
     /// raises for a folder.
     QString TargetFor(const QString& name);
 
+    /// Makes the folder of a name and those above it, as far as they are missing; a separator behind the name is fine.
+    /// Raises as TargetFor.
+    void MakeFolder(const QString& name);
+
     /// Why a name may not be written: it is empty or too long, leaves the folder, names a device, or holds what file
     /// names can't. Empty for a good name. Both separators count; the answer is the same on every system.
     static QString RefusalOf(QStringView name);

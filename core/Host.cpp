@@ -49,3 +49,7 @@ Host& Host::Current() {
 void Host::Use(Host* host) {
     inUse = host;
 }
+
+bool Host::IsThere() {
+    return inUse != nullptr;
+}

@@ -87,4 +87,7 @@ public:
     /// The one in use. Logic that needs none runs without; asking for a missing one raises 91.
     static Host& Current();
     static void Use(Host* host);
+
+    /// Whether there is one.
+    static bool IsThere();
 };

@@ -97,6 +97,9 @@ std::vector<FoundFile> ListFolderFilesStrict(const QString& folder, bool recursi
 /// so does what can't be deleted. Where the folder is a link, what it leads to is somebody else's: nothing is deleted.
 void EmptyFolder(const QString& folder, const QStringList& kept = {});
 
+/// How many bytes the file system of a folder still takes from this user. Raises 76 when the folder is missing.
+qint64 FreeSpace(const QString& folder);
+
 /// Waits until all that was written in the file system of a path is on the disk, where the system lets everybody ask
 /// for that: once at the end of many files.
 void FlushSystem(const QString& path);

@@ -44,6 +44,10 @@ QString DecodeNative(const QByteArray& bytes);
 /// links followed as far as the path exists.
 QString Absolute(const QString& nativePath);
 
+/// The absolute inside path of an inside path that may be relative to a folder (an absolute inside path), by the texts
+/// alone: "." and ".." gone, no trailing backslash but a root's own, no link followed. It may hold '*' and '?'.
+QString AbsoluteIn(const QString& folder, const QString& path);
+
 /// The inside path that an existing file or folder really has, all links followed; empty when there is none.
 QString Real(const QString& path);
 

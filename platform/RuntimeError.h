@@ -13,6 +13,7 @@
 namespace ErrorNumber {
 inline constexpr int InvalidCall = 5;
 inline constexpr int Overflow = 6;
+inline constexpr int OutOfMemory = 7;
 inline constexpr int Subscript = 9;
 inline constexpr int DivisionByZero = 11;
 inline constexpr int TypeMismatch = 13;
@@ -26,6 +27,7 @@ inline constexpr int PermissionDenied = 70;
 inline constexpr int PathFileAccess = 75;
 inline constexpr int PathNotFound = 76;
 inline constexpr int ObjectNotSet = 91;
+inline constexpr int InvalidPattern = 93;
 inline constexpr int InvalidProperty = 380;
 } // namespace ErrorNumber
 

@@ -9,6 +9,7 @@
 #include "app/cli/Output.h"
 #include "app/cli/ReplayCommands.h"
 #include "app/cli/ScriptHost.h"
+#include "app/cli/ZipCommands.h"
 
 #include "core/mMain.h"
 #include "media/MediaChild.h"
@@ -35,6 +36,7 @@ int Run(const std::vector<std::string>& words) {
     groups.push_back({"maps", "A game's maps", MapCommands()});
     groups.push_back({"mods", "A game's mods", ModCommands()});
     groups.push_back({"shellmaps", "A game's shell maps", ShellMapCommands()});
+    groups.push_back({"zip", "ZIP archives", ZipCommands()});
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));
 }

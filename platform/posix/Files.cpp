@@ -13,6 +13,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -197,6 +198,15 @@ void Replace(const QString& from, const QString& to) {
             throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(to));
         source.Raise(error);
     }
+}
+
+qint64 FreeSpace(const QString& folder) {
+    struct statvfs status {};
+
+    const Native native(folder);
+    if (::statvfs(native.Path(), &status) != 0)
+        native.Raise(errno == ENOENT ? ENOTDIR : errno);
+    return static_cast<qint64>(status.f_bavail * status.f_frsize);
 }
 
 void FlushSystem(const QString& path) {

@@ -163,6 +163,19 @@ QString Absolute(const QString& nativePath) {
     return FromNative(DecodeNative(QByteArray::fromStdString(resolved.string())));
 }
 
+QString AbsoluteIn(const QString& folder, const QString& path) {
+    const QString whole = HasDrive(path) || path.startsWith(u'\\') ? path : folder + u'\\' + path;
+    const QString drive = whole.first(HasDrive(whole) ? 2 : 0);
+    QStringList parts;
+    for (const QString& part : whole.sliced(drive.size()).split(u'\\', Qt::SkipEmptyParts)) {
+        if (part == u"..")
+            parts.resize(std::max<qsizetype>(parts.size() - 1, 0));
+        else if (part != u".")
+            parts.append(part);
+    }
+    return drive + u'\\' + parts.join(u'\\');
+}
+
 QString Real(const QString& path) {
     const std::unique_ptr<char, void (*)(void*)> found(::realpath(EncodeNative(ToNative(path)).constData(), nullptr),
                                                        &std::free);

@@ -182,6 +182,13 @@ void Replace(const QString& from, const QString& to) {
         RaiseLastError(GetLastError(), to);
 }
 
+qint64 FreeSpace(const QString& folder) {
+    ULARGE_INTEGER available{};
+    if (GetDiskFreeSpaceExW(WidePath(folder).c_str(), &available, nullptr, nullptr) == 0)
+        RaiseLastError(GetLastError(), folder);
+    return Wide(available.HighPart, available.LowPart);
+}
+
 void FlushSystem(const QString& path) {
     static_cast<void>(path); // only an administrator may ask for that: the system writes in its own time
 }

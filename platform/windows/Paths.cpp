@@ -45,6 +45,20 @@ QString Absolute(const QString& nativePath) {
     return QString::fromWCharArray(full.data(), static_cast<int>(length));
 }
 
+QString AbsoluteIn(const QString& folder, const QString& path) {
+    QString given = path;
+    given.replace(u'/', u'\\');
+    const bool hasDrive = given.size() > 1 && given[1] == u':';
+    if (hasDrive && given.size() > 2 && given[2] != u'\\' && folder.startsWith(given.first(2), Qt::CaseInsensitive))
+        given = folder + u'\\' + given.sliced(2);
+    else if (!hasDrive && !given.startsWith(u'\\'))
+        given = folder + u'\\' + given;
+    else if (!hasDrive && !given.startsWith(u"\\\\"))
+        given = folder.first(2) + given;
+    const QString whole = Absolute(given);
+    return whole.endsWith(u'\\') && !whole.endsWith(u":\\") ? whole.chopped(1) : whole;
+}
+
 QString Real(const QString& path) {
     const HANDLE handle =
         CreateFileW(path.toStdWString().c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,

@@ -78,6 +78,20 @@ TEST_F(Gateway, AFolderOfTheFilesNameOrAFileOfTheFoldersNameFails) {
     EXPECT_THROW(gateway.TargetFor(u"..\\x"_s), RuntimeError);
 }
 
+TEST_F(Gateway, MakesAFolderByItsNameWithASeparatorBehindItOrWithout) {
+    world_.WriteFile(u"out\\DATA\\file"_s, "x");
+    FolderGateway gateway(At(u"out"_s));
+    gateway.MakeFolder(u"data/INI/"_s);
+    gateway.MakeFolder(u"data\\Art"_s);
+    gateway.MakeFolder(u"data/ini"_s);
+    EXPECT_TRUE(Files::FolderExists(At(u"out\\DATA\\INI"_s)));
+    EXPECT_TRUE(Files::FolderExists(At(u"out\\DATA\\Art"_s)));
+    for (const QString& name : {u"../x/"_s, u"/"_s, u"a/nul/"_s, QString(), u"data/file"_s, u"data/file/x"_s})
+        EXPECT_ANY_THROW(gateway.MakeFolder(name)) << name.toStdString();
+    EXPECT_FALSE(Files::FolderExists(At(u"x"_s)));
+    EXPECT_FALSE(Files::FolderExists(At(u"out\\a"_s)));
+}
+
 TEST_F(Gateway, AFolderThatCanNotBeMadeRaises) {
     world_.WriteFile(u"file"_s, "x");
     EXPECT_THROW(FolderGateway{At(u"file\\out"_s)}, RuntimeError);

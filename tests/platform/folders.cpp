@@ -72,6 +72,11 @@ TEST_F(FoldersTest, FlushingAFileSystemRaisesNothing) {
     EXPECT_EQ(NumberRaisedBy([&] { Files::FlushSystem(At({})); }), 0);
 }
 
+TEST_F(FoldersTest, FoldersTellHowMuchMoreTheyTake) {
+    EXPECT_GT(Files::FreeSpace(At({})), 0);
+    EXPECT_EQ(NumberRaisedBy([&] { Files::FreeSpace(At(u"missing"_s)); }), ErrorNumber::PathNotFound);
+}
+
 TEST_F(FoldersTest, ANumbersFileIsAFile) {
     NumberedFiles::Open(FileNumbers::Table, Make(u"f"_s, "bytes"), NumberedFiles::Access::Read);
     EXPECT_EQ(NumberedFiles::Of(FileNumbers::Table).Read(0, 9), "bytes");

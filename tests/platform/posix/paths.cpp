@@ -55,6 +55,12 @@ TEST_F(PathsTest, FollowsADriveThroughThePrefixOfThePath) {
     EXPECT_EQ(Paths::PrefixFor(u"C:\\Games\\ZH\\x.big"_s), folder_.path() + u"/two"_s);
 }
 
+TEST_F(PathsTest, APathFromTheRootOnIsAbsoluteWhereverItIsSaid) {
+    EXPECT_EQ(Paths::AbsoluteIn(u"C:\\Games"_s, u"\\home\\me\\"_s), u"\\home\\me"_s);
+    EXPECT_EQ(Paths::AbsoluteIn(u"\\home"_s, u"me\\..\\you\\.\\*.*"_s), u"\\home\\you\\*.*"_s);
+    EXPECT_EQ(Paths::AbsoluteIn(u"\\home"_s, u"..\\..\\.."_s), u"\\"_s);
+}
+
 TEST_F(PathsTest, AnUnknownDriveLeadsNowhere) {
     EXPECT_FALSE(Files::FileExists(u"Q:\\x.big"_s));
     EXPECT_THROW(Files::MakeFolder(u"Q:\\x"_s), RuntimeError);

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "install/zip/ZipReading.h"
+
+#include "core/Host.h"
+#include "install/zip/ZipFailure.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/WriteAside.h"
+
+#include <QScopeGuard>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 BlockSize = 262'144;
+/// What is smaller fails by itself where there is no room for it.
+constexpr qint64 WorthAskingForRoom = 1'048'576;
+
+[[noreturn]] void Refuse(const ZipEntry& entry, qint32 result, const QString& reason) {
+    throw ZipFailure(result, u"%1: %2"_s.arg(entry.Name, reason));
+}
+
+} // namespace
+
+ZipReading::ZipReading(const QString& path)
+    : archive_(File::Open(path, File::Access::Read)),
+      fileName_(Paths::LastPart(path).toCaseFolded()),
+      directory_(archive_),
+      library_(archive_, directory_) {}
+
+ZipReading::~ZipReading() = default;
+
+FolderGateway& ZipReading::GatewayTo(const QString& folder) {
+    if (gateway_ == nullptr || gatewayFolder_ != folder) {
+        gateway_.reset();
+        gateway_ = std::make_unique<FolderGateway>(folder);
+        gatewayFolder_ = folder;
+    }
+    return *gateway_;
+}
+
+QString ZipReading::TargetIn(const QString& folder, const QString& name) {
+    QString path = GatewayTo(folder).TargetFor(name);
+    if (Files::IsLink(path)) { // it may have come since the folder was looked at
+        gateway_.reset();
+        path = GatewayTo(folder).TargetFor(name);
+    }
+    if (Paths::LastPart(path).toCaseFolded() == fileName_ && StateOf(path).Identity == archive_.State().Identity)
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"%1 is the archive itself."_s.arg(Paths::ToNative(path)));
+    return path;
+}
+
+void ZipReading::MakeFolder(const QString& folder, const QString& name) {
+    GatewayTo(folder).MakeFolder(name);
+}
+
+void ZipReading::Unpack(qsizetype place, const QString& folder, const QString& target, const QByteArray& password,
+                        const std::function<void(qint64)>& watch) {
+    const ZipEntry& entry = Entry(place);
+    auto forget = qScopeGuard([&] { library_.Forget(); });
+    const auto stream = library_.Open(place, password);
+    block_.resize(BlockSize);
+    std::optional<WriteAside> aside;
+    qint64 done = 0;
+    bool ended = false;
+    while (!ended) {
+        const qint64 had = stream->Read(block_.data(), block_.size());
+        done += had;
+        ended = had < block_.size();
+        if (done > entry.Size)
+            Refuse(entry, ZipResult::BadData, u"yields more than it declares"_s);
+        if (ended)
+            RequireEnd(entry, done);
+        if (!aside) { // a short entry that is bad makes nothing at all
+            const QString path = TargetIn(folder, target);
+            if (entry.Size >= WorthAskingForRoom && entry.Size > Files::FreeSpace(folder))
+                Refuse(entry, ZipResult::DiskFull, u"the disk has no room for it"_s);
+            aside.emplace(path, WriteAside::Names::AsGiven);
+        }
+        aside->Out().Write(done - had, QByteArrayView(block_).first(had));
+        if (watch)
+            watch(done);
+        if (!ended && Host::IsThere())
+            Host::Current().Yield();
+    }
+    aside->Commit(false);
+    forget.dismiss();
+}
+
+void ZipReading::RequireEnd(const ZipEntry& entry, qint64 size) const {
+    if (size < entry.Size)
+        Refuse(entry, ZipResult::CutShort, u"ends before all that it declares"_s);
+    if (size == 0 && entry.Crc != 0 && entry.Method != ZipEntry::Aes) // the library looks at no checksum of nothing
+        Refuse(entry, ZipResult::BadData, u"CRC error"_s);
+}
