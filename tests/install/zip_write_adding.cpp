@@ -19,7 +19,7 @@ protected:
     }
 
     QStringList TakeNames() {
-        const QStringList names = Names();
+        QStringList names = Names();
         while (zip_.FileDel(1)) {
         }
         return names;
