@@ -26,18 +26,21 @@ endif()
 function(room_logic name)
   add_library(${name} STATIC ${ARGN})
   target_link_libraries(${name} PUBLIC house Qt6::Core)
+  use_precompiled(${name} logic)
 endfunction()
 
 # room_windows(name sources...): windows and controls.
 function(room_windows name)
   add_library(${name} STATIC ${ARGN})
   target_link_libraries(${name} PUBLIC house Qt6::Widgets)
+  use_precompiled(${name} windows)
 endfunction()
 
 # room_pictures(name sources...): code that works on pictures without any window; Qt Gui only.
 function(room_pictures name)
   add_library(${name} STATIC ${ARGN})
   target_link_libraries(${name} PUBLIC house Qt6::Gui)
+  use_precompiled(${name} logic)
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
 endfunction()
 

@@ -87,8 +87,4 @@ void SetLength(int number, qint64 length) {
     Of(number).SetLength(length);
 }
 
-void Flush(int number) {
-    Of(number).Flush();
-}
-
 } // namespace NumberedFiles

@@ -51,7 +51,4 @@ qint64 Copy(int to, qint64 toOffset, int from, qint64 fromOffset, qint64 count);
 /// Sets the length; a longer file reads as zeros behind its old end.
 void SetLength(int number, qint64 length);
 
-/// Waits until the file's bytes are on the disk.
-void Flush(int number);
-
 } // namespace NumberedFiles

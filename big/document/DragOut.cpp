@@ -5,6 +5,7 @@
 
 #include "big/document/ScratchFolders.h"
 #include "core/FolderGateway.h"
+#include "core/mTraduction.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 
@@ -46,6 +47,11 @@ QStringList DragOut::Extract() const {
     const mBIG::ArchiveLock lock;
     Ended();
     const Plan plan = PlanDrag();
+    if (Extraction::WouldBeWrong(plan.ExtractList)) {
+        // No box in the middle of a drag.
+        panes_.View.ShowNotice({.Text = mTraduction::GetText(u"ArchiveChanged"_s)});
+        return {};
+    }
     if (!plan.ExtractList.empty())
         Extraction::DoExtract(plan.ExtractList, plan.Target, false);
     return plan.Dragged;

@@ -3,11 +3,27 @@
 
 #include "big/document/ExtractCommand.h"
 
+#include "core/Host.h"
 #include "core/mTraduction.h"
+#include "platform/Paths.h"
 
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Tells that the archive was changed meanwhile, if it was.
+bool Refuses(const std::vector<qint32>& extractList) {
+    const bool refuses = Extraction::WouldBeWrong(extractList);
+    if (refuses)
+        Host::Current().Message(Paths::ToNative(mBIG::BigFileName) + "\r\n\r\n"_L1 +
+                                    mTraduction::GetText(u"ArchiveChanged"_s),
+                                Host::Icon::Critical);
+    return refuses;
+}
+
+} // namespace
 
 std::vector<qint32> ExtractCommand::Chosen() const {
     std::vector<qint32> extractList;
@@ -40,10 +56,11 @@ void ExtractCommand::Run() {
     panes_.State.StatusText = mTraduction::GetText(u"BuildingFileList"_s);
     panes_.View.StateChanged();
     const std::vector<qint32> extractList = Chosen();
-    if (extractList.empty())
+    if (extractList.empty() || Refuses(extractList))
         return;
     const ExtractionTarget target = panes_.View.AskForFolder();
-    if (target.ExtractCancelled)
+    // The chooser may have stood there for long.
+    if (target.ExtractCancelled || Refuses(extractList))
         return;
     panes_.View.EnableWindow(false);
     const auto enabled = qScopeGuard([this] { panes_.View.EnableWindow(true); });

@@ -3,6 +3,7 @@
 
 #include "big/document/Extraction.h"
 
+#include "big/format/OpenArchive.h"
 #include "core/FolderGateway.h"
 #include "core/Host.h"
 #include "core/mTraduction.h"
@@ -13,6 +14,7 @@
 
 #include <QSet>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -127,6 +129,13 @@ void TakeFolder(std::vector<qint32>& extractList, const QString& key, Qt::CaseSe
 void TakeAll(std::vector<qint32>& extractList) {
     for (std::size_t index = 0; index < mBIG::BigEntries.size(); ++index)
         Take(extractList, static_cast<qint32>(index));
+}
+
+bool WouldBeWrong(const std::vector<qint32>& extractList) {
+    return !OpenArchive::IsAsRead() && std::ranges::any_of(extractList, [](qint32 index) {
+        const BigEntry& entry = mBIG::BigEntries.at(static_cast<std::size_t>(index));
+        return !entry.IsNew && entry.Size > 0;
+    });
 }
 
 void DoExtract(const std::vector<qint32>& extractList, const ExtractionTarget& target, bool showCompletion) {

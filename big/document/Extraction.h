@@ -32,6 +32,10 @@ void TakeFolder(std::vector<qint32>& extractList, const QString& key, Qt::CaseSe
 /// Appends the indices of all the table's entries.
 void TakeAll(std::vector<qint32>& extractList);
 
+/// Whether bytes of old entries would come out of a file that is not what the table was read from any more: another
+/// program has changed, replaced or removed it.
+bool WouldBeWrong(const std::vector<qint32>& extractList);
+
 /// Writes the entries in the list's order to files below `ExtractFolder`, which is made when missing, out of the
 /// archive `BigFileName`. The progress window is shown and unloaded; each entry yields twice to the event loop. A file
 /// that stands there already brings a question, Cancel and the window's button end the run. Every name goes through the

@@ -4,9 +4,8 @@
 #include "big/format/Verification.h"
 
 #include "big/format/Layout.h"
-#include "big/format/mBIG.h"
 #include "core/FolderGateway.h"
-#include "platform/File.h"
+#include "platform/Device.h"
 #include "platform/RuntimeError.h"
 
 #include <QHash>
@@ -279,10 +278,6 @@ Class ClassOf(Kind kind) {
 
 std::vector<Finding> Verify(const Archive& archive, const Device& device) {
     return Look(archive, device).All();
-}
-
-std::vector<Finding> Verify(const QString& path) {
-    return Verify(mBIG::Open(), File::Open(path, File::Access::Read));
 }
 
 } // namespace Verification

@@ -54,7 +54,4 @@ Class ClassOf(Kind kind);
 /// data lie. The findings about the whole archive come first, then those about its entries in the directory's order.
 std::vector<Finding> Verify(const Archive& archive, const Device& device);
 
-/// The open archive's table, read from that file. Raises when the file can't be opened.
-std::vector<Finding> Verify(const QString& path);
-
 } // namespace Verification

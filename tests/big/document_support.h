@@ -95,6 +95,7 @@ public:
     int Edited = FolderTree::None;
     ExtractionTarget Target;
     int FolderQuestions = 0;
+    std::function<void()> OnFolderQuestion;
     std::vector<bool> Enabled; ///< every call of EnableWindow
 
     [[nodiscard]] std::vector<int> SelectedRows() const override { return Selected; }
@@ -103,6 +104,8 @@ public:
 
     ExtractionTarget AskForFolder() override {
         ++FolderQuestions;
+        if (OnFolderQuestion)
+            OnFolderQuestion();
         return Target;
     }
 

@@ -4,6 +4,7 @@
 #include "tests/big/document_fixture.h"
 
 #include "core/mMain.h"
+#include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 
@@ -203,6 +204,46 @@ TEST_F(Extracting, ARefusedFileFromTheCommandLineBeeps) {
     EXPECT_TRUE(Editor.ExtractBigFile(Place.WriteFile(u"x.txt"_s, ArchiveOf({{u"a"_s, "1"}, {u"b"_s, "2"}}))));
     EXPECT_EQ(Speaker.Beeps, 2);
     EXPECT_EQ(View.FolderQuestions, 0);
+}
+
+TEST_F(Extracting, FromAnArchiveThatAnotherProgramHasChangedNothingIsExtracted) {
+    const QString path = OpenSample();
+    File::Open(path, File::Access::ReadWrite).Write(2000, "more");
+    Editor.Extract();
+    EXPECT_EQ(View.FolderQuestions, 0);
+    EXPECT_FALSE(Files::FolderExists(At(u"out"_s)));
+    ASSERT_EQ(Speaker.Messages.size(), 1U);
+    EXPECT_TRUE(Speaker.Messages[0].Text.endsWith(u"ArchiveChanged"_s));
+    EXPECT_EQ(Speaker.Messages[0].Sign, Host::Icon::Critical);
+}
+
+TEST_F(Extracting, FromAnArchiveThatWasReplacedNothingIsDragged) {
+    const QString path = OpenSample();
+    Files::DeleteForced(path);
+    Place.WriteFile(u"a.big"_s, QByteArray(500, 'x'));
+    Select({u"readme.txt"_s});
+    EXPECT_EQ(Editor.ExtractForDrag(), QStringList());
+    EXPECT_TRUE(FilesBelow(u"program\\Temp"_s).isEmpty());
+    EXPECT_EQ(View.Told.Text, u"ArchiveChanged"_s);
+    EXPECT_TRUE(Speaker.Messages.empty());
+}
+
+TEST_F(Extracting, AnArchiveThatChangesWhileTheChooserStandsThereCountsToo) {
+    const QString path = OpenSample();
+    View.OnFolderQuestion = [&] { File::Open(path, File::Access::ReadWrite).Write(2000, "more"); };
+    Editor.Extract();
+    EXPECT_FALSE(Files::FolderExists(At(u"out"_s)));
+    EXPECT_EQ(Speaker.Messages.size(), 1U);
+}
+
+TEST_F(Extracting, AnAddedFileIsExtractedThoughTheArchiveHasChanged) {
+    const QString path = OpenSample();
+    Speaker.FileNames = {Place.WriteFile(u"n.txt"_s, "new")};
+    Editor.Add();
+    File::Open(path, File::Access::ReadWrite).Write(2000, "more");
+    Select({u"n.txt"_s});
+    Editor.Extract();
+    EXPECT_EQ(World::ReadFile(At(u"out\\n.txt"_s)), "new");
 }
 
 TEST_F(Extracting, ADragHandsOutTheFilesOfTheSelectedRows) {
