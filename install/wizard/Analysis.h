@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Tells what a file is, and of a ZIP what each of its entries is.
+#pragma once
+
+#include "install/InstallSource.h"
+
+class ccZip;
+
+namespace Analysis {
+
+/// A file by its full inside path and its name, by the last three characters of that without regard to case. A ZIP's
+/// directory is read into `zip`, which stays open for who extracts from it; INI files beside entries are extracted to
+/// ScratchFolder and taken away again. A ZIP with nothing to install, or that can't be read, has no records. Yields.
+InstallSource Analyse(const QString& filePath, const QString& fileName, ccZip& zip);
+
+} // namespace Analysis
