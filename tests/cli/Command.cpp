@@ -3,11 +3,13 @@
 
 #include "tests/cli/Command.h"
 
+#include "Places.h"
+
 #include <QProcess>
 
 Outcome RunCommand(const QStringList& arguments) {
     QProcess process;
-    process.start(QStringLiteral(BRINDOCK_CLI), arguments);
+    process.start(QString::fromUtf8(Places::Commands), arguments);
     const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
     return {.Code = ended ? process.exitCode() : -1,
             .Output = process.readAllStandardOutput(),

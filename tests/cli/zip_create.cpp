@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "Places.h"
 #include "tests/cli/Command.h"
 #include "tests/support/ArchiveBytes.h"
 #include "tests/support/Printing.h"
@@ -32,7 +33,8 @@ protected:
     Outcome Create(const QStringList& arguments) {
         QProcess process;
         process.setWorkingDirectory(Paths::ToNative(world_.Root()));
-        process.start(QStringLiteral(BRINDOCK_CLI), QStringList{u"zip"_s, u"create"_s, u"out.zip"_s} + arguments);
+        process.start(QString::fromUtf8(Places::Commands),
+                      QStringList{u"zip"_s, u"create"_s, u"out.zip"_s} + arguments);
         const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
         return {.Code = ended ? process.exitCode() : -1,
                 .Output = process.readAllStandardOutput(),

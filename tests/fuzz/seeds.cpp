@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// The seeds of the fuzzers, run through their targets without any fuzzer.
+#include "Places.h"
 #include "fuzz/Fuzzing.h"
 
 #include "tests/support/Printing.h"
@@ -16,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QDir SeedsOf(const QString& target) {
-    return {QStringLiteral(BRINDOCK_SOURCE) + u"/fuzz/seeds/"_s + target};
+    return {QString::fromUtf8(Places::Sources) + u"/fuzz/seeds/"_s + target};
 }
 
 class Seeds : public testing::TestWithParam<std::string> {};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// The replays of the demo world, listed and drawn with the sides and texts that the suite comes with.
+#include "Places.h"
 #include "tests/personal/replay_bytes.h"
 #include "tools/demoworld/UserFiles.h"
 
@@ -14,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QByteArray Data(const QString& name) {
-    QFile file(QStringLiteral(BRINDOCK_SOURCE) + u"/data/"_s + name);
+    QFile file(QString::fromUtf8(Places::Sources) + u"/data/"_s + name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 

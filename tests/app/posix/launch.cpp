@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// The real program launches a game, which a script stands in for: it tells what stood in the shell map's place.
+#include "Places.h"
 #include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "platform/Files.h"
@@ -42,7 +43,7 @@ protected:
                                 ".part'\nmv '" + told + ".part' '" + told + "'\n");
         QFile::setPermissions(Paths::ToNative(script), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         QProcess program;
-        program.start(QStringLiteral(BRINDOCK), {u"/launch"_s, word});
+        program.start(QString::fromUtf8(Places::Suite), {u"/launch"_s, word});
         EXPECT_TRUE(program.waitForFinished());
         EXPECT_EQ(program.exitCode(), 0);
         const QString path = world_.Root() + u"\\told"_s;

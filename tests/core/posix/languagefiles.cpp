@@ -3,6 +3,7 @@
 
 // The language files against the keys that code, forms and data use.
 
+#include "Places.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/AnsiCodec.h"
@@ -46,7 +47,7 @@ constexpr auto KnownKeys =
 using Texts = QMap<QString, QString>;
 
 QString SourceFolder() {
-    return QString::fromUtf8(BRINDOCK_SOURCE);
+    return QString::fromUtf8(Places::Sources);
 }
 
 QByteArray BytesOf(const QString& nativePath) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "Places.h"
 #include "core/mMain.h"
 #include "core/window/frmToolsMenu.h"
 #include "tests/support/ScriptedNavigator.h"
@@ -288,7 +289,7 @@ private Q_SLOTS:
 
     void noTextIsCutInEitherLanguage() {
         QFETCH(QString, file);
-        QFile texts(QStringLiteral(BRINDOCK_SOURCE "/data/languages/") + file);
+        QFile texts(QString::fromUtf8(Places::Sources) + u"/data/languages/"_s + file);
         QVERIFY(texts.open(QIODevice::ReadOnly));
         world_->UseLanguage(texts.readAll());
         Open();

@@ -5,6 +5,7 @@
 /// files of all kinds, and ways to reach its parts.
 #pragma once
 
+#include "Places.h"
 #include "core/Game.h"
 #include "core/mMain.h"
 #include "personal/lists/ExportRecords.h"
@@ -57,7 +58,7 @@ protected:
     }
 
     static QByteArray Data(const QString& file) {
-        QFile data(QString::fromUtf8(BRINDOCK_SOURCE) + QStringLiteral("/data/") + file);
+        QFile data(QString::fromUtf8(Places::Sources) + QStringLiteral("/data/") + file);
         if (!data.open(QIODevice::ReadOnly))
             qFatal("%s is missing", qPrintable(data.fileName()));
         return data.readAll();
