@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tests/cli/Command.h"
-#include "tests/install/ZipBytes.h"
 #include "tests/install/ZipSamples.h"
 #include "tests/support/Printing.h"
 #include "tests/support/World.h"
+#include "tools/demoworld/ZipBytes.h"
 
 #include "platform/Files.h"
 #include "platform/Paths.h"

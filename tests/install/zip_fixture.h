@@ -7,8 +7,8 @@
 #include "install/zip/ZipFailure.h"
 #include "install/zip/ccZip.h"
 #include "platform/Files.h"
-#include "tests/install/ZipBytes.h"
 #include "tests/platform/InAFolder.h"
+#include "tools/demoworld/ZipBytes.h"
 
 class ZipReadTest : public InAFolder {
 protected:

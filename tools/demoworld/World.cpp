@@ -5,6 +5,7 @@
 
 #include "platform/Paths.h"
 #include "tools/demoworld/Art.h"
+#include "tools/demoworld/Downloads.h"
 #include "tools/demoworld/Sounds.h"
 #include "tools/demoworld/Texts.h"
 #include "tools/demoworld/Textures.h"
@@ -47,6 +48,8 @@ public:
             MakeReplays(game);
         }
         MakeSamples();
+        for (const Download& download : Downloads(options_.Small))
+            Write(u"Downloads/"_s + download.Name, download.Bytes);
         Write(u"registry.reg"_s, RegistryText(Paths::FromNative(root_), options_.Language));
     }
 
@@ -194,7 +197,7 @@ QString StampFile(const WorldOptions& options) {
 
 /// Says what a complete world is like; the number goes up whenever the world changes.
 QByteArray Stamp(const WorldOptions& options) {
-    return u"demoworld 3\nsmall %1\njpeg %2\nlanguage %3\nfolder %4\n"_s.arg(options.Small)
+    return u"demoworld 4\nsmall %1\njpeg %2\nlanguage %3\nfolder %4\n"_s.arg(options.Small)
         .arg(static_cast<bool>(options.EncodeJpeg))
         .arg(options.Language, QDir(options.Folder).absolutePath())
         .toUtf8();
@@ -212,7 +215,7 @@ bool WriteStamp(const WorldOptions& options, const QByteArray& stamp) {
 }
 
 void RemoveOldWorld(const QString& folder) {
-    for (const QString& part : {u"Games"_s, u"Documents"_s, u"Application Data"_s, u"Samples"_s})
+    for (const QString& part : {u"Games"_s, u"Documents"_s, u"Application Data"_s, u"Samples"_s, u"Downloads"_s})
         QDir(folder + u'/' + part).removeRecursively();
     QFile::remove(folder + u"/registry.reg"_s);
 }

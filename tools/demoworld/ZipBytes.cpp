@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tests/install/ZipBytes.h"
+#include "tools/demoworld/ZipBytes.h"
 
 #include <zlib.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// ZIP archives written out record by record, lies included.
+/// ZIP archives written out record by record, lies included: for tests, and for archives as people make them.
 #pragma once
 
 #include <QByteArray>
