@@ -74,7 +74,7 @@ bool ZipClass::AddOneFile(const QString& path, qint32 pathStorage) {
     if (!Files::FileExists(path))
         return false;
     ZipFile file(path);
-    file.SetName(StoredName(path, pathStorage));
+    file.SetName(StoredName(path, pathStorage), Utf8Names ? ZipFile::Letters::Utf8WhereNeeded : ZipFile::Letters::Page);
     entries_.push_back(std::move(file));
     return true;
 }

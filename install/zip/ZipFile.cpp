@@ -61,12 +61,16 @@ ZipFile::ZipFile(const QString& path) {
     }
 }
 
-void ZipFile::SetName(const QString& name) {
-    const QByteArray bytes = AnsiCodec::Encode(name);
+void ZipFile::SetName(const QString& name, Letters letters) {
+    QByteArray bytes = AnsiCodec::Encode(name);
+    const bool isUtf8 = letters == Letters::Utf8WhereNeeded && AnsiCodec::Decode(bytes) != name;
+    if (isUtf8)
+        bytes = name.toUtf8();
     if (bytes.size() > MostOfAName)
         Raise(ErrorNumber::Overflow, name, u"too long for a name in a ZIP"_s);
     name_ = name;
     nameBytes_ = bytes;
+    entry_.IsUtf8 = isUtf8;
     entry_.NameLength = static_cast<quint16>(bytes.size());
 }
 

@@ -19,10 +19,15 @@ public:
 
     [[nodiscard]] const QString& Name() const { return name_; }
 
-    /// The name as it will stand in the archive, in the ANSI code page. Raises 6 beyond 32,767 bytes.
-    void SetName(const QString& name);
+    enum class Letters {
+        Page,           ///< in the ANSI code page, '?' for what it lacks
+        Utf8WhereNeeded ///< in UTF-8, flagged as such, where the page lacks a letter; else in the page
+    };
 
-    /// The name's bytes.
+    /// The name as it will stand in the archive. Raises 6 beyond 32,767 bytes.
+    void SetName(const QString& name, Letters letters = Letters::Page);
+
+    /// The name's bytes, in the ANSI code page or in UTF-8.
     [[nodiscard]] const QByteArray& NameBytes() const { return nameBytes_; }
 
     [[nodiscard]] qint32 SizeCompressed() const { return static_cast<qint32>(entry_.Compressed); }
