@@ -27,7 +27,8 @@ public:
           choice_(choice),
           work_(work) {
         zip_.Utf8Names = choice.Utf8Names;
-        zip_.Yield = [this] { Advance(); };
+        zip_.Yield = [this] { work_.Advance(0); };
+        zip_.Watch = [this](qint64 bytes) { work_.Advance(bytes); };
     }
 
     void AddReadMe(const QString& text) {
@@ -85,14 +86,6 @@ private:
 
     void Tell(const ExportFile& file, ExportOutcome outcome, const QString& reason = {}) {
         Tell(Paths::ToNative(file.Path), outcome, reason);
-    }
-
-    /// Behind each file that was added.
-    void Advance() {
-        qint64 bytes = 0;
-        while (counted_ < zip_.FileCount())
-            bytes += zip_.SizeUncompressed(++counted_);
-        work_.Advance(bytes);
     }
 
     template <typename Step>
@@ -219,8 +212,7 @@ private:
     const ExportChoice& choice_;
     ExportWork& work_;
     ZipClass zip_;
-    Failure written_;    ///< how the last write ended
-    qint32 counted_ = 0; ///< entries that were told to the work
+    Failure written_; ///< how the last write ended
     std::vector<ExportLine> lines_;
 };
 

@@ -12,9 +12,9 @@
 #include <optional>
 
 struct ExportChoice {
-    std::optional<QString> ReadMe; ///< its text, line breaks as CR LF; a ZIP only has one
-    bool ModRecords = false;       ///< an INI file with each mod that has a name or comments
-    bool Utf8Names = false;        ///< in a ZIP, for names that the ANSI page lacks letters for
+    std::optional<QString> ReadMe{}; ///< its text, line breaks as CR LF; a ZIP only has one
+    bool ModRecords = false;         ///< an INI file with each mod that has a name or comments
+    bool Utf8Names = false;          ///< in a ZIP, for names that the ANSI page lacks letters for
 };
 
 /// What is asked and told between files, and between the pieces of long ones.

@@ -30,6 +30,10 @@ public:
     /// Serves the interface between files and folders, where it is set. What it runs leaves this archive alone.
     std::function<void()> Yield;
 
+    /// Where one is set: told how many bytes more of the file that is being added are packed, piece by piece. What it
+    /// throws ends the adding; the file is not in then.
+    std::function<void(qint64)> Watch;
+
     ZipClass();
 
     [[nodiscard]] qint32 FileCount() const { return static_cast<qint32>(entries_.size()); }

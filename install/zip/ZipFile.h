@@ -10,12 +10,17 @@
 #include <QDateTime>
 #include <QString>
 
+#include <functional>
+
 class ZipFile {
 public:
+    /// Told how many bytes more are packed, piece by piece. What it throws ends the packing.
+    using Watch = std::function<void(qint64)>;
+
     /// Reads a whole file (inside path) and deflates it; its name is the path's last part. Raises 9 for an empty file,
     /// 6 for one of some 2,126,000,000 bytes or more, 7 for one that the memory does not hold, and as File::Open for
     /// one that can't be read.
-    explicit ZipFile(const QString& path);
+    explicit ZipFile(const QString& path, const Watch& watch = {});
 
     [[nodiscard]] const QString& Name() const { return name_; }
 
@@ -43,7 +48,7 @@ public:
     static qint64 OutputLimit(qint64 length);
 
 private:
-    void Deflate(const QByteArray& content, const QString& path);
+    void Deflate(const QByteArray& content, const QString& path, const Watch& watch);
 
     QString name_;
     QByteArray nameBytes_;

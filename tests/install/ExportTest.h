@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 class ExportTest : public testing::Test {
 protected:
     ExportTest() { world_.Start(); }
@@ -92,22 +94,24 @@ protected:
         return names;
     }
 
-    /// A report in short: the last part of each item, and the number of its outcome where it is not done.
-    [[nodiscard]] static QStringList Undone(const ExportReport& report) {
-        QStringList undone;
-        for (const ExportLine& line : report.Lines)
-            if (!IsDone(line))
-                undone += line.Item.sliced(line.Item.lastIndexOf(QRegularExpressionFreeSlash(line.Item)) + 1) +
-                          u' ' + Word(line.Outcome);
-        return undone;
+    /// The last part of an item's path.
+    [[nodiscard]] static QString Shown(const ExportLine& line) {
+        const QString item = QString(line.Item).replace(u'\\', u'/');
+        return item.sliced(item.lastIndexOf(u'/') + 1);
     }
 
-    [[nodiscard]] static QStringList Done(const ExportReport& report) {
-        QStringList done;
+    /// The items that have an outcome.
+    [[nodiscard]] static QStringList With(ExportOutcome outcome, const ExportReport& report) {
+        QStringList items;
         for (const ExportLine& line : report.Lines)
-            if (IsDone(line))
-                done += line.Item.sliced(line.Item.lastIndexOf(QRegularExpressionFreeSlash(line.Item)) + 1);
-        return done;
+            if (line.Outcome == outcome)
+                items += Shown(line);
+        return items;
+    }
+
+    /// How many lines tell of a failure.
+    [[nodiscard]] static qsizetype Failures(const ExportReport& report) {
+        return std::ranges::count_if(report.Lines, [](const ExportLine& line) { return !IsDone(line); });
     }
 
     /// What stands in the scratch folder.
