@@ -26,13 +26,6 @@ QString DefaultExtension() {
     return u"zip"_s;
 }
 
-QString ReadText(const QString& path) {
-    const File file = File::Open(path, File::Access::Read);
-    if (file.Length() > LongestReadMe)
-        throw RuntimeError(ErrorNumber::OutOfMemory, GetText(u"ReadMeTooLong"_s).replace("%1"_L1, file.Name()));
-    return AnsiCodec::Decode(file.Read(0, LongestReadMe));
-}
-
 /// Whether names that the page lacks letters for become UTF-8; nothing for Cancel.
 std::optional<bool> AskForUtf8(const QStringList& names) {
     if (names.isEmpty())
@@ -62,6 +55,13 @@ bool ExportDialogs::HasMods(const std::vector<ExportRecord>& records) {
     return std::ranges::any_of(records, [](const ExportRecord& record) { return record.Kind == FileKind::Mod; });
 }
 
+QString ExportDialogs::ReadMeOf(const QString& path) {
+    const File file = File::Open(path, File::Access::Read);
+    if (file.Length() > LongestReadMe)
+        throw RuntimeError(ErrorNumber::OutOfMemory, GetText(u"ReadMeTooLong"_s).replace("%1"_L1, file.Name()));
+    return AnsiCodec::Decode(file.Read(0, LongestReadMe));
+}
+
 std::optional<QString> ExportDialogs::OpenReadMe() {
     const std::optional<QString> path = Host::Current().OpenFileName({.Title = GetText(u"Open"_s),
                                                                       .Filter = u"Text Files (*.txt)|*.txt"_s,
@@ -70,7 +70,7 @@ std::optional<QString> ExportDialogs::OpenReadMe() {
     if (!path)
         return std::nullopt;
     try {
-        return ReadText(*path);
+        return ReadMeOf(*path);
     } catch (const RuntimeError& error) {
         Host::Current().Message(error.Description(), Host::Icon::Critical);
         return std::nullopt;

@@ -14,6 +14,9 @@ QString ListedNames(const std::vector<ExportRecord>& records);
 /// Whether one of them is a mod.
 bool HasMods(const std::vector<ExportRecord>& records);
 
+/// The text of a file (an inside path) that is to be the read-me. Raises when it has more than 1 MiB or can't be read.
+QString ReadMeOf(const QString& path);
+
 /// Has the user choose a text file and gives its text; nothing when that is cancelled. A file of more than 1 MiB, or
 /// one that can't be read, brings a message.
 std::optional<QString> OpenReadMe();
