@@ -142,7 +142,7 @@ ExportReport ToZip(const Arguments& given, const std::vector<ExportSource>& sour
         choice.ReadMe = ExportDialogs::ReadMeOf(given.Path("--readme"));
     if (!choice.Utf8Names)
         for (const QString& name : ExportSources::NamesBeyondThePage(sources))
-            Console::WriteError("a letter becomes '?'\t" + Paths::EncodeNative(Paths::NameToNative(name)) + '\n');
+            Console::WriteError("a letter becomes '?'\t" + Paths::EncodeNative(ExportSources::Shown(name)) + '\n');
     return Exporting::ToZip(sources, given.Path("--zip"), choice);
 }
 

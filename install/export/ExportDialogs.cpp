@@ -30,7 +30,9 @@ QString DefaultExtension() {
 std::optional<bool> AskForUtf8(const QStringList& names) {
     if (names.isEmpty())
         return false;
-    QStringList shown = names.first(std::min(MostNamesShown, names.size()));
+    QStringList shown;
+    for (const QString& name : names.first(std::min(MostNamesShown, names.size())))
+        shown += ExportSources::Shown(name);
     if (shown.size() < names.size())
         shown += u"..."_s;
     const QString question = GetText(u"NamesBeyondThePage"_s).replace("%1"_L1, shown.join("\r\n"_L1));

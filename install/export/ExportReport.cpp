@@ -66,7 +66,7 @@ QString ExportText(const ExportReport& report) {
     QStringList undone{mTraduction::GetText(u"NotExported"_s)};
     QStringList done{mTraduction::GetText(u"Exported"_s)};
     for (const ExportLine& line : report.Lines)
-        (IsDone(line) ? done : undone).append(ExportText(line));
+        (IsDone(line) ? done : undone).append(u"  "_s + ExportText(line));
     QStringList all;
     if (undone.size() > 1)
         all += undone;

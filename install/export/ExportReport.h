@@ -25,7 +25,7 @@ enum class ExportOutcome {
 };
 
 struct ExportLine {
-    QString Item; ///< a path as the system writes it, or a name
+    QString Item; ///< as the system writes it: what a file is called below the target, or the target itself
     ExportOutcome Outcome = ExportOutcome::Done;
     QString Reason{}; ///< what else is known, in words
 };

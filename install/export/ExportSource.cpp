@@ -62,12 +62,13 @@ private:
         try {
             Enter(name + u'\\');
         } catch (const RuntimeError& error) {
-            source_.Other.push_back({Paths::ToNative(top_ + name), ExportOutcome::Failed, error.Description()});
+            source_.Other.push_back(
+                {ExportSources::Shown(source_.Record.Name + u'\\' + name), ExportOutcome::Failed, error.Description()});
         }
     }
 
     void Pass(const QString& name, ExportOutcome outcome) {
-        source_.Other.push_back({Paths::ToNative(top_ + name), outcome});
+        source_.Other.push_back({ExportSources::Shown(source_.Record.Name + u'\\' + name), outcome});
     }
 
     [[nodiscard]] bool LeadsOut(const QString& path) {
@@ -131,6 +132,10 @@ QStringList ExportSources::NamesBeyondThePage(const std::vector<ExportSource>& s
             if (AnsiCodec::Decode(AnsiCodec::Encode(file.Name)) != file.Name)
                 names.append(file.Name);
     return names;
+}
+
+QString ExportSources::Shown(const QString& name) {
+    return Paths::ToNativeAsGiven(name);
 }
 
 QString ExportSources::RefusalOfFolder(const QString& name) {

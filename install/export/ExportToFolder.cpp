@@ -29,11 +29,12 @@ public:
             if (const QString refusal = ExportSources::RefusalOfFolder(record.Name); !refusal.isEmpty())
                 return Tell(record.Name, ExportOutcome::Refused, refusal);
         if (source.Files.empty())
-            Tell(Paths::ToNative(record.Path), ExportOutcome::Gone);
+            Tell(ExportSources::Shown(record.Name), ExportOutcome::Gone);
         else
             CopyAll(source);
         if (record.Kind == FileKind::Mod && choice_.ModRecords && !source.Files.empty())
-            Trying(Paths::ToNative(ExportFiles::ModRecordPath(record.Path)), [&] { return CopyRecord(record.Path); });
+            Trying(ExportSources::Shown(Paths::LastPart(ExportFiles::ModRecordPath(record.Path))),
+                   [&] { return CopyRecord(record.Path); });
         lines_.insert(lines_.end(), source.Other.begin(), source.Other.end());
     }
 
@@ -61,11 +62,11 @@ private:
             try {
                 gateway_.MakeFolder(folder);
             } catch (const RuntimeError& error) {
-                Tell(Paths::NameToNative(folder), ExportOutcome::Failed, error.Description());
+                Tell(ExportSources::Shown(folder), ExportOutcome::Failed, error.Description());
             }
         }
         for (const ExportFile& file : source.Files)
-            Trying(Paths::ToNative(file.Path), [&] { return CopyFile(file); });
+            Trying(ExportSources::Shown(file.Name), [&] { return CopyFile(file); });
     }
 
     std::optional<ExportOutcome> CopyFile(const ExportFile& file) {

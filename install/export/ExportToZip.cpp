@@ -85,7 +85,7 @@ private:
     }
 
     void Tell(const ExportFile& file, ExportOutcome outcome, const QString& reason = {}) {
-        Tell(Paths::ToNative(file.Path), outcome, reason);
+        Tell(ExportSources::Shown(file.Name), outcome, reason);
     }
 
     template <typename Step>
@@ -129,9 +129,9 @@ private:
 
     void AddFile(const ExportSource& source) {
         if (source.Files.empty())
-            return Tell(Paths::ToNative(source.Record.Path), ExportOutcome::Gone);
+            return Tell(ExportSources::Shown(source.Record.Name), ExportOutcome::Gone);
         const QString& path = source.Record.Path;
-        Trying(Paths::ToNative(path), [&] {
+        Trying(ExportSources::Shown(source.Files[0].Name), [&] {
             return zip_.FileAdd(path, ZipClass::NameOnly, false) > 0 ? ExportOutcome::Done : ExportOutcome::Gone;
         });
         if (source.Record.Kind == FileKind::Mod && choice_.ModRecords)
@@ -143,7 +143,7 @@ private:
         const QString path = ExportFiles::ModRecordPath(mod);
         if (record.isEmpty())
             return;
-        Trying(Paths::ToNative(path), [&] {
+        Trying(ExportSources::Shown(Paths::LastPart(path)), [&] {
             const ExportScratch scratch;
             const QString copy = scratch.Folder() + u'\\' + Paths::LastPart(path);
             WriteWhole(copy, record);
@@ -170,7 +170,7 @@ private:
             failure = FailureOf([&] { zip_.FileAdd(folder + u"\\*.*"_s, ZipClass::Relative, true); });
         });
         if (noScratch.Number != 0)
-            return Tell(Paths::ToNative(source.Record.Path), ExportOutcome::Failed, noScratch.Description);
+            return Tell(ExportSources::Shown(source.Record.Name), ExportOutcome::Failed, noScratch.Description);
         TellWalk(copied, before, failure);
     }
 
@@ -204,8 +204,8 @@ private:
             isFirst = isFirst && (stored.contains(file.Name) || !Paths::LastPart(file.Name).contains(u'.'));
         }
         if (isFirst || source.Files.empty())
-            Tell(Paths::ToNative(source.Record.Path), failure.Number != 0 ? ExportOutcome::Failed : ExportOutcome::Gone,
-                 failure.Description);
+            Tell(ExportSources::Shown(source.Record.Name),
+                 failure.Number != 0 ? ExportOutcome::Failed : ExportOutcome::Gone, failure.Description);
     }
 
     QString target_;

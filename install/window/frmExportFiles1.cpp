@@ -81,6 +81,7 @@ std::optional<ExportReport> frmExportFiles1::Run() {
     const ExportWatch watch{.Progress = [this](int percent) { ui_->ProgressBar1->setValue(percent); },
                             .Yield =
                                 [this] {
+                                    ui_->ProgressBar1->show(); // the dialogs are over
                                     Host::Current().Yield();
                                     return !cancelled_;
                                 }};
@@ -116,7 +117,7 @@ void frmExportFiles1::ShowWork(bool working) {
     ui_->picChoices->setEnabled(!working);
     NextButton()->setEnabled(!working);
     ui_->ProgressBar1->setValue(0);
-    ui_->ProgressBar1->setVisible(working);
+    ui_->ProgressBar1->hide();
 }
 
 void frmExportFiles1::ShowReport(const ExportReport& report) {
