@@ -128,6 +128,8 @@ QString ReasonOf(const ExportLine& line) {
         return u"left out, there is no such file"_s;
     case ExportOutcome::LettersLost:
         return u"letters that the code page lacks became '?'"_s;
+    case ExportOutcome::Replaced:
+        return u"exported, over another of the same name"_s;
     case ExportOutcome::NotWritten:
         return u"could not be written, so nothing was exported: %1"_s.arg(line.Reason);
     case ExportOutcome::Failed:

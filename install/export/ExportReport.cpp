@@ -37,6 +37,8 @@ QString KeyOf(ExportOutcome outcome) {
         return u"ExportGone"_s;
     case ExportOutcome::LettersLost:
         return u"ExportLettersLost"_s;
+    case ExportOutcome::Replaced:
+        return u"ExportReplaced"_s;
     case ExportOutcome::NotWritten:
         return u"ExportNotWritten"_s;
     case ExportOutcome::Failed:

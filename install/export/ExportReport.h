@@ -20,6 +20,7 @@ enum class ExportOutcome {
     Subfolder,    ///< of a shell map only the files are taken
     Gone,         ///< there is no such file
     LettersLost,  ///< done, but with '?' for letters that the ANSI page lacks
+    Replaced,     ///< done, over a file of the same name that was exported before
     NotWritten,   ///< the ZIP itself: nothing of it stands on disk
     Failed,       ///< what the system says
 };

@@ -10,6 +10,8 @@
 #include "platform/RuntimeError.h"
 #include "platform/WriteAside.h"
 
+#include <QSet>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -77,7 +79,9 @@ private:
         }
         work_.Advance(0);
         ExportFiles::Copy(file.Path, target, [this](qint64 bytes) { work_.Advance(bytes); });
-        return ExportOutcome::Done;
+        const bool isAnother = copied_.contains(target);
+        copied_.insert(target);
+        return isAnother ? ExportOutcome::Replaced : ExportOutcome::Done;
     }
 
     std::optional<ExportOutcome> CopyRecord(const QString& mod) {
@@ -97,6 +101,7 @@ private:
     FolderGateway gateway_;
     const ExportChoice& choice_;
     ExportWork& work_;
+    QSet<QString> copied_; ///< targets
     std::vector<ExportLine> lines_;
 };
 

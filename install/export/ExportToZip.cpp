@@ -216,6 +216,14 @@ private:
     std::vector<ExportLine> lines_;
 };
 
+/// Whether the ZIP would take the place of a mod or a replay that it is to hold.
+bool IsExported(const std::vector<ExportSource>& sources, const QString& target) {
+    return std::ranges::any_of(sources, [&](const ExportSource& source) {
+        const bool isFile = source.Record.Kind == FileKind::Mod || source.Record.Kind == FileKind::Replay;
+        return isFile && !source.Files.empty() && Files::SameFile(source.Files[0].Path, target);
+    });
+}
+
 /// Whether a map's folder, which is walked behind another record, holds the target.
 bool IsWalkedLater(const std::vector<ExportSource>& sources, const QString& target) {
     return std::any_of(sources.begin() + 1, sources.end(), [&](const ExportSource& source) {
@@ -228,6 +236,9 @@ bool IsWalkedLater(const std::vector<ExportSource>& sources, const QString& targ
 
 ExportReport Exporting::ToZip(const std::vector<ExportSource>& sources, const QString& zip, const ExportChoice& choice,
                               const ExportWatch& watch) {
+    if (IsExported(sources, zip))
+        return {
+            .Lines = {{Paths::ToNative(zip), ExportOutcome::NotWritten, u"it is one of the files to be exported"_s}}};
     ExportReport report;
     ExportWork work(watch, ExportSources::Bytes(sources));
     ZipExport run(zip, choice, work);

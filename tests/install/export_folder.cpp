@@ -173,3 +173,11 @@ TEST_F(ExportFolder, AModsRecordComesAlongWhereItIsWanted) {
     Exporting::ToFolder(ExportSources::Of({Mod(u"Contra.big"_s)}), At(u"game"_s), {.ModRecords = true});
     EXPECT_EQ(World::ReadFile(ini), before) << "the mod's own is left as it is";
 }
+
+TEST_F(ExportFolder, TheSecondOfOneNameReplacesTheFirstWhichIsTold) {
+    Put(u"replays\\a.rep"_s, "1");
+    Put(u"game\\a.rep"_s, "2");
+    const ExportReport report = ToFolder({Replay(u"a.rep"_s), Mod(u"a.rep"_s)});
+    EXPECT_EQ(Copied(u"a.rep"_s), "2"); // This is meant.
+    EXPECT_EQ(With(Outcome::Replaced, report), QStringList{u"a.rep"_s});
+}

@@ -177,3 +177,11 @@ TEST_F(ExportZipWrite, InALongFileTheBarMovesToo) {
     EXPECT_EQ(values.front(), 12);
     EXPECT_EQ(values.back(), 100);
 }
+
+TEST_F(ExportZipWrite, AZipDoesNotTakeThePlaceOfWhatItIsToHold) {
+    const QString replay = Put(u"replays\\a.rep"_s, "precious");
+    const ExportReport report = Exporting::ToZip(ExportSources::Of({Replay(u"a.rep"_s)}), replay, {});
+    ASSERT_EQ(report.Lines.size(), 1U);
+    EXPECT_EQ(report.Lines[0].Outcome, Outcome::NotWritten);
+    EXPECT_EQ(World::ReadFile(replay), "precious");
+}
