@@ -95,8 +95,10 @@ void frmExportFiles1::Next() {
     if (working_)
         return;
     const std::optional<ExportReport> report = Run();
-    if (!report)
+    if (!report) {
+        NextButton()->setFocus(); // it was disabled, and Enter would cancel now
         return;
+    }
     if (report->Cancelled)
         return done(Rejected);
     if (report->HasFailures())

@@ -69,6 +69,7 @@ private Q_SLOTS:
         QVERIFY(window_->isVisible());
         QVERIFY(host_->Messages.empty());
         QVERIFY(Part<QPushButton>("cmdNext")->isEnabled());
+        QCOMPARE(QApplication::focusWidget(), Part<QPushButton>("cmdNext"));
         QVERIFY(Part<QWidget>("picChoices")->isEnabled());
         QVERIFY(!Part<QProgressBar>("ProgressBar1")->isVisible());
     }
