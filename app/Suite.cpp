@@ -7,6 +7,7 @@
 #include "core/window/frmAbout.h"
 #include "core/window/frmToolsMenu.h"
 #include "csf/window/frmCSFEditor.h"
+#include "install/window/frmExportFiles1.h"
 #include "personal/window/frmPersonalFiles.h"
 #include "platform/Processes.h"
 
@@ -122,8 +123,8 @@ void Suite::ShowAddFiles(QObject* /*owner*/) {
     StayInMenu();
 }
 
-void Suite::ShowExportFiles(QObject* /*owner*/) {
-    StayInMenu();
+void Suite::ShowExportFiles(QObject* owner) {
+    frmExportFiles1(WidgetOf(owner)).exec();
 }
 
 void Suite::ShowOptions(QObject* /*owner*/) {

@@ -77,6 +77,25 @@ int ListRows::PlaceOf(const GameList& list, const QString& name) {
     Fail(name, u"the game has none of that name"_s);
 }
 
+std::optional<int> ListRows::NumberOf(const ListRow& row) {
+    return GameFiles::NumberIn(row.Key);
+}
+
+int ListRows::PlaceOfNumber(const GameList& shellMaps, int number) {
+    for (int place = 0; place < shellMaps.Rows().Count(); ++place) {
+        if (NumberOf(shellMaps.Rows().Row(place)) == number)
+            return place;
+    }
+    Fail(QString::number(number), u"the game has no shell map of that number"_s);
+}
+
+std::string ListRows::NumberComplaint(const std::string& text) {
+    constexpr std::size_t digits = 3;
+    const auto isDigit = [](char letter) { return letter >= '0' && letter <= '9'; };
+    const bool fits = !text.empty() && text.size() <= digits && std::ranges::all_of(text, isDigit);
+    return fits ? std::string() : text + " is no number of up to three digits";
+}
+
 void ListRows::Delete(GameList& list, int place) {
     list.Select(place);
     bool done = false;

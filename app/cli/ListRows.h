@@ -10,6 +10,9 @@
 
 #include <QJsonArray>
 
+#include <optional>
+#include <string>
+
 namespace ListRows {
 
 /// --json, --yes (without which nothing is deleted), and --name and --comments.
@@ -26,6 +29,15 @@ QString PathOf(const ListRow& row);
 /// The place of the row of that text; where no text is spelt so, of the one that is without regard to case. Fails when
 /// there is none, or more than one.
 int PlaceOf(const GameList& list, const QString& name);
+
+/// The number of a shell map's row; nothing where its folder has none.
+std::optional<int> NumberOf(const ListRow& row);
+
+/// The place of the shell map of that number. Fails when there is none.
+int PlaceOfNumber(const GameList& shellMaps, int number);
+
+/// What is wrong with a text as a shell map's number: for Parameter::Check.
+std::string NumberComplaint(const std::string& text);
 
 /// Deletes what the row at a place stands for, and fails when it is still there then.
 void Delete(GameList& list, int place);

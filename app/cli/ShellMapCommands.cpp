@@ -11,7 +11,6 @@
 
 #include <QJsonObject>
 
-#include <algorithm>
 #include <optional>
 #include <set>
 
@@ -21,30 +20,17 @@ namespace {
 
 using Kind = Parameter::Kind;
 
-constexpr std::size_t Digits = 3;
-
-std::optional<int> NumberOf(const ListRow& row) {
-    return GameFiles::NumberIn(row.Key);
-}
+constexpr qsizetype Digits = 3;
 
 /// The number; of a folder that has none, its last three characters.
 QString NumberText(const ListRow& row) {
-    const std::optional<int> number = NumberOf(row);
+    const std::optional<int> number = ListRows::NumberOf(row);
     return number ? QString::number(*number) : row.Key.last(Digits);
-}
-
-/// Fails when there is no shell map of that number.
-int PlaceOf(const ShellMapList& list, int number) {
-    for (int place = 0; place < list.Rows().Count(); ++place) {
-        if (NumberOf(list.Rows().Row(place)) == number)
-            return place;
-    }
-    Fail(QString::number(number), u"the game has no shell map of that number"_s);
 }
 
 QJsonObject Object(const ShellMapList& list, int place) {
     const ListRow& row = list.Rows().Row(place);
-    const std::optional<int> number = NumberOf(row);
+    const std::optional<int> number = ListRows::NumberOf(row);
     return {{u"number"_s, number ? QJsonValue(*number) : QJsonValue()},
             {u"name"_s, row.Text},
             {u"comments"_s, list.Rows().Text(place, ShellMapList::Comments)},
@@ -75,10 +61,10 @@ void Delete(const Arguments& given) {
     std::set<int, std::greater<>> numbers;
     for (const QString& text : given.Texts("NUMBER")) {
         numbers.insert(text.toInt());
-        PlaceOf(list, text.toInt());
+        ListRows::PlaceOfNumber(list, text.toInt());
     }
     for (const int number : numbers)
-        ListRows::Delete(list, PlaceOf(list, number));
+        ListRows::Delete(list, ListRows::PlaceOfNumber(list, number));
 }
 
 void Activate(const Arguments& given) {
@@ -89,21 +75,17 @@ void Describe(const Arguments& given) {
     qint32 game = GameArgument::Prepared(given);
     ShellMapList list;
     list.ListShellmaps(game);
-    const ListRow& row = list.Rows().Row(PlaceOf(list, given.Text("NUMBER").toInt()));
+    const ListRow& row = list.Rows().Row(ListRows::PlaceOfNumber(list, given.Text("NUMBER").toInt()));
     ListRows::Describe(GameFiles::ShellMapRecord(game, Paths::LastPart(row.Key)), given);
 }
 
 Parameter Number(Kind kind, const std::string& description) {
-    const auto isDigit = [](char letter) { return letter >= '0' && letter <= '9'; };
     return {.What = kind,
             .Name = "NUMBER",
             .Description = description,
             .TypeName = "INT",
             .Required = true,
-            .Check = [isDigit](const std::string& text) {
-                const bool fits = !text.empty() && text.size() <= Digits && std::ranges::all_of(text, isDigit);
-                return fits ? std::string() : text + " is no number of up to three digits";
-            }};
+            .Check = ListRows::NumberComplaint};
 }
 
 Command DescribeCommand() {

@@ -4,6 +4,7 @@
 /// brindock-cli: the suite's file logic for scripts and build pipelines.
 #include "app/cli/BigCommands.h"
 #include "app/cli/CsfCommands.h"
+#include "app/cli/ExportCommand.h"
 #include "app/cli/GameCommands.h"
 #include "app/cli/ListCommands.h"
 #include "app/cli/Output.h"
@@ -36,6 +37,7 @@ int Run(const std::vector<std::string>& words) {
     groups.push_back({"maps", "A game's maps", MapCommands()});
     groups.push_back({"mods", "A game's mods", ModCommands()});
     groups.push_back({"shellmaps", "A game's shell maps", ShellMapCommands()});
+    groups.push_back({{}, {}, ExportCommands()});
     groups.push_back({"zip", "ZIP archives", ZipCommands()});
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));

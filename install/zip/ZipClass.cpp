@@ -73,8 +73,8 @@ qint32 ZipClass::FileAdd(const QString& path, qint32 pathStorage, bool recurse) 
 bool ZipClass::AddOneFile(const QString& path, qint32 pathStorage) {
     if (!Files::FileExists(path))
         return false;
-    ZipFile file(path);
-    file.SetName(StoredName(path, pathStorage));
+    ZipFile file(path, Watch);
+    file.SetName(StoredName(path, pathStorage), Utf8Names ? ZipFile::Letters::Utf8WhereNeeded : ZipFile::Letters::Page);
     entries_.push_back(std::move(file));
     return true;
 }

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// Writes ZIP archives, record by record, with names in the ANSI code page and backslashes in them. Layout: PKWARE's
+/// Writes ZIP archives, record by record, with names in the ANSI code page (or, where asked for,
+/// in UTF-8) and backslashes in them. Layout: PKWARE's
 /// APPNOTE.TXT, the records of version 2.0. Each file is read and deflated when it is added and stays in memory.
 #pragma once
 
@@ -22,8 +23,16 @@ public:
     /// never changed.
     QString CurrentDirectory;
 
+    /// Whether names that the ANSI page lacks a letter for are stored in UTF-8 and flagged, and not with '?' for it.
+    /// Not so to begin with.
+    bool Utf8Names = false;
+
     /// Serves the interface between files and folders, where it is set. What it runs leaves this archive alone.
     std::function<void()> Yield;
+
+    /// Where one is set: told how many bytes more of the file that is being added are packed, piece by piece. What it
+    /// throws ends the adding; the file is not in then.
+    std::function<void(qint64)> Watch;
 
     ZipClass();
 

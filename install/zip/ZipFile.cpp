@@ -11,6 +11,7 @@
 
 #include <zlib.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <new>
@@ -23,6 +24,8 @@ constexpr qint64 MostBytes = std::numeric_limits<qint32>::max();
 constexpr qsizetype MostOfAName = std::numeric_limits<qint16>::max();
 constexpr qsizetype StreamHead = 2; ///< what zlib puts around the raw stream
 constexpr qsizetype StreamTail = 4;
+
+constexpr qsizetype PieceSize = qsizetype{256} * 1024; ///< some hundredths of a second
 
 constexpr quint32 FirstYear = 1980;
 
@@ -38,6 +41,37 @@ const Bytef* BytesOf(const QByteArray& content) {
     return reinterpret_cast<const Bytef*>(content.constData());
 }
 
+/// What the library's `compress` does, with the same bytes, but in pieces: a long file would keep the window waiting.
+class Packer {
+public:
+    Packer() { ::deflateInit(&state_, Z_DEFAULT_COMPRESSION); }
+
+    ~Packer() { ::deflateEnd(&state_); }
+
+    Packer(const Packer&) = delete;
+    Packer& operator=(const Packer&) = delete;
+
+    /// Fills `stream` but for its last byte, and returns how much it needed of that. What the library answers is not
+    /// looked at: the limit is never reached, and what lacks memory has given out nothing.
+    qsizetype Pack(const QByteArray& content, QByteArray& stream, const ZipFile::Watch& watch) {
+        state_.next_out = reinterpret_cast<Bytef*>(stream.data());
+        state_.avail_out = static_cast<uInt>(stream.size() - 1);
+        for (qsizetype done = 0; done < content.size();) {
+            const qsizetype piece = std::min(PieceSize, content.size() - done);
+            state_.next_in = const_cast<Bytef*>(BytesOf(content) + done); // the library writes nothing there
+            state_.avail_in = static_cast<uInt>(piece);
+            done += piece;
+            ::deflate(&state_, done < content.size() ? Z_NO_FLUSH : Z_FINISH);
+            if (watch)
+                watch(piece);
+        }
+        return static_cast<qsizetype>(state_.total_out);
+    }
+
+private:
+    z_stream state_{};
+};
+
 /// The low bits of a number, moved to their place.
 quint32 Bits(quint32 number, quint32 count, quint32 from) {
     return (number & ((1U << count) - 1)) << from;
@@ -45,7 +79,7 @@ quint32 Bits(quint32 number, quint32 count, quint32 from) {
 
 } // namespace
 
-ZipFile::ZipFile(const QString& path) {
+ZipFile::ZipFile(const QString& path, const Watch& watch) {
     const QDateTime written = Files::ModifiedTime(path);
     entry_.Date = DosTime::Date(written);
     entry_.Time = DosTime::Time(written);
@@ -55,18 +89,22 @@ ZipFile::ZipFile(const QString& path) {
     if (OutputLimit(length) >= MostBytes)
         Raise(ErrorNumber::Overflow, path, u"too large for a ZIP"_s);
     try {
-        Deflate(file.Read(0, length), path);
+        Deflate(file.Read(0, length), path, watch);
     } catch (const std::bad_alloc&) {
         RaiseOutOfMemory(path);
     }
 }
 
-void ZipFile::SetName(const QString& name) {
-    const QByteArray bytes = AnsiCodec::Encode(name);
+void ZipFile::SetName(const QString& name, Letters letters) {
+    QByteArray bytes = AnsiCodec::Encode(name);
+    const bool isUtf8 = letters == Letters::Utf8WhereNeeded && AnsiCodec::Decode(bytes) != name;
+    if (isUtf8)
+        bytes = name.toUtf8();
     if (bytes.size() > MostOfAName)
         Raise(ErrorNumber::Overflow, name, u"too long for a name in a ZIP"_s);
     name_ = name;
     nameBytes_ = bytes;
+    entry_.IsUtf8 = isUtf8;
     entry_.NameLength = static_cast<quint16>(bytes.size());
 }
 
@@ -74,18 +112,15 @@ qint64 ZipFile::OutputLimit(qint64 length) {
     return static_cast<qint64>(std::nearbyint(static_cast<double>(length) * 1.01 + 12));
 }
 
-void ZipFile::Deflate(const QByteArray& content, const QString& path) {
+void ZipFile::Deflate(const QByteArray& content, const QString& path, const Watch& watch) {
     // There is no stream of nothing here: memory for it can't be asked for. This is meant.
     if (content.isEmpty())
         Raise(ErrorNumber::Subscript, path, u"an empty file can't be put into a ZIP"_s);
     entry_.Uncompressed = static_cast<quint32>(content.size());
     entry_.Crc = static_cast<quint32>(::crc32(0, BytesOf(content), static_cast<uInt>(content.size())));
-    auto length = static_cast<uLongf>(OutputLimit(content.size()));
-    QByteArray stream(static_cast<qsizetype>(length) + 1, Qt::Uninitialized);
-    // What it answers is not looked at: the limit is never reached, and what lacks memory has given out nothing.
-    static_cast<void>(::compress(reinterpret_cast<Bytef*>(stream.data()), &length, BytesOf(content),
-                                 static_cast<uLong>(content.size())));
-    const qsizetype raw = static_cast<qsizetype>(length) - StreamHead - StreamTail;
+    QByteArray stream(static_cast<qsizetype>(OutputLimit(content.size())) + 1, Qt::Uninitialized);
+    const qsizetype length = Packer().Pack(content, stream, watch);
+    const qsizetype raw = length - StreamHead - StreamTail;
     if (raw <= 0)
         RaiseOutOfMemory(path);
     data_ = stream.sliced(StreamHead, raw);

@@ -19,6 +19,7 @@ constexpr quint32 EndSignature = 0x06054B50;
 constexpr quint16 Version = 20;
 /// How hard the compressor tried; readers don't care.
 constexpr quint16 Flags = 2;
+constexpr quint16 Utf8Flag = 0x800;
 constexpr quint16 Deflated = 8;
 /// The archive attribute, in the word that is not for it, with the one that is left 0. This is meant.
 constexpr quint16 InternalAttributes = 32;
@@ -42,7 +43,8 @@ void Append32(QByteArray& bytes, std::initializer_list<quint32> numbers) {
 
 /// What both records of an entry have, from the version that a reader needs to the length of the extra field.
 void AppendShared(QByteArray& bytes, const ZipRecords::Entry& entry) {
-    Append16(bytes, {Version, Flags, Deflated, entry.Time, entry.Date});
+    const quint16 flags = entry.IsUtf8 ? Flags | Utf8Flag : Flags;
+    Append16(bytes, {Version, flags, Deflated, entry.Time, entry.Date});
     Append32(bytes, {entry.Crc, entry.Compressed, entry.Uncompressed});
     Append16(bytes, {entry.NameLength, 0});
 }

@@ -16,6 +16,7 @@ struct Entry {
     quint32 Compressed = 0;   ///< bytes
     quint32 Uncompressed = 0; ///< bytes
     quint16 NameLength = 0;   ///< bytes
+    bool IsUtf8 = false;      ///< how the name is written, which is told by a flag
 };
 
 /// The 30 bytes before an entry's name and data.

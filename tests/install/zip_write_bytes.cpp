@@ -7,6 +7,7 @@
 
 #include <zlib.h>
 
+#include <numeric>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -163,4 +164,37 @@ TEST_F(ZipBytes, AFileOf1979HasTheYear127) {
     PutAt(QDateTime(QDate(1979, 5, 6), QTime(7, 8, 10)), u"old.map"_s, "x");
     zip_.FileAdd(At(u"old.map"_s), ZipClass::NameOnly, false);
     EXPECT_EQ(Written().sliced(10, 4), Bytes("\x05\x39\xA6\xFE"));
+}
+
+TEST_F(ZipBytes, ALongFileIsPackedInPiecesWithTheSameBytes) {
+    const QByteArray content = QByteArray("Object Tank\r\n  Side = GLA\r\nEnd\r\n").repeated(30'000) + Noise(700'001) +
+                               QByteArray(900'000, '\0');
+    std::vector<qint64> pieces;
+    zip_.Watch = [&](qint64 bytes) { pieces.push_back(bytes); };
+    zip_.FileAdd(Put(u"a.t"_s, content), 0, false);
+    EXPECT_TRUE(Data() == Deflated(content));
+    EXPECT_GT(pieces.size(), 8U);
+    EXPECT_EQ(std::accumulate(pieces.begin(), pieces.end(), qint64{0}), content.size());
+}
+
+TEST_F(ZipBytes, WhoeverWatchesMayEndTheAdding) {
+    zip_.Watch = [](qint64) { throw RuntimeError(ErrorNumber::InvalidCall, u"enough"_s); };
+    EXPECT_EQ(ErrorOf([&] { zip_.FileAdd(Put(u"a.t"_s), 0, false); }), ErrorNumber::InvalidCall);
+    EXPECT_EQ(zip_.FileCount(), 0);
+}
+
+TEST_F(ZipBytes, NamesMayStandInUtf8WhereThePageLacksALetter) {
+    zip_.Utf8Names = true;
+    zip_.FileAdd(Put(u"\u4E2D.t"_s), 0, false);
+    zip_.FileAdd(Put(u"\u00C4.t"_s), 0, false);
+    const QByteArray archive = Written();
+    EXPECT_EQ(archive.mid(6, 2), Bytes("\2\x08"));
+    EXPECT_EQ(archive.mid(26, 2), Bytes("\5\0"));
+    EXPECT_EQ(archive.mid(30, 5), "\xE4\xB8\xAD.t");
+    const qsizetype second = archive.indexOf("PK\3\4", 4);
+    EXPECT_EQ(archive.mid(second + 6, 2), Bytes("\2\0"));
+    EXPECT_EQ(archive.mid(second + 30, 3), "\xC4.t");
+    const qsizetype central = archive.indexOf("PK\1\2");
+    EXPECT_EQ(archive.mid(central + 8, 2), Bytes("\2\x08"));
+    EXPECT_EQ(archive.mid(central + 46, 5), "\xE4\xB8\xAD.t");
 }

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "install/export/ExportWork.h"
+
+#include "core/GameFiles.h"
+#include "core/ProgramFolders.h"
+#include "platform/AnsiCodec.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/PrivateName.h"
+#include "platform/RuntimeError.h"
+#include "platform/WriteAside.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 PieceSize = qint64{4} * 1024 * 1024;
+
+/// As a copy of the system's own has it.
+void KeepTime(const QString& from, const QString& to) {
+    QFile file(Paths::ToNativeAsGiven(to));
+    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
+        file.setFileTime(Files::ModifiedTime(from), QFileDevice::FileModificationTime);
+}
+
+/// A value that reads as this text again: blanks around it and a pair of quotes would be dropped.
+QString IniValue(const QString& text) {
+    const bool quoted =
+        text.size() > 1 && text.front() == text.back() && (text.front() == u'"' || text.front() == u'\'');
+    return quoted || text != text.trimmed() ? u'"' + text + u'"' : text;
+}
+
+} // namespace
+
+void ExportWork::Advance(qint64 bytes) {
+    constexpr qint64 whole = 100;
+    done_ += bytes;
+    if (watch_.Progress && bytes_ > 0)
+        watch_.Progress(static_cast<int>(std::min(whole, done_ * whole / bytes_)));
+    if (watch_.Yield && !watch_.Yield())
+        throw Stopped();
+}
+
+ExportScratch::ExportScratch() : folder_(ProgramFolders::ScratchFolder() + u'\\' + PrivateName()) {
+    Files::MakeFolders(ProgramFolders::ScratchFolder());
+    Files::MakeFolder(folder_);
+}
+
+ExportScratch::~ExportScratch() {
+    Ignoring([&] { Files::DeleteFolder(folder_); });
+}
+
+void ExportFiles::Copy(const QString& from, const QString& to, const std::function<void(qint64)>& copied) {
+    const File source = File::Open(from, File::Access::Read);
+    WriteAside target(to, WriteAside::Names::AsGiven);
+    const qint64 length = source.Length();
+    for (qint64 done = 0; done < length;) {
+        const qint64 piece = std::min(PieceSize, length - done);
+        if (CopyBytes(target.Out(), done, source, done, piece) != piece)
+            throw RuntimeError(ErrorNumber::DeviceError, u"%1: breaks off"_s.arg(source.Name()));
+        done += piece;
+        copied(piece);
+    }
+    target.Commit(false);
+    Ignoring([&] { KeepTime(from, to); });
+}
+
+QString ExportFiles::ModRecordPath(const QString& mod) {
+    constexpr qsizetype extension = 4;
+    return mod.chopped(std::min(extension, mod.size())) + u".ini"_s;
+}
+
+QByteArray ExportFiles::ModRecord(const QString& mod) {
+    const GameFiles::Record record = GameFiles::ReadRecord({.File = ModRecordPath(mod), .Section = u"Mod"_s});
+    if (record.Name.isEmpty() && record.Comments.isEmpty())
+        return {};
+    const QString keys =
+        u"Name="_s + IniValue(record.Name) + u"\r\nComments="_s + IniValue(record.Comments) + u"\r\n"_s;
+    return AnsiCodec::Encode(u"[Mod]\r\n"_s + keys + u"[Infos]\r\n"_s + keys);
+}
