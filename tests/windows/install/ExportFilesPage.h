@@ -5,6 +5,7 @@
 /// and ways to reach its parts.
 #pragma once
 
+#include "Places.h"
 #include "core/mMain.h"
 #include "install/InstallSource.h"
 #include "install/window/frmExportFiles1.h"
@@ -26,7 +27,7 @@
 class ExportFilesPage : public EditorTest<frmExportFiles1> {
 protected:
     void Begin(const QString& language) {
-        QFile file(QString::fromUtf8(BRINDOCK_SOURCE) + QStringLiteral("/data/languages/") + language +
+        QFile file(QString::fromUtf8(Places::Sources) + QStringLiteral("/data/languages/") + language +
                    QStringLiteral(".lng"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         BeginIn(file.readAll());
