@@ -5,6 +5,7 @@
 #include "app/cli/BigCommands.h"
 #include "app/cli/CsfCommands.h"
 #include "app/cli/GameCommands.h"
+#include "app/cli/InstalledCommands.h"
 #include "app/cli/ListCommands.h"
 #include "app/cli/Output.h"
 #include "app/cli/ReplayCommands.h"
@@ -12,6 +13,7 @@
 #include "app/cli/ZipCommands.h"
 
 #include "core/mMain.h"
+#include "install/journal/JournalFollower.h"
 #include "media/MediaChild.h"
 #include "platform/Arguments.h"
 #include "platform/RuntimeError.h"
@@ -29,6 +31,7 @@ CommandGroup Big() {
 int Run(const std::vector<std::string>& words) {
     ScriptHost host;
     mMain::UseRuntimes();
+    const JournalFollower follower;
     std::vector<CommandGroup> groups = GameCommands();
     groups.push_back(Big());
     groups.push_back({"csf", "CSF string tables", CsfCommands()});
@@ -36,6 +39,7 @@ int Run(const std::vector<std::string>& words) {
     groups.push_back({"maps", "A game's maps", MapCommands()});
     groups.push_back({"mods", "A game's mods", ModCommands()});
     groups.push_back({"shellmaps", "A game's shell maps", ShellMapCommands()});
+    groups.push_back({"installed", "What was installed into the games", InstalledCommands()});
     groups.push_back({"zip", "ZIP archives", ZipCommands()});
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));

@@ -143,6 +143,7 @@ std::vector<ToolCommand> frmPersonalFiles::Commands() {
         {ui_->mnuDelete, ui_->Label2_1, u"delete"_s, [this] { files_.Delete(); }},
         {ui_->mnuExport, ui_->Label2_2, u"extract"_s, [this] { files_.Export(); }},
         {ui_->mnuExportRow, nullptr, u"extract"_s, onRow(&PersonalFiles::ExportRow)},
+        {ui_->mnuUninstall, nullptr, {}, onRow(&PersonalFiles::UninstallRow)},
         {ui_->mnuRename, nullptr, u"modify"_s, [this] { EditName(); }},
         {ui_->mnuCheckAll, nullptr, {}, [this] { files_.CheckAll(true); }},
         {ui_->mnuCheckNone, nullptr, {}, [this] { files_.CheckAll(false); }},
@@ -224,7 +225,7 @@ void frmPersonalFiles::FillRowMenu(PersonalKind kind, bool onRow) {
     if (onRow) {
         if (kind == PersonalKind::Replay)
             rowMenu_->addAction(ui_->mnuRename);
-        rowMenu_->addActions({ui_->mnuDelete, ui_->mnuExportRow});
+        rowMenu_->addActions({ui_->mnuDelete, ui_->mnuUninstall, ui_->mnuExportRow});
         rowMenu_->addSeparator();
         rowMenu_->addActions({ui_->mnuOpenFolder, ui_->mnuCopyPath});
         rowMenu_->addSeparator();
@@ -236,6 +237,7 @@ void frmPersonalFiles::FillRowMenu(PersonalKind kind, bool onRow) {
 
 void frmPersonalFiles::ShowMenu(int place, QPoint globalPlace) {
     FillRowMenu(files_.State().Kind, place >= 0);
+    ui_->mnuUninstall->setEnabled(files_.MayUninstall(place));
     rowMenu_->popup(globalPlace);
 }
 
