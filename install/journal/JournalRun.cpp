@@ -74,9 +74,17 @@ void JournalRun::Begin() {
     } catch (const RuntimeError& error) {
         told_.append(error.Description());
         over_ = true;
-        own_.reset();
-        lines_ = File();
+        Abandon();
     }
+}
+
+/// What was begun beside the journal goes.
+void JournalRun::Abandon() {
+    lines_ = File();
+    if (!own_)
+        return;
+    own_.reset();
+    Files::DeleteFolder(InstallJournal::FolderOf(entry_.Id));
 }
 
 void JournalRun::Enter(Journal& journal) {

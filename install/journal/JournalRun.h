@@ -40,6 +40,7 @@ public:
 
 private:
     void Begin();
+    void Abandon();
     void Enter(Journal& journal);
     void LookAt(const QString& folder);
     void MakesFolder(const QString& folder);
