@@ -31,6 +31,7 @@ void PersonalFiles::RowSelected(int place) {
     HideDetails();
     state_.DeleteEnabled = true;
     state_.ExportEnabled = true;
+    state_.UninstallEnabled = MayUninstall(place);
     switch (state_.Kind) {
     case PersonalKind::Map:
         ShowMap(row);

@@ -126,8 +126,8 @@ void frmPersonalFiles::ShareActions() {
     Mnemonics::AddTo(*rowMenu_);
     ui_->mnuRename->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_->lstReplays->addAction(ui_->mnuRename);
-    for (QAction* const action :
-         {ui_->mnuDelete, ui_->mnuCheckAll, ui_->mnuCheckNone, ui_->mnuOpenFolder, ui_->mnuCopyPath, ui_->mnuAdd}) {
+    for (QAction* const action : {ui_->mnuDelete, ui_->mnuUninstall, ui_->mnuCheckAll, ui_->mnuCheckNone,
+                                  ui_->mnuOpenFolder, ui_->mnuCopyPath, ui_->mnuAdd}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         for (const KindPart& part : parts_)
             part.List->addAction(action);
@@ -237,7 +237,7 @@ void frmPersonalFiles::FillRowMenu(PersonalKind kind, bool onRow) {
 
 void frmPersonalFiles::ShowMenu(int place, QPoint globalPlace) {
     FillRowMenu(files_.State().Kind, place >= 0);
-    ui_->mnuUninstall->setEnabled(files_.MayUninstall(place));
+    ui_->mnuUninstall->setEnabled(files_.MayUninstall(place)); // something may have been installed since
     rowMenu_->popup(globalPlace);
 }
 
@@ -320,6 +320,7 @@ void frmPersonalFiles::StateChanged() {
     const PersonalFilesState& state = files_.State();
     ui_->mnuAdd->setEnabled(state.AddEnabled);
     ui_->mnuDelete->setEnabled(state.DeleteEnabled);
+    ui_->mnuUninstall->setEnabled(state.UninstallEnabled);
     ui_->mnuExport->setEnabled(state.ExportEnabled);
     FollowTree();
     FollowLists();

@@ -123,6 +123,11 @@ TEST_F(PersonalMoves, OnlyAKnownRowIsUninstalled) {
     EXPECT_FALSE(Personal.MayUninstall(0));
     EXPECT_TRUE(Personal.MayUninstall(1));
     EXPECT_FALSE(Personal.MayUninstall(2));
+    EXPECT_FALSE(State().UninstallEnabled);
+    Personal.RowSelected(1);
+    EXPECT_TRUE(State().UninstallEnabled);
+    Personal.NodeClicked(u"GenMaps"_s);
+    EXPECT_FALSE(State().UninstallEnabled);
     Personal.UninstallRow(0);
     Personal.UninstallRow(2);
     EXPECT_EQ(Journal.Asked, QStringList());

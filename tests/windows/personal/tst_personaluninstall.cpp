@@ -97,6 +97,34 @@ private Q_SLOTS:
         QVERIFY(InstallJournal::Read().Entries.empty());
     }
 
+    void theKeyWorksOnAKnownRowOnly() {
+        AddMap(u"Mine"_s);
+        InstallFiles({{Of(0).MapPath + u"Theirs\\Theirs.map"_s, "m"}});
+        Open();
+        ClickNode(u"GenMaps"_s);
+        RowListView& list = *List("lstMaps");
+        Click(list, 0);
+        QTest::keyClick(&list, Qt::Key_Delete, Qt::ShiftModifier);
+        QCOMPARE(host_->Messages.size(), std::size_t{0});
+        Click(list, 1);
+        host_->Answers = {Answer::Yes};
+        QTest::keyClick(&list, Qt::Key_Delete, Qt::ShiftModifier);
+        QCOMPARE(Names(list), QStringList{u"Mine"_s});
+        QVERIFY(!Part<QAction>("mnuUninstall")->isEnabled());
+    }
+
+    void whatCameInMeanwhileIsOfferedToo() {
+        AddMap(u"A"_s);
+        Open();
+        ClickNode(u"GenMaps"_s);
+        RowListView& list = *List("lstMaps");
+        Click(list, 0);
+        InstallFiles({{Of(0).MapPath + u"A\\A.tga"_s, "t"}});
+        MenuOf(list, 0);
+        QVERIFY(Part<QAction>("mnuUninstall")->isEnabled());
+        Part<QMenu>("mnuRow")->close();
+    }
+
     void whatTheBoxesWriteIsStillTheInstalls() {
         const QString mod = Of(0).InstallPath + u"Mod.big"_s;
         InstallFiles({{mod, "b"}, {Of(0).InstallPath + u"Mod.ini"_s, "[Mod]\r\nName=a\r\n"}});
