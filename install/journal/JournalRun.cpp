@@ -5,6 +5,7 @@
 
 #include "install/journal/InstallJournal.h"
 #include "install/journal/JournalText.h"
+#include "install/journal/KeptFiles.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -139,7 +140,7 @@ void JournalRun::PutAside(JournalFile& file) {
     file.Replaced = true;
     const QString kept = u"%1\\%2"_s.arg(entry_.Id).arg(keptCount_ + 1);
     try {
-        Files::Copy(file.Path, InstallJournal::KeptPath(kept));
+        KeptFiles::Copy(file.Path, InstallJournal::KeptPath(kept));
         file.KeptHash = HashOf(InstallJournal::KeptPath(kept)).Hash;
         file.Kept = kept;
         ++keptCount_;

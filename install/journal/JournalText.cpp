@@ -137,11 +137,12 @@ JournalEntry EntryOf(const QJsonValue& value) {
     entry.Game = OneOf<GameIndex>(TextOf(object[u"game"_s]), {0, 1, 2, 3}, GameText);
     entry.How = OneOf<State>(TextOf(object[u"state"_s]), {State::Running, State::Ended, State::BrokenOff}, StateText);
     Require(object[u"folders"_s].isArray() && object[u"files"_s].isArray());
-    for (const QJsonValue& folder : object[u"folders"_s].toArray())
+    const QJsonArray folders = object[u"folders"_s].toArray();
+    for (const auto& folder : folders)
         entry.Folders.append(TextOf(folder));
     const QJsonArray files = object[u"files"_s].toArray();
     entry.Files.reserve(static_cast<std::size_t>(files.size()));
-    for (const QJsonValue& file : files)
+    for (const auto& file : files)
         entry.Files.push_back(FileOf(file));
     return entry;
 }
@@ -152,7 +153,8 @@ Journal JournalOf(const QJsonObject& object) {
     Journal journal;
     journal.NextId = object[u"next"_s].toInt();
     int before = 0;
-    for (const QJsonValue& value : object[u"installs"_s].toArray()) {
+    const QJsonArray installs = object[u"installs"_s].toArray();
+    for (const auto& value : installs) {
         journal.Entries.push_back(EntryOf(value));
         Require(journal.Entries.back().Id > std::exchange(before, journal.Entries.back().Id));
     }

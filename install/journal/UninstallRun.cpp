@@ -5,6 +5,7 @@
 
 #include "core/GameFiles.h"
 #include "install/journal/InstallJournal.h"
+#include "install/journal/KeptFiles.h"
 #include "personal/mShellMaps.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -59,7 +60,7 @@ private:
     /// What is kept aside stays there until the journal names it no longer.
     static void PutBack(const JournalFile& file) {
         const QString kept = InstallJournal::KeptPath(file.Kept);
-        if (Ignoring([&] { Files::Copy(kept, file.Path); }))
+        if (Ignoring([&] { KeptFiles::Copy(kept, file.Path); }))
             return;
         const QString folder = Paths::Folder(file.Path).chopped(1);
         if (!Files::FileExists(kept))
@@ -67,7 +68,7 @@ private:
         Files::MakeFolders(folder);
         if (Files::FileExists(file.Path))
             Files::DeleteForced(file.Path); // write-protected
-        Files::Copy(kept, file.Path);
+        KeptFiles::Copy(kept, file.Path);
     }
 
     bool TakeOut(Journal& journal) {

@@ -64,7 +64,7 @@ protected:
             journal = World::ReadFile(InstallJournal::File());
             lines = World::ReadFile(InstallJournal::LinesOf(id));
             Files::MakeFolder(Kept(id) + QStringLiteral(" away"));
-            for (const QString& name : Files::ListFolder(Kept(id) + u'\\'))
+            for (const QString& name : Files::ListFolder(Kept(id) + QStringLiteral("\\?")))
                 Files::Copy(Kept(id) + u'\\' + name, Kept(id) + QStringLiteral(" away\\") + name);
         }
         Files::DeleteFolder(Kept(id));

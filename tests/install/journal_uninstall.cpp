@@ -65,6 +65,19 @@ TEST_F(Uninstalling, WhatWasReplacedComesBack) {
     EXPECT_EQ(Aside(), QStringList());
 }
 
+TEST_F(Uninstalling, WhatWasReplacedComesBackWithItsTime) {
+    const QString path = Install(u"Mod.big"_s, "old");
+    const QDateTime time = QDateTime::currentDateTime().addDays(-100);
+    {
+        QFile file(Paths::ToNative(path));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+    InstallFiles({{path, "new"}});
+    EXPECT_EQ(UninstallIt(1), QStringList());
+    EXPECT_EQ(Bytes(path), "old");
+    EXPECT_EQ(Files::ModifiedTime(path).toSecsSinceEpoch(), time.toSecsSinceEpoch());
+}
+
 TEST_F(Uninstalling, WhatWasReplacedComesBackAlsoWhereTheNewFileIsGone) {
     const QString path = Write(InMaps(u"A\\A.map"_s), "old");
     InstallFiles({{path, "new"}});
