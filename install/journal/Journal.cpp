@@ -5,8 +5,6 @@
 
 #include "platform/File.h"
 
-#include <QCryptographicHash>
-
 #include <algorithm>
 
 const JournalEntry* Journal::Find(int id) const {
@@ -19,21 +17,27 @@ JournalEntry* Journal::Find(int id) {
     return found == Entries.end() ? nullptr : &*found;
 }
 
+void RunningHash::Add(QByteArrayView bytes) {
+    hash_.addData(bytes);
+    length_ += bytes.size();
+}
+
+HashedFile RunningHash::Result() const {
+    return {.Hash = hash_.result(), .Length = length_};
+}
+
 HashedFile HashOf(const QString& path) {
     constexpr qint64 atOnce = 1 << 18;
     const File file = File::Open(path, File::Access::Read);
-    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
-    QByteArray bytes(std::clamp<qint64>(file.Length(), 1, atOnce), Qt::Uninitialized);
-    HashedFile hashed;
-    for (;;) {
-        const qint64 count = file.ReadInto(hashed.Length, bytes.data(), bytes.size());
-        if (count <= 0)
-            break;
-        hash.addData(QByteArrayView(bytes).first(count));
-        hashed.Length += count;
+    // One more than there are: that they come short tells the end.
+    QByteArray bytes(std::min<qint64>(file.Length() + 1, atOnce), Qt::Uninitialized);
+    RunningHash hash;
+    qint64 offset = 0;
+    for (qint64 count = bytes.size(); count == bytes.size(); offset += count) {
+        count = file.ReadInto(offset, bytes.data(), bytes.size());
+        hash.Add(QByteArrayView(bytes).first(count));
     }
-    hashed.Hash = hash.result();
-    return hashed;
+    return hash.Result();
 }
 
 QString JournalKey(const QString& path) {

@@ -7,6 +7,8 @@
 #include "core/Game.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
@@ -54,6 +56,17 @@ struct Journal {
 struct HashedFile {
     QByteArray Hash;
     qint64 Length = 0; ///< bytes
+};
+
+/// The same of bytes as they are written, for who has them at hand.
+class RunningHash {
+public:
+    void Add(QByteArrayView bytes);
+    [[nodiscard]] HashedFile Result() const;
+
+private:
+    QCryptographicHash hash_{QCryptographicHash::Blake2b_256};
+    qint64 length_ = 0;
 };
 
 /// Reads a file (inside path) to its end. Raises what the reading raises.

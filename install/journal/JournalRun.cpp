@@ -160,16 +160,19 @@ void JournalRun::AddLine(const QByteArray& line) {
 }
 
 void JournalRun::Written(const QString& path) {
+    HashedFile hashed;
+    if (!over_ && places_.contains(JournalKey(path)))
+        Ignoring([&] { hashed = HashOf(path); });
+    Written(path, hashed);
+}
+
+void JournalRun::Written(const QString& path, const HashedFile& hashed) {
     const auto place = places_.constFind(JournalKey(path));
     if (over_ || place == places_.constEnd())
         return;
     JournalFile& file = entry_.Files[*place];
-    file.Hash.clear();
-    Ignoring([&] {
-        const HashedFile hashed = HashOf(path);
-        file.Hash = hashed.Hash;
-        file.Length = hashed.Length;
-    });
+    file.Hash = hashed.Hash;
+    file.Length = hashed.Length;
     AddLine(JournalText::FileLine(file));
 }
 
@@ -181,9 +184,9 @@ void JournalRun::End() {
     Settle();
     entry_.How = JournalEntry::State::Ended;
     lines_ = File();
-    own_.reset();
     try {
         InstallJournal::Change([&](Journal& journal) {
+            own_.reset(); // not before: others would read its lines
             std::erase_if(journal.Entries, [&](const JournalEntry& entry) { return entry.Id == entry_.Id; });
             if (entry_.Files.empty() && entry_.Folders.isEmpty())
                 return true;
@@ -192,6 +195,8 @@ void JournalRun::End() {
             journal.NextId = std::max(journal.NextId, entry_.Id + 1);
             return true;
         });
+        for (const QString& kept : std::as_const(notNeeded_))
+            Ignoring([&] { Files::DeleteForced(InstallJournal::KeptPath(kept)); });
     } catch (const RuntimeError& error) {
         told_.append(error.Description());
     }
@@ -199,12 +204,15 @@ void JournalRun::End() {
 
 // What a step that failed did not write is none of the install's.
 void JournalRun::Settle() {
-    std::erase_if(entry_.Files, [](const JournalFile& file) {
+    std::erase_if(entry_.Files, [this](const JournalFile& file) {
         if (!file.Hash.isEmpty())
             return false;
         HashedFile now;
         const bool isThere = Ignoring([&] { now = HashOf(file.Path); });
-        return file.Kept.isEmpty() ? !file.Replaced && !isThere : isThere && now.Hash == file.KeptHash;
+        const bool isAsBefore = file.Kept.isEmpty() ? !file.Replaced && !isThere : isThere && now.Hash == file.KeptHash;
+        if (isAsBefore && !file.Kept.isEmpty())
+            notNeeded_.append(file.Kept);
+        return isAsBefore;
     });
     entry_.Folders.removeIf([](const QString& folder) { return !Files::FolderExists(folder); });
 }

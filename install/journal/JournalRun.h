@@ -32,6 +32,8 @@ public:
     void WillWrite(const QString& path);
     /// To be called behind each such step that was done.
     void Written(const QString& path);
+    /// The same with what was written, hashed on the way: the file is not read again.
+    void Written(const QString& path, const HashedFile& hashed);
     /// The end, as far as it came; calls behind it do nothing.
     void End();
 
@@ -61,5 +63,6 @@ private:
     QHash<QString, std::size_t> places_;    ///< in the entry's files, by JournalKey
     QHash<QString, QSet<QString>> folders_; ///< the names in each folder that was looked at, both as JournalKey
     QSet<QString> made_;                    ///< the entry's folders, as JournalKey
+    QStringList notNeeded_;                 ///< put aside, but not replaced in the end
     QStringList told_;
 };

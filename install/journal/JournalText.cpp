@@ -47,35 +47,79 @@ QString GameText(GameIndex game) {
     return SettingsPrefix(game).toLower();
 }
 
-QString HashText(const QByteArray& hash) {
-    return QString::fromLatin1(hash.toHex());
+// Written by hand: twenty thousand files are no more than a moment of their installation.
+
+void AddEscaped(QByteArray& json, QByteArrayView utf8) {
+    for (const char letter : utf8) {
+        if (letter == '"' || letter == '\\')
+            json += '\\';
+        else if (static_cast<unsigned char>(letter) < ' ') {
+            json += "\\u00" + QByteArray::number(letter + 0x100, 16).last(2);
+            continue;
+        }
+        json += letter;
+    }
 }
 
-QJsonObject Object(const JournalFile& file) {
-    QJsonObject object{{u"path"_s, file.Path}, {u"replaced"_s, file.Replaced}};
-    if (!file.Hash.isEmpty()) {
-        object.insert(u"hash"_s, HashText(file.Hash));
-        object.insert(u"length"_s, file.Length);
+/// A text in quotes. A surrogate that stands alone, a byte of a name that is no text, is none in UTF-8.
+void AddText(QByteArray& json, const QString& text) {
+    json += '"';
+    qsizetype from = 0;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        if (isPair) {
+            ++at;
+            continue;
+        }
+        if (!text[at].isSurrogate())
+            continue;
+        AddEscaped(json, QStringView(text).sliced(from, at - from).toUtf8());
+        json += "\\u" + QByteArray::number(text[at].unicode(), 16);
+        from = at + 1;
     }
+    AddEscaped(json, QStringView(text).sliced(from).toUtf8());
+    json += '"';
+}
+
+void AddMember(QByteArray& json, QByteArrayView name, const QString& text) {
+    json += name;
+    AddText(json, text);
+}
+
+void AddFile(QByteArray& json, const JournalFile& file) {
+    AddMember(json, "{\"path\":", file.Path);
+    json += file.Replaced ? ",\"replaced\":true" : ",\"replaced\":false";
+    if (!file.Hash.isEmpty())
+        json += ",\"hash\":\"" + file.Hash.toHex() + "\",\"length\":" + QByteArray::number(file.Length);
     if (!file.Kept.isEmpty()) {
-        object.insert(u"kept"_s, file.Kept);
-        object.insert(u"keptHash"_s, HashText(file.KeptHash));
+        AddMember(json, ",\"kept\":", file.Kept);
+        json += ",\"keptHash\":\"" + file.KeptHash.toHex() + '"';
     }
-    return object;
+    json += '}';
 }
 
-QJsonObject Object(const JournalEntry& entry) {
-    QJsonArray files;
-    for (const JournalFile& file : entry.Files)
-        files.append(Object(file));
-    return {{u"id"_s, entry.Id},
-            {u"time"_s, entry.Time.toUTC().toString(Qt::ISODate)},
-            {u"source"_s, entry.Source},
-            {u"sourceHash"_s, HashText(entry.SourceHash)},
-            {u"game"_s, GameText(entry.Game)},
-            {u"state"_s, StateText(entry.How)},
-            {u"folders"_s, QJsonArray::fromStringList(entry.Folders)},
-            {u"files"_s, files}};
+void AddEntry(QByteArray& json, const JournalEntry& entry) {
+    json += "{\"id\":" + QByteArray::number(entry.Id);
+    AddMember(json, ",\"time\":", entry.Time.toUTC().toString(Qt::ISODate));
+    AddMember(json, ",\"source\":", entry.Source);
+    json += ",\"sourceHash\":\"" + entry.SourceHash.toHex() + '"';
+    AddMember(json, ",\"game\":", GameText(entry.Game));
+    AddMember(json, ",\"state\":", StateText(entry.How));
+    json += ",\"folders\":[";
+    for (const QString& folder : entry.Folders) {
+        AddText(json, folder);
+        json += ',';
+    }
+    if (json.endsWith(','))
+        json.chop(1);
+    json += "],\n\"files\":[";
+    for (const JournalFile& file : entry.Files) {
+        AddFile(json, file);
+        json += ",\n";
+    }
+    if (!entry.Files.empty())
+        json.chop(2);
+    json += "]}";
 }
 
 QString TextOf(const QJsonValue& value) {
@@ -85,10 +129,9 @@ QString TextOf(const QJsonValue& value) {
 
 /// Empty, or a hash of its full length.
 QByteArray HashOfText(const QString& text) {
-    static const QRegularExpression form(u"\\A([0-9a-f]{64})?\\z"_s);
-    static_assert(HashBytes == 32);
-    Require(form.match(text).hasMatch());
-    return QByteArray::fromHex(text.toLatin1());
+    QByteArray hash = QByteArray::fromHex(text.toLatin1());
+    Require(hash.size() * 2 == text.size() && (hash.isEmpty() || hash.size() == HashBytes));
+    return hash;
 }
 
 /// What was put aside lies in an install's own folder and nowhere else.
@@ -162,19 +205,19 @@ Journal JournalOf(const QJsonObject& object) {
     return journal;
 }
 
-QByteArray Line(const QJsonObject& object) {
-    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
-}
-
 } // namespace
 
 QByteArray JournalText::Encode(const Journal& journal) {
-    QJsonArray installs;
-    for (const JournalEntry& entry : journal.Entries)
-        installs.append(Object(entry));
-    const QJsonObject object{
-        {u"format"_s, Format}, {u"hash"_s, HashName()}, {u"next"_s, journal.NextId}, {u"installs"_s, installs}};
-    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    QByteArray json = "{\"format\":" + QByteArray::number(Format);
+    AddMember(json, ",\"hash\":", HashName());
+    json += ",\"next\":" + QByteArray::number(journal.NextId) + ",\"installs\":[";
+    for (const JournalEntry& entry : journal.Entries) {
+        AddEntry(json += '\n', entry);
+        json += ',';
+    }
+    if (json.endsWith(','))
+        json.chop(1);
+    return json + "]}\n";
 }
 
 std::optional<Journal> JournalText::Decode(const QByteArray& bytes) {
@@ -188,11 +231,15 @@ std::optional<Journal> JournalText::Decode(const QByteArray& bytes) {
 }
 
 QByteArray JournalText::FileLine(const JournalFile& file) {
-    return Line(Object(file));
+    QByteArray json;
+    AddFile(json, file);
+    return json + '\n';
 }
 
 QByteArray JournalText::FolderLine(const QString& folder) {
-    return Line({{u"folder"_s, folder}});
+    QByteArray json;
+    AddMember(json, "{\"folder\":", folder);
+    return json + "}\n";
 }
 
 void JournalText::ReadLines(const QByteArray& lines, JournalEntry& entry) {

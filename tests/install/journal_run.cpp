@@ -161,6 +161,29 @@ TEST_F(Journaling, AStepThatFailedHalfwayIsKnownButNotWhatItWrote) {
     EXPECT_EQ(Bytes(InstallJournal::KeptPath(file.Kept)), "old");
 }
 
+TEST_F(Journaling, AFileIsNotReadAgainWhereItsHashIsAtHand) {
+    JournalRun run(Source(), 0);
+    run.WillWrite(InGame(u"A.big"_s));
+    RunningHash hash;
+    hash.Add("a");
+    hash.Add("bc");
+    run.Written(InGame(u"A.big"_s), hash.Result()); // there is no such file
+    run.End();
+    EXPECT_EQ(Entry(1).Files.at(0).Hash.toHex(), QByteArray(HashOfAbc));
+    EXPECT_EQ(Entry(1).Files.at(0).Length, 3);
+}
+
+TEST_F(Journaling, FilesOfEverySizeAreReadToTheirEnd) {
+    for (const qsizetype size : {0, 1, (1 << 18) - 1, 1 << 18, (1 << 18) + 1, 3 << 18}) {
+        const QByteArray bytes(size, 'x');
+        RunningHash expected;
+        expected.Add(bytes);
+        const HashedFile hashed = HashOf(Write(InGame(u"A.big"_s), bytes));
+        EXPECT_EQ(hashed.Length, size);
+        EXPECT_EQ(hashed.Hash, expected.Result().Hash) << size;
+    }
+}
+
 TEST_F(Journaling, CallsBehindTheEndDoNothing) {
     JournalRun run(Source(), 0);
     Step(run, InGame(u"A.big"_s), "a");
@@ -178,6 +201,25 @@ TEST_F(Journaling, ASourceThatIsGoneHasNoHash) {
     EXPECT_EQ(run.Told(), QStringList());
     EXPECT_EQ(Entry(1).Source, u"gone.big"_s);
     EXPECT_EQ(Entry(1).SourceHash, QByteArray());
+}
+
+TEST_F(Journaling, EveryNameComesBackAsItWas) {
+    const QString name = u"\\a\"b\t\n\u0001\u007F\u00E4\u2028"_s + QChar(0xDC80) + QChar(0xDC81) + u"\U0001F5FA"_s +
+                         QChar(0xD800) + u"end"_s;
+    Journal journal;
+    journal.NextId = 2;
+    JournalEntry entry;
+    entry.Id = 1;
+    entry.Time = QDateTime::fromSecsSinceEpoch(1000000000, Qt::UTC);
+    entry.Source = name;
+    entry.Folders = {name, name};
+    entry.Files = {{.Path = name}, {.Path = name + u'2'}};
+    journal.Entries.push_back(entry);
+    const std::optional<Journal> read = JournalText::Decode(JournalText::Encode(journal));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->Entries.at(0).Source, name);
+    EXPECT_EQ(read->Entries.at(0).Folders, entry.Folders);
+    EXPECT_EQ(read->Entries.at(0).Files.at(1).Path, name + u'2');
 }
 
 TEST_F(Journaling, NamesThatAreNoTextComeBackWhole) {
