@@ -8,6 +8,7 @@
 #include "big/document/ScratchFolders.h"
 #include "core/GameFiles.h"
 #include "core/mMain.h"
+#include "install/journal/JournalFollower.h"
 #include "personal/mShellMaps.h"
 #include "platform/Processes.h"
 #include "ui/look/Picture.h"
@@ -39,6 +40,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     QTimer::singleShot(untilTheWindowStands, &application, [] { ScratchFolders::RemoveAbandoned(); });
     WindowHost host;
     Host::Use(&host);
+    const JournalFollower follower;
     try {
         mMain::Show(dispatched);
         return Application::exec();

@@ -3,6 +3,7 @@
 
 #include "personal/mShellMaps.h"
 
+#include "core/FileMoves.h"
 #include "core/GameFiles.h"
 #include "personal/MapsFolder.h"
 #include "platform/Files.h"
@@ -15,7 +16,7 @@ namespace {
 /// Takes one shell map out of the numbered store.
 class Removal {
 public:
-    explicit Removal(GameIndex game) : maps_(game) {}
+    explicit Removal(GameIndex game) : game_(game), maps_(game) {}
 
     void Run(int number, int highest) {
         if (!maps_.IsThere())
@@ -23,17 +24,25 @@ public:
         Empty(number, number == highest);
         if (number == highest)
             Files::DeleteFolder(FolderOf(number));
+        FileMoves::Deleted(ToldFolder(number));
         // What was just emptied has nothing to move. Where a file in it could not be deleted, it is not the lower
         // number's.
         for (int from = number + 1; from <= highest; ++from)
             MoveDown(from);
-        if (number < highest)
+        if (number < highest) {
             RemoveHighest(highest);
+            FileMoves::Deleted(ToldFolder(highest));
+        }
     }
 
 private:
     [[nodiscard]] QString FolderOf(int number) const {
         return maps_.Find(GameFiles::ShellMapName(QString::number(number)));
+    }
+
+    /// The same as the catalogue names it.
+    [[nodiscard]] QString ToldFolder(int number) const {
+        return GameFiles::ShellMapFolder(game_, GameFiles::ShellMapName(QString::number(number)));
     }
 
     void Empty(int number, bool goesToo) const {
@@ -59,10 +68,13 @@ private:
             });
         QStringList stuck;
         for (const QString& name : Files::ListFolder(source + u'\\')) {
-            if (!MoveDown(name, source, target))
+            if (MoveDown(name, source, target))
+                FileMoves::Copied(ToldFolder(from) + u'\\' + name, ToldFolder(from - 1) + u'\\' + name);
+            else
                 stuck.append(name);
         }
         stuck_ = stuck;
+        FileMoves::Copied(ToldFolder(from), ToldFolder(from - 1));
     }
 
     /// Over a file that could not be moved itself nothing is copied: it would be lost.
@@ -92,6 +104,7 @@ private:
         Ignoring([&] { Files::RemoveFolder(folder); });
     }
 
+    GameIndex game_;
     MapsFolder maps_;
     QStringList stuck_; ///< names in the folder moved last that stayed there only
 };

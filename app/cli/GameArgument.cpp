@@ -30,10 +30,14 @@ GameIndex GameArgument::Of(const Arguments& given, const std::string& name) {
     return Games().at(given.Raw(name));
 }
 
-GameIndex GameArgument::Prepared(const Arguments& given, const std::string& name) {
+void GameArgument::Prepare() {
     mMain::UseRuntimes();
     mMain::LanguageFileName = ReadSetting(SettingKeys::TradFileName);
     mMain::DetectGames();
     Ignoring([] { mMain::MakeUserFolders(); });
+}
+
+GameIndex GameArgument::Prepared(const Arguments& given, const std::string& name) {
+    Prepare();
     return Of(given, name);
 }

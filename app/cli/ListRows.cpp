@@ -4,6 +4,7 @@
 #include "app/cli/ListRows.h"
 
 #include "app/cli/Output.h"
+#include "core/FileMoves.h"
 #include "core/mMain.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Console.h"
@@ -130,6 +131,7 @@ void ListRows::Describe(const GameFiles::RecordPlace& place, const Arguments& gi
         EndWith(WrongUsage);
     }
     for (const auto& [key, value] : values) {
+        const FileMoves::Rewrite rewrite(place.File);
         if (mMain::INI().WriteINI(place.Section, key, value, place.File) == u"0"_s)
             Fail(file, u"The file could not be written."_s);
     }

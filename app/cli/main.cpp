@@ -6,6 +6,7 @@
 #include "app/cli/CsfCommands.h"
 #include "app/cli/ExportCommand.h"
 #include "app/cli/GameCommands.h"
+#include "app/cli/InstalledCommands.h"
 #include "app/cli/ListCommands.h"
 #include "app/cli/Output.h"
 #include "app/cli/ReplayCommands.h"
@@ -13,6 +14,7 @@
 #include "app/cli/ZipCommands.h"
 
 #include "core/mMain.h"
+#include "install/journal/JournalFollower.h"
 #include "media/MediaChild.h"
 #include "platform/Arguments.h"
 #include "platform/RuntimeError.h"
@@ -30,6 +32,7 @@ CommandGroup Big() {
 int Run(const std::vector<std::string>& words) {
     ScriptHost host;
     mMain::UseRuntimes();
+    const JournalFollower follower;
     std::vector<CommandGroup> groups = GameCommands();
     groups.push_back(Big());
     groups.push_back({"csf", "CSF string tables", CsfCommands()});
@@ -38,6 +41,7 @@ int Run(const std::vector<std::string>& words) {
     groups.push_back({"mods", "A game's mods", ModCommands()});
     groups.push_back({"shellmaps", "A game's shell maps", ShellMapCommands()});
     groups.push_back({{}, {}, ExportCommands()});
+    groups.push_back({"installed", "What was installed into the games", InstalledCommands()});
     groups.push_back({"zip", "ZIP archives", ZipCommands()});
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));

@@ -3,6 +3,7 @@
 
 #include "personal/document/LossNotices.h"
 
+#include "core/FileMoves.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/FileNumbers.h"
@@ -89,6 +90,7 @@ void LossNotices::LetGo() {
 void LossNotices::Keep() {
     told_ = {};
     for (const auto& [name, lost] : std::exchange(lost_, {})) {
+        const FileMoves::Rewrite rewrite(lost.Place.File);
         if (mMain::INI().WriteINI(lost.Place.Section, lost.Key, lost.Value, lost.Place.File) == u"1"_s) {
             kept_(lost);
         } else {

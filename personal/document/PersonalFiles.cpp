@@ -119,6 +119,7 @@ void PersonalFiles::Relist(PersonalKind kind, qint32 game) {
 void PersonalFiles::ForgetRows() {
     state_.DeleteEnabled = false;
     state_.ExportEnabled = false;
+    state_.UninstallEnabled = false;
 }
 
 void PersonalFiles::HideDetails() {

@@ -89,6 +89,11 @@ public:
     void OpenFolder(int place);
     void CopyPath(int place);
 
+    /// Whether an install is known that brought the row's file, or a file of its folder.
+    [[nodiscard]] bool MayUninstall(int place) const;
+    /// Shows what came with the row and asks; when something was done, tree and list are made anew.
+    void UninstallRow(int place);
+
     /// Makes the tree and the visible list anew. The node stays selected, rows keep their check marks, and the row
     /// stays selected where it is still there. Raises what the listing raises.
     void Refresh();

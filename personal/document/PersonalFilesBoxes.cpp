@@ -3,6 +3,7 @@
 
 // The two boxes of a mod or shell map, which are written at every change.
 
+#include "core/FileMoves.h"
 #include "core/mMain.h"
 #include "personal/document/PersonalFiles.h"
 #include "platform/AnsiCodec.h"
@@ -135,6 +136,7 @@ void PersonalFiles::WriteModComment(const GameFiles::RecordPlace& place, const Q
 }
 
 void PersonalFiles::Write(const GameFiles::RecordPlace& place, const QString& key, const QString& value, By by) {
+    const FileMoves::Rewrite rewrite(place.File);
     const bool written = mMain::INI().WriteINI(place.Section, key, value, place.File) == u"1"_s;
     if (!written && by == By::User)
         notices_.TellNotWritten(place.File);

@@ -4,6 +4,7 @@
 // The rows of the visible list: their details, names, order and check marks.
 
 #include "core/Sizes.h"
+#include "core/Uninstaller.h"
 #include "personal/document/PersonalFiles.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -30,6 +31,7 @@ void PersonalFiles::RowSelected(int place) {
     HideDetails();
     state_.DeleteEnabled = true;
     state_.ExportEnabled = true;
+    state_.UninstallEnabled = MayUninstall(place);
     switch (state_.Kind) {
     case PersonalKind::Map:
         ShowMap(row);
@@ -150,6 +152,21 @@ void PersonalFiles::OpenFolder(int place) {
 void PersonalFiles::CopyPath(int place) {
     if (Has(place))
         view_.CopyText(Paths::ToNative(Row(place).Key));
+}
+
+bool PersonalFiles::MayUninstall(int place) const {
+    return Has(place) && Uninstaller::Current() != nullptr && Uninstaller::Current()->Knows(Row(place).Key);
+}
+
+void PersonalFiles::UninstallRow(int place) {
+    if (!MayUninstall(place))
+        return;
+    const QString path = Row(place).Key;
+    if (!Uninstaller::Current()->Uninstall(path))
+        return;
+    if (!Files::FileExists(path)) // of a folder, too: it may be another shell map's
+        ForgetLost();
+    Refresh();
 }
 
 void PersonalFiles::UpdateStatus() {

@@ -39,6 +39,7 @@ struct PersonalFilesState {
     bool AddEnabled = false;               ///< Label2_0
     bool DeleteEnabled = false;            ///< Label2_1
     bool ExportEnabled = false;            ///< Label2_2
+    bool UninstallEnabled = false;         ///< an install is known that brought the selected row
     bool MapDetailsVisible = false;        ///< mnuDetailsMaps
     bool ReplayDetailsVisible = false;     ///< mnuDetailsReplays
     bool ModDetailsVisible = false;        ///< mnuDetailsMods, for mods and shell maps

@@ -3,6 +3,7 @@
 
 #include "personal/lists/MapList.h"
 
+#include "core/FileMoves.h"
 #include "core/NameOrder.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
@@ -61,6 +62,7 @@ void MapList::DeleteMap(bool& done) {
     const QString& map = SelectedRow().Text;
     const QString folder = Folder() + map;
     done = Ignoring([&] { DeleteMapFolder(folder); }) && !Files::FileExists(MapFile(folder, map));
+    FileMoves::Deleted(folder);
 }
 
 void MapList::BuildExportList() {

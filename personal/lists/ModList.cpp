@@ -3,6 +3,7 @@
 
 #include "personal/lists/ModList.h"
 
+#include "core/FileMoves.h"
 #include "core/GameFiles.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
@@ -55,6 +56,7 @@ void ModList::DeleteMod(bool& done) {
     const QString file = Folder() + SelectedRow().Text;
     // The file with the mod's name and comments stays: a mod of the same name finds it again. This is meant.
     Ignoring([&] { Files::DeleteUnprotected(file); });
+    FileMoves::Deleted(file);
     done = !Files::FileExists(file);
 }
 

@@ -3,6 +3,7 @@
 
 #include "personal/lists/ReplayList.h"
 
+#include "core/FileMoves.h"
 #include "core/FolderGateway.h"
 #include "core/NameOrder.h"
 #include "core/mTraduction.h"
@@ -142,6 +143,7 @@ void ReplayList::AddReplay(const QString& name, Reading& reading) {
 void ReplayList::DeleteReplay(bool& done) {
     const QString path = SelectedRow().Key;
     Ignoring([&] { Files::DeleteForced(path); });
+    FileMoves::Deleted(path);
     done = !Files::FileExists(path);
 }
 
@@ -159,6 +161,7 @@ void ReplayList::Rename(int place, const QString& text) {
     if (from.compare(to, Qt::CaseInsensitive) != 0 && Files::SameFile(from, to))
         throw RuntimeError(ErrorNumber::FileAlreadyExists, Paths::ToNative(to) + u": exists already"_s);
     Files::Rename(from, to);
+    FileMoves::Moved(from, to);
     Rows().SetKey(place, to);
 }
 

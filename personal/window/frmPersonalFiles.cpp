@@ -126,8 +126,8 @@ void frmPersonalFiles::ShareActions() {
     Mnemonics::AddTo(*rowMenu_);
     ui_->mnuRename->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     ui_->lstReplays->addAction(ui_->mnuRename);
-    for (QAction* const action :
-         {ui_->mnuDelete, ui_->mnuCheckAll, ui_->mnuCheckNone, ui_->mnuOpenFolder, ui_->mnuCopyPath, ui_->mnuAdd}) {
+    for (QAction* const action : {ui_->mnuDelete, ui_->mnuUninstall, ui_->mnuCheckAll, ui_->mnuCheckNone,
+                                  ui_->mnuOpenFolder, ui_->mnuCopyPath, ui_->mnuAdd}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         for (const KindPart& part : parts_)
             part.List->addAction(action);
@@ -143,6 +143,7 @@ std::vector<ToolCommand> frmPersonalFiles::Commands() {
         {ui_->mnuDelete, ui_->Label2_1, u"delete"_s, [this] { files_.Delete(); }},
         {ui_->mnuExport, ui_->Label2_2, u"extract"_s, [this] { files_.Export(); }},
         {ui_->mnuExportRow, nullptr, u"extract"_s, onRow(&PersonalFiles::ExportRow)},
+        {ui_->mnuUninstall, nullptr, {}, onRow(&PersonalFiles::UninstallRow)},
         {ui_->mnuRename, nullptr, u"modify"_s, [this] { EditName(); }},
         {ui_->mnuCheckAll, nullptr, {}, [this] { files_.CheckAll(true); }},
         {ui_->mnuCheckNone, nullptr, {}, [this] { files_.CheckAll(false); }},
@@ -224,7 +225,7 @@ void frmPersonalFiles::FillRowMenu(PersonalKind kind, bool onRow) {
     if (onRow) {
         if (kind == PersonalKind::Replay)
             rowMenu_->addAction(ui_->mnuRename);
-        rowMenu_->addActions({ui_->mnuDelete, ui_->mnuExportRow});
+        rowMenu_->addActions({ui_->mnuDelete, ui_->mnuUninstall, ui_->mnuExportRow});
         rowMenu_->addSeparator();
         rowMenu_->addActions({ui_->mnuOpenFolder, ui_->mnuCopyPath});
         rowMenu_->addSeparator();
@@ -236,6 +237,7 @@ void frmPersonalFiles::FillRowMenu(PersonalKind kind, bool onRow) {
 
 void frmPersonalFiles::ShowMenu(int place, QPoint globalPlace) {
     FillRowMenu(files_.State().Kind, place >= 0);
+    ui_->mnuUninstall->setEnabled(files_.MayUninstall(place)); // something may have been installed since
     rowMenu_->popup(globalPlace);
 }
 
@@ -318,6 +320,7 @@ void frmPersonalFiles::StateChanged() {
     const PersonalFilesState& state = files_.State();
     ui_->mnuAdd->setEnabled(state.AddEnabled);
     ui_->mnuDelete->setEnabled(state.DeleteEnabled);
+    ui_->mnuUninstall->setEnabled(state.UninstallEnabled);
     ui_->mnuExport->setEnabled(state.ExportEnabled);
     FollowTree();
     FollowLists();

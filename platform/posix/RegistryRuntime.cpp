@@ -6,6 +6,7 @@
 #include "platform/AnsiCodec.h"
 #include "platform/FileRegistry.h"
 #include "platform/Paths.h"
+#include "platform/posix/OwnFolder.h"
 #include "platform/posix/WineHive.h"
 #include "platform/posix/WinePrefixes.h"
 
@@ -59,15 +60,6 @@ private:
     WineHive user_;
 };
 
-QString OwnFile() {
-    QString named = qEnvironmentVariable("BRINDOCK_REGISTRY");
-    if (!named.isEmpty())
-        return named;
-    const QString configuration = qEnvironmentVariable("XDG_CONFIG_HOME");
-    const bool usable = configuration.startsWith(u'/');
-    return (usable ? configuration : qEnvironmentVariable("HOME") + u"/.config"_s) + u"/brindock/registry.reg"_s;
-}
-
 QString WithoutEndSeparators(QString path) {
     while (path.endsWith(u'\\'))
         path.chop(1);
@@ -83,7 +75,7 @@ public:
         const WinePrefix* Prefix = nullptr; ///< none for the suite's own file
     };
 
-    Source() : Own(OwnFile()) {}
+    Source() : Own(OwnRegistryFile()) {}
 
     [[nodiscard]] Found Find(RootKey root, const QString& keyPath, const QString& name) const {
         const QString path = WithoutEndSeparators(keyPath);

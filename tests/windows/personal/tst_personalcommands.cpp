@@ -227,7 +227,7 @@ private Q_SLOTS:
             QVERIFY2(!action->shortcut().isEmpty(), qPrintable(action->objectName()));
             keys += action->shortcut().toString();
         }
-        QCOMPARE(keys.size(), 13);
+        QCOMPARE(keys.size(), 14);
         QCOMPARE(keys.removeDuplicates(), 0);
     }
 

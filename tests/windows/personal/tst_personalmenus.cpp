@@ -69,8 +69,10 @@ private Q_SLOTS:
         RowListView& list = ShowTwoReplays();
         QMenu* const menu = MenuOf(list, 1);
         QCOMPARE(Text("lblRFileName"), u"b"_s);
-        QCOMPARE(Entries(*menu), QStringList({u"Rename"_s, u"Delete"_s, u"Export"_s, u"Open folder"_s, u"Copy path"_s,
-                                              u"Check all"_s, u"Uncheck all"_s, u"Add"_s, u"Refresh"_s}));
+        QCOMPARE(Entries(*menu),
+                 QStringList({u"Rename"_s, u"Delete"_s, u"Uninstall what came with it"_s, u"Export"_s, u"Open folder"_s,
+                              u"Copy path"_s, u"Check all"_s, u"Uncheck all"_s, u"Add"_s, u"Refresh"_s}));
+        QVERIFY(!Part<QAction>("mnuUninstall")->isEnabled());
         menu->close();
         QCOMPARE(Entries(*MenuOf(list, -1)), QStringList({u"Check all"_s, u"Uncheck all"_s, u"Add"_s, u"Refresh"_s}));
     }

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// One install as it goes on: what it writes is in the journal before it is written, so that an install that fails or
+/// dies halfway can be uninstalled too.
+#pragma once
+
+#include "core/Game.h"
+#include "install/journal/Journal.h"
+#include "platform/File.h"
+#include "platform/FolderLock.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <optional>
+
+/// Nothing here raises: an install goes on without its journal, and Told says why. An install that writes nothing
+/// leaves no entry.
+class JournalRun {
+public:
+    /// `sourcePath` is the inside path of the file that is installed: a ZIP, or a file as it lies there.
+    JournalRun(QString sourcePath, GameIndex game);
+    /// Ends it.
+    ~JournalRun();
+    JournalRun(const JournalRun&) = delete;
+    JournalRun& operator=(const JournalRun&) = delete;
+
+    /// To be called before each step that writes a file (inside path), again where a second step writes it anew. A file
+    /// that stands there is put aside, once. Folders on the way to it that are missing, or empty as they have just been
+    /// made, are the install's.
+    void WillWrite(const QString& path);
+    /// To be called behind each such step that was done.
+    void Written(const QString& path);
+    /// The same with what was written, hashed on the way: the file is not read again.
+    void Written(const QString& path, const HashedFile& hashed);
+    /// The end, as far as it came; calls behind it do nothing.
+    void End();
+
+    /// What a user should know of the journal itself, a line each; paths as the system writes them.
+    [[nodiscard]] const QStringList& Told() const { return told_; }
+
+private:
+    void Begin();
+    void Abandon();
+    void Enter(Journal& journal);
+    void LookAt(const QString& folder);
+    void MakesFolder(const QString& folder);
+    void Add(const QString& path);
+    void PutAside(JournalFile& file);
+    void AddLine(const QByteArray& line);
+    void Settle();
+    void Tell(const QString& path, const QString& text);
+
+    QString sourcePath_;
+    JournalEntry entry_;
+    bool begun_ = false;
+    bool over_ = false;             ///< it has ended, or there is no journal for it
+    std::optional<FolderLock> own_; ///< tells others that this install lives
+    File lines_;
+    qint64 length_ = 0;                     ///< of the lines, bytes
+    int keptCount_ = 0;                     ///< files put aside
+    QHash<QString, std::size_t> places_;    ///< in the entry's files, by JournalKey
+    QHash<QString, QSet<QString>> folders_; ///< the names in each folder that was looked at, both as JournalKey
+    QSet<QString> made_;                    ///< the entry's folders, as JournalKey
+    QStringList notNeeded_;                 ///< put aside, but not replaced in the end
+    QStringList told_;
+};
