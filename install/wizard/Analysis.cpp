@@ -81,9 +81,9 @@ InstallRecord SingleFile(const QString& path, const QString& name) {
 
 class Archive {
 public:
-    explicit Archive(ccZip& zip) : zip_(zip), all_(zip.Col) {}
+    Archive(ccZip& zip, Analysis::Records records) : zip_(zip), records_(records), all_(zip.Col) {}
 
-    InstallSource Records() {
+    InstallSource Read() {
         InstallSource source{.SourceIsZip = true, .SingleFile = {}, .InstallRecords = {}, .PassedOver = {}};
         for (qint32 index = 1; index <= zip_.Count(); ++index) {
             const QString entry = zip_.GetFile(index);
@@ -135,6 +135,8 @@ private:
 
     /// What can't be extracted can't be deleted. This is meant.
     void DescribeBy(InstallRecord& record, const QString& ini) const {
+        if (records_ == Analysis::Records::Left)
+            return;
         const QString scratch = ProgramFolders::ScratchFolder();
         if (zip_.Decompress(scratch, ini, false) != 0)
             throw RuntimeError(ErrorNumber::FileNotFound, zip_.GetZipInfo());
@@ -144,6 +146,7 @@ private:
     }
 
     ccZip& zip_;
+    Analysis::Records records_;
     AllEntries all_;
     PassedOver passedOver_;
 };
@@ -160,11 +163,11 @@ bool Analysis::IsShellMapName(const QString& fileName) {
     return lower == FirstShellMap || lower == SecondShellMap;
 }
 
-InstallSource Analysis::Analyse(const QString& filePath, const QString& fileName, ccZip& zip) {
+InstallSource Analysis::Analyse(const QString& filePath, const QString& fileName, ccZip& zip, Records records) {
     if (EntryNames::End(fileName, ExtensionLength) != u"zip") {
         return {
             .SourceIsZip = false, .SingleFile = SingleFile(filePath, fileName), .InstallRecords = {}, .PassedOver = {}};
     }
     zip.Init(filePath);
-    return Archive(zip).Records();
+    return Archive(zip, records).Read();
 }
