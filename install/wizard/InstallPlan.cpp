@@ -12,6 +12,9 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
+#include <QHash>
+#include <QStringList>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;

@@ -10,6 +10,8 @@
 #include "platform/FolderEntries.h"
 #include "platform/Paths.h"
 
+#include <QStringList>
+
 using namespace Qt::StringLiterals;
 
 namespace {
