@@ -17,6 +17,12 @@ const std::map<std::string, GameIndex>& Games() {
     return games;
 }
 
+void Detect() {
+    mMain::UseRuntimes();
+    mMain::LanguageFileName = ReadSetting(SettingKeys::TradFileName);
+    mMain::DetectGames();
+}
+
 } // namespace
 
 Parameter GameArgument::Word(Parameter::Kind kind, const std::string& name) {
@@ -31,10 +37,13 @@ GameIndex GameArgument::Of(const Arguments& given, const std::string& name) {
 }
 
 void GameArgument::Prepare() {
-    mMain::UseRuntimes();
-    mMain::LanguageFileName = ReadSetting(SettingKeys::TradFileName);
-    mMain::DetectGames();
+    Detect();
     Ignoring([] { mMain::MakeUserFolders(); });
+}
+
+GameIndex GameArgument::Detected(const Arguments& given, const std::string& name) {
+    Detect();
+    return Of(given, name);
 }
 
 GameIndex GameArgument::Prepared(const Arguments& given, const std::string& name) {

@@ -6,6 +6,7 @@
 #include "app/cli/CsfCommands.h"
 #include "app/cli/ExportCommand.h"
 #include "app/cli/GameCommands.h"
+#include "app/cli/InstallCommand.h"
 #include "app/cli/InstalledCommands.h"
 #include "app/cli/ListCommands.h"
 #include "app/cli/Output.h"
@@ -43,6 +44,7 @@ int Run(const std::vector<std::string>& words) {
     groups.push_back({{}, {}, ExportCommands()});
     groups.push_back({"installed", "What was installed into the games", InstalledCommands()});
     groups.push_back({"zip", "ZIP archives", ZipCommands()});
+    groups.push_back({{}, {}, InstallCommands()});
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));
 }
