@@ -78,6 +78,8 @@ public:
 
     /// The entries of mnuActions. Without their link being enabled they do nothing.
     void Add();
+    /// As Add with a file (inside path) that is dropped on the window, at any time.
+    void AddFile(const QString& file);
     /// Asks first; No is the answer that Enter gives.
     void Delete();
     /// Exports the rows with a check mark. Raises 9 when there is none, but for maps, which hand over an empty record.
@@ -108,6 +110,7 @@ private:
     void ForgetRows();
     void HideDetails();
     void RebuildAround(const QString& node);
+    void RelistShown();
     void HandOver();
 
     [[nodiscard]] bool Has(int place) const;
