@@ -13,6 +13,7 @@
 
 /// The kinds of files, of an ExportRecord too.
 namespace FileKind {
+inline constexpr qint32 None = -1; ///< of a file that nothing is done with
 inline constexpr qint32 Map = 0;
 inline constexpr qint32 Mod = 1;
 inline constexpr qint32 Replay = 2;
@@ -43,7 +44,7 @@ struct InstallSource {
     bool SourceIsZip = false;
     InstallRecord SingleFile;                  ///< where it is no ZIP
     std::vector<InstallRecord> InstallRecords; ///< what was recognised in a ZIP, in the archive's order
-    std::vector<PassedOverEntry> PassedOver;   ///< all other entries of a ZIP but its folders
+    std::vector<PassedOverEntry> PassedOver;   ///< what else is in a ZIP and goes with no map; no folders
 };
 
 /// What the pages of adding files hand to each other.

@@ -10,9 +10,16 @@ class ccZip;
 
 namespace Analysis {
 
+/// Whether a file of that name can be added: by its last three characters, small letters as here.
+bool Accepts(const QString& fileName);
+
+/// Whether a name is exactly one of the two that the games' shell maps have, capitals or not.
+bool IsShellMapName(const QString& fileName);
+
 /// A file by its full inside path and its name, by the last three characters of that without regard to case. A ZIP's
 /// directory is read into `zip`, which stays open for who extracts from it; INI files beside entries are extracted to
-/// ScratchFolder and taken away again. A ZIP with nothing to install, or that can't be read, has no records. Yields.
+/// ScratchFolder and taken away again. A ZIP with nothing to install, or that can't be read, has no records. Raises 53
+/// with the reason for an INI file that can't be extracted. Yields.
 InstallSource Analyse(const QString& filePath, const QString& fileName, ccZip& zip);
 
 } // namespace Analysis
