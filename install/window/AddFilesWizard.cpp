@@ -3,9 +3,54 @@
 
 #include "install/window/AddFilesWizard.h"
 
+#include "core/Host.h"
+#include "core/LastMessage.h"
+#include "core/mTraduction.h"
 #include "install/window/frmAddFiles1.h"
+#include "install/window/frmAddFiles2.h"
+#include "platform/RuntimeError.h"
 
 #include <QEventLoop>
+#include <QGuiApplication>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A page that works takes no input.
+class AtWork {
+public:
+    explicit AtWork(QWidget* page) : page_(page) {
+        page_->setEnabled(false);
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+
+    ~AtWork() {
+        QGuiApplication::restoreOverrideCursor();
+        if (page_ != nullptr)
+            page_->setEnabled(true);
+    }
+
+    AtWork(const AtWork&) = delete;
+    AtWork& operator=(const AtWork&) = delete;
+
+private:
+    QPointer<QWidget> page_;
+};
+
+/// Whether there is something to show; nothing when the analysis has failed, which is told.
+std::optional<bool> Analysed(frmAddFiles2& page, const SourceFile& source) {
+    try {
+        return page.AnalizeFile(source.SourcePath(), source.SourceName());
+    } catch (const RuntimeError& failure) {
+        Host::Current().Message(LastMessage::Text(failure), Host::Icon::Critical);
+        return std::nullopt;
+    }
+}
+
+} // namespace
 
 AddFilesWizard::AddFilesWizard(QWidget* owner) : owner_(owner) {}
 
@@ -60,9 +105,29 @@ void AddFilesWizard::End() {
 
 void AddFilesWizard::ShowSource(const QString& file) {
     auto* const page = new frmAddFiles1(owner_);
-    connect(page, &frmAddFiles1::Chosen, this, &AddFilesWizard::End);
+    connect(page, &frmAddFiles1::Chosen, this, &AddFilesWizard::Analyse);
     Show(page);
     page->TakeCommandLine();
     if (!file.isEmpty())
         page->Take(file);
+}
+
+void AddFilesWizard::Analyse() {
+    const SourceFile source = qobject_cast<frmAddFiles1*>(page_.data())->Source();
+    auto page = std::make_unique<frmAddFiles2>(owner_);
+    std::optional<bool> found;
+    {
+        const AtWork work(page_);
+        found = Analysed(*page, source);
+    }
+    if (found == true) {
+        connect(page.get(), &frmAddFiles2::BackWanted, this, [this] { ShowSource({}); });
+        connect(page.get(), &frmAddFiles2::InstallWanted, this, &AddFilesWizard::End);
+        Show(page.release());
+    } else if (found == false) {
+        page.reset();
+        Leave();
+        Host::Current().Message(mTraduction::GetText(u"EmptyFile"_s), Host::Icon::Critical);
+        End();
+    }
 }

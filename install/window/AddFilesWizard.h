@@ -35,6 +35,7 @@ private:
     void Leave();
     void End();
     void ShowSource(const QString& file);
+    void Analyse();
 
     QWidget* owner_;
     QPointer<WizardPage> page_;

@@ -16,6 +16,9 @@ using mTraduction::GetText;
 PersonalFiles::PersonalFiles(PersonalFilesView& view)
     : view_(view),
       picture_([this](const QByteArray& bitmap) {
+          // What can't be loaded leaves the picture before it. This is meant.
+          if (bitmap.isEmpty())
+              return;
           state_.MapPicture = bitmap;
           view_.PictureChanged();
       }),

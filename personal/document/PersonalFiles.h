@@ -8,9 +8,9 @@
 #pragma once
 
 #include "core/GameFiles.h"
+#include "media/FilePicture.h"
 #include "personal/document/CheckedRows.h"
 #include "personal/document/LossNotices.h"
-#include "personal/document/MapPicture.h"
 #include "personal/document/PersonalFilesView.h"
 #include "personal/document/PersonalTexts.h"
 #include "personal/lists/MapList.h"
@@ -142,6 +142,6 @@ private:
     QString modPath_; ///< the row key of the mod that was selected last
     PersonalTexts texts_;
     CheckedRows checked_;
-    MapPicture picture_;
+    FilePicture picture_;
     LossNotices notices_;
 };

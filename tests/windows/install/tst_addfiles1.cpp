@@ -218,7 +218,7 @@ private Q_SLOTS:
         Open();
         host_->FileNames.emplace_back(Put(u"a.map"_s));
         QTest::keyClick(wizard_->Page(), Qt::Key_B, Qt::AltModifier);
-        QCOMPARE(Text("lblFile"), u"a.map"_s);
+        QTRY_COMPARE(Text("lblFile"), u"a.map"_s);
     }
 
     void everyButtonHasALetterOfItsOwn_data() { Languages(); }

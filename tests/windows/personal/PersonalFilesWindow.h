@@ -8,7 +8,7 @@
 #include "core/Game.h"
 #include "core/mMain.h"
 #include "personal/lists/ExportRecords.h"
-#include "personal/window/CommentBox.h"
+#include "ui/text/CommentBox.h"
 #include "personal/window/KeyedTreeModel.h"
 #include "personal/window/frmPersonalFiles.h"
 #include "platform/AnsiCodec.h"
