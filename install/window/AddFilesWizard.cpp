@@ -41,7 +41,7 @@ private:
 };
 
 /// Whether there is something to show; nothing when the analysis has failed, which is told.
-std::optional<bool> Analysed(frmAddFiles2& page, const SourceFile& source) {
+std::optional<bool> Analysed(frmAddFiles2& page, const SourcePage& source) {
     try {
         return page.AnalizeFile(source.SourcePath(), source.SourceName());
     } catch (const RuntimeError& failure) {
@@ -113,7 +113,7 @@ void AddFilesWizard::ShowSource(const QString& file) {
 }
 
 void AddFilesWizard::Analyse() {
-    const SourceFile source = qobject_cast<frmAddFiles1*>(page_.data())->Source();
+    const SourcePage source = qobject_cast<frmAddFiles1*>(page_.data())->Source();
     auto page = std::make_unique<frmAddFiles2>(owner_);
     std::optional<bool> found;
     {

@@ -20,7 +20,7 @@ frmAddFiles1::frmAddFiles1(QWidget* parent) : WizardPage(parent), ui_(std::make_
     ui_->setupUi(Body());
     Localise(u"AddFiles"_s);
     AddMnemonics();
-    for (const SourceFile::GameRow& row : source_.Games())
+    for (const SourcePage::GameRow& row : source_.Games())
         ui_->cbGame->addItem(row.Text);
     ui_->cbGame->setAccessibleName(GetText(u"Game"_s));
     ui_->cmdBrowse->setAccessibleDescription(ui_->Label2->text());
@@ -45,7 +45,7 @@ void frmAddFiles1::TakeCommandLine() {
 }
 
 void frmAddFiles1::Take(const QString& path) {
-    source_.Choose(path, SourceFile::By::Dialog);
+    source_.Choose(path, SourcePage::By::Dialog);
     Follow();
 }
 
@@ -55,7 +55,7 @@ void frmAddFiles1::Next() {
 }
 
 void frmAddFiles1::Follow() {
-    const SourceFileState& state = source_.State();
+    const SourcePageState& state = source_.State();
     ui_->frmInformations->setVisible(state.InformationsVisible);
     ui_->frmInformations->setFixedHeight(state.InformationsHeight);
     ui_->picHint->setVisible(!state.InformationsVisible);

@@ -4,7 +4,7 @@
 /// The first page of adding files: one file is chosen or dropped, and the game that it is for.
 #pragma once
 
-#include "install/wizard/SourceFile.h"
+#include "install/wizard/SourcePage.h"
 #include "ui/window/WizardPage.h"
 
 #include <memory>
@@ -20,7 +20,7 @@ public:
     ~frmAddFiles1() override;
 
     /// What the user chose; complete when Chosen is told.
-    [[nodiscard]] const SourceFile& Source() const { return source_; }
+    [[nodiscard]] const SourcePage& Source() const { return source_; }
 
     /// Both for a page that is shown: the file that the program was started with, where there is one, or a file (inside
     /// path) as if it had been chosen in the dialog.
@@ -40,5 +40,5 @@ private:
     void Follow();
 
     std::unique_ptr<Ui::frmAddFiles1> ui_;
-    SourceFile source_;
+    SourcePage source_;
 };

@@ -5,7 +5,7 @@
 
 #include "core/mMain.h"
 #include "install/InstallSource.h"
-#include "install/wizard/SourceFile.h"
+#include "install/wizard/SourcePage.h"
 #include "tests/install/ZipBytes.h"
 #include "tests/support/Printing.h"
 #include "tests/support/ScriptedHost.h"
@@ -17,23 +17,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto dialog = SourceFile::By::Dialog;
-constexpr auto commandLine = SourceFile::By::CommandLine;
+constexpr auto dialog = SourcePage::By::Dialog;
+constexpr auto commandLine = SourcePage::By::CommandLine;
 
-class SourceFileTest : public testing::Test {
+class SourcePageTest : public testing::Test {
 protected:
-    SourceFileTest() {
+    SourcePageTest() {
         world_.UseLanguage("[LNG]\r\nGenerals=Generals\r\nZeroHour=Zero Hour\r\nBFME=Middle-earth\r\n"
                            "BFME2=Middle-earth II\r\nKiloBytes=KB\r\nFiles=File(s)\r\nMap=A map\r\nMod=A mod\r\n"
                            "Replay=A replay\r\nShellMap=A shell map\r\nZIP=An archive\r\n");
     }
 
     /// These games are installed.
-    SourceFile& With(std::initializer_list<GameIndex> games) {
+    SourcePage& With(std::initializer_list<GameIndex> games) {
         for (const GameIndex game : games)
             world_.InstallGame(game);
         world_.Start();
-        page_ = std::make_unique<SourceFile>();
+        page_ = std::make_unique<SourcePage>();
         return *page_;
     }
 
@@ -43,7 +43,7 @@ protected:
 
     [[nodiscard]] QStringList GameTexts() const {
         QStringList texts;
-        for (const SourceFile::GameRow& row : page_->Games())
+        for (const SourcePage::GameRow& row : page_->Games())
             texts += row.Text;
         return texts;
     }
@@ -60,31 +60,31 @@ protected:
 
     World world_;
     ScriptedHost host_;
-    std::unique_ptr<SourceFile> page_;
+    std::unique_ptr<SourcePage> page_;
 };
 
 } // namespace
 
-TEST_F(SourceFileTest, TheInstalledGamesAreOfferedInTheirOrderAndTheFirstOneIsSelected) {
+TEST_F(SourcePageTest, TheInstalledGamesAreOfferedInTheirOrderAndTheFirstOneIsSelected) {
     With({3, 0, 2, 1});
     EXPECT_EQ(GameTexts(), (QStringList{u"Generals"_s, u"Zero Hour"_s, u"Middle-earth"_s, u"Middle-earth II"_s}));
     EXPECT_EQ(page_->State().GameRow, 0);
 }
 
-TEST_F(SourceFileTest, AGameThatIsNotInstalledHasNoRow) {
+TEST_F(SourcePageTest, AGameThatIsNotInstalledHasNoRow) {
     With({1, 3});
     EXPECT_EQ(GameTexts(), (QStringList{u"Zero Hour"_s, u"Middle-earth II"_s}));
     EXPECT_EQ(page_->Games().at(1).Game, 3);
 }
 
-TEST_F(SourceFileTest, WithoutAFileThereIsNothingToSeeAndNoNext) {
+TEST_F(SourcePageTest, WithoutAFileThereIsNothingToSeeAndNoNext) {
     With({0});
     EXPECT_FALSE(page_->State().InformationsVisible);
     EXPECT_FALSE(page_->State().GameEnabled);
     EXPECT_FALSE(page_->State().NextEnabled);
 }
 
-TEST_F(SourceFileTest, EachTypeIsNamed) {
+TEST_F(SourcePageTest, EachTypeIsNamed) {
     With({0});
     const QList<std::pair<QString, QString>> types{{u"a.map"_s, u"A map"_s},
                                                    {u"a.rep"_s, u"A replay"_s},
@@ -95,7 +95,7 @@ TEST_F(SourceFileTest, EachTypeIsNamed) {
                                                    {u"myshellmap1.map"_s, u"A map"_s}};
     for (const auto& [name, type] : types) {
         page_->Choose(Put(name), dialog);
-        const SourceFileState& state = page_->State();
+        const SourcePageState& state = page_->State();
         EXPECT_EQ(state.FileType, type) << name.toStdString();
         EXPECT_EQ(state.Name, name);
         EXPECT_TRUE(state.InformationsVisible && state.NextEnabled);
@@ -104,7 +104,7 @@ TEST_F(SourceFileTest, EachTypeIsNamed) {
     }
 }
 
-TEST_F(SourceFileTest, AZipTellsHowManyEntriesItHas) {
+TEST_F(SourcePageTest, AZipTellsHowManyEntriesItHas) {
     With({0});
     page_->Choose(Put(u"a.zip"_s, ZipBytes::Archive({{.Name = "one/"}, {.Name = "one/a.map"}, {.Name = "b.rep"}})),
                   dialog);
@@ -117,14 +117,14 @@ TEST_F(SourceFileTest, AZipTellsHowManyEntriesItHas) {
     EXPECT_EQ(page_->State().InformationsHeight, 108);
 }
 
-TEST_F(SourceFileTest, AZipThatCantBeReadHasNoEntries) {
+TEST_F(SourcePageTest, AZipThatCantBeReadHasNoEntries) {
     With({0});
     page_->Choose(Put(u"a.zip"_s, "no archive"), dialog);
     EXPECT_EQ(page_->State().Content, u"0 file(s)"_s);
     EXPECT_TRUE(page_->State().NextEnabled);
 }
 
-TEST_F(SourceFileTest, CapitalsAndOtherTypesAreRefusedUnderTheFilesName) {
+TEST_F(SourcePageTest, CapitalsAndOtherTypesAreRefusedUnderTheFilesName) {
     With({0});
     for (const auto by : {dialog, commandLine}) {
         for (const QString& name : {u"a.MAP"_s, u"a.txt"_s, u"a.bfme2replay"_s, u"ap"_s, u"p"_s, u"a.7z"_s}) {
@@ -137,13 +137,13 @@ TEST_F(SourceFileTest, CapitalsAndOtherTypesAreRefusedUnderTheFilesName) {
     }
 }
 
-TEST_F(SourceFileTest, TheLastThreeCharactersNeedNoDotBeforeThem) {
+TEST_F(SourcePageTest, TheLastThreeCharactersNeedNoDotBeforeThem) {
     With({0});
     page_->Choose(Put(u"worldmap"_s), dialog);
     EXPECT_EQ(page_->State().FileType, u"A map"_s);
 }
 
-TEST_F(SourceFileTest, ARefusedFileLeavesTheEarlierOneInForce) {
+TEST_F(SourcePageTest, ARefusedFileLeavesTheEarlierOneInForce) {
     With({0, 1});
     const QString good = Put(u"shellmapmd.map"_s);
     page_->Choose(good, dialog);
@@ -155,7 +155,7 @@ TEST_F(SourceFileTest, ARefusedFileLeavesTheEarlierOneInForce) {
     EXPECT_TRUE(page_->State().NextEnabled);
 }
 
-TEST_F(SourceFileTest, TheDialogsSizeIsRoundedAndTheCommandLinesIsCut) {
+TEST_F(SourcePageTest, TheDialogsSizeIsRoundedAndTheCommandLinesIsCut) {
     With({0});
     const QString path = Put(u"a.map"_s, QByteArray(1234567, 'm'));
     page_->Choose(path, dialog);
@@ -168,7 +168,7 @@ TEST_F(SourceFileTest, TheDialogsSizeIsRoundedAndTheCommandLinesIsCut) {
     EXPECT_EQ(page_->State().Size, u"0 KB"_s);
 }
 
-TEST_F(SourceFileTest, TheDialogTakesTheFourTypesAndACancelChangesNothing) {
+TEST_F(SourcePageTest, TheDialogTakesTheFourTypesAndACancelChangesNothing) {
     With({0});
     host_.FileNames = {std::nullopt, Put(u"a.rep"_s)};
     page_->Browse();
@@ -179,7 +179,7 @@ TEST_F(SourceFileTest, TheDialogTakesTheFourTypesAndACancelChangesNothing) {
     EXPECT_TRUE(page_->SourcePath().endsWith(u"\\files\\a.rep"_s));
 }
 
-TEST_F(SourceFileTest, AFileThatIsGoneBehindTheDialogChangesNothing) {
+TEST_F(SourcePageTest, AFileThatIsGoneBehindTheDialogChangesNothing) {
     With({0});
     page_->Choose(world_.Root() + u"\\gone.map"_s, dialog);
     EXPECT_FALSE(page_->State().InformationsVisible);
@@ -187,7 +187,7 @@ TEST_F(SourceFileTest, AFileThatIsGoneBehindTheDialogChangesNothing) {
     EXPECT_TRUE(host_.Messages.empty());
 }
 
-TEST_F(SourceFileTest, TheCommandLineIsTakenOnlyWhenAFileIsToBeAdded) {
+TEST_F(SourcePageTest, TheCommandLineIsTakenOnlyWhenAFileIsToBeAdded) {
     With({0});
     mMain::CommandFileArgument = Put(u"two words.map"_s);
     page_->TakeCommandLine();
@@ -198,7 +198,7 @@ TEST_F(SourceFileTest, TheCommandLineIsTakenOnlyWhenAFileIsToBeAdded) {
     EXPECT_EQ(page_->SourcePath(), mMain::CommandFileArgument);
 }
 
-TEST_F(SourceFileTest, TheSwitchWithoutAFileShowsAnEmptyPage) {
+TEST_F(SourcePageTest, TheSwitchWithoutAFileShowsAnEmptyPage) {
     With({0});
     mMain::AddFileRequested = true;
     page_->TakeCommandLine();
@@ -206,7 +206,7 @@ TEST_F(SourceFileTest, TheSwitchWithoutAFileShowsAnEmptyPage) {
     EXPECT_TRUE(host_.Messages.empty());
 }
 
-TEST_F(SourceFileTest, FailuresOnTheWayFromTheCommandLineArePassedOver) {
+TEST_F(SourcePageTest, FailuresOnTheWayFromTheCommandLineArePassedOver) {
     With({0});
     mMain::AddFileRequested = true;
     mMain::CommandFileArgument = world_.Root() + u"\\gone.map"_s;
@@ -216,7 +216,7 @@ TEST_F(SourceFileTest, FailuresOnTheWayFromTheCommandLineArePassedOver) {
     EXPECT_EQ(page_->State().FileType, u"A map"_s);
 }
 
-TEST_F(SourceFileTest, TheZeroHourShellMapSelectsItsGameForGood) {
+TEST_F(SourcePageTest, TheZeroHourShellMapSelectsItsGameForGood) {
     With({0, 1, 2});
     page_->Choose(Put(u"ShellMapMD.map"_s), dialog);
     EXPECT_EQ(page_->State().GameRow, 1);
@@ -228,7 +228,7 @@ TEST_F(SourceFileTest, TheZeroHourShellMapSelectsItsGameForGood) {
     EXPECT_EQ(page_->State().GameRow, 1);
 }
 
-TEST_F(SourceFileTest, TheZeroHourShellMapWithoutZeroHourHitsWhateverStandsThere) {
+TEST_F(SourcePageTest, TheZeroHourShellMapWithoutZeroHourHitsWhateverStandsThere) {
     With({2, 3});
     page_->SelectGame(1);
     page_->Choose(Put(u"shellmapmd.map"_s), dialog);
@@ -236,7 +236,7 @@ TEST_F(SourceFileTest, TheZeroHourShellMapWithoutZeroHourHitsWhateverStandsThere
     EXPECT_FALSE(page_->State().GameEnabled);
 }
 
-TEST_F(SourceFileTest, TheZeroHourShellMapWithGeneralsAloneFailsWithoutAWord) {
+TEST_F(SourcePageTest, TheZeroHourShellMapWithGeneralsAloneFailsWithoutAWord) {
     With({0});
     page_->Choose(Put(u"shellmapmd.map"_s), dialog);
     EXPECT_EQ(page_->State().GameRow, 0);
@@ -244,7 +244,7 @@ TEST_F(SourceFileTest, TheZeroHourShellMapWithGeneralsAloneFailsWithoutAWord) {
     EXPECT_TRUE(host_.Messages.empty());
 }
 
-TEST_F(SourceFileTest, TheShellMapOfGeneralsIsRefusedForTheSecondRow) {
+TEST_F(SourcePageTest, TheShellMapOfGeneralsIsRefusedForTheSecondRow) {
     With({0, 1});
     page_->Choose(Put(u"ShellMap1.map"_s), dialog);
     page_->SelectGame(1);
@@ -255,7 +255,7 @@ TEST_F(SourceFileTest, TheShellMapOfGeneralsIsRefusedForTheSecondRow) {
     EXPECT_EQ(AddFiles::ActiveGame, 0);
 }
 
-TEST_F(SourceFileTest, TheSecondRowIsRefusedWhicheverGameStandsThere) {
+TEST_F(SourcePageTest, TheSecondRowIsRefusedWhicheverGameStandsThere) {
     With({2, 3});
     page_->Choose(Put(u"shellmap1.map"_s), dialog);
     page_->SelectGame(1);
@@ -263,7 +263,7 @@ TEST_F(SourceFileTest, TheSecondRowIsRefusedWhicheverGameStandsThere) {
     EXPECT_EQ(page_->State().GameRow, 0);
 }
 
-TEST_F(SourceFileTest, TheThirdRowIsNotLookedAt) {
+TEST_F(SourcePageTest, TheThirdRowIsNotLookedAt) {
     With({0, 1, 2});
     page_->Choose(Put(u"shellmap1.map"_s), dialog);
     page_->SelectGame(2);
@@ -272,7 +272,7 @@ TEST_F(SourceFileTest, TheThirdRowIsNotLookedAt) {
     EXPECT_TRUE(host_.Messages.empty());
 }
 
-TEST_F(SourceFileTest, ZeroHourAloneIsRefusedAtNextOnly) {
+TEST_F(SourcePageTest, ZeroHourAloneIsRefusedAtNextOnly) {
     With({1});
     AddFiles::ActiveGame = 3;
     page_->Choose(Put(u"shellmap1.map"_s), dialog);
@@ -283,7 +283,7 @@ TEST_F(SourceFileTest, ZeroHourAloneIsRefusedAtNextOnly) {
     EXPECT_EQ(AddFiles::ActiveGame, 3);
 }
 
-TEST_F(SourceFileTest, ZeroHourThatWasSelectedBeforeTheFileIsRefusedAtNext) {
+TEST_F(SourcePageTest, ZeroHourThatWasSelectedBeforeTheFileIsRefusedAtNext) {
     With({0, 1});
     page_->SelectGame(1);
     page_->Choose(Put(u"shellmap1.map"_s), dialog);
@@ -292,7 +292,7 @@ TEST_F(SourceFileTest, ZeroHourThatWasSelectedBeforeTheFileIsRefusedAtNext) {
     EXPECT_EQ(page_->State().GameRow, 1);
 }
 
-TEST_F(SourceFileTest, WithoutAGameThereIsNoNext) {
+TEST_F(SourcePageTest, WithoutAGameThereIsNoNext) {
     With({});
     page_->Choose(Put(u"a.map"_s), dialog);
     EXPECT_EQ(page_->State().GameRow, -1);

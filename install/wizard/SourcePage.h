@@ -12,7 +12,7 @@
 #include <vector>
 
 /// What the page shows.
-struct SourceFileState {
+struct SourcePageState {
     bool InformationsVisible = false; ///< frmInformations, with all below
     int InformationsHeight = 0;       ///< of frmInformations
     QString Name;                     ///< lblFile
@@ -25,7 +25,7 @@ struct SourceFileState {
     int GameRow = -1;                 ///< of cbGame; -1 where no game is installed
 };
 
-class SourceFile {
+class SourcePage {
 public:
     static constexpr int HeightOfOthers = 108;
     static constexpr int HeightOfZips = 124;
@@ -39,9 +39,9 @@ public:
     };
 
     /// The installed games, the first one selected.
-    SourceFile();
+    SourcePage();
 
-    [[nodiscard]] const SourceFileState& State() const { return state_; }
+    [[nodiscard]] const SourcePageState& State() const { return state_; }
 
     [[nodiscard]] const std::vector<GameRow>& Games() const { return games_; }
 
@@ -72,7 +72,7 @@ private:
     void SelectZeroHour();
     [[nodiscard]] bool IsShellMapOfGenerals() const;
 
-    SourceFileState state_;
+    SourcePageState state_;
     std::vector<GameRow> games_;
     int zeroHourRow_ = 0; ///< or where it would stand
     QString path_;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "install/wizard/SourceFile.h"
+#include "install/wizard/SourcePage.h"
 
 #include "core/Sizes.h"
 #include "core/mMain.h"
@@ -30,15 +30,15 @@ Host::FileDialog Dialog() {
 }
 
 // With regard to case, and the long word never fits three characters between slashes. This is meant.
-bool IsAccepted(const QString& name, SourceFile::By by) {
+bool IsAccepted(const QString& name, SourcePage::By by) {
     const QString accepted =
-        by == SourceFile::By::Dialog ? u"/map/rep/big/zip/"_s : u"/map/rep/bfme2replay/big/zip/"_s;
+        by == SourcePage::By::Dialog ? u"/map/rep/big/zip/"_s : u"/map/rep/bfme2replay/big/zip/"_s;
     return accepted.contains(u'/' + name.last(qMin(extensionLength, name.size())) + u'/');
 }
 
 // The dialog's size is rounded and grouped, the command line's is cut. This is meant.
-QString SizeText(qint64 length, SourceFile::By by) {
-    const QString number = by == SourceFile::By::Dialog ? Sizes::Grouped((length + kiloByte / 2) / kiloByte)
+QString SizeText(qint64 length, SourcePage::By by) {
+    const QString number = by == SourcePage::By::Dialog ? Sizes::Grouped((length + kiloByte / 2) / kiloByte)
                                                         : QString::number(length / kiloByte);
     return number + u' ' + GetText(u"KiloBytes"_s);
 }
@@ -49,7 +49,7 @@ void TellWrongGame() {
 
 } // namespace
 
-SourceFile::SourceFile() {
+SourcePage::SourcePage() {
     static constexpr std::array<const char16_t*, GameCount> keys{u"Generals", u"ZeroHour", u"BFME", u"BFME2"};
     for (GameIndex game = 0; game < GameCount; ++game) {
         const auto place = static_cast<std::size_t>(game);
@@ -61,12 +61,12 @@ SourceFile::SourceFile() {
     state_.GameRow = games_.empty() ? -1 : 0;
 }
 
-void SourceFile::Browse() {
+void SourcePage::Browse() {
     if (const auto path = Host::Current().OpenFileName(Dialog()))
         Choose(*path, By::Dialog);
 }
 
-void SourceFile::Choose(const QString& path, By by) {
+void SourcePage::Choose(const QString& path, By by) {
     const QString name = Paths::LastPart(path);
     if (!IsAccepted(name, by)) {
         Host::Current().Message(GetText(u"UnsupportedFormat"_s), Host::Icon::Critical, Host::Buttons::Ok,
@@ -82,12 +82,12 @@ void SourceFile::Choose(const QString& path, By by) {
         Host::Current().Beep();
 }
 
-void SourceFile::TakeCommandLine() {
+void SourcePage::TakeCommandLine() {
     if (mMain::AddFileRequested && !mMain::CommandFileArgument.isEmpty())
         Choose(mMain::CommandFileArgument, By::CommandLine);
 }
 
-void SourceFile::Accept(const QString& path, const QString& size) {
+void SourcePage::Accept(const QString& path, const QString& size) {
     path_ = path;
     name_ = Paths::LastPart(path);
     state_.InformationsVisible = true;
@@ -98,7 +98,7 @@ void SourceFile::Accept(const QString& path, const QString& size) {
     TellType(path);
 }
 
-void SourceFile::TellType(const QString& path) {
+void SourcePage::TellType(const QString& path) {
     const QString name = name_.toLower();
     const QString extension = name.last(extensionLength);
     const bool isZip = extension == u"zip";
@@ -124,17 +124,17 @@ void SourceFile::TellType(const QString& path) {
 }
 
 // Where Zero Hour is not installed another game may stand there, or none. This is meant.
-void SourceFile::SelectZeroHour() {
+void SourcePage::SelectZeroHour() {
     if (zeroHourRow_ < static_cast<int>(games_.size()))
         SelectGame(zeroHourRow_);
     state_.GameEnabled = false;
 }
 
-bool SourceFile::IsShellMapOfGenerals() const {
+bool SourcePage::IsShellMapOfGenerals() const {
     return state_.Name.toLower() == u"shellmap1.map";
 }
 
-void SourceFile::SelectGame(int row) {
+void SourcePage::SelectGame(int row) {
     state_.GameRow = row;
     // The row's number decides, whichever game stands there. This is meant.
     if (row == 1 && IsShellMapOfGenerals()) {
@@ -143,7 +143,7 @@ void SourceFile::SelectGame(int row) {
     }
 }
 
-bool SourceFile::TakeGame() const {
+bool SourcePage::TakeGame() const {
     if (state_.GameRow < 0) {
         Host::Current().Message(GetText(u"NoGameDetected"_s), Host::Icon::Critical);
         return false;
