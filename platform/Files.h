@@ -40,6 +40,9 @@ Standing StandingAsGiven(const QString& path);
 /// True for a symbolic link, wherever it leads.
 bool IsLink(const QString& path);
 
+/// The same for a path whose case is known to be right: nothing is looked up.
+bool IsLinkAsGiven(const QString& path);
+
 /// Removes a symbolic link, whatever it leads to, and nothing else. Raises 53 when there is no link.
 void RemoveLink(const QString& path);
 

@@ -46,10 +46,15 @@ FolderGateway& ZipReading::GatewayTo(const QString& folder) {
 
 QString ZipReading::TargetIn(const QString& folder, const QString& name) {
     QString path = GatewayTo(folder).TargetFor(name);
-    if (Files::IsLink(path)) { // it may have come since the folder was looked at
+    if (Files::IsLinkAsGiven(path)) { // it may have come since the folder was looked at
         gateway_.reset();
         path = GatewayTo(folder).TargetFor(name);
     }
+    return path;
+}
+
+QString ZipReading::PathOf(const Target& target) {
+    const QString path = target.Folder.isEmpty() ? target.Name : TargetIn(target.Folder, target.Name);
     if (Paths::LastPart(path).toCaseFolded() == fileName_ && StateOf(path).Identity == archive_.State().Identity)
         throw RuntimeError(ErrorNumber::PathFileAccess, u"%1 is the archive itself."_s.arg(Paths::ToNative(path)));
     return path;
@@ -59,13 +64,13 @@ void ZipReading::MakeFolder(const QString& folder, const QString& name) {
     GatewayTo(folder).MakeFolder(name);
 }
 
-void ZipReading::Unpack(qsizetype place, const QString& folder, const QString& target, const QByteArray& password,
-                        const std::function<void(qint64)>& watch) {
+void ZipReading::Unpack(qsizetype place, const Target& target, const QByteArray& password, const Watching& watching) {
     const ZipEntry& entry = Entry(place);
     auto forget = qScopeGuard([&] { library_.Forget(); });
     const auto stream = library_.Open(place, password);
     block_.resize(BlockSize);
     std::optional<WriteAside> aside;
+    QString path;
     qint64 done = 0;
     bool ended = false;
     while (!ended) {
@@ -77,18 +82,22 @@ void ZipReading::Unpack(qsizetype place, const QString& folder, const QString& t
         if (ended)
             RequireEnd(entry, done);
         if (!aside) { // a short entry that is bad makes nothing at all
-            const QString path = TargetIn(folder, target);
-            if (entry.Size >= WorthAskingForRoom && entry.Size > Files::FreeSpace(folder))
+            path = PathOf(target);
+            if (entry.Size >= WorthAskingForRoom && entry.Size > Files::FreeSpace(Paths::Folder(path)))
                 Refuse(entry, ZipResult::DiskFull, u"the disk has no room for it"_s);
             aside.emplace(path, WriteAside::Names::AsGiven);
         }
         aside->Out().Write(done - had, QByteArrayView(block_).first(had));
-        if (watch)
-            watch(done);
+        if (watching.Bytes)
+            watching.Bytes(done);
         if (!ended && Host::IsThere())
             Host::Current().Yield();
     }
+    if (watching.Files != nullptr)
+        watching.Files->WillWrite(path);
     aside->Commit(false);
+    if (watching.Files != nullptr)
+        watching.Files->Written(path);
     forget.dismiss();
 }
 

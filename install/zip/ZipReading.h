@@ -5,6 +5,7 @@
 #pragma once
 
 #include "core/FolderGateway.h"
+#include "install/FileWatch.h"
 #include "install/zip/ZipDirectory.h"
 #include "install/zip/ZipLibrary.h"
 #include "platform/File.h"
@@ -29,17 +30,29 @@ public:
     /// Raises a ZipFailure for an entry that no password would open.
     void RequireReadable(qsizetype place) { library_.RequireReadable(place); }
 
-    /// Writes an entry to the file `target` below a folder (an inside path, made when missing), whole or not at all;
-    /// does not wait for the disk. `watch`, where one is set, is told of the bytes that are written. Yields between
-    /// blocks. Raises a ZipFailure for what is wrong with the entry, and what the gateway and WriteAside raise.
-    void Unpack(qsizetype place, const QString& folder, const QString& target, const QByteArray& password,
-                const std::function<void(qint64)>& watch);
+    /// Where an entry is to be written: to a file below a folder (an inside path, made when missing), or without a
+    /// folder to the full inside path that a gateway gave.
+    struct Target {
+        QString Folder;
+        QString Name;
+    };
+
+    /// Who is told, where one is set: of the bytes that are written, and of the file.
+    struct Watching {
+        std::function<void(qint64)> Bytes;
+        FileWatch* Files = nullptr;
+    };
+
+    /// Writes an entry whole or not at all; does not wait for the disk. Yields between blocks. Raises a ZipFailure for
+    /// what is wrong with the entry, and what the gateway, WriteAside and who is told raise.
+    void Unpack(qsizetype place, const Target& target, const QByteArray& password, const Watching& watching);
 
     /// Makes a folder below a folder.
     void MakeFolder(const QString& folder, const QString& name);
 
 private:
     FolderGateway& GatewayTo(const QString& folder);
+    QString PathOf(const Target& target);
     QString TargetIn(const QString& folder, const QString& name);
     void RequireEnd(const ZipEntry& entry, qint64 size) const;
 

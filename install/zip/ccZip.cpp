@@ -54,8 +54,8 @@ qint32 ResultOf(const RuntimeError& error) {
 struct ccZip::Job {
     std::shared_ptr<ZipReading> Reading; ///< may be let go by what runs while it yields
     qsizetype Place = 0;
-    QString Folder;
-    QString Target;
+    ZipReading::Target Target;
+    ZipReading::Watching Watching;
 
     [[nodiscard]] const ZipEntry& Entry() const { return Reading->Entry(Place); }
 };
@@ -96,19 +96,40 @@ qint64 ccZip::Packed(qint32 index) const {
     return index < 1 || index > Count() ? 0 : reading_->Entry(index - 1).Packed;
 }
 
+quint32 ccZip::Crc(qint32 index) const {
+    return index < 1 || index > Count() ? 0 : reading_->Entry(index - 1).Crc;
+}
+
 qint32 ccZip::Decompress(const QString& extractDir, const QString& entryName, bool honourDirs) {
     if (extractDir.isEmpty())
         return ZipResult::NoFolder;
+    return Try(entryName, [&](qsizetype place) {
+        const QString target = honourDirs ? entryName : LastPart(entryName);
+        if (!entryName.endsWith(u'/')) {
+            if (const QString refusal = FolderGateway::RefusalOf(target); !refusal.isEmpty())
+                throw ZipFailure(ZipResult::NoTarget, u"%1: %2"_s.arg(entryName, refusal));
+            Extract({reading_, place, {.Folder = extractDir, .Name = target}, {.Bytes = Watch, .Files = Writes}});
+        } else if (honourDirs) {
+            reading_->MakeFolder(extractDir, entryName);
+        }
+    });
+}
+
+qint32 ccZip::DecompressTo(const QString& path, const QString& entryName) {
+    return Try(entryName, [&](qsizetype place) {
+        Extract({reading_, place, {.Folder = {}, .Name = path}, {.Bytes = Watch, .Files = Writes}});
+    });
+}
+
+/// Does something with an entry by its place.
+qint32 ccZip::Try(const QString& entryName, const std::function<void(qsizetype)>& step) {
     try {
         if (reading_ == nullptr)
             throw ZipFailure(ZipResult::NoArchive, u"%1: no archive to read"_s.arg(Paths::ToNative(Name)));
         const qsizetype place = reading_->Directory().Find(entryName);
         if (place < 0)
             throw ZipFailure(ZipResult::NoEntry, u"%1: no entry of that name"_s.arg(entryName));
-        if (!entryName.endsWith(u'/'))
-            Extract({reading_, place, extractDir, honourDirs ? entryName : LastPart(entryName)});
-        else if (honourDirs)
-            reading_->MakeFolder(extractDir, entryName);
+        step(place);
         told_ = u"%1: done"_s.arg(entryName);
         return ZipResult::Done;
     } catch (const RuntimeError& error) {
@@ -118,12 +139,10 @@ qint32 ccZip::Decompress(const QString& extractDir, const QString& entryName, bo
 }
 
 void ccZip::Extract(const Job& job) {
-    if (const QString refusal = FolderGateway::RefusalOf(job.Target); !refusal.isEmpty())
-        throw ZipFailure(ZipResult::NoTarget, u"%1: %2"_s.arg(job.Entry().Name, refusal));
     if (job.Entry().IsEncrypted())
         ExtractEncrypted(job);
     else
-        job.Reading->Unpack(job.Place, job.Folder, job.Target, {}, Watch);
+        job.Reading->Unpack(job.Place, job.Target, {}, job.Watching);
 }
 
 /// The password at hand comes first, then the user is asked.
@@ -156,7 +175,7 @@ void ccZip::ExtractWith(const Job& job, const QString& password) const {
     const QList<QByteArray> spellings = SpellingsOf(password);
     for (const QByteArray& spelling : spellings) {
         try {
-            return job.Reading->Unpack(job.Place, job.Folder, job.Target, spelling, Watch);
+            return job.Reading->Unpack(job.Place, job.Target, spelling, job.Watching);
         } catch (const ZipFailure& failure) {
             if (!MayBeThePassword(failure) || &spelling == &spellings.back())
                 throw;

@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class FileWatch;
 class ZipReading;
 
 class ccZip {
@@ -21,6 +22,9 @@ public:
 
     /// Where one is set: told how many bytes of the entry that is being extracted are written, block by block.
     std::function<void(qint64)> Watch;
+
+    /// Where one is set: told of each file that is written. It outlives this, or its use.
+    FileWatch* Writes = nullptr;
 
     QStringList Col; ///< names in the archive's order, folders included; each up to a zero, 256 characters at most
     QString Name;    ///< the archive's path
@@ -44,15 +48,20 @@ public:
     /// The name of an entry by its number from 1 on; empty for a number that is none.
     [[nodiscard]] QString GetFile(qint32 index) const;
 
-    /// What the archive says of an entry's bytes, and how many it takes in the archive; 0 for a number that is none.
+    /// What the archive says of an entry's bytes, how many it takes in the archive, and its checksum, 0 where it has
+    /// none; 0 for a number that is none.
     [[nodiscard]] qint64 Size(qint32 index) const;
     [[nodiscard]] qint64 Packed(qint32 index) const;
+    [[nodiscard]] quint32 Crc(qint32 index) const;
 
     /// Extracts the first entry of exactly that name into a folder (an inside path, made when missing), over what
     /// stands there, never outside of it: with `honourDirs` with the folders of its name, else without. What stood
     /// there stays when anything fails. Asks for a password where one is needed, once for an entry, until that is
     /// refused. Yields in long entries. Does not wait for the disk. Raises nothing; returns one of ZipResult.
     qint32 Decompress(const QString& extractDir, const QString& entryName, bool honourDirs);
+
+    /// The same for an entry that is to become the file at a full inside path, which a gateway gave.
+    qint32 DecompressTo(const QString& path, const QString& entryName);
 
     /// The last that was told: the comment, where an entry went, or why something failed.
     [[nodiscard]] QString GetZipInfo() const { return told_; }
@@ -61,6 +70,7 @@ private:
     /// What an entry is to become.
     struct Job;
 
+    qint32 Try(const QString& entryName, const std::function<void(qsizetype)>& step);
     void Extract(const Job& job);
     void ExtractEncrypted(const Job& job);
     void ExtractWith(const Job& job, const QString& password) const;

@@ -147,6 +147,12 @@ bool IsLink(const QString& path) {
     return ::lstat(Native(path).Path(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
+bool IsLinkAsGiven(const QString& path) {
+    struct stat status {};
+
+    return ::lstat(Native::AsGiven(path).Path(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
 void RemoveLink(const QString& path) {
     const Native native(FolderPath(path));
     if (!IsLink(FolderPath(path)))

@@ -135,6 +135,10 @@ bool IsLink(const QString& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
 }
 
+bool IsLinkAsGiven(const QString& path) {
+    return IsLink(path);
+}
+
 void RemoveLink(const QString& path) {
     const std::wstring wide = WidePath(FolderPath(path));
     if (!IsLink(path))

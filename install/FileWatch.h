@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Who is told of each file that is written: a journal.
+#pragma once
+
+#include <QString>
+
+class FileWatch {
+public:
+    FileWatch() = default;
+    FileWatch(const FileWatch&) = delete;
+    FileWatch& operator=(const FileWatch&) = delete;
+    virtual ~FileWatch() = default;
+
+    /// A file at that inside path, in the disk's own case, is to be written at once. What stands there still does. What
+    /// this raises keeps the file from being written.
+    virtual void WillWrite(const QString& path) = 0;
+
+    /// It was written. Without this call, it could not be.
+    virtual void Written(const QString& path) = 0;
+};

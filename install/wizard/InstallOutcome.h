@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// What an installation did and what it did not, a line a file.
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+struct InstalledFile {
+    enum class State {
+        Done,
+        Kept,   ///< it stood there already and is as it was
+        Failed, ///< it is not there, or is not what it should be
+    };
+
+    State How = State::Done;
+    QString Name;     ///< where it is, as the system writes it; of a failure what it was to be made of
+    QString Reason{}; ///< of a failure
+};
+
+class InstallOutcome {
+public:
+    /// A file was written to a path (inside path). What an earlier entry made of the same path is gone then: that
+    /// becomes a failure.
+    void Done(const QString& source, const QString& path);
+    void Kept(const QString& path);
+    /// A file was written that has no source, or written to once more.
+    void Changed(const QString& path);
+    /// `name` is an entry's, or an inside path.
+    void Failed(const QString& name, const QString& reason);
+
+    [[nodiscard]] const std::vector<InstalledFile>& Files() const { return files_; }
+
+    [[nodiscard]] bool AnyFailed() const { return failures_ > 0; }
+
+    /// A line a file in the user's language, failures first; `onlyFailures` leaves out the others.
+    [[nodiscard]] QStringList Lines(bool onlyFailures = false) const;
+
+private:
+    struct Source {
+        std::size_t Place;
+        QString Name;
+    };
+
+    std::vector<InstalledFile> files_;
+    QHash<QString, Source> written_; ///< by the path without case
+    int failures_ = 0;
+};

@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "install/wizard/InstallPlan.h"
+
+#include "core/FolderGateway.h"
+#include "core/GameFiles.h"
+#include "core/NameOrder.h"
+#include "install/wizard/EntryNames.h"
+#include "install/wizard/FileComparison.h"
+#include "install/wizard/ItemFiles.h"
+#include "platform/Files.h"
+#include "platform/RuntimeError.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Effect = PlannedFile::Effect;
+
+constexpr qsizetype ExtensionWithDot = 4;
+
+bool IsDense(qint64 size, qint64 packed) {
+    return size > InstallPlans::LargeEvenIfDense && size / InstallPlans::DensestUsual >= std::max<qint64>(packed, 1);
+}
+
+class Planner {
+public:
+    Planner(const InstallSource& source, GameIndex game, const ccZip& zip)
+        : source_(source),
+          game_(game),
+          place_(Game.at(static_cast<std::size_t>(game))),
+          files_(source.SourceIsZip ? &zip : nullptr) {}
+
+    InstallPlan Make() && {
+        if (!source_.SourceIsZip) {
+            Add(source_.SingleFile, 0);
+        } else {
+            for (std::size_t number = 0; number < source_.InstallRecords.size(); ++number) {
+                if (source_.InstallRecords[number].Selected)
+                    Add(source_.InstallRecords[number], number);
+            }
+        }
+        plan_.IsDense = plan_.IsDense || IsDense(plan_.Size, plan_.Packed);
+        return std::move(plan_);
+    }
+
+private:
+    void Add(const InstallRecord& record, std::size_t number) {
+        PlannedItem item{.Number = number, .Kind = record.Kind, .Name = record.FileName, .Folder = {}};
+        const QString base = EntryNames::Without(record.FileName, ExtensionWithDot);
+        try {
+            AddFiles(item, record, base);
+        } catch (const RuntimeError& error) {
+            item.Refusal = error.Description();
+        }
+        plan_.Items.push_back(std::move(item));
+    }
+
+    void AddFiles(PlannedItem& item, const InstallRecord& record, const QString& base) {
+        if (record.Kind == FileKind::Map) {
+            item.Refusal = InstallPlans::FolderRefusal(base);
+            item.Folder = FolderIn(place_.MapPath, base);
+        } else if (record.Kind == FileKind::ShellMap) {
+            item.Folder = NextShellMapFolder();
+            item.IniFile = item.Folder + u"QvInfos.ini"_s;
+        } else if (record.Kind == FileKind::Mod) {
+            item.Folder = place_.InstallPath;
+            item.IsOwnArchive = GameFiles::IsOwnArchive(game_, EntryNames::LastPart(record.FileName));
+            item.IniFile = item.Folder + EntryNames::LastPart(base) + u".ini"_s;
+        } else {
+            item.Folder = place_.ReplayPath;
+        }
+        if (item.Refusal.isEmpty() && record.Kind != FileKind::None) {
+            for (const SourceFile& file : files_.Of(record))
+                AddFile(item, file);
+        }
+    }
+
+    void AddFile(PlannedItem& item, const SourceFile& file) {
+        PlannedFile planned{.Source = file.From,
+                            .Target = item.Folder + CaseOf(item.Folder, file.Name),
+                            .Size = file.Size,
+                            .Refusal = file.Refusal};
+        if (planned.Refusal.isEmpty())
+            planned.Refusal = FolderGateway::RefusalOf(file.Name);
+        planned.What = planned.Refusal.isEmpty() ? EffectOf(item, file, planned.Target) : Effect::Refused;
+        if (planned.What != Effect::Refused && planned.What != Effect::Itself) {
+            plan_.Size += file.Size;
+            plan_.Packed += file.Packed;
+            plan_.IsDense = plan_.IsDense || IsDense(file.Size, file.Packed);
+            planned_.insert(planned.Target.toCaseFolded(), file);
+        }
+        item.Files.push_back(std::move(planned));
+    }
+
+    Effect EffectOf(const PlannedItem& item, const SourceFile& file, const QString& target) {
+        const bool isMap = item.Kind == FileKind::Map || item.Kind == FileKind::ShellMap;
+        if (const auto earlier = planned_.constFind(target.toCaseFolded()); earlier != planned_.constEnd())
+            return isMap && FileComparison::IsSame(*earlier, file) ? Effect::Same : Effect::Replaces;
+        if (!Listed(item.Folder).contains(EntryNames::LastPart(target).toCaseFolded()))
+            return Effect::New;
+        if (!source_.SourceIsZip && Files::SameFile(file.From, target))
+            return Effect::Itself;
+        return isMap && FileComparison::IsSame(file, target) ? Effect::Same : Effect::Replaces;
+    }
+
+    /// The names in a folder by their case-folded form; each folder is read once.
+    const QHash<QString, QString>& Listed(const QString& folder) {
+        const QString key = folder.toCaseFolded();
+        if (const auto known = folders_.constFind(key); known != folders_.constEnd())
+            return *known;
+        QHash<QString, QString> names;
+        for (const QString& name : Files::ListFolder(folder, true))
+            names.insert(name.toCaseFolded(), name);
+        return *folders_.insert(key, names);
+    }
+
+    QString CaseOf(const QString& folder, const QString& name) {
+        return Listed(folder).value(name.toCaseFolded(), name);
+    }
+
+    QString NextShellMapFolder() {
+        const QString maps = place_.InstallPath + u"Maps\\"_s;
+        if (!shellMapsListed_)
+            shellMaps_ = Listed(maps).values();
+        shellMapsListed_ = true;
+        const int number = InstallPlans::NextShellMapNumber(shellMaps_);
+        const QString name = GameFiles::ShellMapName(QString::number(number));
+        shellMaps_.append(name);
+        return FolderIn(maps, name);
+    }
+
+    /// A folder in a folder; where it is not there, nothing is in it, and nobody need look.
+    QString FolderIn(const QString& parent, const QString& name) {
+        const QString folder = parent + CaseOf(parent, name) + u'\\';
+        if (!Listed(parent).contains(name.toCaseFolded()))
+            folders_.insert(folder.toCaseFolded(), {});
+        return folder;
+    }
+
+    const InstallSource& source_;
+    GameIndex game_;
+    const GameEntry& place_;
+    ItemFiles files_;
+    InstallPlan plan_;
+    QHash<QString, QHash<QString, QString>> folders_;
+    QHash<QString, SourceFile> planned_; ///< by the case-folded target
+    QStringList shellMaps_;
+    bool shellMapsListed_ = false;
+};
+
+} // namespace
+
+bool PlannedItem::ReplacesSomething() const {
+    return std::ranges::any_of(Files, [](const PlannedFile& file) { return file.What == Effect::Replaces; });
+}
+
+InstallPlan InstallPlans::Make(const InstallSource& source, GameIndex game, const ccZip& zip) {
+    return Planner(source, game, zip).Make();
+}
+
+QString InstallPlans::FolderRefusal(const QString& name) {
+    if (name.contains(u'\\') || name.contains(u'/'))
+        return u"holds a separator"_s;
+    return FolderGateway::RefusalOf(name);
+}
+
+int InstallPlans::NextShellMapNumber(const QStringList& names) {
+    QStringList sorted = names;
+    NameOrder::Sort(sorted);
+    const auto last = std::find_if(sorted.rbegin(), sorted.rend(),
+                                   [](const QString& name) { return name.startsWith(u"QvShellMap"_s); });
+    if (last == sorted.rend())
+        return 1;
+    // The last name counts and not the greatest number; one that ends in no number leaves 0. This is meant.
+    int number = 0;
+    Ignoring([&] { number = GameFiles::ShellMapNumber(*last) + 1; });
+    return number;
+}

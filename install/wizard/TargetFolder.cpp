@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "install/wizard/TargetFolder.h"
+
+#include "core/Host.h"
+#include "core/mMain.h"
+#include "platform/File.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/RuntimeError.h"
+#include "platform/WriteAside.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 BlockSize = 1'048'576;
+
+/// The folder, for whoever can't go on without it.
+const QString& Made(const QString& folder) {
+    // Only the last folder of the path is made. This is meant.
+    if (!folder.isEmpty() && !Files::FolderExists(folder))
+        Ignoring([&] { Files::MakeFolder(folder); });
+    if (folder.isEmpty() || !Files::FolderExists(folder))
+        throw RuntimeError(ErrorNumber::PathNotFound, u"%1: no such folder"_s.arg(Paths::ToNative(
+                                                          folder.chopped(folder.endsWith(u'\\') ? 1 : 0))));
+    return folder;
+}
+
+QString WithBackslash(const QString& path) {
+    return path.endsWith(u'\\') ? path : path + u'\\';
+}
+
+} // namespace
+
+TargetFolder::TargetFolder(const QString& folder, FileWatch* watch)
+    : folder_(folder),
+      gateway_(Made(folder)),
+      real_(WithBackslash(Paths::Real(folder))),
+      watch_(watch) {}
+
+QString TargetFolder::Spelt(const QString& path) const {
+    return path.startsWith(real_) ? folder_ + path.sliced(real_.size()) : path;
+}
+
+void TargetFolder::WillWrite(const QString& path) {
+    if (watch_ != nullptr)
+        watch_->WillWrite(Spelt(path));
+}
+
+void TargetFolder::Written(const QString& path) {
+    if (watch_ != nullptr)
+        watch_->Written(Spelt(path));
+}
+
+bool TargetFolder::Copy(const QString& from, const QString& path, const std::function<void(qint64)>& bytes) {
+    if (Files::StandingAsGiven(path) != Files::Standing::Nothing && Files::SameFile(from, path))
+        return false;
+    const File source = File::Open(from, File::Access::Read);
+    WriteAside aside(path, WriteAside::Names::AsGiven);
+    const qint64 length = source.Length();
+    for (qint64 done = 0; done < length;) {
+        const qint64 wanted = std::min(BlockSize, length - done);
+        if (aside.Out().CopyFrom(done, source, done, wanted) != wanted)
+            throw RuntimeError(ErrorNumber::DeviceError, u"%1: breaks off"_s.arg(source.Name()));
+        done += wanted;
+        if (bytes)
+            bytes(done);
+        if (done < length && Host::IsThere())
+            Host::Current().Yield();
+    }
+    WillWrite(path);
+    aside.Commit(false);
+    Written(path);
+    return true;
+}
+
+bool TargetFolder::WriteIni(const QString& path, const QString& section, const std::initializer_list<Value>& values) {
+    WillWrite(path);
+    bool done = true;
+    for (const Value& value : values)
+        done = mMain::INI().WriteINI(section, value.Key, value.Text, path) != u"0" && done;
+    if (done)
+        Written(path);
+    return done;
+}
