@@ -8,6 +8,7 @@
 #include "core/mTraduction.h"
 #include "install/window/frmAddFiles1.h"
 #include "install/window/frmAddFiles2.h"
+#include "install/window/frmAddFiles3.h"
 #include "platform/RuntimeError.h"
 
 #include <QEventLoop>
@@ -122,7 +123,7 @@ void AddFilesWizard::Analyse() {
     }
     if (found == true) {
         connect(page.get(), &frmAddFiles2::BackWanted, this, [this] { ShowSource({}); });
-        connect(page.get(), &frmAddFiles2::InstallWanted, this, &AddFilesWizard::End);
+        connect(page.get(), &frmAddFiles2::InstallWanted, this, &AddFilesWizard::Install);
         Show(page.release());
     } else if (found == false) {
         page.reset();
@@ -130,4 +131,11 @@ void AddFilesWizard::Analyse() {
         Host::Current().Message(mTraduction::GetText(u"EmptyFile"_s), Host::Icon::Critical);
         End();
     }
+}
+
+void AddFilesWizard::Install() {
+    const std::optional<QString> password = qobject_cast<frmAddFiles2*>(page_.data())->Password();
+    auto* const page = new frmAddFiles3(owner_);
+    Show(page);
+    page->InstallFiles(password);
 }

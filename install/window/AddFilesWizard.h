@@ -36,6 +36,7 @@ private:
     void End();
     void ShowSource(const QString& file);
     void Analyse();
+    void Install();
 
     QWidget* owner_;
     QPointer<WizardPage> page_;

@@ -29,6 +29,9 @@ public:
     /// nothing in an archive can be installed: the page is not to be shown then. Raises what Analysis raises.
     [[nodiscard]] bool AnalizeFile(const QString& filePath, const QString& fileName);
 
+    /// What was answered when the archive asked for a password, if it has fitted.
+    [[nodiscard]] const std::optional<QString>& Password() const { return zip_.Password; }
+
 Q_SIGNALS:
     /// Previous and Next; the first one has forgotten what was found.
     void BackWanted();

@@ -20,6 +20,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QUrl>
 
 class AddFilesTest : public QObject {
@@ -35,6 +36,7 @@ protected:
         for (const GameIndex game : games)
             world_->InstallGame(game);
         world_->Start();
+        mMain::MakeUserFolders();
         AddFiles::Source = {};
         AddFiles::ActiveGame = 0;
     }
@@ -87,6 +89,16 @@ protected:
     [[nodiscard]] QString Shown() const {
         return wizard_->Page() == nullptr ? QString()
                                           : QString::fromLatin1(wizard_->Page()->metaObject()->className());
+    }
+
+    /// Whether the program's event loop ends by itself.
+    static bool RunsToItsEnd() {
+        constexpr int hung = 1;
+        constexpr int longest = 20000; // milliseconds
+        QTimer limit;
+        limit.callOnTimeout([] { QApplication::exit(hung); });
+        limit.start(longest);
+        return QApplication::exec() != hung;
     }
 
     /// Drags files over a window and lets go of them where they are taken; whether they were.

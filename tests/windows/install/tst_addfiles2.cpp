@@ -11,6 +11,7 @@
 #include <QAbstractItemModelTester>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QTimer>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -457,6 +458,41 @@ private Q_SLOTS:
                 Press("cmdCancel");
             QCOMPARE(Shown(), QString());
         }
+    }
+
+    void theProgramEndsWithTheLastPageAndNotBetweenTwo() {
+        Begin({0});
+        mMain::AddFileRequested = true;
+        mMain::CommandFileArgument = PutAll();
+        AddFilesWizard::Run(nullptr, {});
+        QStringList pages;
+        const auto step = [&pages](const char* button) {
+            for (QWidget* const window : QApplication::topLevelWidgets()) {
+                if (!window->isVisible() || qobject_cast<WizardPage*>(window) == nullptr)
+                    continue;
+                pages += QString::fromLatin1(window->metaObject()->className());
+                QTest::mouseClick(window->findChild<QPushButton*>(QString::fromLatin1(button)), Qt::LeftButton);
+                return;
+            }
+        };
+        QTimer::singleShot(0, qApp, [&] { step("cmdNext"); });
+        QTimer::singleShot(300, qApp, [&] { step("cmdCancel"); });
+        QVERIFY(RunsToItsEnd());
+        QCOMPARE(pages, QStringList({u"frmAddFiles1"_s, u"frmAddFiles2"_s}));
+    }
+
+    void theMessageOfAnEmptyArchiveIsSeenBeforeTheProgramEnds() {
+        Begin({0});
+        mMain::AddFileRequested = true;
+        mMain::CommandFileArgument = PutZip(u"a.zip"_s, {{.Name = "readme.txt"}});
+        AddFilesWizard::Run(nullptr, {});
+        QTimer::singleShot(0, qApp, [] {
+            for (QWidget* const window : QApplication::topLevelWidgets())
+                if (window->isVisible() && window->inherits("frmAddFiles1"))
+                    QTest::mouseClick(window->findChild<QPushButton*>(u"cmdNext"_s), Qt::LeftButton);
+        });
+        QVERIFY(RunsToItsEnd());
+        QCOMPARE(host_->Messages.size(), 1U);
     }
 
     void theTabKeyWalksThroughTheDetails() {
