@@ -31,8 +31,7 @@ Host::FileDialog Dialog() {
 
 // With regard to case, and the long word never fits three characters between slashes. This is meant.
 bool IsAccepted(const QString& name, SourcePage::By by) {
-    const QString accepted =
-        by == SourcePage::By::Dialog ? u"/map/rep/big/zip/"_s : u"/map/rep/bfme2replay/big/zip/"_s;
+    const QString accepted = by == SourcePage::By::Dialog ? u"/map/rep/big/zip/"_s : u"/map/rep/bfme2replay/big/zip/"_s;
     return accepted.contains(u'/' + name.last(qMin(extensionLength, name.size())) + u'/');
 }
 

@@ -73,22 +73,15 @@ protected:
         return wizard_->Page()->findChild<Control*>(QString::fromLatin1(name));
     }
 
-    QString Text(const char* label) {
-        return Part<QLabel>(label)->text();
-    }
+    QString Text(const char* label) { return Part<QLabel>(label)->text(); }
 
-    QPushButton* Button(const char* name) {
-        return Part<QPushButton>(name);
-    }
+    QPushButton* Button(const char* name) { return Part<QPushButton>(name); }
 
-    void Press(const char* button) {
-        QTest::mouseClick(Button(button), Qt::LeftButton);
-    }
+    void Press(const char* button) { QTest::mouseClick(Button(button), Qt::LeftButton); }
 
     /// The class of the page that is shown; empty when the wizard has ended.
     [[nodiscard]] QString Shown() const {
-        return wizard_->Page() == nullptr ? QString()
-                                          : QString::fromLatin1(wizard_->Page()->metaObject()->className());
+        return wizard_->Page() == nullptr ? QString() : QString::fromLatin1(wizard_->Page()->metaObject()->className());
     }
 
     /// Whether the program's event loop ends by itself.

@@ -1,110 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "install/window/FilesTreeModel.h"
-#include "media/PictureView.h"
-#include "platform/Files.h"
-#include "tests/windows/install/AddFilesTest.h"
-#include "ui/text/CommentBox.h"
-#include "ui/window/NoticeStrip.h"
+// The tree of the second page, its check marks, and the ways from the page.
+
+#include "tests/windows/install/FilesPageTest.h"
 
 #include <QAbstractItemModelTester>
 #include <QGroupBox>
-#include <QLineEdit>
-#include <QTimer>
-#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
-class tst_addfiles2 : public AddFilesTest {
+class tst_addfiles2 : public FilesPageTest {
     Q_OBJECT
-private:
-    QTreeView* Tree() { return Part<QTreeView>("tvFiles"); }
-
-    FilesTreeModel* Nodes() { return static_cast<FilesTreeModel*>(Tree()->model()); }
-
-    QModelIndex Node(const QString& key) { return Nodes()->IndexOf(key); }
-
-    QStringList GroupTexts() {
-        QStringList texts;
-        for (int row = 0; row < Nodes()->rowCount(); ++row)
-            texts += Nodes()->index(row, 0).data().toString();
-        return texts;
-    }
-
-    bool IsGrey(const QModelIndex& node) {
-        return node.data(Qt::ForegroundRole).value<QBrush>().color() ==
-               QApplication::palette().color(QPalette::Disabled, QPalette::Text);
-    }
-
-    static bool IsTicked(const QModelIndex& node) {
-        return node.data(Qt::CheckStateRole).value<Qt::CheckState>() == Qt::Checked;
-    }
-
-    /// Chooses a file on the first page and goes on.
-    void Analyse(const QString& file) {
-        Open(file);
-        Press("cmdNext");
-        if (wizard_->Page() != nullptr)
-            Activate();
-    }
-
-    void Select(const QString& key) {
-        QVERIFY2(Node(key).isValid(), qPrintable(key));
-        Tree()->scrollTo(Node(key));
-        QTest::mouseClick(Tree()->viewport(), Qt::LeftButton, {}, Tree()->visualRect(Node(key)).center());
-    }
-
-    void Tick(const QString& key) {
-        Tree()->setCurrentIndex(Node(key));
-        QTest::keyClick(Tree(), Qt::Key_Space);
-    }
-
-    /// Which of the name's and comments' captions and boxes are shown.
-    QStringList Boxes() {
-        QStringList names;
-        for (const char* const name : {"lblName", "txtName", "lblComments", "txtComments"})
-            if (Part<QWidget>(name)->isVisible())
-                names += QString::fromLatin1(name);
-        return names;
-    }
-
-    QLineEdit* Name() { return Part<QLineEdit>("txtName"); }
-
-    CommentBox* Comments() { return Part<CommentBox>("txtComments"); }
-
-    PictureView* Image() { return Part<PictureView>("Image1"); }
-
-    NoticeStrip* Strip() { return Part<NoticeStrip>("picNotice"); }
-
-    /// A picture file of 24 bits, 16 x 16.
-    static QByteArray Targa(const QColor& colour) {
-        QByteArray bytes("\0\0\2\0\0\0\0\0\0\0\0\0\x10\0\x10\0\x18\0", 18);
-        for (int pixel = 0; pixel < 16 * 16; ++pixel)
-            for (const int part : {colour.blue(), colour.green(), colour.red()})
-                bytes += static_cast<char>(part);
-        return bytes;
-    }
-
-    static bool Shows(QWidget* control, const QColor& colour) {
-        return control->isVisible() && control->grab().toImage().pixelColor(4, 4) == colour;
-    }
-
-    /// One of each kind: 0 a map with a picture, 1 a mod, 2 a replay, 3 a shell map, and what is passed over.
-    QString PutAll() {
-        return PutZip(u"all.zip"_s,
-                      {{.Name = "Alpine/"},
-                       {.Name = "Alpine/Alpine.MAP", .Content = "m"},
-                       {.Name = "Alpine/Alpine.tga", .Content = Targa(Qt::red)},
-                       {.Name = "Contra.big", .Content = "BIGF"},
-                       {.Name = "Contra.ini", .Content = "[Infos]\r\nName=Contra 009\r\nComments=Generals\r\n"},
-                       {.Name = "a.rep", .Content = "r"},
-                       {.Name = "Shell/shellmap1.map", .Content = "s"},
-                       {.Name = "Shell/QvInfos.ini", .Content = "[Infos]\r\nName=Waves\r\nComments=At sea\r\n"},
-                       {.Name = "Thumbs.db", .Content = "t"},
-                       {.Name = "inner.zip", .Content = "z"}});
-    }
-
 private Q_SLOTS:
 
     void cleanup() { End(); }
@@ -122,14 +29,6 @@ private Q_SLOTS:
         QCOMPARE(Text("lblComments").remove(u'&'), u"Comments:"_s);
         QVERIFY(Button("cmdPrevious")->isEnabled() && Button("cmdNext")->isEnabled());
         QVERIFY(Button("cmdCancel")->isEnabled());
-    }
-
-    void aFreshPageShowsNoDetails() {
-        Begin({0});
-        Analyse(PutAll());
-        QVERIFY(!Part<QGroupBox>("Frame3")->isVisible());
-        QVERIFY(!Image()->isVisible());
-        QVERIFY(!Strip()->isVisible());
     }
 
     void theGroupsOfAZipStandOpenWithTheirCounts() {
@@ -243,95 +142,6 @@ private Q_SLOTS:
         QVERIFY(AddFiles::Source.InstallRecords[1].Selected);
     }
 
-    void aGroupsDetailsAreADash() {
-        Begin({0});
-        Analyse(PutAll());
-        Select(u"ZIP:3"_s);
-        Select(u"Maps"_s);
-        QCOMPARE(Part<QLineEdit>("txtFileName")->text(), u"-"_s);
-        QCOMPARE(Boxes(), QStringList());
-        QVERIFY(!Image()->isVisible());
-    }
-
-    // The captions stay hidden. This is meant.
-    void aModHasBoxesWithoutCaptions() {
-        Begin({0});
-        Analyse(PutAll());
-        Select(u"ZIP:1"_s);
-        QCOMPARE(Boxes(), QStringList({u"txtName"_s, u"txtComments"_s}));
-        QCOMPARE(Name()->text(), u"Contra 009"_s);
-        QCOMPARE(Comments()->Text(), u"Generals"_s);
-        QVERIFY(Part<QLineEdit>("txtFileName")->text().endsWith(u"all.zip/Contra.big"_s));
-        QCOMPARE(Name()->accessibleName(), u"Name:"_s); // for who does not see where it stands
-    }
-
-    void aShellMapHasAllFour() {
-        Begin({0});
-        Analyse(PutAll());
-        Select(u"ZIP:3"_s);
-        QCOMPARE(Boxes(), QStringList({u"lblName"_s, u"txtName"_s, u"lblComments"_s, u"txtComments"_s}));
-        QCOMPARE(Name()->text(), u"Waves"_s);
-        QCOMPARE(Comments()->Text(), u"At sea"_s);
-    }
-
-    void mapsAndReplaysHaveNone() {
-        Begin({0});
-        Analyse(PutAll());
-        for (const QString& key : {u"ZIP:0"_s, u"ZIP:2"_s}) {
-            Select(key);
-            QCOMPARE(Boxes(), QStringList());
-        }
-    }
-
-    void editsGoIntoTheRecord() {
-        Begin({0});
-        Analyse(PutAll());
-        Select(u"ZIP:1"_s);
-        Name()->selectAll();
-        QTest::keyClicks(Name(), u"New"_s);
-        Comments()->selectAll();
-        QTest::keyClicks(Comments(), u"Two words"_s);
-        Select(u"ZIP:3"_s); // filling the boxes changes nothing
-        QCOMPARE(AddFiles::Source.InstallRecords[1].DisplayName, u"New"_s);
-        QCOMPARE(AddFiles::Source.InstallRecords[1].Comments, u"Two words"_s);
-        QCOMPARE(AddFiles::Source.InstallRecords[3].DisplayName, u"Waves"_s);
-        Select(u"ZIP:1"_s);
-        QCOMPARE(Name()->text(), u"New"_s);
-        QCOMPARE(Comments()->Text(), u"Two words"_s);
-        QVERIFY(!Strip()->isVisible());
-    }
-
-    void aSingleModShowsWhatStandsBesideIt() {
-        Begin({0});
-        Put(u"a.ini"_s, "[Mod]\r\nName=Rise\r\nComments=Beta\r\n");
-        const QString mod = Put(u"a.big"_s);
-        Analyse(mod);
-        QCOMPARE(GroupTexts(), QStringList{u"Mods"_s});
-        Select(u"Single"_s);
-        QCOMPARE(Part<QLineEdit>("txtFileName")->text(), Paths::ToNative(mod));
-        QCOMPARE(Boxes(), QStringList({u"txtName"_s, u"txtComments"_s}));
-        QCOMPARE(Name()->text(), u"Rise"_s);
-        QCOMPARE(Comments()->Text(), u"Beta"_s);
-        QVERIFY(!Strip()->isVisible());
-    }
-
-    // The change raises 13, and nothing is kept. This is meant.
-    void anEditOfASingleFileIsNotKeptAndTheStripSaysSo() {
-        Begin({0});
-        Put(u"a.ini"_s, "[Mod]\r\nName=Rise\r\nComments=Beta\r\n");
-        Analyse(Put(u"a.big"_s));
-        Select(u"Single"_s);
-        QTest::keyClicks(Name(), u"!"_s);
-        QCOMPARE(AddFiles::Source.SingleFile.DisplayName, u"Rise"_s);
-        QVERIFY(Strip()->isVisible());
-        QVERIFY(Strip()->Text().startsWith(u"What you type here is not kept"_s));
-        Strip()->Close();
-        QTest::keyClicks(Comments(), u"!"_s);
-        QCOMPARE(AddFiles::Source.SingleFile.Comments, u"Beta"_s);
-        QVERIFY(Strip()->isVisible());
-        QCOMPARE(Shown(), u"frmAddFiles2"_s);
-    }
-
     // The tick that nobody reads. This is meant.
     void theTickOfASingleFileIsStoredByItsGroupAlone() {
         Begin({0});
@@ -340,51 +150,6 @@ private Q_SLOTS:
         QVERIFY(!AddFiles::Source.SingleFile.Selected);
         Tick(u"Replays"_s);
         QVERIFY(AddFiles::Source.SingleFile.Selected);
-    }
-
-    void theMapsPictureIsShownAndNoFileIsLeft() {
-        Begin({0});
-        Analyse(PutAll());
-        Select(u"ZIP:0"_s);
-        QTRY_VERIFY(Shows(Image(), Qt::red));
-        QCOMPARE(Files::ListFolder(mMain::ScratchFolder() + u"\\*.*"_s), QStringList());
-        Select(u"ZIP:3"_s);
-        QVERIFY(!Image()->isVisible());
-    }
-
-    void theSingleMapsPictureStandsBesideIt() {
-        Begin({0});
-        const QString picture = Put(u"Alpine.tga"_s, Targa(Qt::blue));
-        Analyse(Put(u"Alpine.map"_s));
-        Select(u"Single"_s);
-        QTRY_VERIFY(Shows(Image(), Qt::blue));
-        QVERIFY(Files::FileExists(picture));
-    }
-
-    void aMapWithoutAPictureOrWithABrokenOneShowsNone() {
-        Begin({0});
-        Analyse(PutZip(u"a.zip"_s, {{.Name = "a.map"},
-                                    {.Name = "b.map"},
-                                    {.Name = "b.tga", .Content = "no picture"},
-                                    {.Name = "c.map"},
-                                    {.Name = "c.tga", .Content = Targa(Qt::green)}}));
-        Select(u"ZIP:0"_s);
-        QVERIFY(!Image()->isVisible());
-        Select(u"ZIP:1"_s);
-        QTRY_COMPARE(Files::ListFolder(mMain::ScratchFolder() + u"\\*.*"_s), QStringList());
-        QVERIFY(!Image()->isVisible());
-        Select(u"ZIP:2"_s);
-        QTRY_VERIFY(Shows(Image(), Qt::green));
-    }
-
-    void aPictureThatHasNotComeNeverComes() {
-        Begin({0});
-        Analyse(PutAll());
-        Select(u"ZIP:0"_s);
-        Select(u"ZIP:2"_s);
-        QTest::qWait(300);
-        QVERIFY(!Image()->isVisible());
-        QCOMPARE(Files::ListFolder(mMain::ScratchFolder() + u"\\*.*"_s), QStringList());
     }
 
     void anArchiveWithNothingToInstallEndsTheWizard() {
@@ -409,8 +174,7 @@ private Q_SLOTS:
 
     void whatTheAnalysisRaisesIsToldAndTheFirstPageStays() {
         Begin({0});
-        Open(PutZip(u"a.zip"_s, {{.Name = "a.big"},
-                                 {.Name = "a.ini", .Content = "[Infos]\r\n", .Crc = 0x1234}}));
+        Open(PutZip(u"a.zip"_s, {{.Name = "a.big"}, {.Name = "a.ini", .Content = "[Infos]\r\n", .Crc = 0x1234}}));
         Press("cmdNext");
         QCOMPARE(host_->Messages.size(), 1U);
         QCOMPARE(host_->Messages[0].Sign, Host::Icon::Critical);
@@ -493,34 +257,6 @@ private Q_SLOTS:
         });
         QVERIFY(RunsToItsEnd());
         QCOMPARE(host_->Messages.size(), 1U);
-    }
-
-    void theTabKeyWalksThroughTheDetails() {
-        Begin({0});
-        Analyse(PutAll());
-        QCOMPARE(QApplication::focusWidget(), Tree());
-        Select(u"ZIP:3"_s);
-        QCOMPARE(Walk(7), QStringList({u"tvFiles"_s, u"txtFileName"_s, u"txtName"_s, u"txtComments"_s,
-                                       u"cmdPrevious"_s, u"cmdNext"_s, u"cmdCancel"_s}));
-    }
-
-    void textIsNeverCut_data() {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("English") << u"English"_s;
-        QTest::newRow("French") << u"French"_s;
-    }
-
-    void textIsNeverCut() {
-        QFETCH(QString, language);
-        Begin({0}, language);
-        Analyse(PutAll());
-        Tree()->expandAll();
-        for (const QString& key : {u"Maps"_s, u"ZIP:0"_s, u"ZIP:1"_s, u"ZIP:3"_s, u"Over:0"_s, u"Over:1"_s}) {
-            Select(key);
-            QCoreApplication::processEvents();
-            QCOMPARE(CutText(), QString());
-            QCOMPARE(wizard_->Page()->size(), QSize(600, 440));
-        }
     }
 
     void tenThousandEntriesAreOneModel() {

@@ -206,8 +206,7 @@ private Q_SLOTS:
     void nextEnterAndEscapeCloseAFinishedPage() {
         Begin({0});
         const QList<std::function<void()>> ways{
-            [this] { Press("cmdNext"); },
-            [this] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); },
+            [this] { Press("cmdNext"); }, [this] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); },
             [this] { QTest::keyClick(wizard_->Page(), Qt::Key_Escape); }, [this] { wizard_->Page()->close(); }};
         for (const auto& way : ways) {
             Install(Put(u"a.rep"_s));
