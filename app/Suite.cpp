@@ -7,6 +7,7 @@
 #include "core/window/frmAbout.h"
 #include "core/window/frmToolsMenu.h"
 #include "csf/window/frmCSFEditor.h"
+#include "install/window/AddFilesWizard.h"
 #include "install/window/frmExportFiles1.h"
 #include "personal/window/frmPersonalFiles.h"
 #include "platform/Processes.h"
@@ -119,8 +120,8 @@ bool Suite::ShowPersonalFiles() {
     return true;
 }
 
-void Suite::ShowAddFiles(QObject* /*owner*/) {
-    StayInMenu();
+void Suite::ShowAddFiles(QObject* owner, const QString& file) {
+    AddFilesWizard::Run(WidgetOf(owner), file);
 }
 
 void Suite::ShowExportFiles(QObject* owner) {

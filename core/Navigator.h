@@ -29,8 +29,9 @@ public:
     virtual void ShowAbout(QObject* owner) = 0;
     /// For the ExportRecords.
     virtual void ShowExportFiles(QObject* owner) = 0;
-    /// As these; without an owner a window of its own, and back at once.
-    virtual void ShowAddFiles(QObject* owner) = 0;
+    /// As these, with a file to add (inside path; empty: the user chooses one); without an owner a window of its own,
+    /// and back at once.
+    virtual void ShowAddFiles(QObject* owner, const QString& file) = 0;
 
     virtual void CheckForUpdates(bool automatic) = 0;
 

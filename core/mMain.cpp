@@ -70,7 +70,7 @@ void ShowTool(const mMain::Dispatched& dispatched) {
         return;
     case Action::ShowAddFiles:
         mMain::AddFileRequested = true;
-        return navigator.ShowAddFiles(nullptr);
+        return navigator.ShowAddFiles(nullptr, {});
     case Action::LaunchGame:
     case Action::NormalStart:
         return;

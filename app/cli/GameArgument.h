@@ -18,7 +18,7 @@ GameIndex Of(const Arguments& given, const std::string& name = "GAME");
 /// Does first what a start does: language, games and the users' folders that are missing.
 void Prepare();
 
-/// The same once languages and games are looked for, as a start does.
+/// The game that a word names, once languages and games are looked for, as a start does.
 GameIndex Detected(const Arguments& given, const std::string& name = "GAME");
 
 /// The same for a command that works on the game's files: does first what a start does, language, games and the users'

@@ -4,17 +4,15 @@
 #include "big/window/FileListView.h"
 
 #include "big/window/FileListModel.h"
-#include "platform/Paths.h"
 #include "ui/list/RowGestures.h"
 #include "ui/list/RowListView.h"
+#include "ui/window/DroppedFiles.h"
 
-#include <QDir>
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QListView>
 #include <QMimeData>
 #include <QStyledItemDelegate>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -183,12 +181,7 @@ bool FileListView::DropEvent(QDropEvent& event) {
     event.accept();
     if (event.type() != QEvent::Drop)
         return true;
-    QStringList paths;
-    for (const QUrl& url : event.mimeData()->urls()) {
-        if (url.isLocalFile())
-            paths += Paths::FromNative(QDir::toNativeSeparators(url.toLocalFile()));
-    }
-    Q_EMIT FilesDropped(paths);
+    Q_EMIT FilesDropped(DroppedFiles::In(*event.mimeData()));
     return true;
 }
 

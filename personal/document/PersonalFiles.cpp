@@ -8,6 +8,7 @@
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "personal/document/PersonalTree.h"
+#include "platform/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
@@ -15,6 +16,9 @@ using mTraduction::GetText;
 PersonalFiles::PersonalFiles(PersonalFilesView& view)
     : view_(view),
       picture_([this](const QByteArray& bitmap) {
+          // What can't be loaded leaves the picture before it. This is meant.
+          if (bitmap.isEmpty())
+              return;
           state_.MapPicture = bitmap;
           view_.PictureChanged();
       }),
@@ -134,11 +138,16 @@ void PersonalFiles::RebuildAround(const QString& node) {
 }
 
 void PersonalFiles::Add() {
-    if (!state_.AddEnabled)
-        return;
+    if (state_.AddEnabled)
+        AddFile({});
+}
+
+void PersonalFiles::AddFile(const QString& file) {
     const QString node = state_.SelectedNode;
-    Navigator::Current().ShowAddFiles(view_.Owner());
+    Navigator::Current().ShowAddFiles(view_.Owner(), file);
     RebuildAround(node);
+    // Nobody asked for the list: what it raises is raised by the next click.
+    Ignoring([this] { RelistShown(); });
 }
 
 void PersonalFiles::Delete() {
@@ -183,6 +192,10 @@ void PersonalFiles::HandOver() {
 void PersonalFiles::Refresh() {
     const QString node = state_.SelectedNode;
     RebuildAround(node);
+    RelistShown();
+}
+
+void PersonalFiles::RelistShown() {
     if (!state_.ShownList)
         return;
     const PersonalKind kind = *state_.ShownList;

@@ -8,9 +8,9 @@
 #pragma once
 
 #include "core/GameFiles.h"
+#include "media/FilePicture.h"
 #include "personal/document/CheckedRows.h"
 #include "personal/document/LossNotices.h"
-#include "personal/document/MapPicture.h"
 #include "personal/document/PersonalFilesView.h"
 #include "personal/document/PersonalTexts.h"
 #include "personal/lists/MapList.h"
@@ -78,6 +78,8 @@ public:
 
     /// The entries of mnuActions. Without their link being enabled they do nothing.
     void Add();
+    /// As Add with a file (inside path) that is dropped on the window, at any time.
+    void AddFile(const QString& file);
     /// Asks first; No is the answer that Enter gives.
     void Delete();
     /// Exports the rows with a check mark. Raises 9 when there is none, but for maps, which hand over an empty record.
@@ -113,6 +115,7 @@ private:
     void ForgetRows();
     void HideDetails();
     void RebuildAround(const QString& node);
+    void RelistShown();
     void HandOver();
 
     [[nodiscard]] bool Has(int place) const;
@@ -144,6 +147,6 @@ private:
     QString modPath_; ///< the row key of the mod that was selected last
     PersonalTexts texts_;
     CheckedRows checked_;
-    MapPicture picture_;
+    FilePicture picture_;
     LossNotices notices_;
 };

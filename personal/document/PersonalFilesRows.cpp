@@ -3,6 +3,7 @@
 
 // The rows of the visible list: their details, names, order and check marks.
 
+#include "core/ProgramFolders.h"
 #include "core/Sizes.h"
 #include "core/Uninstaller.h"
 #include "personal/document/PersonalFiles.h"
@@ -59,7 +60,7 @@ void PersonalFiles::ShowMap(const ListRow& row) {
     if (picture.isEmpty())
         picture_.Abandon();
     else
-        picture_.Show(picture);
+        picture_.Show(picture, ProgramFolders::ScratchFolder());
 }
 
 void PersonalFiles::ShowReplay(const ListRow& row) {

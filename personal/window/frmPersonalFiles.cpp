@@ -11,14 +11,17 @@
 #include "platform/Paths.h"
 #include "ui/text/Localisation.h"
 #include "ui/text/Mnemonics.h"
+#include "ui/window/DroppedFiles.h"
 #include "ui_frmPersonalFiles.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
-#include <QGuiApplication>
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QScopedValueRollback>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
@@ -60,6 +63,7 @@ frmPersonalFiles::frmPersonalFiles(QWidget* parent)
     ConnectTree();
     ConnectBoxes();
     Dress();
+    setAcceptDrops(true);
     files_.UseDecoder(&decoder_);
     files_.RebuildTree();
     StateChanged();
@@ -219,6 +223,22 @@ bool frmPersonalFiles::eventFilter(QObject* watched, QEvent* event) {
     return ToolWindow::eventFilter(watched, event);
 }
 
+// One file that is dropped is added; what a modal window stands over takes none.
+void frmPersonalFiles::dragEnterEvent(QDragEnterEvent* event) {
+    if (QApplication::activeModalWidget() != nullptr || DroppedFiles::In(*event->mimeData()).size() != 1)
+        return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void frmPersonalFiles::dropEvent(QDropEvent* event) {
+    const QStringList files = DroppedFiles::In(*event->mimeData());
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The program that the file comes from waits for the end of the drop.
+    QTimer::singleShot(0, this, [this, files] { files_.AddFile(files.constFirst()); });
+}
+
 // The menu for a row, or, beside the rows, what goes without one. An entry that is hidden would lose its key.
 void frmPersonalFiles::FillRowMenu(PersonalKind kind, bool onRow) {
     rowMenu_->clear();
@@ -368,7 +388,7 @@ void frmPersonalFiles::FollowDetails() {
 }
 
 void frmPersonalFiles::CopyText(const QString& text) {
-    QGuiApplication::clipboard()->setText(text);
+    QApplication::clipboard()->setText(text);
 }
 
 void frmPersonalFiles::OpenFolder(const QString& folder) {

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tests/cli/ListCommandTest.h"
-#include "tests/install/ZipBytes.h"
 #include "tests/install/ZipSamples.h"
+#include "tools/demoworld/ZipBytes.h"
 
 #include <QDirIterator>
 

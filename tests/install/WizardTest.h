@@ -10,10 +10,10 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "tests/install/ZipBytes.h"
 #include "tests/support/Printing.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
+#include "tools/demoworld/ZipBytes.h"
 
 #include <gtest/gtest.h>
 

@@ -27,9 +27,10 @@ protected:
 
 } // namespace
 
-TEST_F(PersonalActions, AddShowsTheWizardAndSelectsTheNodeAgainWithoutAClick) {
+TEST_F(PersonalActions, AddShowsTheWizardAndMakesTreeAndListAnew) {
     PutMap(u"A"_s);
     Open(u"GenMaps"_s, 0);
+    Personal.CheckChanged(0, true);
     View.Log.clear();
     Way.OnCall = [&](const QString&) {
         EXPECT_EQ(State().SelectedNode, u"GenMaps"_s);
@@ -41,9 +42,28 @@ TEST_F(PersonalActions, AddShowsTheWizardAndSelectsTheNodeAgainWithoutAClick) {
     EXPECT_EQ(Way.Owner, &View.Window);
     EXPECT_EQ(NodeText(u"GenMaps"_s), u"Maps (2)"_s);
     EXPECT_EQ(State().SelectedNode, u"GenMaps"_s);
-    EXPECT_EQ(Names(PersonalKind::Map), QStringList{u"A"_s}) << "the list waits for a click";
-    EXPECT_EQ(Panes(), u"map"_s);
-    EXPECT_EQ(View.Log, (QStringList{u"Tree"_s, u"State"_s, u"State"_s}));
+    EXPECT_EQ(Names(PersonalKind::Map), (QStringList{u"A"_s, u"B"_s}));
+    EXPECT_EQ(Personal.List(PersonalKind::Map).Rows().Checked(), std::vector<int>{0});
+    EXPECT_EQ(Panes(), u"map"_s) << "the row stays selected";
+    EXPECT_EQ(View.Log.first(3), (QStringList{u"Tree"_s, u"State"_s, u"State"_s}));
+}
+
+TEST_F(PersonalActions, AFileThatIsDroppedNeedsNoSelectedNode) {
+    Open(QString());
+    Way.OnCall = [&](const QString&) { PutMap(u"B"_s); };
+    Personal.AddFile(u"C:\\a map.map"_s);
+    EXPECT_EQ(Way.Calls, QStringList{u"ShowAddFiles C:\\a map.map"_s});
+    EXPECT_EQ(Way.Owner, &View.Window);
+    EXPECT_EQ(NodeText(u"GenMaps"_s), u"Maps (1)"_s);
+    EXPECT_EQ(State().SelectedNode, QString());
+}
+
+TEST_F(PersonalActions, AReplayThatStopsTheListDoesNotEndTheWizardsWay) {
+    PutReplay(u"a.rep"_s, SampleReplay());
+    Open(u"GenReplays"_s);
+    Way.OnCall = [&](const QString&) { PutReplay(u"b.rep"_s, SampleReplay().first(100)); };
+    EXPECT_NO_THROW(Personal.Add());
+    EXPECT_EQ(NodeText(u"GenReplays"_s), u"Replays (2)"_s);
 }
 
 TEST_F(PersonalActions, AddWorksFromAGamesNode) {

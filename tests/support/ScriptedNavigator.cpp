@@ -55,8 +55,8 @@ bool ScriptedNavigator::ShowPersonalFiles() {
     return WindowsComeUp;
 }
 
-void ScriptedNavigator::ShowAddFiles(QObject* owner) {
-    RecordModal(u"ShowAddFiles"_s, owner);
+void ScriptedNavigator::ShowAddFiles(QObject* owner, const QString& file) {
+    RecordModal(file.isEmpty() ? u"ShowAddFiles"_s : u"ShowAddFiles "_s + file, owner);
 }
 
 void ScriptedNavigator::ShowExportFiles(QObject* owner) {

@@ -29,7 +29,7 @@ public:
     void OpenCSFFile(const QString& path) override;
     void ShowOptions(QObject* owner) override;
     void ShowAbout(QObject* owner) override;
-    void ShowAddFiles(QObject* owner) override;
+    void ShowAddFiles(QObject* owner, const QString& file) override;
     void ShowExportFiles(QObject* owner) override;
     void CheckForUpdates(bool automatic) override;
 

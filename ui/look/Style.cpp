@@ -32,6 +32,8 @@ constexpr auto sheet = R"(
 .QPushButton:hover { border: 2px solid #ffb231; padding: 3px 11px; }
 .QPushButton:pressed { background: #e0dcd6; }
 .QPushButton:disabled { color: #a5a294; border: 1px solid #cec7bd; background: #f7f7ef; }
+.QGroupBox { border: 1px solid #b9cdef; border-radius: 3px; margin-top: 8px; background: transparent; }
+.QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 4px; color: #003273; background: #f7f7f7; }
 QToolTip { color: black; background: #ffffe7; border: 1px solid #003273; }
 QProgressBar { border: 1px solid #003273; border-radius: 3px; background: white; text-align: center; }
 QProgressBar::chunk { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #ffd88c, stop:1 #f28e00); }

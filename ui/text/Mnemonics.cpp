@@ -76,3 +76,12 @@ void Mnemonics::AddTo(QMenuBar& menuBar) {
 void Mnemonics::AddTo(const QMenu& menu) {
     SpreadOver(menu.actions());
 }
+
+void Mnemonics::AddTo(const QList<QWidget*>& controls) {
+    QStringList texts;
+    for (const QWidget* const control : controls)
+        texts += control->property("text").toString();
+    texts = Spread(texts);
+    for (qsizetype index = 0; index < controls.size(); ++index)
+        controls[index]->setProperty("text", texts[index]);
+}

@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// Keys for the entries of menus whose texts come from a language file without them.
+/// Keys for the entries of menus and for controls whose texts come from a language file without them.
 #pragma once
 
+#include <QList>
 #include <QStringList>
 
 class QMenu;
 class QMenuBar;
+class QWidget;
 
 namespace Mnemonics {
 
@@ -21,5 +23,8 @@ void AddTo(QMenuBar& menuBar);
 
 /// Spreads keys over a context menu.
 void AddTo(const QMenu& menu);
+
+/// Spreads keys over controls of one window: buttons, and captions that have a buddy. The first ones choose first.
+void AddTo(const QList<QWidget*>& controls);
 
 } // namespace Mnemonics

@@ -7,6 +7,7 @@
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/text/Localisation.h"
+#include "ui/text/Mnemonics.h"
 #include "ui_WizardPage.h"
 
 using namespace Qt::StringLiterals;
@@ -60,6 +61,17 @@ void WizardPage::FocusBody() {
             return;
         }
     }
+}
+
+void WizardPage::AddMnemonics() {
+    QWidgetList controls{ui_->cmdNext, ui_->cmdCancel, ui_->cmdPrevious};
+    for (QWidget* const control : Body()->findChildren<QWidget*>()) {
+        const auto* const caption = qobject_cast<const QLabel*>(control);
+        const auto* const button = qobject_cast<const QAbstractButton*>(control);
+        if ((caption != nullptr && caption->buddy() != nullptr) || (button != nullptr && !button->text().isEmpty()))
+            controls += control;
+    }
+    Mnemonics::AddTo(controls);
 }
 
 void WizardPage::reject() {

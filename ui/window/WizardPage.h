@@ -34,6 +34,9 @@ protected:
     /// Gives page and body their texts. The heading has that key; the button Next may have another than its own.
     void Localise(const QString& heading, const QString& next = QStringLiteral("Next"));
 
+    /// Gives the buttons of the page, and the buttons and captions in its body, keys of their own. Behind Localise.
+    void AddMnemonics();
+
     /// Disabled until a page has a use for it.
     [[nodiscard]] QPushButton* PreviousButton() const;
     /// What Enter presses.

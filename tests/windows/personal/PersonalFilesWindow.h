@@ -9,7 +9,6 @@
 #include "core/Game.h"
 #include "core/mMain.h"
 #include "personal/lists/ExportRecords.h"
-#include "personal/window/CommentBox.h"
 #include "personal/window/KeyedTreeModel.h"
 #include "personal/window/frmPersonalFiles.h"
 #include "platform/AnsiCodec.h"
@@ -20,6 +19,7 @@
 #include "ui/list/RowListModel.h"
 #include "ui/list/RowListView.h"
 #include "ui/look/Hint.h"
+#include "ui/text/CommentBox.h"
 #include "ui/window/SideMenu.h"
 
 #include <QAction>

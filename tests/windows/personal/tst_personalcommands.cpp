@@ -4,9 +4,14 @@
 // What a user does in the window: the actions and keys.
 
 #include "core/mMain.h"
+#include "platform/Paths.h"
 #include "tests/windows/personal/PersonalFilesWindow.h"
 
+#include <QApplication>
+#include <QDropEvent>
 #include <QHeaderView>
+#include <QMimeData>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 using Answer = Host::Answer;
@@ -28,7 +33,30 @@ private Q_SLOTS:
         QCOMPARE(navigator_->Owner, window_.get());
         QCOMPARE(NodeText(u"GenReplays"_s), u"Replays (1)"_s);
         QCOMPARE(SelectedNode(), u"GenReplays"_s);
-        QCOMPARE(Names(*List("lstReplays")), QStringList()); // only a click lists anew
+        QCOMPARE(Names(*List("lstReplays")), QStringList{u"new"_s});
+    }
+
+    void aFileThatIsDroppedOpensTheWizard() {
+        Open();
+        QMimeData data;
+        const QString file = Write(world_->Root() + u"\\My map.map"_s, "m");
+        data.setUrls({QUrl::fromLocalFile(Paths::ToNative(file))});
+        QDragEnterEvent enter({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window_.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window_.get(), &drop);
+        QVERIFY(navigator_->Calls.isEmpty()); // the program that it comes from waits for the end of the drop
+        QTRY_COMPARE(navigator_->Calls, QStringList{u"ShowAddFiles "_s + file});
+    }
+
+    void textThatIsDroppedIsNoFile() {
+        Open();
+        QMimeData data;
+        data.setText(u"a"_s);
+        QDragEnterEvent enter({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window_.get(), &enter);
+        QVERIFY(!enter.isAccepted());
     }
 
     void deleteAsksWithNoAsItsDefault() {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "personal/window/CommentBox.h"
 #include "tests/windows/WindowTests.h"
+#include "ui/text/CommentBox.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "personal/document/MapPicture.h"
+#include "media/FilePicture.h"
 
-#include "core/ProgramFolders.h"
 #include "media/PictureDecoder.h"
 #include "platform/File.h"
 #include "platform/Files.h"
@@ -13,47 +12,45 @@
 
 using namespace Qt::StringLiterals;
 
-MapPicture::MapPicture(std::function<void(const QByteArray&)> came) : came_(std::move(came)) {}
+FilePicture::FilePicture(std::function<void(const QByteArray&)> came) : came_(std::move(came)) {}
 
-MapPicture::~MapPicture() {
+FilePicture::~FilePicture() {
     Abandon();
 }
 
-void MapPicture::Use(PictureDecoder* decoder) {
+void FilePicture::Use(PictureDecoder* decoder) {
     Abandon();
     decoder_ = decoder;
 }
 
-void MapPicture::Prepare() {
+void FilePicture::Prepare() {
     if (decoder_ != nullptr)
         decoder_->Prepare();
 }
 
-void MapPicture::Show(const QString& picture) {
+void FilePicture::Show(const QString& picture, const QString& scratch) {
     Abandon();
     if (decoder_ == nullptr)
         return;
-    Ignoring([] { Files::MakeFolders(ProgramFolders::ScratchFolder()); });
-    bitmap_ = ProgramFolders::ScratchFolder() + u"\\TGA.bmp"_s;
+    Ignoring([&] { Files::MakeFolders(scratch); });
+    bitmap_ = scratch + u"\\TGA.bmp"_s;
     // What an earlier day left would show in place of a picture that is not written.
     Ignoring([&] { Files::DeleteForced(bitmap_); });
-    decoder_->Decode(picture, bitmap_, [this](bool decoded) { Decoded(decoded); });
+    decoder_->Decode(picture, bitmap_, [this](bool decoded) { came_(Take(decoded)); });
 }
 
-void MapPicture::Abandon() {
+void FilePicture::Abandon() {
     if (bitmap_.isEmpty())
         return;
     decoder_->Abandon();
-    Decoded(false);
+    Take(false);
 }
 
-void MapPicture::Decoded(bool decoded) {
+QByteArray FilePicture::Take(bool decoded) {
     const QString path = std::exchange(bitmap_, {});
     QByteArray bitmap;
     if (decoded)
         Ignoring([&] { bitmap = ReadWhole(path); });
     Ignoring([&] { Files::DeleteForced(path); });
-    // What can't be loaded leaves the picture before it. This is meant.
-    if (bitmap.startsWith("BM"))
-        came_(bitmap);
+    return bitmap.startsWith("BM") ? bitmap : QByteArray();
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "personal/window/CommentBox.h"
+#include "ui/text/CommentBox.h"
 
 #include <QKeyEvent>
 #include <QMimeData>
