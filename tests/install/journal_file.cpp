@@ -135,16 +135,18 @@ TEST_F(JournalFileTest, AChangeWaitsForTheLock) {
 }
 
 TEST_F(JournalFileTest, ChangesOfManyAtOnceLoseNoEntry) {
-    constexpr int each = 10;
+    constexpr std::size_t each = 10;
+    constexpr std::size_t all = 4 * each;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int number = 0; number < 4; ++number)
         threads.emplace_back([number] {
-            for (int time = 0; time < each; ++time)
+            for (std::size_t time = 0; time < each; ++time)
                 AddEntry(QString::number(number));
         });
     for (std::thread& thread : threads)
         thread.join();
-    EXPECT_EQ(InstallJournal::Read().Entries.size(), std::size_t{4 * each});
+    EXPECT_EQ(InstallJournal::Read().Entries.size(), all);
 }
 
 TEST_F(JournalFileTest, TwoInstallsAtOnceKeepBothEntries) {

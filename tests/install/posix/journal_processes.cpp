@@ -35,11 +35,13 @@ protected:
 } // namespace
 
 TEST_F(JournalProcesses, FourThatInstallAtOnceLoseNoEntry) {
-    constexpr int each = 5;
+    constexpr std::size_t each = 5;
+    constexpr std::size_t all = 4 * each;
     std::vector<pid_t> processes;
+    processes.reserve(4);
     for (int number = 0; number < 4; ++number)
         processes.push_back(Begin([&] {
-            for (int time = 0; time < each; ++time) {
+            for (std::size_t time = 0; time < each; ++time) {
                 JournalRun run(Source(), 0);
                 Step(run, InGame(u"%1-%2.big"_s.arg(number).arg(time)), "a");
             }
@@ -47,7 +49,7 @@ TEST_F(JournalProcesses, FourThatInstallAtOnceLoseNoEntry) {
     for (const pid_t process : processes)
         Await(process);
     const Journal journal = InstallJournal::Read();
-    EXPECT_EQ(journal.Entries.size(), std::size_t{4 * each});
+    EXPECT_EQ(journal.Entries.size(), all);
     for (const JournalEntry& entry : journal.Entries)
         EXPECT_EQ(entry.Files.size(), std::size_t{1}) << entry.Id;
 }
