@@ -4,6 +4,8 @@
 /// Who is told of each file that is written: a journal.
 #pragma once
 
+#include "install/HashedFile.h"
+
 #include <QString>
 
 class FileWatch {
@@ -19,4 +21,7 @@ public:
 
     /// It was written. Without this call, it could not be.
     virtual void Written(const QString& path) = 0;
+
+    /// In the place of Written, where the bytes were at hand: nobody needs to read them again.
+    virtual void WrittenAs(const QString& path, const HashedFile& /*hashed*/) { Written(path); }
 };

@@ -3,8 +3,6 @@
 
 #include "install/journal/Journal.h"
 
-#include "platform/File.h"
-
 #include <algorithm>
 
 const JournalEntry* Journal::Find(int id) const {
@@ -15,29 +13,6 @@ const JournalEntry* Journal::Find(int id) const {
 JournalEntry* Journal::Find(int id) {
     const auto found = std::ranges::find(Entries, id, &JournalEntry::Id);
     return found == Entries.end() ? nullptr : &*found;
-}
-
-void RunningHash::Add(QByteArrayView bytes) {
-    hash_.addData(bytes);
-    length_ += bytes.size();
-}
-
-HashedFile RunningHash::Result() const {
-    return {.Hash = hash_.result(), .Length = length_};
-}
-
-HashedFile HashOf(const QString& path) {
-    constexpr qint64 atOnce = 1 << 18;
-    const File file = File::Open(path, File::Access::Read);
-    // One more than there are: that they come short tells the end.
-    QByteArray bytes(std::min<qint64>(file.Length() + 1, atOnce), Qt::Uninitialized);
-    RunningHash hash;
-    qint64 offset = 0;
-    for (qint64 count = bytes.size(); count == bytes.size(); offset += count) {
-        count = file.ReadInto(offset, bytes.data(), bytes.size());
-        hash.Add(QByteArrayView(bytes).first(count));
-    }
-    return hash.Result();
 }
 
 QString JournalKey(const QString& path) {

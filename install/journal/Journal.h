@@ -5,10 +5,9 @@
 #pragma once
 
 #include "core/Game.h"
+#include "install/HashedFile.h"
 
 #include <QByteArray>
-#include <QByteArrayView>
-#include <QCryptographicHash>
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
@@ -51,26 +50,6 @@ struct Journal {
     [[nodiscard]] const JournalEntry* Find(int id) const;
     [[nodiscard]] JournalEntry* Find(int id);
 };
-
-/// What a file holds, as the journal compares it.
-struct HashedFile {
-    QByteArray Hash;
-    qint64 Length = 0; ///< bytes
-};
-
-/// The same of bytes as they are written, for who has them at hand.
-class RunningHash {
-public:
-    void Add(QByteArrayView bytes);
-    [[nodiscard]] HashedFile Result() const;
-
-private:
-    QCryptographicHash hash_{QCryptographicHash::Blake2b_256};
-    qint64 length_ = 0;
-};
-
-/// Reads a file (inside path) to its end. Raises what the reading raises.
-HashedFile HashOf(const QString& path);
 
 /// A path as the journal compares paths: without regard to case.
 QString JournalKey(const QString& path);

@@ -163,10 +163,10 @@ void JournalRun::Written(const QString& path) {
     HashedFile hashed;
     if (!over_ && places_.contains(JournalKey(path)))
         Ignoring([&] { hashed = HashOf(path); });
-    Written(path, hashed);
+    WrittenAs(path, hashed);
 }
 
-void JournalRun::Written(const QString& path, const HashedFile& hashed) {
+void JournalRun::WrittenAs(const QString& path, const HashedFile& hashed) {
     const auto place = places_.constFind(JournalKey(path));
     if (over_ || place == places_.constEnd())
         return;

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "core/Game.h"
+#include "install/FileWatch.h"
 #include "install/journal/Journal.h"
 #include "platform/File.h"
 #include "platform/FolderLock.h"
@@ -17,23 +18,23 @@
 
 /// Nothing here raises: an install goes on without its journal, and Told says why. An install that writes nothing
 /// leaves no entry.
-class JournalRun {
+class JournalRun : public FileWatch {
 public:
     /// `sourcePath` is the inside path of the file that is installed: a ZIP, or a file as it lies there.
     JournalRun(QString sourcePath, GameIndex game);
     /// Ends it.
-    ~JournalRun();
+    ~JournalRun() override;
     JournalRun(const JournalRun&) = delete;
     JournalRun& operator=(const JournalRun&) = delete;
 
     /// To be called before each step that writes a file (inside path), again where a second step writes it anew. A file
     /// that stands there is put aside, once. Folders on the way to it that are missing, or empty as they have just been
     /// made, are the install's.
-    void WillWrite(const QString& path);
+    void WillWrite(const QString& path) override;
     /// To be called behind each such step that was done.
-    void Written(const QString& path);
+    void Written(const QString& path) override;
     /// The same with what was written, hashed on the way: the file is not read again.
-    void Written(const QString& path, const HashedFile& hashed);
+    void WrittenAs(const QString& path, const HashedFile& hashed) override;
     /// The end, as far as it came; calls behind it do nothing.
     void End();
 

@@ -56,6 +56,11 @@ void TargetFolder::Written(const QString& path) {
         watch_->Written(Spelt(path));
 }
 
+void TargetFolder::WrittenAs(const QString& path, const HashedFile& hashed) {
+    if (watch_ != nullptr)
+        watch_->WrittenAs(Spelt(path), hashed);
+}
+
 bool TargetFolder::Copy(const QString& from, const QString& path, const std::function<void(qint64)>& bytes) {
     if (Files::StandingAsGiven(path) != Files::Standing::Nothing && Files::SameFile(from, path))
         return false;

@@ -44,6 +44,7 @@ public:
 private:
     void WillWrite(const QString& path) override;
     void Written(const QString& path) override;
+    void WrittenAs(const QString& path, const HashedFile& hashed) override;
 
     QString folder_;
     FolderGateway gateway_;

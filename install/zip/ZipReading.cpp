@@ -71,6 +71,7 @@ void ZipReading::Unpack(qsizetype place, const Target& target, const QByteArray&
     block_.resize(BlockSize);
     std::optional<WriteAside> aside;
     QString path;
+    RunningHash hash;
     qint64 done = 0;
     bool ended = false;
     while (!ended) {
@@ -87,7 +88,10 @@ void ZipReading::Unpack(qsizetype place, const Target& target, const QByteArray&
                 Refuse(entry, ZipResult::DiskFull, u"the disk has no room for it"_s);
             aside.emplace(path, WriteAside::Names::AsGiven);
         }
-        aside->Out().Write(done - had, QByteArrayView(block_).first(had));
+        const QByteArrayView bytes = QByteArrayView(block_).first(had);
+        aside->Out().Write(done - had, bytes);
+        if (watching.Files != nullptr)
+            hash.Add(bytes);
         if (watching.Bytes)
             watching.Bytes(done);
         if (!ended && Host::IsThere())
@@ -97,7 +101,7 @@ void ZipReading::Unpack(qsizetype place, const Target& target, const QByteArray&
         watching.Files->WillWrite(path);
     aside->Commit(false);
     if (watching.Files != nullptr)
-        watching.Files->Written(path);
+        watching.Files->WrittenAs(path, hash.Result());
     forget.dismiss();
 }
 

@@ -167,7 +167,7 @@ TEST_F(Journaling, AFileIsNotReadAgainWhereItsHashIsAtHand) {
     RunningHash hash;
     hash.Add("a");
     hash.Add("bc");
-    run.Written(InGame(u"A.big"_s), hash.Result()); // there is no such file
+    run.WrittenAs(InGame(u"A.big"_s), hash.Result()); // there is no such file
     run.End();
     EXPECT_EQ(Entry(1).Files.at(0).Hash.toHex(), QByteArray(HashOfAbc));
     EXPECT_EQ(Entry(1).Files.at(0).Length, 3);
