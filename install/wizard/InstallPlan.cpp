@@ -39,6 +39,7 @@ public:
           files_(source.SourceIsZip ? &zip : nullptr) {}
 
     InstallPlan Make() && {
+        plan_.IsOfArchive = source_.SourceIsZip;
         if (!source_.SourceIsZip) {
             Add(source_.SingleFile, 0);
         } else {
@@ -151,7 +152,7 @@ private:
 
     /// A folder in a folder; where it is not there, nothing is in it, and nobody need look.
     QString FolderIn(const QString& parent, const QString& name) {
-        const QString folder = parent + CaseOf(parent, name) + u'\\';
+        QString folder = parent + CaseOf(parent, name) + u'\\';
         if (!Known(parent).Names.contains(name.toCaseFolded()))
             folders_.try_emplace(folder.toCaseFolded());
         return folder;

@@ -87,14 +87,13 @@ void InstallRun::Zip() {
             Install(record, *planned++);
         }
         view_.ShowProgress(static_cast<int>(std::nearbyint(end)));
-        Yield();
     }
 }
 
 void InstallRun::Flush() const {
-    for (const auto& [path, folder] : folders_) {
-        if (folder != nullptr)
-            Ignoring([&] { Files::FlushSystem(path); });
+    for (const auto& folder : folders_) {
+        if (folder.second != nullptr)
+            Ignoring([&] { Files::FlushSystem(folder.first); });
     }
 }
 
@@ -207,6 +206,7 @@ void InstallRun::Put(TargetFolder& folder, const SourceFile& file, const QString
     } catch (const RuntimeError& error) {
         outcome_.Failed(Shown(file), error.Description());
     }
+    Yield();
 }
 
 /// False for a file that is not another one than before.
