@@ -27,7 +27,7 @@ using Effect = PlannedFile::Effect;
 constexpr qsizetype ExtensionWithDot = 4;
 
 bool IsDense(qint64 size, qint64 packed) {
-    return size > InstallPlans::LargeEvenIfDense && size / InstallPlans::DensestUsual >= std::max<qint64>(packed, 1);
+    return size > InstallPlans::LargeEvenIfDense && (size - 1) / InstallPlans::DensestUsual >= packed;
 }
 
 class Planner {
