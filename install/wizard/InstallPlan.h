@@ -46,7 +46,8 @@ struct InstallPlan {
     std::vector<PlannedItem> Items; ///< the ticked ones; a single file in any case
     qint64 Size = 0;                ///< bytes that are to be written
     qint64 Packed = 0;              ///< those they are made of
-    bool IsDense = false;           ///< one file or all together are packed as nothing is that people make
+    bool IsOfArchive = false;
+    bool IsDense = false; ///< one file or all together are packed as nothing is that people make
 };
 
 namespace InstallPlans {

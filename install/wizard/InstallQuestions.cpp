@@ -72,7 +72,7 @@ void AskAbout(const InstallPlan& plan, const QString& key, const Test& test, con
 
 std::set<std::size_t> InstallQuestions::NotWanted(const InstallPlan& plan) {
     std::set<std::size_t> numbers;
-    if (plan.Size > MuchAnyhow || plan.IsDense) {
+    if (plan.IsOfArchive && (plan.Size > MuchAnyhow || plan.IsDense)) {
         const QString text = GetText(u"AskMuch"_s).replace(u"%1"_s, Sizes::KiloBytes(plan.Size));
         if (!IsYes(QString(text).replace(u"%2"_s, Sizes::KiloBytes(plan.Packed)))) {
             for (const PlannedItem& item : plan.Items)

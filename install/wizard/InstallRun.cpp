@@ -87,13 +87,14 @@ void InstallRun::Zip() {
             Install(record, *planned++);
         }
         view_.ShowProgress(static_cast<int>(std::nearbyint(end)));
-        Yield();
     }
 }
 
 void InstallRun::Flush() const {
-    for (const auto& [path, folder] : folders_)
-        Ignoring([&] { Files::FlushSystem(path); });
+    for (const auto& folder : folders_) {
+        if (folder.second != nullptr)
+            Ignoring([&] { Files::FlushSystem(folder.first); });
+    }
 }
 
 void InstallRun::Install(const InstallRecord& record, const PlannedItem& plan) {
@@ -151,8 +152,9 @@ void InstallRun::InstallMod(const Item& item) {
 }
 
 void InstallRun::InstallReplay(const Item& item) {
+    TargetFolder& replays = FolderAt(place_.ReplayPath);
     for (const SourceFile& file : files_.Of(item.Record))
-        Put(FolderAt(place_.ReplayPath), file, file.Name);
+        Put(replays, file, file.Name);
 }
 
 void InstallRun::InstallShellMap(const Item& item) {
@@ -204,6 +206,7 @@ void InstallRun::Put(TargetFolder& folder, const SourceFile& file, const QString
     } catch (const RuntimeError& error) {
         outcome_.Failed(Shown(file), error.Description());
     }
+    Yield();
 }
 
 /// False for a file that is not another one than before.
@@ -247,10 +250,14 @@ void InstallRun::Describe(TargetFolder& folder, const QString& name, const QStri
 }
 
 TargetFolder& InstallRun::FolderAt(const QString& path) {
-    std::unique_ptr<TargetFolder>& folder = folders_[path];
-    if (folder == nullptr)
-        folder = std::make_unique<TargetFolder>(path, watch_);
-    return *folder;
+    if (last_ == nullptr || lastPath_ != path) {
+        std::unique_ptr<TargetFolder>& folder = folders_[path];
+        if (folder == nullptr)
+            folder = std::make_unique<TargetFolder>(path, watch_);
+        last_ = folder.get();
+        lastPath_ = path;
+    }
+    return *last_;
 }
 
 void InstallRun::BeginShare(double from, double to, const PlannedItem& plan) {

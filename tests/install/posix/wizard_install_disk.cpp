@@ -182,3 +182,15 @@ TEST_F(InstallDisk, ASourceThatIsALinkToTheTargetIsLeftAsItIs) {
     EXPECT_EQ(At(path), "m");
     EXPECT_EQ(outcome_.Files().front().How, InstalledFile::State::Kept);
 }
+
+TEST_F(InstallDisk, AMapOfADevicesNameIsLeftOut) {
+    InstallFile(Put(u"M\\con.map"_s));
+    EXPECT_EQ(Names(Maps()), QStringList());
+    EXPECT_EQ(Failures().size(), 1);
+}
+
+TEST_F(InstallDisk, AMapOfTwoHundredLettersGoesIn) {
+    const QString name(200, u'l');
+    InstallZip({{.Name = name.toLatin1() + ".map"}});
+    EXPECT_TRUE(Files::FileExists(Maps() + name + u'\\' + name + u".map"_s)) << FailureText().toStdString();
+}
