@@ -17,7 +17,7 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-using Fate = PlannedFile::Fate;
+using Fate = PlannedRemoval::Fate;
 
 namespace {
 

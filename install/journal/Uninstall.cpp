@@ -13,7 +13,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using Fate = PlannedFile::Fate;
+using Fate = PlannedRemoval::Fate;
 
 namespace {
 
@@ -97,7 +97,7 @@ const JournalEntry& EntryOf(const Journal& journal, int id) {
 
 QStringList UninstallPlan::Paths(Fate fate) const {
     QStringList paths;
-    for (const PlannedFile& file : Files) {
+    for (const PlannedRemoval& file : Files) {
         if (file.What == fate)
             paths.append(file.File.Path);
     }

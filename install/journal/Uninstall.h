@@ -8,7 +8,7 @@
 #include "install/journal/Journal.h"
 #include "platform/File.h"
 
-struct PlannedFile {
+struct PlannedRemoval {
     enum class Fate {
         Goes,
         ComesBack,  ///< what it replaced takes its place
@@ -28,11 +28,11 @@ struct UninstallPlan {
     QDateTime Time;
     QString Source;
     GameIndex Game = 0;
-    std::vector<PlannedFile> Files;
+    std::vector<PlannedRemoval> Files;
     QStringList Folders; ///< that go, as they are empty then; inside paths
 
     /// The paths of the files with that fate, in order.
-    [[nodiscard]] QStringList Paths(PlannedFile::Fate fate) const;
+    [[nodiscard]] QStringList Paths(PlannedRemoval::Fate fate) const;
 };
 
 namespace Uninstall {

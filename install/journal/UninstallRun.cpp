@@ -16,7 +16,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using Fate = PlannedFile::Fate;
+using Fate = PlannedRemoval::Fate;
 
 namespace {
 
@@ -25,7 +25,7 @@ public:
     explicit Uninstalling(const UninstallPlan& plan) : plan_(plan) {}
 
     QStringList Run() {
-        for (const PlannedFile& file : plan_.Files)
+        for (const PlannedRemoval& file : plan_.Files)
             Do(file);
         // Shell maps change their numbers when a folder goes: the files that went are out of the journal by then.
         InstallJournal::Change([this](Journal& journal) { return TakeOut(journal); });
@@ -35,7 +35,7 @@ public:
     }
 
 private:
-    void Do(const PlannedFile& file) {
+    void Do(const PlannedRemoval& file) {
         const QString& path = file.File.Path;
         try {
             const bool isTouched = file.What == Fate::Goes || file.What == Fate::ComesBack;
@@ -53,7 +53,7 @@ private:
     }
 
     /// What a changed file has replaced is not lost with the knowledge of it.
-    static bool StaysKnown(const PlannedFile& file) {
+    static bool StaysKnown(const PlannedRemoval& file) {
         return (file.What == Fate::Changed || file.What == Fate::Unknown) && !file.File.Kept.isEmpty();
     }
 
@@ -75,7 +75,7 @@ private:
         JournalEntry* const entry = journal.Find(plan_.Id);
         if (entry == nullptr)
             return false;
-        for (const PlannedFile& file : plan_.Files) {
+        for (const PlannedRemoval& file : plan_.Files) {
             if (file.What == Fate::Superseded && !HandOn(journal, file.File))
                 done_.remove(JournalKey(file.File.Path));
         }

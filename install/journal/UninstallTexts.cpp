@@ -13,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
-using Fate = PlannedFile::Fate;
+using Fate = PlannedRemoval::Fate;
 
 namespace {
 

@@ -48,14 +48,20 @@ void InstallOutcome::Failed(const QString& name, const QString& reason) {
     files_.push_back({.How = InstalledFile::State::Failed, .Name = name, .Reason = reason});
 }
 
+void InstallOutcome::Noted(const QString& line) {
+    ++failures_;
+    files_.push_back({.How = InstalledFile::State::Noted, .Name = line});
+}
+
 QStringList InstallOutcome::Lines(bool onlyFailures) const {
     using State = InstalledFile::State;
-    const std::array<std::pair<State, QString>, 3> heads{{{State::Failed, GetText(u"NotInstalled2"_s)},
+    const std::array<std::pair<State, QString>, 4> heads{{{State::Failed, GetText(u"NotInstalled2"_s)},
+                                                          {State::Noted, GetText(u"InstallJournal2"_s)},
                                                           {State::Kept, GetText(u"LeftAsItIs2"_s)},
                                                           {State::Done, GetText(u"Installed2"_s)}}};
     QStringList lines;
     for (const auto& [state, head] : heads) {
-        if (onlyFailures && state != State::Failed)
+        if (onlyFailures && state != State::Failed && state != State::Noted)
             continue;
         for (const InstalledFile& file : files_) {
             if (file.How == state)

@@ -16,6 +16,7 @@ struct InstalledFile {
         Done,
         Kept,   ///< it stood there already and is as it was
         Failed, ///< it is not there, or is not what it should be
+        Noted,  ///< no file, but a line of the journal of installs
     };
 
     State How = State::Done;
@@ -33,6 +34,8 @@ public:
     void Changed(const QString& path);
     /// `name` is an entry's, or an inside path.
     void Failed(const QString& name, const QString& reason);
+    /// Something else that a user should know counts as a failure.
+    void Noted(const QString& line);
 
     [[nodiscard]] const std::vector<InstalledFile>& Files() const { return files_; }
 

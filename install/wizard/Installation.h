@@ -32,7 +32,7 @@ public:
 namespace Installation {
 
 struct Options {
-    FileWatch* Watch = nullptr;        ///< told of each file of the game's folders that is written
+    FileWatch* Watch = nullptr;        ///< told of each file of the game's folders that is written; null: the journal
     std::optional<QString> Password{}; ///< to try before anybody is asked for one
     bool Asks = true;                  ///< false: every question is answered with Yes, and nobody sees it
 };

@@ -16,13 +16,13 @@
 
 #include <ostream>
 
-inline void PrintTo(PlannedFile::Fate fate, std::ostream* out) {
+inline void PrintTo(PlannedRemoval::Fate fate, std::ostream* out) {
     *out << "fate " << static_cast<int>(fate);
 }
 
 class JournalTest : public ListTest {
 protected:
-    using Fate = PlannedFile::Fate;
+    using Fate = PlannedRemoval::Fate;
     using State = JournalEntry::State;
 
     /// The file that is installed.

@@ -149,7 +149,7 @@ private Q_SLOTS:
         QTest::keyClicks(NameBox(), u"bc"_s);
         QVERIFY(StateOf(InstallJournal::File()) == before);
         QTRY_VERIFY(StateOf(InstallJournal::File()) != before);
-        QCOMPARE(Uninstall::Plan(InstallJournal::Read(), 1).Paths(PlannedFile::Fate::Goes).size(), 2);
+        QCOMPARE(Uninstall::Plan(InstallJournal::Read(), 1).Paths(PlannedRemoval::Fate::Goes).size(), 2);
     }
 };
 
