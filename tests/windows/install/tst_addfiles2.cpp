@@ -181,6 +181,7 @@ private Q_SLOTS:
         QVERIFY(host_->Messages[0].Text.contains(u"53"_s));
         QCOMPARE(Shown(), u"frmAddFiles1"_s);
         QVERIFY(wizard_->Page()->isEnabled());
+        QCOMPARE(QApplication::focusWidget(), Button("cmdNext"));
     }
 
     void previousBeginsAnew() {
