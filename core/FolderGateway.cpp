@@ -25,7 +25,12 @@ constexpr qsizetype LongestName = 4095;
 
 bool IsDeviceName(QStringView component) {
     static constexpr std::array<std::u16string_view, 6> plain{u"con", u"prn", u"aux", u"nul", u"conin$", u"conout$"};
-    const QString base = component.left(component.indexOf(u'.')).trimmed().toString().toLower();
+    constexpr qsizetype shortest = 3;
+    constexpr qsizetype longest = 7;
+    const QStringView name = component.left(component.indexOf(u'.')).trimmed();
+    if (name.size() < shortest || name.size() > longest)
+        return false;
+    const QString base = name.toString().toLower();
     if (std::ranges::any_of(plain, [&](std::u16string_view device) { return base == QStringView(device); }))
         return true;
     const bool numbered = base.size() == 4 && (base.startsWith(u"com") || base.startsWith(u"lpt"));

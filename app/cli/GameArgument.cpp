@@ -30,10 +30,15 @@ GameIndex GameArgument::Of(const Arguments& given, const std::string& name) {
     return Games().at(given.Raw(name));
 }
 
-GameIndex GameArgument::Prepared(const Arguments& given, const std::string& name) {
+GameIndex GameArgument::Detected(const Arguments& given, const std::string& name) {
     mMain::UseRuntimes();
     mMain::LanguageFileName = ReadSetting(SettingKeys::TradFileName);
     mMain::DetectGames();
-    Ignoring([] { mMain::MakeUserFolders(); });
     return Of(given, name);
+}
+
+GameIndex GameArgument::Prepared(const Arguments& given, const std::string& name) {
+    const GameIndex game = Detected(given, name);
+    Ignoring([] { mMain::MakeUserFolders(); });
+    return game;
 }

@@ -15,6 +15,9 @@ Parameter Word(Parameter::Kind kind = Parameter::Kind::Place, const std::string&
 /// The game that such a word names.
 GameIndex Of(const Arguments& given, const std::string& name = "GAME");
 
+/// The same once languages and games are looked for, as a start does.
+GameIndex Detected(const Arguments& given, const std::string& name = "GAME");
+
 /// The same for a command that works on the game's files: does first what a start does, language, games and the users'
 /// folders that are missing.
 GameIndex Prepared(const Arguments& given, const std::string& name = "GAME");

@@ -5,6 +5,7 @@
 #include "app/cli/BigCommands.h"
 #include "app/cli/CsfCommands.h"
 #include "app/cli/GameCommands.h"
+#include "app/cli/InstallCommand.h"
 #include "app/cli/ListCommands.h"
 #include "app/cli/Output.h"
 #include "app/cli/ReplayCommands.h"
@@ -37,6 +38,7 @@ int Run(const std::vector<std::string>& words) {
     groups.push_back({"mods", "A game's mods", ModCommands()});
     groups.push_back({"shellmaps", "A game's shell maps", ShellMapCommands()});
     groups.push_back({"zip", "ZIP archives", ZipCommands()});
+    groups.push_back({{}, {}, InstallCommands()});
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));
 }

@@ -33,13 +33,13 @@ bool IsLongReplay(const QString& name) {
 }
 
 /// By the last three characters, whatever their case.
-qint32 KindOf(const QString& name, bool isShellMap) {
-    const QString extension = EntryNames::End(name, ExtensionLength);
-    if (extension == u"map")
-        return isShellMap ? FileKind::ShellMap : FileKind::Map;
-    if (extension == u"big")
+qint32 KindOf(const QString& name, bool (*isShellMap)(const QString&)) {
+    const auto endsIn = [&](QStringView extension) { return name.endsWith(extension, Qt::CaseInsensitive); };
+    if (endsIn(u"map"))
+        return isShellMap(name) ? FileKind::ShellMap : FileKind::Map;
+    if (endsIn(u"big"))
         return FileKind::Mod;
-    return extension == u"rep" || (extension == u"lay" && IsLongReplay(name)) ? FileKind::Replay : FileKind::None;
+    return endsIn(u"rep") || (endsIn(u"lay") && IsLongReplay(name)) ? FileKind::Replay : FileKind::None;
 }
 
 /// Whatever stands before it, in a folder's name too. This is meant.
@@ -62,7 +62,7 @@ InstallRecord SingleFile(const QString& path, const QString& name) {
     InstallRecord file{.FileName = name,
                        .EntryPath = path,
                        .ZipPath = {},
-                       .Kind = KindOf(name, Analysis::IsShellMapName(name)),
+                       .Kind = KindOf(name, Analysis::IsShellMapName),
                        .DisplayName = {},
                        .Comments = {}};
     if (file.Kind == FileKind::ShellMap) {
@@ -81,13 +81,13 @@ InstallRecord SingleFile(const QString& path, const QString& name) {
 
 class Archive {
 public:
-    explicit Archive(ccZip& zip) : zip_(zip), all_(zip.Col) {}
+    Archive(ccZip& zip, Analysis::Records records) : zip_(zip), records_(records) {}
 
-    InstallSource Records() {
+    InstallSource Read() {
         InstallSource source{.SourceIsZip = true, .SingleFile = {}, .InstallRecords = {}, .PassedOver = {}};
         for (qint32 index = 1; index <= zip_.Count(); ++index) {
             const QString entry = zip_.GetFile(index);
-            const qint32 kind = KindOf(entry, EndsAsShellMap(entry));
+            const qint32 kind = KindOf(entry, EndsAsShellMap);
             if (kind == FileKind::None)
                 passedOver_.AddOther(entry);
             else
@@ -116,9 +116,15 @@ private:
         return record;
     }
 
-    void DescribeShellMap(InstallRecord& record) const {
+    [[nodiscard]] bool Has(const QString& entry) {
+        if (!all_)
+            all_.emplace(zip_.Col);
+        return all_->Has(entry);
+    }
+
+    void DescribeShellMap(InstallRecord& record) {
         const QString ini = record.EntryPath.chopped(record.FileName.size()) + u"QvInfos.ini"_s;
-        if (all_.Has(ini))
+        if (Has(ini))
             DescribeBy(record, ini);
         else
             record.DisplayName = NameWithoutRecord();
@@ -127,7 +133,7 @@ private:
     /// Under "Infos", where beside a file on the disk it is "Mod". This is meant.
     void DescribeMod(InstallRecord& record) {
         const QString ini = EntryNames::Without(record.EntryPath, ExtensionWithDot) + u".ini"_s;
-        if (!all_.Has(ini))
+        if (!Has(ini))
             return;
         DescribeBy(record, ini);
         passedOver_.AddModIni(ini);
@@ -135,6 +141,8 @@ private:
 
     /// What can't be extracted can't be deleted. This is meant.
     void DescribeBy(InstallRecord& record, const QString& ini) const {
+        if (records_ == Analysis::Records::Left)
+            return;
         const QString scratch = ProgramFolders::ScratchFolder();
         if (zip_.Decompress(scratch, ini, false) != 0)
             throw RuntimeError(ErrorNumber::FileNotFound, zip_.GetZipInfo());
@@ -144,7 +152,8 @@ private:
     }
 
     ccZip& zip_;
-    AllEntries all_;
+    Analysis::Records records_;
+    std::optional<AllEntries> all_; ///< made when somebody asks
     PassedOver passedOver_;
 };
 
@@ -160,11 +169,11 @@ bool Analysis::IsShellMapName(const QString& fileName) {
     return lower == FirstShellMap || lower == SecondShellMap;
 }
 
-InstallSource Analysis::Analyse(const QString& filePath, const QString& fileName, ccZip& zip) {
+InstallSource Analysis::Analyse(const QString& filePath, const QString& fileName, ccZip& zip, Records records) {
     if (EntryNames::End(fileName, ExtensionLength) != u"zip") {
         return {
             .SourceIsZip = false, .SingleFile = SingleFile(filePath, fileName), .InstallRecords = {}, .PassedOver = {}};
     }
     zip.Init(filePath);
-    return Archive(zip).Records();
+    return Archive(zip, records).Read();
 }

@@ -47,6 +47,6 @@ bool FileComparison::IsSame(const SourceFile& file, const QString& path) {
     return same;
 }
 
-bool FileComparison::IsSame(const SourceFile& first, const SourceFile& second) {
-    return first.Size == second.Size && first.Crc == second.Crc && (first.Crc != 0 || first.Size == 0);
+bool FileComparison::IsSame(const SourceFile& file, const Content& other) {
+    return file.Size == other.Size && file.Crc == other.Crc && (file.Crc != 0 || file.Size == 0);
 }

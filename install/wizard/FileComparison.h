@@ -12,7 +12,12 @@ namespace FileComparison {
 /// can't be read is another one.
 bool IsSame(const SourceFile& file, const QString& path);
 
-/// Two entries of one archive, by length and checksum.
-bool IsSame(const SourceFile& first, const SourceFile& second);
+/// What an entry of an archive holds.
+struct Content {
+    qint64 Size = 0;
+    quint32 Crc = 0; ///< 0: not known, but of nothing
+};
+
+bool IsSame(const SourceFile& file, const Content& other);
 
 } // namespace FileComparison

@@ -13,21 +13,30 @@ using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
 void InstallOutcome::Done(const QString& source, const QString& path) {
-    const QString key = path.toCaseFolded();
-    if (const auto earlier = written_.constFind(key); earlier != written_.constEnd() && earlier->Name != source) {
+    FolderFiles& written = WrittenIn(Paths::Folder(path));
+    const QString key = Paths::LastPart(path).toCaseFolded();
+    if (const auto earlier = written.constFind(key); earlier != written.constEnd() && earlier->Name != source) {
         InstalledFile& lost = files_[earlier->Place];
         failures_ += lost.How == InstalledFile::State::Failed ? 0 : 1;
         lost = {.How = InstalledFile::State::Failed,
                 .Name = earlier->Name,
                 .Reason = u"another file of that name took its place: %1"_s.arg(source)};
     }
-    written_.insert(key, {.Place = files_.size(), .Name = source});
+    written.insert(key, {.Place = files_.size(), .Name = source});
     files_.push_back({.How = InstalledFile::State::Done, .Name = Paths::ToNativeAsGiven(path)});
 }
 
 void InstallOutcome::Changed(const QString& path) {
-    if (!written_.contains(path.toCaseFolded()))
+    if (!WrittenIn(Paths::Folder(path)).contains(Paths::LastPart(path).toCaseFolded()))
         Done({}, path);
+}
+
+InstallOutcome::FolderFiles& InstallOutcome::WrittenIn(const QString& folder) {
+    if (lastFolder_ != folder) {
+        lastKey_ = folder.toCaseFolded();
+        lastFolder_ = folder;
+    }
+    return written_[lastKey_];
 }
 
 void InstallOutcome::Kept(const QString& path) {

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <vector>
 
 struct InstalledFile {
@@ -47,6 +48,12 @@ private:
     };
 
     std::vector<InstalledFile> files_;
-    QHash<QString, Source> written_; ///< by the path without case
+    using FolderFiles = QHash<QString, Source>;
+
+    FolderFiles& WrittenIn(const QString& folder);
+
+    std::map<QString, FolderFiles> written_; ///< by folders and names without case
+    QString lastFolder_;                     ///< that was asked for, and what it is called without case
+    QString lastKey_;
     int failures_ = 0;
 };

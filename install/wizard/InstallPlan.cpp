@@ -12,7 +12,11 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
+#include <QHash>
+#include <QStringList>
+
 #include <algorithm>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -80,52 +84,64 @@ private:
     }
 
     void AddFile(PlannedItem& item, const SourceFile& file) {
+        KnownFolder& folder = Known(item.Folder);
+        const QString key = file.Name.toCaseFolded();
         PlannedFile planned{.Source = file.From,
-                            .Target = item.Folder + CaseOf(item.Folder, file.Name),
+                            .Target = item.Folder + folder.Names.value(key, file.Name),
                             .Size = file.Size,
                             .Refusal = file.Refusal};
         if (planned.Refusal.isEmpty())
             planned.Refusal = FolderGateway::RefusalOf(file.Name);
-        planned.What = planned.Refusal.isEmpty() ? EffectOf(item, file, planned.Target) : Effect::Refused;
+        planned.What = planned.Refusal.isEmpty() ? EffectOf(item, file, planned.Target, folder, key) : Effect::Refused;
         if (planned.What != Effect::Refused && planned.What != Effect::Itself) {
             plan_.Size += file.Size;
             plan_.Packed += file.Packed;
             plan_.IsDense = plan_.IsDense || IsDense(file.Size, file.Packed);
-            planned_.insert(planned.Target.toCaseFolded(), file);
+            folder.Planned.insert(key, {.Size = file.Size, .Crc = file.Crc});
         }
         item.Files.push_back(std::move(planned));
     }
 
-    Effect EffectOf(const PlannedItem& item, const SourceFile& file, const QString& target) {
+    /// What stands in a folder, and what comes into it, by names without case.
+    struct KnownFolder {
+        QHash<QString, QString> Names;
+        QHash<QString, FileComparison::Content> Planned;
+    };
+
+    [[nodiscard]] Effect EffectOf(const PlannedItem& item, const SourceFile& file, const QString& target,
+                                  const KnownFolder& folder, const QString& key) const {
         const bool isMap = item.Kind == FileKind::Map || item.Kind == FileKind::ShellMap;
-        if (const auto earlier = planned_.constFind(target.toCaseFolded()); earlier != planned_.constEnd())
-            return isMap && FileComparison::IsSame(*earlier, file) ? Effect::Same : Effect::Replaces;
-        if (!Listed(item.Folder).contains(EntryNames::LastPart(target).toCaseFolded()))
+        if (const auto earlier = folder.Planned.constFind(key); earlier != folder.Planned.constEnd())
+            return isMap && FileComparison::IsSame(file, *earlier) ? Effect::Same : Effect::Replaces;
+        if (!folder.Names.contains(key))
             return Effect::New;
         if (!source_.SourceIsZip && Files::SameFile(file.From, target))
             return Effect::Itself;
         return isMap && FileComparison::IsSame(file, target) ? Effect::Same : Effect::Replaces;
     }
 
-    /// The names in a folder by their case-folded form; each folder is read once.
-    const QHash<QString, QString>& Listed(const QString& folder) {
-        const QString key = folder.toCaseFolded();
-        if (const auto known = folders_.constFind(key); known != folders_.constEnd())
-            return *known;
-        QHash<QString, QString> names;
-        for (const QString& name : Files::ListFolder(folder, true))
-            names.insert(name.toCaseFolded(), name);
-        return *folders_.insert(key, names);
+    /// Each folder is read once.
+    KnownFolder& Known(const QString& folder) {
+        if (last_ != nullptr && lastPath_ == folder)
+            return *last_;
+        const auto [place, isNew] = folders_.try_emplace(folder.toCaseFolded());
+        if (isNew) {
+            for (const QString& name : Files::ListFolder(folder, true))
+                place->second.Names.insert(name.toCaseFolded(), name);
+        }
+        last_ = &place->second;
+        lastPath_ = folder;
+        return *last_;
     }
 
     QString CaseOf(const QString& folder, const QString& name) {
-        return Listed(folder).value(name.toCaseFolded(), name);
+        return Known(folder).Names.value(name.toCaseFolded(), name);
     }
 
     QString NextShellMapFolder() {
         const QString maps = place_.InstallPath + u"Maps\\"_s;
         if (!shellMapsListed_)
-            shellMaps_ = Listed(maps).values();
+            shellMaps_ = Known(maps).Names.values();
         shellMapsListed_ = true;
         const int number = InstallPlans::NextShellMapNumber(shellMaps_);
         const QString name = GameFiles::ShellMapName(QString::number(number));
@@ -136,8 +152,8 @@ private:
     /// A folder in a folder; where it is not there, nothing is in it, and nobody need look.
     QString FolderIn(const QString& parent, const QString& name) {
         const QString folder = parent + CaseOf(parent, name) + u'\\';
-        if (!Listed(parent).contains(name.toCaseFolded()))
-            folders_.insert(folder.toCaseFolded(), {});
+        if (!Known(parent).Names.contains(name.toCaseFolded()))
+            folders_.try_emplace(folder.toCaseFolded());
         return folder;
     }
 
@@ -146,8 +162,9 @@ private:
     const GameEntry& place_;
     ItemFiles files_;
     InstallPlan plan_;
-    QHash<QString, QHash<QString, QString>> folders_;
-    QHash<QString, SourceFile> planned_; ///< by the case-folded target
+    std::map<QString, KnownFolder> folders_; ///< by their paths without case
+    KnownFolder* last_ = nullptr;
+    QString lastPath_;
     QStringList shellMaps_;
     bool shellMapsListed_ = false;
 };

@@ -8,7 +8,7 @@
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
 
-#include <algorithm>
+#include <QStringList>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;

@@ -92,8 +92,10 @@ void InstallRun::Zip() {
 }
 
 void InstallRun::Flush() const {
-    for (const auto& [path, folder] : folders_)
-        Ignoring([&] { Files::FlushSystem(path); });
+    for (const auto& [path, folder] : folders_) {
+        if (folder != nullptr)
+            Ignoring([&] { Files::FlushSystem(path); });
+    }
 }
 
 void InstallRun::Install(const InstallRecord& record, const PlannedItem& plan) {
@@ -151,8 +153,9 @@ void InstallRun::InstallMod(const Item& item) {
 }
 
 void InstallRun::InstallReplay(const Item& item) {
+    TargetFolder& replays = FolderAt(place_.ReplayPath);
     for (const SourceFile& file : files_.Of(item.Record))
-        Put(FolderAt(place_.ReplayPath), file, file.Name);
+        Put(replays, file, file.Name);
 }
 
 void InstallRun::InstallShellMap(const Item& item) {
@@ -247,10 +250,14 @@ void InstallRun::Describe(TargetFolder& folder, const QString& name, const QStri
 }
 
 TargetFolder& InstallRun::FolderAt(const QString& path) {
-    std::unique_ptr<TargetFolder>& folder = folders_[path];
-    if (folder == nullptr)
-        folder = std::make_unique<TargetFolder>(path, watch_);
-    return *folder;
+    if (last_ == nullptr || lastPath_ != path) {
+        std::unique_ptr<TargetFolder>& folder = folders_[path];
+        if (folder == nullptr)
+            folder = std::make_unique<TargetFolder>(path, watch_);
+        last_ = folder.get();
+        lastPath_ = path;
+    }
+    return *last_;
 }
 
 void InstallRun::BeginShare(double from, double to, const PlannedItem& plan) {

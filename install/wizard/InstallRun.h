@@ -62,6 +62,8 @@ private:
     InstallPlan plan_;
     std::set<std::size_t> notWanted_;
     std::map<QString, std::unique_ptr<TargetFolder>> folders_;
+    TargetFolder* last_ = nullptr; ///< of them
+    QString lastPath_;
 
     double from_ = 0; ///< the share of the bar that the item at work has
     double to_ = 100;

@@ -10,6 +10,8 @@
 #include "platform/FolderEntries.h"
 #include "platform/Paths.h"
 
+#include <QStringList>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -66,14 +68,14 @@ std::vector<SourceFile> LooseFiles(const InstallRecord& record) {
 std::vector<SourceFile> ItemFiles::Of(const InstallRecord& record) {
     if (zip_ == nullptr)
         return LooseFiles(record);
-    if (!isRead_)
-        ReadArchive();
     std::vector<SourceFile> files;
     if (record.Kind == FileKind::Map || record.Kind == FileKind::ShellMap) {
+        if (!isRead_)
+            ReadArchive();
         for (const qint32 index : folders_.value(EntryNames::Folder(record.EntryPath)))
             files.push_back(Entry(index));
     } else {
-        files.push_back(Entry(first_.value(record.EntryPath)));
+        files.push_back(Entry(zip_->Find(record.EntryPath)));
         files.back().From = record.EntryPath;
         files.back().Name = EntryNames::LastPart(record.EntryPath);
     }
@@ -84,8 +86,6 @@ void ItemFiles::ReadArchive() {
     isRead_ = true;
     for (qint32 index = 1; index <= zip_->Count(); ++index) {
         const QString name = zip_->GetFile(index);
-        if (!first_.contains(name))
-            first_.insert(name, index);
         if (!EntryNames::LastPart(name).isEmpty())
             folders_[EntryNames::Folder(name)].push_back(index);
     }

@@ -38,6 +38,5 @@ private:
 
     const ccZip* zip_;
     QHash<QString, std::vector<qint32>> folders_; ///< the numbers of the entries that lie in each, folders left out
-    QHash<QString, qint32> first_;                ///< the number of the first entry of a name
     bool isRead_ = false;
 };

@@ -88,6 +88,10 @@ QString ccZip::GetFile(qint32 index) const {
     return index < 1 || index > Count() ? QString() : Col[index - 1];
 }
 
+qint32 ccZip::Find(const QString& entryName) const {
+    return reading_ == nullptr ? 0 : static_cast<qint32>(reading_->Directory().Find(entryName)) + 1;
+}
+
 qint64 ccZip::Size(qint32 index) const {
     return index < 1 || index > Count() ? 0 : reading_->Entry(index - 1).Size;
 }
@@ -130,7 +134,7 @@ qint32 ccZip::Try(const QString& entryName, const std::function<void(qsizetype)>
         if (place < 0)
             throw ZipFailure(ZipResult::NoEntry, u"%1: no entry of that name"_s.arg(entryName));
         step(place);
-        told_ = u"%1: done"_s.arg(entryName);
+        told_ = entryName + u": done"_s;
         return ZipResult::Done;
     } catch (const RuntimeError& error) {
         told_ = error.Description();

@@ -48,6 +48,9 @@ public:
     /// The name of an entry by its number from 1 on; empty for a number that is none.
     [[nodiscard]] QString GetFile(qint32 index) const;
 
+    /// The number of the first entry of exactly that whole name; 0 for none.
+    [[nodiscard]] qint32 Find(const QString& entryName) const;
+
     /// What the archive says of an entry's bytes, how many it takes in the archive, and its checksum, 0 where it has
     /// none; 0 for a number that is none.
     [[nodiscard]] qint64 Size(qint32 index) const;

@@ -4,6 +4,7 @@
 /// Archives in a folder of their own, read through a ccZip.
 #pragma once
 
+#include "install/FileWatch.h"
 #include "install/zip/ZipFailure.h"
 #include "install/zip/ccZip.h"
 #include "platform/Files.h"

@@ -215,3 +215,46 @@ TEST_F(ZipRead, MoreEntriesThanTheCountHasRoomForAreAllThere) {
     Open({{.Name = "same"}}, {.Repeat = 65536, .Count = 0});
     EXPECT_EQ(zip_.Count(), 65536);
 }
+
+TEST_F(ZipRead, AnEntryIsExtractedToAPathThatWasChosen) {
+    Open({{.Name = "d/a", .Content = "1"}, {.Name = "bad", .Content = "1", .Crc = 1}});
+    Files::MakeFolder(Out());
+    EXPECT_EQ(zip_.DecompressTo(Out() + u"\\Other Name"_s, u"d/a"_s), ZipResult::Done);
+    EXPECT_EQ(Got(u"Other Name"_s), "1");
+    EXPECT_EQ(zip_.DecompressTo(Out() + u"\\b"_s, u"bad"_s), ZipResult::BadData);
+    EXPECT_EQ(zip_.DecompressTo(Out() + u"\\b"_s, u"none"_s), ZipResult::NoEntry);
+    EXPECT_EQ(zip_.DecompressTo(At(u"nowhere\\b"_s), u"d/a"_s), ZipResult::NoTarget);
+    EXPECT_EQ(zip_.DecompressTo(At(u"a.zip"_s), u"d/a"_s), ZipResult::NoTarget);
+    EXPECT_EQ(Names(), QStringList{u"Other Name"_s});
+}
+
+TEST_F(ZipRead, WhoWatchesIsToldOfEachFile) {
+    struct Watch : FileWatch {
+        QStringList Log;
+        bool Refuses = false;
+
+        void WillWrite(const QString& path) override {
+            Log += u"will "_s + Paths::LastPart(path) + (Files::FileExists(path) ? u" over"_s : u""_s);
+            if (Refuses)
+                throw RuntimeError(ErrorNumber::DiskFull, u"no"_s);
+        }
+
+        void Written(const QString& path) override { Log += u"did "_s + Paths::LastPart(path); }
+    } watch;
+
+    Open({{.Name = "a", .Content = "1"}, {.Name = "bad", .Content = "1", .Crc = 1}});
+    zip_.Writes = &watch;
+    EXPECT_EQ(Extract(u"a"_s), 0);
+    EXPECT_EQ(Extract(u"bad"_s), ZipResult::BadData);
+    watch.Refuses = true;
+    EXPECT_EQ(Extract(u"a"_s), ZipResult::DiskFull);
+    EXPECT_EQ(watch.Log, (QStringList{u"will a"_s, u"did a"_s, u"will a over"_s}));
+    EXPECT_EQ(Names(), QStringList{u"a"_s});
+}
+
+TEST_F(ZipRead, ChecksumsAreTold) {
+    Open({{.Name = "a", .Content = "hello"}});
+    EXPECT_EQ(zip_.Crc(1), ZipBytes::Crc("hello"));
+    EXPECT_EQ(zip_.Crc(0), 0U);
+    EXPECT_EQ(zip_.Crc(2), 0U);
+}
