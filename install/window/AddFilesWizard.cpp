@@ -20,10 +20,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A page that works takes no input.
+/// A page that works takes no input. The keyboard comes back to where it was.
 class AtWork {
 public:
-    explicit AtWork(QWidget* page) : page_(page) {
+    explicit AtWork(QWidget* page) : page_(page), focus_(page->focusWidget()) {
         page_->setEnabled(false);
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     }
@@ -32,6 +32,8 @@ public:
         QGuiApplication::restoreOverrideCursor();
         if (page_ != nullptr)
             page_->setEnabled(true);
+        if (focus_ != nullptr)
+            focus_->setFocus();
     }
 
     AtWork(const AtWork&) = delete;
@@ -39,6 +41,7 @@ public:
 
 private:
     QPointer<QWidget> page_;
+    QPointer<QWidget> focus_;
 };
 
 /// Whether there is something to show; nothing when the analysis has failed, which is told.

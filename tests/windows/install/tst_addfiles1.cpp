@@ -245,7 +245,7 @@ private Q_SLOTS:
         Open();
         QCoreApplication::processEvents();
         QCOMPARE(CutText(), QString());
-        Browse(PutZip(QString(200, u'w') + u".zip"_s, {{.Name = "a.map"}}));
+        Browse(PutZip(QString(120, u'w') + u".zip"_s, {{.Name = "a.map"}}));
         QCoreApplication::processEvents();
         QCOMPARE(CutText(), QString());
         QCOMPARE(wizard_->Page()->size(), QSize(600, 440));

@@ -181,6 +181,7 @@ private Q_SLOTS:
         QVERIFY(host_->Messages[0].Text.contains(u"53"_s));
         QCOMPARE(Shown(), u"frmAddFiles1"_s);
         QVERIFY(wizard_->Page()->isEnabled());
+        QCOMPARE(QApplication::focusWidget(), Button("cmdNext"));
     }
 
     void previousBeginsAnew() {
@@ -261,11 +262,13 @@ private Q_SLOTS:
 
     void tenThousandEntriesAreOneModel() {
         Begin({0});
+        constexpr int count = 10000;
         std::vector<ZipBytes::Part> parts;
-        for (int number = 0; number < 10000; ++number)
+        parts.reserve(count);
+        for (int number = 0; number < count; ++number)
             parts.push_back({.Name = "r/" + QByteArray::number(number) + ".rep"});
         Analyse(PutZip(u"a.zip"_s, parts));
-        QCOMPARE(Nodes()->rowCount(Node(u"Replays"_s)), 10000);
+        QCOMPARE(Nodes()->rowCount(Node(u"Replays"_s)), count);
         QVERIFY(Tree()->findChildren<QWidget*>().size() < 20);
         Tick(u"Replays"_s);
         QVERIFY(AddFiles::Source.InstallRecords.back().Selected);

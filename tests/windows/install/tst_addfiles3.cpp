@@ -206,7 +206,7 @@ private Q_SLOTS:
     void nextEnterAndEscapeCloseAFinishedPage() {
         Begin({0});
         const QList<std::function<void()>> ways{
-            [this] { Press("cmdNext"); }, [this] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); },
+            [this] { Press("cmdNext"); }, [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); },
             [this] { QTest::keyClick(wizard_->Page(), Qt::Key_Escape); }, [this] { wizard_->Page()->close(); }};
         for (const auto& way : ways) {
             Install(Put(u"a.rep"_s));
@@ -227,7 +227,7 @@ private Q_SLOTS:
         Analyse(Put(u"a.big"_s));
         Files::DeleteFolder(Of(0).InstallPath.chopped(1));
         world_->WriteFile(u"games\\Generals"_s, "a file in its place");
-        QVERIFY_EXCEPTION_THROWN(Press("cmdNext"), RuntimeError);
+        QVERIFY_THROWS_EXCEPTION(RuntimeError, Press("cmdNext"));
     }
 
     void thePasswordThatTheAnalysisAskedForIsTriedBeforeAnotherQuestion() {

@@ -4,6 +4,9 @@
 #include "tests/windows/WindowTests.h"
 #include "ui/text/Mnemonics.h"
 
+#include <QLabel>
+#include <QPushButton>
+
 using namespace Qt::StringLiterals;
 
 class tst_mnemonics : public QObject {
@@ -33,6 +36,16 @@ private Q_SLOTS:
 
     void aTextWithoutAFreeLetterStaysAsItIs() {
         QCOMPARE(Mnemonics::Spread({u"a"_s, u"A"_s, u""_s, u"..."_s}), QStringList({u"&a"_s, u"A"_s, u""_s, u"..."_s}));
+    }
+
+    void controlsGetLettersInTheirOrder() {
+        QPushButton next(u"Next"_s);
+        QPushButton now(u"Now"_s);
+        QLabel name(u"Name:"_s);
+        Mnemonics::AddTo({&next, &name, &now});
+        QCOMPARE(next.text(), u"&Next"_s);
+        QCOMPARE(name.text(), u"N&ame:"_s);
+        QCOMPARE(now.text(), u"N&ow"_s);
     }
 };
 

@@ -23,10 +23,13 @@ public:
         caption->setProperty("Tag", u"FilesToExport"_s);
         caption->setObjectName(u"lblText"_s);
         layout->addWidget(caption);
-        layout->addWidget(new QLineEdit);
+        auto* box = new QLineEdit;
+        layout->addWidget(box);
+        caption->setBuddy(box);
         Localise(u"ExportFiles"_s, next);
     }
 
+    using WizardPage::AddMnemonics;
     using WizardPage::CancelButton;
     using WizardPage::NextButton;
     using WizardPage::PreviousButton;
@@ -66,6 +69,18 @@ private Q_SLOTS:
         QCOMPARE(page_->NextButton()->text(), u"Weiter"_s);
         QCOMPARE(page_->CancelButton()->text(), u"Abbrechen"_s);
         QCOMPARE(page_->accessibleName(), u"Dateien ausgeben"_s);
+    }
+
+    void buttonsAndCaptionsGetKeysOfTheirOwn() {
+        page_->AddMnemonics();
+        QCOMPARE(page_->NextButton()->text(), u"&Weiter"_s);
+        QCOMPARE(page_->CancelButton()->text(), u"&Abbrechen"_s);
+        QCOMPARE(page_->PreviousButton()->text(), u"&Zur\u00FCck"_s);
+        QCOMPARE(Part<QLabel>("lblText")->text(), u"&Dateien:"_s);
+        Show();
+        page_->NextButton()->setFocus();
+        QTest::keyClick(page_.get(), Qt::Key_D, Qt::AltModifier);
+        QCOMPARE(QApplication::focusWidget(), page_->findChild<QLineEdit*>());
     }
 
     void theLastPagesNextButtonMayHaveAnotherText() { QCOMPARE(Page(u"Close"_s).NextButton()->text(), u"Zumachen"_s); }
