@@ -257,6 +257,7 @@ TEST_F(InstallArchive, TwoMapsOfOneNameInOneArchiveAsk) {
 
 TEST_F(InstallArchive, MapsThatAreThereAlreadyAskOnceForAll) {
     std::vector<Part> parts;
+    parts.reserve(21);
     for (int number = 0; number < 20; ++number)
         parts.push_back({.Name = "m/" + QByteArray::number(number) + "/M" + QByteArray::number(number) + ".map"});
     InstallZip(parts);
