@@ -54,7 +54,7 @@ QString ZipReading::TargetIn(const QString& folder, const QString& name) {
 }
 
 QString ZipReading::PathOf(const Target& target) {
-    const QString path = target.Folder.isEmpty() ? target.Name : TargetIn(target.Folder, target.Name);
+    QString path = target.Folder.isEmpty() ? target.Name : TargetIn(target.Folder, target.Name);
     if (Paths::LastPart(path).toCaseFolded() == fileName_ && StateOf(path).Identity == archive_.State().Identity)
         throw RuntimeError(ErrorNumber::PathFileAccess, u"%1 is the archive itself."_s.arg(Paths::ToNative(path)));
     return path;

@@ -285,6 +285,7 @@ TEST_F(AnalysisTest, NamesOfAnyLettersStay) {
 
 TEST_F(AnalysisTest, ALongArchiveYields) {
     std::vector<Part> parts;
+    parts.reserve(1000);
     for (int number = 0; number < 1000; ++number)
         parts.push_back({.Name = QByteArray::number(number) + ".rep"});
     AnalyseZip(parts);
@@ -294,6 +295,7 @@ TEST_F(AnalysisTest, ALongArchiveYields) {
 
 TEST_F(AnalysisTest, ThousandsOfNamesWithBackslashesAreSearchedInTime) {
     std::vector<Part> parts;
+    parts.reserve(4000);
     for (int number = 0; number < 4000; ++number)
         parts.push_back({.Name = "x/a\\" + QByteArray::number(number) + ".big", .Host = 3});
     EXPECT_EQ(AnalyseZip(parts).InstallRecords.size(), 4000U);

@@ -249,7 +249,7 @@ TEST_F(InstallSingle, AFileOfAnotherEndingInstallsNothing) {
 }
 
 TEST_F(InstallSingle, TheBarMovesByBytesOfALongFile) {
-    InstallFile(Put(u"a.rep"_s, QByteArray(5 * 1024 * 1024, 'x')));
+    InstallFile(Put(u"a.rep"_s, QByteArray(qsizetype{5} * 1024 * 1024, 'x')));
     EXPECT_EQ(view_.Values, (std::vector{20, 40, 60, 80, 100, 100}));
     EXPECT_GE(host_.Yields, 4);
 }

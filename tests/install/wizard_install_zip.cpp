@@ -257,6 +257,7 @@ TEST_F(InstallArchive, TwoMapsOfOneNameInOneArchiveAsk) {
 
 TEST_F(InstallArchive, MapsThatAreThereAlreadyAskOnceForAll) {
     std::vector<Part> parts;
+    parts.reserve(21);
     for (int number = 0; number < 20; ++number)
         parts.push_back({.Name = "m/" + QByteArray::number(number) + "/M" + QByteArray::number(number) + ".map"});
     InstallZip(parts);
@@ -283,7 +284,7 @@ TEST_F(InstallArchive, AModOfTheGamesOwnNameAsks) {
 }
 
 TEST_F(InstallArchive, VeryMuchAsksBeforeAnythingIsWritten) {
-    const Part dense{.Name = "a.rep", .Content = QByteArray(65 * 1024 * 1024, 'x'), .Method = 8};
+    const Part dense{.Name = "a.rep", .Content = QByteArray(qsizetype{65} * 1024 * 1024, 'x'), .Method = 8};
     host_.Answers = {Host::Answer::No};
     InstallZip({dense, {.Name = "b.rep", .Content = "b"}});
     ASSERT_EQ(host_.Messages.size(), 1U);
@@ -300,7 +301,7 @@ TEST_F(InstallArchive, WhatSaysToBeVeryMuchAsks) {
     InstallZip({{.Name = "a.rep", .Content = "x", .Size = 2147483649}});
     EXPECT_EQ(host_.Messages.size(), 1U);
     EXPECT_EQ(Failures(), QStringList{u"a.rep"_s});
-    InstallZip({{.Name = "a.rep", .Content = QByteArray(65 * 1024 * 1024, 'x')}});
+    InstallZip({{.Name = "a.rep", .Content = QByteArray(qsizetype{65} * 1024 * 1024, 'x')}});
     EXPECT_EQ(host_.Messages.size(), 1U);
 }
 
@@ -361,6 +362,7 @@ TEST_F(InstallArchive, AFileThatTheWatchRefusesStaysAsItWas) {
 
 TEST_F(InstallArchive, MapsAndReplaysInTurnsNeedNoNewLookAtTheirFolders) {
     std::vector<Part> parts;
+    parts.reserve(300);
     for (int number = 0; number < 300; ++number) {
         const QByteArray name = QByteArray::number(number);
         parts.push_back({.Name = name + "/" + name + ".map"});

@@ -100,6 +100,7 @@ TEST_F(PlanTest, DenseIsWhatIsLargeAndPackedFiveHundredfold) {
     EXPECT_FALSE(isDense(100'000'000, 200'000));
     EXPECT_TRUE(isDense(100'000'001, 200'000));
     std::vector<Part> many;
+    many.reserve(65);
     for (int number = 0; number < 65; ++number)
         many.push_back({.Name = QByteArray::number(number) + ".rep", .Size = 1024 * 1024, .Packed = 100});
     EXPECT_TRUE(ZipPlan(many).IsDense);

@@ -280,6 +280,7 @@ TEST_F(FilesTreeTest, APictureOfAHostileNameStaysInTheScratchFolder) {
 
 TEST_F(FilesTreeTest, TenThousandFilesAreTickedAtOnce) {
     std::vector<Part> parts;
+    parts.reserve(10000);
     for (int number = 0; number < 10000; ++number)
         parts.push_back({.Name = QByteArray::number(number) + ".rep"});
     ZipTree(parts);

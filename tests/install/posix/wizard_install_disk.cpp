@@ -22,7 +22,7 @@ protected:
     }
 
     [[nodiscard]] QString Elsewhere() const {
-        const QString folder = world_.Root() + u"\\elsewhere"_s;
+        QString folder = world_.Root() + u"\\elsewhere"_s;
         Ignoring([&] { Files::MakeFolder(folder); });
         return folder;
     }
@@ -101,7 +101,7 @@ TEST_F(InstallDisk, AFileThatIsWriteProtectedStaysAndIsListed) {
 TEST_F(InstallDisk, ADiskThatIsFullKeepsWhatStoodThere) {
     AnalyseZip({{.Name = "M/m.map", .Content = QByteArray(5000, 'm')}, {.Name = "M/m.tga", .Content = "t"}});
     TickAll();
-    for (const rlim_t room : {0, 1, 4999, 5000}) {
+    for (const rlim_t room : {rlim_t{0}, rlim_t{1}, rlim_t{4999}, rlim_t{5000}}) {
         Files::DeleteFolder(Maps() + u"m"_s);
         {
             const FileLengthLimit limit(room);

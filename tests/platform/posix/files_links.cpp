@@ -43,6 +43,17 @@ TEST(FilesAndLinks, RemovingAFolderFollowsNoLink) {
     EXPECT_FALSE(Files::FileExists(scratch.Inside(u"folder/file"_s)));
 }
 
+TEST(FilesAndLinks, ALinkIsKnownByItsVeryNameToo) {
+    const Scratch scratch;
+    scratch.Write(u"file"_s, "x");
+    Link(scratch, u"way"_s, "nothing");
+    EXPECT_TRUE(Files::IsLinkAsGiven(scratch.Inside(u"way"_s)));
+    EXPECT_FALSE(Files::IsLinkAsGiven(scratch.Inside(u"WAY"_s)));
+    EXPECT_TRUE(Files::IsLink(scratch.Inside(u"WAY"_s)));
+    EXPECT_FALSE(Files::IsLinkAsGiven(scratch.Inside(u"file"_s)));
+    EXPECT_FALSE(Files::IsLinkAsGiven(scratch.Inside(u"none"_s)));
+}
+
 TEST(FilesAndLinks, RemovingALinkLeavesWhatItLeadsTo) {
     const Scratch scratch;
     scratch.Write(u"folder/file"_s, "x");
