@@ -158,7 +158,12 @@ void MakeFolders(const QString& path) {
     const qsizetype split = folder.lastIndexOf(u'\\');
     if (split > 0)
         MakeFolders(folder.first(split));
-    MakeFolder(folder);
+    try {
+        MakeFolder(folder);
+    } catch (const RuntimeError&) {
+        if (!FolderExists(folder)) // another program may have made it meanwhile
+            throw;
+    }
 }
 
 } // namespace Files

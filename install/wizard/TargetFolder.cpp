@@ -65,6 +65,7 @@ bool TargetFolder::Copy(const QString& from, const QString& path, const std::fun
     if (Files::StandingAsGiven(path) != Files::Standing::Nothing && Files::SameFile(from, path))
         return false;
     const File source = File::Open(from, File::Access::Read);
+    WillWrite(path);
     WriteAside aside(path, WriteAside::Names::AsGiven);
     const qint64 length = source.Length();
     for (qint64 done = 0; done < length;) {
@@ -77,7 +78,6 @@ bool TargetFolder::Copy(const QString& from, const QString& path, const std::fun
         if (done < length && Host::IsThere())
             Host::Current().Yield();
     }
-    WillWrite(path);
     aside.Commit(false);
     Written(path);
     return true;

@@ -86,6 +86,8 @@ void ZipReading::Unpack(qsizetype place, const Target& target, const QByteArray&
             path = PathOf(target);
             if (entry.Size >= WorthAskingForRoom && entry.Size > Files::FreeSpace(Paths::Folder(path)))
                 Refuse(entry, ZipResult::DiskFull, u"the disk has no room for it"_s);
+            if (watching.Files != nullptr)
+                watching.Files->WillWrite(path);
             aside.emplace(path, WriteAside::Names::AsGiven);
         }
         const QByteArrayView bytes = QByteArrayView(block_).first(had);
@@ -97,8 +99,6 @@ void ZipReading::Unpack(qsizetype place, const Target& target, const QByteArray&
         if (!ended && Host::IsThere())
             Host::Current().Yield();
     }
-    if (watching.Files != nullptr)
-        watching.Files->WillWrite(path);
     aside->Commit(false);
     if (watching.Files != nullptr)
         watching.Files->WrittenAs(path, hash.Result());

@@ -11,6 +11,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <thread>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using NumberedFiles::Access;
@@ -71,6 +73,18 @@ TEST_F(FilesTest, MakingAFolderTwiceRaises75AndWithoutItsParent76) {
     Files::MakeFolder(At(u"once\\"_s));
     EXPECT_EQ(NumberRaisedBy([&] { Files::MakeFolder(At(u"once"_s)); }), 75);
     EXPECT_EQ(NumberRaisedBy([&] { Files::MakeFolder(At(u"no\\parent"_s)); }), 76);
+}
+
+TEST_F(FilesTest, MakeFoldersGoesOnWhereAnotherProgramMakesTheSame) {
+    for (int round = 0; round < 200; ++round) {
+        const QString folder = At(u"%1\\b\\c"_s.arg(round));
+        std::vector<std::thread> others;
+        for (int other = 0; other < 3; ++other)
+            others.emplace_back([&] { EXPECT_NO_THROW(Files::MakeFolders(folder)); });
+        for (std::thread& thread : others)
+            thread.join();
+        ASSERT_TRUE(Files::FolderExists(folder));
+    }
 }
 
 TEST_F(FilesTest, MakeFoldersMakesAllThatAreMissing) {
