@@ -38,6 +38,7 @@ frmExportFiles1::frmExportFiles1(QWidget* parent)
     ui_->txtReadMe->setAccessibleName(ui_->ckIncludeReadMe->text());
     ui_->txtReport->setAccessibleName(ui_->lblReport->text());
     ui_->ProgressBar1->setAccessibleName(windowTitle());
+    AddMnemonics();
     ui_->ckModRecords->setEnabled(ExportDialogs::HasMods(records_));
     FollowChoices();
     ui_->OBDontCompress->setFocus();

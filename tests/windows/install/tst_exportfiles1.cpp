@@ -54,15 +54,33 @@ private Q_SLOTS:
         Begin(language);
         Open();
         QCOMPARE(window_->windowTitle(), u"Brindock 2005"_s);
-        const QStringList shown{Part<QLabel>("Label1")->text(),
-                                Part<QLabel>("lblText")->text(),
-                                Part<QRadioButton>("OBCompress")->text(),
-                                Part<QRadioButton>("OBDontCompress")->text(),
-                                Part<QCheckBox>("ckIncludeReadMe")->text(),
-                                Part<QPushButton>("cmdOpen")->text()};
-        QCOMPARE(shown, texts);
+        QStringList shown{Part<QLabel>("Label1")->text(),
+                          Part<QLabel>("lblText")->text(),
+                          Part<QRadioButton>("OBCompress")->text(),
+                          Part<QRadioButton>("OBDontCompress")->text(),
+                          Part<QCheckBox>("ckIncludeReadMe")->text(),
+                          Part<QPushButton>("cmdOpen")->text()};
+        QCOMPARE(shown.replaceInStrings(u"&"_s, u""_s), texts);
         for (const char* const label : {"Label5", "Label6"})
             QCOMPARE(Part<QLabel>(label)->text(), u"Brindock 2005 v"_s + mMain::VersionText());
+    }
+
+    void everyChoiceAndButtonHasALetterOfItsOwn_data() { noTextIsCut_data(); }
+
+    void everyChoiceAndButtonHasALetterOfItsOwn() {
+        QFETCH(const QString, language);
+        End();
+        Begin(language);
+        Open();
+        QString letters;
+        for (const char* const name :
+             {"cmdNext", "cmdCancel", "OBCompress", "OBDontCompress", "ckModRecords", "ckIncludeReadMe", "cmdOpen"}) {
+            const QString text = Part<QAbstractButton>(name)->text();
+            QVERIFY2(text.contains(u'&'), qPrintable(text));
+            const QChar letter = text[text.indexOf(u'&') + 1].toLower();
+            QVERIFY2(!letters.contains(letter), qPrintable(text));
+            letters += letter;
+        }
     }
 
     void noTextIsCut_data() {
