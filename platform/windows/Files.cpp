@@ -188,8 +188,10 @@ void Replace(const QString& from, const QString& to) {
 
 qint64 FreeSpace(const QString& folder) {
     ULARGE_INTEGER available{};
-    if (GetDiskFreeSpaceExW(WidePath(folder).c_str(), &available, nullptr, nullptr) == 0)
-        RaiseLastError(GetLastError(), folder);
+    if (GetDiskFreeSpaceExW(WidePath(folder).c_str(), &available, nullptr, nullptr) == 0) {
+        const DWORD error = GetLastError();
+        RaiseLastError(FolderExists(folder) ? error : ERROR_PATH_NOT_FOUND, folder);
+    }
     return Wide(available.HighPart, available.LowPart);
 }
 

@@ -112,9 +112,9 @@ TEST_F(InstallSingle, AModWithoutAnIniFileGetsOneWithTwoEmptyValues) {
 }
 
 TEST_F(InstallSingle, AModsIniFileIsCopiedAndItsTwoKeysAreWritten) {
-    Put(u"M.ini"_s, "; mine\r\n[Mod]\r\nName = n \r\nOther=o\r\n");
+    Put(u"M.ini"_s, "; mine\r\n[Mod]\r\nName=n\r\nOther=o\r\n");
     InstallFile(Put(u"M.big"_s, "m"));
-    EXPECT_EQ(At(Own() + u"M.ini"_s), "; mine\r\n[Mod]\r\nName = n \r\nOther=o\r\nComments=\r\n");
+    EXPECT_EQ(At(Own() + u"M.ini"_s), "; mine\r\n[Mod]\r\nName=n\r\nOther=o\r\nComments=\r\n");
     EXPECT_EQ(outcome_.Files().size(), 2U);
 }
 
