@@ -15,8 +15,8 @@ public:
     FileWatch& operator=(const FileWatch&) = delete;
     virtual ~FileWatch() = default;
 
-    /// A file at that inside path, in the disk's own case, is to be written. What stands there still does, and nothing of
-    /// the new one is in its folder yet. What this raises keeps the file from being written.
+    /// A file at that inside path, in the disk's own case, is to be written. What stands there still does, and nothing
+    /// of the new one is in its folder yet. What this raises keeps the file from being written.
     virtual void WillWrite(const QString& path) = 0;
 
     /// It was written. Without this call, it could not be.
