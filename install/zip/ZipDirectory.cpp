@@ -205,6 +205,10 @@ ZipDirectory::ZipDirectory(const Device& archive) {
 
 void ZipDirectory::ReadRecords(const Device& archive, const End& end) {
     start_ = end.Start;
+    // A count that lies makes it no more than the directory's bytes could hold.
+    const auto most = static_cast<quint64>(std::max<qint64>(end.Limit - end.Start, 0) / RecordLength);
+    entries_.reserve(static_cast<std::size_t>(std::min(end.Count, most)));
+    places_.reserve(static_cast<qsizetype>(std::min(end.Count, most)));
     ReadAhead bytes(archive);
     qint64 at = end.Start;
     while (end.Limit - at >= RecordLength) {
