@@ -135,13 +135,12 @@ struct ZipDirectory::End {
         const auto limit = static_cast<quint64>(Limit);
         if (size > limit || offset > limit - size || (IsWide && Count > size / RecordLength))
             return false;
-        for (const quint64 start : {offset, limit - size}) {
+        const auto isAt = [&](quint64 start) {
             Start = static_cast<qint64>(start);
             Shift = Start - static_cast<qint64>(offset);
-            if (BeginsWith(archive.Read(Start, 4), RecordMark))
-                return true;
-        }
-        return false;
+            return BeginsWith(archive.Read(Start, 4), RecordMark);
+        };
+        return isAt(offset) || isAt(limit - size);
     }
 
     /// By the records of ZIP64, if they are there; `at` is where the locator would stand.

@@ -212,7 +212,7 @@ qint64 FreeSpace(const QString& folder) {
     const Native native(folder);
     if (::statvfs(native.Path(), &status) != 0)
         native.Raise(errno == ENOENT ? ENOTDIR : errno);
-    return static_cast<qint64>(status.f_bavail * status.f_frsize);
+    return static_cast<qint64>(status.f_bavail) * static_cast<qint64>(status.f_frsize);
 }
 
 void FlushSystem(const QString& path) {

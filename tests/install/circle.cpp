@@ -41,7 +41,7 @@ protected:
     }
 
     QString Exported(const ExportChoice& choice = {}) {
-        const QString zip = world_.Root() + u"\\Mine.zip"_s;
+        QString zip = world_.Root() + u"\\Mine.zip"_s;
         const ExportReport report = Exporting::ToZip(ExportSources::Of(FillGame()), zip, choice);
         EXPECT_FALSE(report.HasFailures()) << ExportText(report).toStdString();
         return zip;

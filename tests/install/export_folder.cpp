@@ -155,7 +155,7 @@ TEST_F(ExportFolder, OneThatIsCancelledKeepsWholeFilesOnly) {
 }
 
 TEST_F(ExportFolder, TheBarMovesByBytesInLongFilesToo) {
-    Put(u"game\\big.big"_s, QByteArray(8 * 1024 * 1024, 'b'));
+    Put(u"game\\big.big"_s, QByteArray(qsizetype{8} * 1024 * 1024, 'b'));
     std::vector<int> values;
     watch_.Progress = [&](int percent) { values.push_back(percent); };
     ToFolder({Mod(u"big.big"_s)});

@@ -147,11 +147,11 @@ TEST_F(ZipRead, OfTwoEntriesOfOneNameTheFirstIsExtracted) {
 
 TEST_F(ZipRead, ManyBlocksComeOutWholeAndTheWindowIsServedBetweenThem) {
     QByteArray content;
-    for (int line = 0; content.size() < 3 * 262144; ++line)
+    for (int line = 0; content.size() < qsizetype{3} * 262144; ++line)
         content += QByteArray::number(line) + '\n';
     Open({{.Name = "long", .Content = content, .Method = 8},
           {.Name = "short", .Content = "1"},
-          {.Name = "even", .Content = content.first(2 * 262144)}});
+          {.Name = "even", .Content = content.first(qsizetype{2} * 262144)}});
     ScriptedHost host;
     std::vector<qint64> watched;
     zip_.Watch = [&](qint64 bytes) { watched.push_back(bytes); };
@@ -162,7 +162,7 @@ TEST_F(ZipRead, ManyBlocksComeOutWholeAndTheWindowIsServedBetweenThem) {
     EXPECT_EQ(Extract(u"short"_s), 0);
     EXPECT_EQ(host.Yields, 3) << "a short entry is done at once";
     EXPECT_EQ(Extract(u"even"_s), 0);
-    EXPECT_EQ(Got(u"even"_s), content.first(2 * 262144));
+    EXPECT_EQ(Got(u"even"_s), content.first(qsizetype{2} * 262144));
 }
 
 TEST_F(ZipRead, WhatRunsWhileItYieldsMayReadOtherEntriesOrAnotherArchive) {

@@ -103,7 +103,7 @@ TEST_F(ZipHostile, AWrongChecksumFailsTheEntryAndLeavesWhatStood) {
 }
 
 TEST_F(ZipHostile, AnEntryThatYieldsMoreThanItDeclaresFails) {
-    for (const quint64 declared : {0, 1, 300000, 699999}) {
+    for (const quint64 declared : {0U, 1U, 300000U, 699999U}) {
         const QByteArray content(700000, 'x');
         EXPECT_EQ(ResultOf({.Name = "a", .Content = content, .Method = 8, .Size = declared}), ZipResult::BadData);
         EXPECT_EQ(ResultOf({.Name = "a", .Content = content, .Size = declared}), ZipResult::BadData);
@@ -164,6 +164,7 @@ TEST_F(ZipHostile, EntriesThatShareBytesFailAndTheOthersDoNot) {
 TEST_F(ZipHostile, ABombOfOverlappingEntriesYieldsNothing) {
     const QByteArray kernel(100'000, '\0');
     std::vector<Part> parts;
+    parts.reserve(100);
     for (int i = 0; i < 100; ++i)
         parts.push_back({.Name = QByteArray::number(100 + i), .Content = kernel, .Method = 8, .Bytes = QByteArray()});
     parts.back().Bytes.reset();

@@ -34,7 +34,7 @@ TEST_F(PersonalDetails, OfAMapAreItsNameAndTheWholeKilobytesOfItsMapFile) {
 }
 
 TEST_F(PersonalDetails, OfAMapHaveAMarkBetweenTheThousands) {
-    PutMap(u"Alpine"_s, 1234 * 1024);
+    PutMap(u"Alpine"_s, qsizetype{1234} * 1024);
     Open(u"GenMaps"_s, 0);
     EXPECT_EQ(State().MapSize, u"1,234 KiloBytes"_s);
 }
@@ -248,10 +248,10 @@ TEST_F(PersonalDetails, OfAShellMapAreItsNameSizeAndComments) {
 
 TEST_F(PersonalDetails, OfAShellMapTakeTheOtherMapsSizeWhereTheFirstGivesNothing) {
     const QString small = PutShellMap(1, "[Infos]\r\n", 1023);
-    Put(small + u"\\shellmapmd.map"_s, QByteArray(5 * 1024, 'm'));
+    Put(small + u"\\shellmapmd.map"_s, QByteArray(qsizetype{5} * 1024, 'm'));
     const QString absent = PutShellMap(2, "[Infos]\r\n");
     Files::Delete(absent + u"\\shellmap1.map"_s);
-    Put(absent + u"\\shellmapmd.map"_s, QByteArray(7 * 1024, 'm'));
+    Put(absent + u"\\shellmapmd.map"_s, QByteArray(qsizetype{7} * 1024, 'm'));
     const QString none = PutShellMap(3, "[Infos]\r\n", 1023);
     Open(u"GenShellMaps"_s, 0);
     EXPECT_EQ(State().ModSize, u"5 KiloBytes"_s) << "1,023 bytes are no kilobyte";
@@ -263,7 +263,7 @@ TEST_F(PersonalDetails, OfAShellMapTakeTheOtherMapsSizeWhereTheFirstGivesNothing
 
 TEST_F(PersonalDetails, OfAShellMapDoNotLookAtTheSecondMapBesideALargeFirst) {
     const QString folder = PutShellMap(1, "[Infos]\r\n", 1024);
-    Put(folder + u"\\shellmapmd.map"_s, QByteArray(9 * 1024, 'm'));
+    Put(folder + u"\\shellmapmd.map"_s, QByteArray(qsizetype{9} * 1024, 'm'));
     Open(u"GenShellMaps"_s, 0);
     EXPECT_EQ(State().ModSize, u"1 KiloBytes"_s);
 }

@@ -143,7 +143,7 @@ protected:
 
     /// Returns the shell map's folder.
     QString PutShellMap(int number, const QByteArray& ini, qsizetype size = 2048, GameIndex game = 0) const {
-        const QString folder = GameFiles::ShellMapFolder(game, GameFiles::ShellMapName(QString::number(number)));
+        QString folder = GameFiles::ShellMapFolder(game, GameFiles::ShellMapName(QString::number(number)));
         Put(folder + QStringLiteral("\\shellmap1.map"), QByteArray(size, 's'));
         Put(folder + QStringLiteral("\\QvInfos.ini"), ini);
         return folder;

@@ -96,7 +96,7 @@ TEST_F(PersonalRows, AreCountedInTheStatusBarWithTheSizeOfTheMarkedOnes) {
     PutMod(u"a"_s);
     Put(Of(0).InstallPath + u"a.big"_s, QByteArray(3000, 'a'));
     PutMod(u"b"_s);
-    Put(Of(0).InstallPath + u"b.big"_s, QByteArray(1536 * 1024, 'b'));
+    Put(Of(0).InstallPath + u"b.big"_s, QByteArray(qsizetype{1536} * 1024, 'b'));
     personal.RebuildTree();
     personal.NodeClicked(u"GenMods"_s);
     EXPECT_EQ(personal.State().StatusText, u"Items: 2"_s);
@@ -214,8 +214,8 @@ TEST_F(PersonalRows, AreAskedForTheirSizeOnceWhenTheyGetTheirMark) {
     RecordingPersonalView view;
     PersonalFiles personal(view);
     const QString first = PutMod(u"a"_s);
-    Put(first, QByteArray(3 * 1024, 'a'));
-    Put(PutMod(u"b"_s), QByteArray(4 * 1024, 'b'));
+    Put(first, QByteArray(qsizetype{3} * 1024, 'a'));
+    Put(PutMod(u"b"_s), QByteArray(qsizetype{4} * 1024, 'b'));
     personal.RebuildTree();
     personal.NodeClicked(u"GenMods"_s);
     personal.CheckChanged(0, true);

@@ -79,6 +79,7 @@ TEST_F(FilesTest, MakeFoldersGoesOnWhereAnotherProgramMakesTheSame) {
     for (int round = 0; round < 200; ++round) {
         const QString folder = At(u"%1\\b\\c"_s.arg(round));
         std::vector<std::thread> others;
+        others.reserve(3);
         for (int other = 0; other < 3; ++other)
             others.emplace_back([&] { EXPECT_NO_THROW(Files::MakeFolders(folder)); });
         for (std::thread& thread : others)

@@ -28,12 +28,12 @@ protected:
 } // namespace
 
 /// These stand before the system library's in this program.
-extern "C" int syncfs(int file) noexcept {
+extern "C" int syncfs(int file) noexcept { // NOLINT(readability-inconsistent-declaration-parameter-name)
     ++systemFlushes;
     return static_cast<int>(::syscall(SYS_syncfs, file));
 }
 
-extern "C" int fsync(int file) {
+extern "C" int fsync(int file) { // NOLINT(readability-inconsistent-declaration-parameter-name)
     ++fileFlushes;
     return static_cast<int>(::syscall(SYS_fsync, file));
 }

@@ -104,7 +104,7 @@ TEST_F(ExportFilesPosix, AProtectedTargetStays) {
 TEST_F(ExportFilesPosix, AFullDiskLeavesNothingBehind) {
     Put(u"replays\\a.rep"_s, "a replay of some length");
     Put(u"replays\\b.rep"_s, "b");
-    for (const rlim_t room : {0, 1, 40, 130}) {
+    for (const rlim_t room : {0U, 1U, 40U, 130U}) {
         const FileLengthLimit limit(room);
         const ExportReport report = ToZip({Replay(u"a.rep"_s)});
         EXPECT_EQ(With(Outcome::NotWritten, report), QStringList{u"out.zip"_s}) << room;

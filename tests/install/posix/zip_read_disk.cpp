@@ -39,7 +39,7 @@ TEST_F(ZipDisk, AtEveryByteOfAFullDiskWhatStoodStays) {
 
 TEST_F(ZipDisk, ADiskThatFillsInTheMiddleOfALongEntryKeepsNothingOfIt) {
     Open({{.Name = "a", .Content = QByteArray(900000, 'x'), .Method = 8}});
-    for (const rlim_t room : {0, 262144, 600000}) {
+    for (const rlim_t room : {0U, 262144U, 600000U}) {
         const FileLengthLimit limit(room);
         EXPECT_EQ(Extract(u"a"_s), ZipResult::DiskFull);
         EXPECT_EQ(Names(), QStringList());

@@ -36,7 +36,7 @@ protected:
 } // namespace
 
 /// Stands before the system library's in this program.
-extern "C" int fchmod(int file, mode_t mode) noexcept {
+extern "C" int fchmod(int file, mode_t mode) noexcept { // NOLINT(readability-inconsistent-declaration-parameter-name)
     errno = refusal;
     return refusal != 0 ? -1 : static_cast<int>(::syscall(SYS_fchmod, file, mode));
 }

@@ -105,7 +105,7 @@ protected:
     }
 
     QString AddMap(const QString& name, GameIndex game = 0) {
-        const QString folder = Of(game).MapPath + name;
+        QString folder = Of(game).MapPath + name;
         Write(folder + QStringLiteral("\\") + name + QStringLiteral(".map"), QByteArray(5000, 'm'));
         return folder;
     }
@@ -127,7 +127,7 @@ protected:
     }
 
     QString AddShellMap(const QString& number, const QByteArray& ini) {
-        const QString folder = Of(0).InstallPath + QStringLiteral("Maps\\QvShellMap") + number;
+        QString folder = Of(0).InstallPath + QStringLiteral("Maps\\QvShellMap") + number;
         Write(folder + QStringLiteral("\\shellmap1.map"), QByteArray(2048, 's'));
         Write(folder + QStringLiteral("\\QvInfos.ini"), ini);
         return folder;
