@@ -18,6 +18,9 @@ fresh_prefix() {
 
 windows_picture() {
   local picture=build/screenshots/windows.png program
+  # What the tests left of Wine has a desktop without this display.
+  wineserver -k || true
+  wineserver -w
   $wine64 "$windows_bin/brindock-cli.exe" setting set TradFileName English.lng || {
     say "brindock-cli.exe can't write the registry"
     return 1
