@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "core/GameFiles.h"
+#include "tests/support/Raised.h"
 
 #include "core/mMain.h"
 #include "platform/Files.h"
@@ -35,15 +36,6 @@ protected:
 
     World world_;
 };
-
-int NumberRaisedBy(const std::function<void()>& step) {
-    try {
-        step();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
 
 } // namespace
 

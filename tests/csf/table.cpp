@@ -3,6 +3,7 @@
 
 /// Tables as values: no window, no open table, no file number, and mostly no disk.
 #include "csf/format/CsfTable.h"
+#include "tests/support/Raised.h"
 
 #include "csf/format/mCSF.h"
 #include "platform/Device.h"
@@ -27,24 +28,13 @@ QByteArray TwoByHand() {
                  " RTS\0\0\0\0");
 }
 
-/// The number of the run-time error that the step raises, 0 for none.
-template <typename Step>
-int ErrorOf(Step&& step) {
-    try {
-        std::forward<Step>(step)();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
 int ReadingError(const QByteArray& bytes) {
-    return ErrorOf([&] { CsfTable::Read(QByteArrayView(bytes)); });
+    return NumberRaisedBy([&] { CsfTable::Read(QByteArrayView(bytes)); });
 }
 
 int WritingError(const CsfTable& table) {
     MemoryDevice device("as it was");
-    const int error = ErrorOf([&] { table.Write(device); });
+    const int error = NumberRaisedBy([&] { table.Write(device); });
     EXPECT_EQ(device.Bytes() == "as it was", error != 0) << "refused before anything is written";
     return error;
 }
@@ -66,7 +56,7 @@ TEST(CsfTableValue, IsReadFromADevice) {
     EXPECT_EQ(CsfTable::Read(device), Two());
     FailingDevice broken(device);
     broken.FailReadsAfter(0);
-    EXPECT_EQ(ErrorOf([&] { CsfTable::Read(broken); }), 57);
+    EXPECT_EQ(NumberRaisedBy([&] { CsfTable::Read(broken); }), 57);
 }
 
 TEST(CsfTableValue, EveryCutIsRefusedExceptBehindAString) {
@@ -112,7 +102,7 @@ TEST(CsfTableValue, AWriteThatFailsIsRaised) {
     for (int good = 0; good < counting.Writes(); ++good) {
         MemoryDevice device;
         FailingDevice failing(device, good);
-        EXPECT_EQ(ErrorOf([&] { table.Write(failing); }), 61) << good;
+        EXPECT_EQ(NumberRaisedBy([&] { table.Write(failing); }), 61) << good;
         EXPECT_EQ(failing.Writes(), good + 1) << "nothing is written behind a failed write";
         EXPECT_TRUE(whole.Bytes().startsWith(device.Bytes())) << good;
     }
@@ -152,7 +142,7 @@ TEST_F(CsfTableFile, CanBeUsedWhileTheOpenTableIsRead) {
 }
 
 TEST_F(CsfTableFile, NamesTheFileThatCantBeRead) {
-    EXPECT_EQ(ErrorOf([&] { CsfTable::Read(At(u"missing.csf"_s)); }), 53);
+    EXPECT_EQ(NumberRaisedBy([&] { CsfTable::Read(At(u"missing.csf"_s)); }), 53);
 }
 
 TEST_F(CsfTableFile, SavesOverAFileAndLeavesNothingBeside) {
@@ -165,7 +155,7 @@ TEST_F(CsfTableFile, SavesOverAFileAndLeavesNothingBeside) {
 TEST_F(CsfTableFile, RefusesAStaleBackupAndLeavesBothFiles) {
     const QString path = Put(u"value.csf"_s, "old");
     Put(u"value.csf.sav"_s, "older");
-    EXPECT_EQ(ErrorOf([&] { Two().Write(path); }), 58);
+    EXPECT_EQ(NumberRaisedBy([&] { Two().Write(path); }), 58);
     EXPECT_EQ(World::ReadFile(path), "old");
     EXPECT_EQ(World::ReadFile(path + u".sav"_s), "older");
 }

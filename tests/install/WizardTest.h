@@ -11,13 +11,14 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "tests/support/Printing.h"
+#include "tests/support/Raised.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
 #include "tools/demoworld/ZipBytes.h"
 
 #include <gtest/gtest.h>
 
-class WizardTest : public testing::Test {
+class WizardTest : public testing::Test, protected RaisedError {
 protected:
     using Part = ZipBytes::Part;
 
@@ -55,20 +56,7 @@ protected:
     /// What is left in the scratch folder.
     [[nodiscard]] static QStringList Scratch() { return Names(ProgramFolders::ScratchFolder()); }
 
-    template <typename Step>
-    int ErrorOf(Step step) {
-        failure_.clear();
-        try {
-            step();
-        } catch (const RuntimeError& error) {
-            failure_ = error.Description();
-            return error.Number();
-        }
-        return 0;
-    }
-
     World world_;
     ScriptedHost host_;
     ccZip zip_;
-    QString failure_;
 };

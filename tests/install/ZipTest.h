@@ -10,6 +10,7 @@
 #include "platform/RuntimeError.h"
 #include "tests/support/ArchiveBytes.h"
 #include "tests/support/Printing.h"
+#include "tests/support/Raised.h"
 #include "tests/support/World.h"
 
 #include <QFile>
@@ -17,7 +18,7 @@
 #include <gtest/gtest.h>
 
 /// The world's root is the ZIP's current directory.
-class ZipTest : public testing::Test {
+class ZipTest : public testing::Test, protected RaisedError {
 protected:
     ZipTest() { zip_.CurrentDirectory = world_.Root(); }
 
@@ -48,20 +49,6 @@ protected:
         return names;
     }
 
-    /// The number of the run-time error that a step raises; 0 without one. Its text is in `failure_`.
-    template <typename Step>
-    int ErrorOf(Step step) {
-        failure_.clear();
-        try {
-            step();
-        } catch (const RuntimeError& error) {
-            failure_ = error.Description();
-            return error.Number();
-        }
-        return 0;
-    }
-
     World world_;
     ZipClass zip_;
-    QString failure_;
 };

@@ -11,6 +11,7 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "tests/support/Printing.h"
+#include "tests/support/Raised.h"
 #include "tests/support/World.h"
 
 #include <gtest/gtest.h>
@@ -73,15 +74,6 @@ protected:
         for (const RowColumn& column : list.Rows().Columns())
             captions += column.Caption;
         return captions;
-    }
-
-    static int NumberRaisedBy(const std::function<void()>& step) {
-        try {
-            step();
-        } catch (const RuntimeError& error) {
-            return error.Number();
-        }
-        return 0;
     }
 
     static qint16 ListGame(GameList& list, qint32 game) { return list.List(game, false); }

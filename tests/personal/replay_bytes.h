@@ -9,6 +9,7 @@
 #include "platform/RuntimeError.h"
 #include "tests/support/ArchiveBytes.h"
 #include "tests/support/Printing.h"
+#include "tests/support/Raised.h"
 #include "tests/support/World.h"
 
 #include <gtest/gtest.h>
@@ -36,28 +37,6 @@ inline QByteArray ReplayBytes(const QByteArray& match, const QByteArray& version
 
 inline QByteArray SampleReplay() {
     return ReplayBytes(MatchOf("03maps/alpine assault", "HPlayer,0,0,TT,1,8,1,0,1:X:X:X:X:X:X:X:"));
-}
-
-/// The number of the run-time error that the step raises, 0 for none.
-template <typename Step>
-int NumberRaisedBy(Step&& step) {
-    try {
-        step();
-    } catch (const RuntimeError& error) {
-        return error.Number();
-    }
-    return 0;
-}
-
-/// Its description, empty for none.
-template <typename Step>
-QString MessageOf(Step&& step) {
-    try {
-        step();
-    } catch (const RuntimeError& error) {
-        return error.Description();
-    }
-    return {};
 }
 
 /// A list of the replays in a world of four games.

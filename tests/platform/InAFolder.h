@@ -8,6 +8,7 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "tests/support/Printing.h"
+#include "tests/support/Raised.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -25,28 +26,6 @@ protected:
     }
 
     [[nodiscard]] QByteArray BytesOf(const QString& name) const { return ReadWhole(At(name)); }
-
-    /// The number of the run-time error that the step raises, 0 for none.
-    template <typename Step>
-    static int NumberRaisedBy(Step&& step) {
-        try {
-            step();
-        } catch (const RuntimeError& error) {
-            return error.Number();
-        }
-        return 0;
-    }
-
-    /// Its description, empty for none.
-    template <typename Step>
-    static QString MessageOf(Step&& step) {
-        try {
-            step();
-        } catch (const RuntimeError& error) {
-            return error.Description();
-        }
-        return {};
-    }
 
 private:
     QTemporaryDir folder_;

@@ -5,6 +5,7 @@
 #include "platform/NumberedFiles.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "tests/support/Raised.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -37,16 +38,6 @@ protected:
         QByteArray bytes = NumberedFiles::Read(9, 0, 1 << 20);
         NumberedFiles::Close(9);
         return bytes;
-    }
-
-    template <typename Step>
-    static int NumberRaisedBy(Step&& step) {
-        try {
-            step();
-        } catch (const RuntimeError& error) {
-            return error.Number();
-        }
-        return 0;
     }
 
 private:
