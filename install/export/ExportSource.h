@@ -39,7 +39,4 @@ QStringList NamesBeyondThePage(const std::vector<ExportSource>& sources);
 /// A name below the target as the system writes it.
 QString Shown(const QString& name);
 
-/// Why a text can't be the name of a folder, separators included; empty for one that can.
-QString RefusalOfFolder(const QString& name);
-
 } // namespace ExportSources

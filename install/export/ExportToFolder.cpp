@@ -28,7 +28,7 @@ public:
         if (record.Path.isEmpty())
             return Tell(QString(), ExportOutcome::NoPath);
         if (record.Kind == FileKind::ShellMap)
-            if (const QString refusal = ExportSources::RefusalOfFolder(record.Name); !refusal.isEmpty())
+            if (const QString refusal = FolderGateway::RefusalOfFolder(record.Name); !refusal.isEmpty())
                 return Tell(record.Name, ExportOutcome::Refused, refusal);
         if (source.Files.empty())
             Tell(ExportSources::Shown(record.Name), ExportOutcome::Gone);

@@ -48,6 +48,19 @@ private Q_SLOTS:
         QCOMPARE(Games()->accessibleName(), u"Game"_s);
     }
 
+    // The file may be another one since the row was selected.
+    void aClickOnTheSelectedGameCounts() {
+        Begin({2, 3});
+        Open(Put(u"a.map"_s));
+        QTest::keyClick(Games(), Qt::Key_Down);
+        QCOMPARE(Games()->currentIndex(), 1);
+        Browse(Put(u"shellmap1.map"_s));
+        const auto before = host_->Messages.size();
+        Q_EMIT Games()->activated(1);
+        QCOMPARE(Games()->currentIndex(), 0);
+        QCOMPARE(host_->Messages.size(), before + 1);
+    }
+
     void beforeAFileIsChosenThereIsNoInformationAndNoNext() {
         Begin({0, 1});
         Open();
