@@ -90,6 +90,8 @@ void List(ExportSource& source) {
     if (folder.isEmpty())
         return;
     if (record.Kind == FileKind::Map || record.Kind == FileKind::ShellMap) {
+        if (!Files::FolderExists(folder))
+            return;
         source.Folders.append(record.Name);
         Lister(source, folder, record.Kind == FileKind::Map).Enter({});
     } else if (Files::FileExists(record.Path)) {
@@ -125,6 +127,10 @@ QStringList ExportSources::NamesBeyondThePage(const std::vector<ExportSource>& s
             if (AnsiCodec::Decode(AnsiCodec::Encode(file.Name)) != file.Name)
                 names.append(file.Name);
     return names;
+}
+
+QString ExportSources::NameOf(const ExportRecord& record) {
+    return record.Name.isEmpty() ? Shown(Paths::LastPart(FolderOf(record))) : record.Name;
 }
 
 QString ExportSources::Shown(const QString& name) {

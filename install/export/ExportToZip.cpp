@@ -156,7 +156,7 @@ private:
     void AddShellMap(const ExportSource& source) {
         const QString& name = source.Record.Name;
         if (const QString refusal = FolderGateway::RefusalOfFolder(name); !refusal.isEmpty())
-            return Tell(name, ExportOutcome::Refused, refusal);
+            return Tell(ExportSources::NameOf(source.Record), ExportOutcome::Refused, refusal);
         const qint32 before = zip_.FileCount();
         Failure failure;
         ExportSource copied{.Record = source.Record, .Files = {}, .Folders = {}, .Other = {}};

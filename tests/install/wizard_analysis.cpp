@@ -310,7 +310,7 @@ TEST_F(AnalysisTest, ALongArchiveYields) {
     EXPECT_GT(host_.Yields, 0);
 }
 
-TEST_F(AnalysisTest, ThousandsOfNamesWithBackslashesAreSearchedInTime) {
+TEST_F(AnalysisTest, ThousandsOfNamesWithBackslashesAreAllFound) {
     std::vector<Part> parts;
     parts.reserve(4000);
     for (int number = 0; number < 4000; ++number)
