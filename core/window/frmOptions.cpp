@@ -22,6 +22,15 @@ using mTraduction::GetText;
 
 namespace {
 
+/// The same text in two lines of about one length.
+QString InTwoLines(QString text) {
+    const qsizetype middle = text.size() / 2;
+    const qsizetype before = text.lastIndexOf(u' ', middle);
+    const qsizetype behind = text.indexOf(u' ', middle);
+    const qsizetype blank = before < 0 || (behind >= 0 && behind - middle < middle - before) ? behind : before;
+    return blank < 0 ? text : text.replace(blank, 1, u'\n');
+}
+
 void SelectRow(QListView* list, int row) {
     list->setCurrentIndex(list->model()->index(row, 0));
 }
@@ -41,8 +50,7 @@ frmOptions::frmOptions(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     ConnectGeneral();
     ConnectGame();
     ConnectTabs();
-    constexpr QSize frame(16, 48); // about what title and borders take
-    resize(size().expandedTo(sizeHint()).boundedTo(screen()->availableSize() - frame));
+    FitScreen();
     ui_->Tab1->setFocus(Qt::TabFocusReason);
 }
 
@@ -72,6 +80,17 @@ void frmOptions::ShowTabs() {
         if (tab.Game >= 0)
             ui_->Tab1->setTabIcon(index, DrawnIcon::Named(u"game-%1"_s.arg(tab.Game)));
     }
+}
+
+// Four long names side by side take more than a small screen has.
+void frmOptions::FitScreen() {
+    constexpr QSize frame(16, 48); // about what title and borders take
+    const QSize room = screen()->availableSize() - frame;
+    if (sizeHint().width() > room.width()) {
+        for (int tab = 0; tab < ui_->Tab1->count(); ++tab)
+            ui_->Tab1->setTabText(tab, InTwoLines(ui_->Tab1->tabText(tab)));
+    }
+    resize(size().expandedTo(sizeHint()).boundedTo(room));
 }
 
 void frmOptions::ShowGeneral() {

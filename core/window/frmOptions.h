@@ -31,6 +31,7 @@ public:
 
 private:
     void ShowTabs();
+    void FitScreen();
     void ShowGeneral();
     void AddMnemonics();
     void NameLists();
