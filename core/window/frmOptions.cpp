@@ -5,10 +5,12 @@
 
 #include "core/mTraduction.h"
 #include "ui/look/DrawnIcon.h"
+#include "ui/look/Style.h"
 #include "ui/text/Localisation.h"
 #include "ui/text/Mnemonics.h"
 #include "ui_frmOptions.h"
 
+#include <QApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QShortcut>
@@ -51,10 +53,25 @@ frmOptions::frmOptions(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     ConnectGame();
     ConnectTabs();
     FitScreen();
-    ui_->Tab1->setFocus(Qt::TabFocusReason);
+    connect(qApp, &QApplication::focusChanged, this, &frmOptions::ShowFocus);
+    ShowFocus();
+    setAttribute(Qt::WA_KeyboardFocusChange); // so that the focus is seen from the start
+    ui_->Tab1->setFocus();
 }
 
 frmOptions::~frmOptions() = default;
+
+// Each list has a row selected: the one with the keyboard has it in the stronger colour.
+void frmOptions::ShowFocus() {
+    for (QListView* const list : {static_cast<QListView*>(ui_->lstOptions), ui_->lstMods, ui_->lstShellMaps}) {
+        QPalette palette = QApplication::palette(list);
+        if (!list->hasFocus()) {
+            palette.setColor(QPalette::Highlight, Style::Colour::SideMenuTop);
+            palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+        }
+        list->setPalette(palette);
+    }
+}
 
 // A list says nothing of itself: it is called as the control above it.
 void frmOptions::NameLists() {

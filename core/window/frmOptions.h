@@ -35,6 +35,7 @@ private:
     void ShowGeneral();
     void AddMnemonics();
     void NameLists();
+    void ShowFocus();
     void ConnectGeneral();
     void ConnectGame();
     void FollowRow(QListView* list, void (GamePage::*follow)(int));
