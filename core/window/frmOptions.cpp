@@ -59,7 +59,10 @@ frmOptions::frmOptions(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     ui_->Tab1->setFocus();
 }
 
-frmOptions::~frmOptions() = default;
+// The keyboard moves on while the window's parts go.
+frmOptions::~frmOptions() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 // Each list has a row selected: the one with the keyboard has it in the stronger colour.
 void frmOptions::ShowFocus() {
