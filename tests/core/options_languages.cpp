@@ -82,7 +82,7 @@ TEST_F(LanguageLists, FilesOfAnySizeAndShapeAreBorne) {
     const QStringList shown = Shown();
     EXPECT_TRUE(shown.contains(u"Begin.lng: Big \\ "_s));
     EXPECT_TRUE(shown.contains(u"Test.lng: Test \\ Nobody"_s));
-    EXPECT_FALSE(shown.join(u' ').contains(u"Zeros"_s));
+    EXPECT_EQ(shown.size(), 2) << "no other names itself at its beginning: " << shown.join(u' ').toStdString();
     EXPECT_LT(timer.elapsed(), 10'000);
 }
 
