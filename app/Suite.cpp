@@ -5,14 +5,17 @@
 
 #include "big/window/frmBigEditor.h"
 #include "core/window/frmAbout.h"
+#include "core/window/frmOptions.h"
 #include "core/window/frmToolsMenu.h"
 #include "csf/window/frmCSFEditor.h"
 #include "install/window/AddFilesWizard.h"
 #include "install/window/frmExportFiles1.h"
 #include "personal/window/frmPersonalFiles.h"
 #include "platform/Processes.h"
+#include "ui/window/ToolWindow.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QScreen>
 
 #include <algorithm>
@@ -128,8 +131,8 @@ void Suite::ShowExportFiles(QObject* owner) {
     frmExportFiles1(WidgetOf(owner)).exec();
 }
 
-void Suite::ShowOptions(QObject* /*owner*/) {
-    StayInMenu();
+void Suite::ShowOptions(QObject* owner) {
+    frmOptions(WidgetOf(owner)).exec();
 }
 
 void Suite::ShowAbout(QObject* owner) {
@@ -137,3 +140,12 @@ void Suite::ShowAbout(QObject* owner) {
 }
 
 void Suite::CheckForUpdates(bool /*automatic*/) {}
+
+// A question may close any of them.
+bool Suite::MayEndProgram() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::ranges::all_of(QList<QPointer<QWidget>>(windows.begin(), windows.end()), [](const auto& window) {
+        auto* const tool = qobject_cast<ToolWindow*>(window);
+        return tool == nullptr || !tool->isVisible() || tool->MayEnd();
+    });
+}

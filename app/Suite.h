@@ -21,4 +21,5 @@ public:
     void ShowAddFiles(QObject* owner, const QString& file) override;
     void ShowExportFiles(QObject* owner) override;
     void CheckForUpdates(bool automatic) override;
+    bool MayEndProgram() override;
 };

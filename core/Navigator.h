@@ -35,6 +35,10 @@ public:
 
     virtual void CheckForUpdates(bool automatic) = 0;
 
+    /// Asks each open tool about unsaved changes, before the program ends without closing them; false when one of them
+    /// has to stay.
+    virtual bool MayEndProgram() = 0;
+
     /// The one in use; asking for a missing one raises 91.
     static Navigator& Current();
     static void Use(Navigator* navigator);

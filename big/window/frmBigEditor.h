@@ -43,6 +43,8 @@ protected:
 private:
     bool MayClose() override { return editor_.MayClose(); }
 
+    bool MayEnd() override { return editor_.MayEnd(); }
+
     [[nodiscard]] bool MenuFollows() const override;
     void ShowWindow() override;
     void TreeChanged() override;

@@ -74,3 +74,8 @@ void ScriptedNavigator::ShowAbout(QObject* owner) {
 void ScriptedNavigator::CheckForUpdates(bool automatic) {
     Record(automatic ? u"CheckForUpdates automatic"_s : u"CheckForUpdates manual"_s);
 }
+
+bool ScriptedNavigator::MayEndProgram() {
+    Record(u"MayEndProgram"_s);
+    return ProgramMayEnd;
+}

@@ -16,6 +16,11 @@ class NoticeStrip;
 
 class ToolWindow : public QMainWindow {
     Q_OBJECT
+public:
+    /// The questions about what would be lost if the program ended now; false when the window has to stay. Nothing
+    /// ends with it.
+    virtual bool MayEnd() { return MayClose(); }
+
 protected:
     using QMainWindow::QMainWindow;
 

@@ -109,6 +109,15 @@ private Q_SLOTS:
         QVERIFY(navigator_->Calls.isEmpty());
     }
 
+    void beforeTheProgramEndsItIsAskedAndNothingCloses() {
+        QVERIFY(window_->MayEnd());
+        window_->Closes = false;
+        QVERIFY(!window_->MayEnd());
+        QCOMPARE(window_->Questions, 2);
+        QVERIFY(window_->isVisible());
+        QVERIFY(navigator_->Calls.isEmpty());
+    }
+
     void withoutAMenuBehindItTheWindowJustCloses() {
         window_->Menu = false;
         window_->close();
