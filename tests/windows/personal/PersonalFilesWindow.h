@@ -41,7 +41,7 @@ protected:
 
     /// Generals and Zero Hour are installed.
     void Begin(const QString& language = QStringLiteral("English")) {
-        BeginIn(Data(QStringLiteral("languages/") + language + QStringLiteral(".lng")));
+        BeginInLanguage(language);
         world_->WriteFile(QStringLiteral("program\\gdatas.cfg"), Data(QStringLiteral("gdatas.cfg")));
         world_->InstallGame(0);
         world_->InstallGame(1);
