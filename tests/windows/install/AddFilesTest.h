@@ -10,6 +10,7 @@
 #include "platform/Paths.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 #include "tools/demoworld/ZipBytes.h"
 

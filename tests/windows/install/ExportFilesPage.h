@@ -11,6 +11,7 @@
 #include "install/zip/ccZip.h"
 #include "platform/Files.h"
 #include "tests/windows/EditorTest.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 
 #include <QCheckBox>

@@ -245,18 +245,14 @@ private Q_SLOTS:
         QCOMPARE(wizard_->Page()->size(), QSize(600, 440));
     }
 
-    void textIsNeverCut_data() {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("English") << u"English"_s;
-        QTest::newRow("French") << u"French"_s;
-    }
+    void textIsNeverCut_data() { AddEachLanguage(); }
 
     void textIsNeverCut() {
         QFETCH(QString, language);
         Begin({0}, language);
         Install(PutBroken());
         QCoreApplication::processEvents();
-        QCOMPARE(CutText(), QString());
+        QVERIFY(AllTextsHaveRoom(*wizard_->Page()));
         QVERIFY(Outcome()->height() > 80);
     }
 

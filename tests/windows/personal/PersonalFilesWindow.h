@@ -15,6 +15,7 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 #include "tests/windows/EditorTest.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/list/RowListModel.h"
 #include "ui/list/RowListView.h"
