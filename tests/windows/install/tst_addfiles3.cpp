@@ -245,7 +245,9 @@ private Q_SLOTS:
         QCOMPARE(wizard_->Page()->size(), QSize(600, 440));
     }
 
-    void textIsNeverCut_data() { AddEachLanguage(); }
+    void textIsNeverCut_data() {
+        AddEachLanguage();
+    }
 
     void textIsNeverCut() {
         QFETCH(QString, language);

@@ -121,12 +121,12 @@ private Q_SLOTS:
         world_->Start();
         Open();
         const QString writing = mTraduction::GetText(u"CreatingFile"_s) + u" 'Bigger.big'\r\n"_s;
-        for (const QString& text : {writing + mTraduction::GetText(u"WritingHeader"_s),
-                                    writing + mTraduction::GetText(u"WritingFiles"_s),
-                                    mTraduction::GetText(u"ProgressLbl"_s)
-                                        .replace(u"%1"_s, u"Bigger.big"_s)
-                                        .replace(u"%2"_s, u"data\\ini\\object\\america.ini"_s)
-                                        .replace(u"%3"_s, u"C:\\Extracted"_s)}) {
+        for (const QString& text :
+             {writing + mTraduction::GetText(u"WritingHeader"_s), writing + mTraduction::GetText(u"WritingFiles"_s),
+              mTraduction::GetText(u"ProgressLbl"_s)
+                  .replace(u"%1"_s, u"Bigger.big"_s)
+                  .replace(u"%2"_s, u"data\\ini\\object\\america.ini"_s)
+                  .replace(u"%3"_s, u"C:\\Extracted"_s)}) {
             window_->SetText(text);
             QCoreApplication::processEvents();
             QVERIFY(AllTextsHaveRoom(*window_));
