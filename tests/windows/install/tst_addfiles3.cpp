@@ -281,9 +281,7 @@ private Q_SLOTS:
     }
 
     void textIsNeverCut_data() {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("English") << u"English"_s;
-        QTest::newRow("French") << u"French"_s;
+        AddEachLanguage();
     }
 
     void textIsNeverCut() {
@@ -291,7 +289,7 @@ private Q_SLOTS:
         Begin({0}, language);
         Install(PutBroken());
         QCoreApplication::processEvents();
-        QCOMPARE(CutText(), QString());
+        QVERIFY(AllTextsHaveRoom(*wizard_->Page()));
         QVERIFY(Outcome()->height() > 80);
     }
 

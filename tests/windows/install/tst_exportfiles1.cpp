@@ -65,7 +65,7 @@ private Q_SLOTS:
             QCOMPARE(Part<QLabel>(label)->text(), u"Brindock 2005 v"_s + mMain::VersionText());
     }
 
-    void everyChoiceAndButtonHasALetterOfItsOwn_data() { noTextIsCut_data(); }
+    void everyChoiceAndButtonHasALetterOfItsOwn_data() { AddEachLanguage(); }
 
     void everyChoiceAndButtonHasALetterOfItsOwn() {
         QFETCH(const QString, language);
@@ -83,25 +83,15 @@ private Q_SLOTS:
         }
     }
 
-    void noTextIsCut_data() {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("English") << u"English"_s;
-        QTest::newRow("French") << u"French"_s;
-    }
+    void textIsNeverCut_data() { AddEachLanguage(); }
 
-    void noTextIsCut() {
+    void textIsNeverCut() {
         QFETCH(const QString, language);
         End();
         Begin(language);
         Open();
         QCOMPARE(window_->size(), QSize(600, 440));
-        for (const QWidget* const control : window_->findChildren<QWidget*>())
-            if (control->isVisible() && (qobject_cast<const QLabel*>(control) != nullptr ||
-                                         qobject_cast<const QAbstractButton*>(control) != nullptr))
-                QVERIFY2(control->width() >= control->sizeHint().width() ||
-                             (qobject_cast<const QLabel*>(control) != nullptr &&
-                              qobject_cast<const QLabel*>(control)->wordWrap()),
-                         qPrintable(control->objectName()));
+        QVERIFY(AllTextsHaveRoom(*window_));
     }
 
     void aReadMeBelongsToAZipOnly() {
