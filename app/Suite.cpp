@@ -11,6 +11,8 @@
 #include "install/window/frmExportFiles1.h"
 #include "personal/window/frmPersonalFiles.h"
 #include "platform/Processes.h"
+#include "ui/window/ToolWindow.h"
+#include "update/mUpdater.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -136,4 +138,23 @@ void Suite::ShowAbout(QObject* owner) {
     frmAbout(WidgetOf(owner)).exec();
 }
 
-void Suite::CheckForUpdates(bool /*automatic*/) {}
+// The user's check waits in the event loop: were that inside the menu of a tool, the tool could not be closed meanwhile.
+void Suite::CheckForUpdates(bool automatic) {
+    if (automatic)
+        mUpdater::CheckForUpdates(true);
+    else
+        QMetaObject::invokeMethod(qApp, [] { mUpdater::CheckForUpdates(false); }, Qt::QueuedConnection);
+}
+
+void Suite::EnableToolsMenu(bool enabled) {
+    if (auto* const menu = Shown<frmToolsMenu>(); menu != nullptr && menu->isEnabled() != enabled)
+        menu->setEnabled(enabled);
+}
+
+bool Suite::MayEndProgram() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::ranges::all_of(windows, [](QWidget* window) {
+        auto* const tool = qobject_cast<ToolWindow*>(window);
+        return tool == nullptr || !tool->isVisible() || tool->MayEnd();
+    });
+}

@@ -33,7 +33,14 @@ public:
     /// and back at once.
     virtual void ShowAddFiles(QObject* owner, const QString& file) = 0;
 
+    /// An automatic check comes back when it is over or has found something, one by the user at once.
     virtual void CheckForUpdates(bool automatic) = 0;
+
+    /// The tools menu takes clicks and keys, or no longer; nothing where it is not visible.
+    virtual void EnableToolsMenu(bool enabled) = 0;
+
+    /// Asks each open tool about what would be lost if the program ended; false when it has to stay.
+    virtual bool MayEndProgram() = 0;
 
     /// The one in use; asking for a missing one raises 91.
     static Navigator& Current();

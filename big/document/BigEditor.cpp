@@ -111,11 +111,15 @@ bool BigEditor::MayLeaveArchive() {
     return copies_.TakeInChanged() && saves_.GoOnWithoutChanges();
 }
 
-bool BigEditor::MayClose() {
+bool BigEditor::MayEnd() {
     if (EditorPanes::Locked())
         return false;
     const EditorPanes::Command command(panes_);
-    if (!MayLeaveArchive())
+    return MayLeaveArchive();
+}
+
+bool BigEditor::MayClose() {
+    if (!MayEnd())
         return false;
     copies_.Forget();
     return true;

@@ -99,6 +99,8 @@ public:
     /// The questions about copies that other programs have changed so far, and about unsaved changes; false when the
     /// window has to stay. True ends every wait for another program.
     bool MayClose();
+    /// The same questions where the document stays all the same.
+    bool MayEnd();
 
     /// A click on a node of the tree.
     void ClickNode(int node);

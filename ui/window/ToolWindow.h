@@ -16,8 +16,13 @@ class NoticeStrip;
 
 class ToolWindow : public QMainWindow {
     Q_OBJECT
-protected:
+public:
     using QMainWindow::QMainWindow;
+
+    /// The questions about what would be lost if the program ended; false when it has to stay. The window stays.
+    virtual bool MayEnd() { return MayClose(); }
+
+protected:
 
     /// The entries that every tool has.
     struct CommonEntries {
