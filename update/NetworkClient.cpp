@@ -5,15 +5,23 @@
 
 #include "core/Host.h"
 
+#include <QNetworkAccessManager>
 #include <QNetworkProxyFactory>
+#include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QPointer>
 #include <QUrl>
+
+#include <algorithm>
+#include <array>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int mostRedirects = 5;
+constexpr std::array<int, 5> redirects{301, 302, 303, 307, 308};
 /// What may have come and not been taken; the system's own buffers come on top.
 constexpr qint64 readAhead = 1 << 20;
 constexpr int firstError = 400;
@@ -26,11 +34,10 @@ public:
 QNetworkRequest RequestFor(const QUrl& address) {
     QNetworkRequest request(address);
     request.setRawHeader("Accept-Encoding", "identity"); // the length is that of the bytes that are counted
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false); // slower here, with its small windows
-    request.setMaximumRedirectsAllowed(mostRedirects);
     return request;
 }
 
@@ -42,109 +49,161 @@ int StatusOf(const QNetworkReply& reply) {
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-bool IsRedirect(const QNetworkReply& reply) {
-    return reply.attribute(QNetworkRequest::RedirectionTargetAttribute).isValid();
+/// Where an answer leads to; nothing when it is the answer.
+std::optional<QUrl> RedirectOf(const QNetworkReply& reply) {
+    const QUrl target = reply.header(QNetworkRequest::LocationHeader).toUrl();
+    if (std::ranges::find(redirects, StatusOf(reply)) == redirects.end() || target.isEmpty())
+        return std::nullopt;
+    return reply.url().resolved(target);
 }
 
-} // namespace
+class WebClient : public HttpClient {
+public:
+    WebClient();
+    ~WebClient() override;
 
-NetworkClient::NetworkClient() {
+    void Execute(const QString& verb) override;
+    [[nodiscard]] bool StillExecuting() const override;
+    void Cancel() override;
+    [[nodiscard]] QString GetHeader(const QString& name) const override;
+    QByteArray GetChunk(qsizetype size) override;
+
+private:
+    void Request(const QUrl& address);
+    void HeadCame();
+    void Ended();
+    void Fail();
+    void TakeWhatCame();
+    [[nodiscard]] bool IsAllTaken() const;
+    [[nodiscard]] bool IsShort() const;
+
+    QNetworkAccessManager manager_;
+    QObject watch_;                 ///< what listens to the answer
+    QPointer<QNetworkReply> reply_; ///< none before the first request, and behind one that failed or was cancelled
+    int redirects_ = 0;
+    bool headCame_ = false;
+    bool ended_ = false;
+    QByteArray came_; ///< what is there to be taken, from taken_ on
+    qsizetype taken_ = 0;
+    qint64 received_ = 0; ///< bytes of the body
+};
+
+WebClient::WebClient() {
     manager_.setProxyFactory(new SystemProxies); // the manager's own then
 }
 
-NetworkClient::~NetworkClient() {
-    Drop();
+WebClient::~WebClient() {
+    WebClient::Cancel();
 }
 
-void NetworkClient::Execute(const QString& /*verb*/) {
+void WebClient::Execute(const QString& /*verb*/) {
+    redirects_ = 0;
+    Request(QUrl(URL, QUrl::StrictMode));
+}
+
+void WebClient::Request(const QUrl& address) {
     Cancel();
     headCame_ = false;
     ended_ = false;
     received_ = 0;
-    const QUrl address(URL, QUrl::StrictMode);
     if (!IsWeb(address))
         return Fail();
     reply_ = manager_.get(RequestFor(address));
     reply_->setReadBufferSize(readAhead);
-    QObject::connect(reply_, &QNetworkReply::metaDataChanged, reply_, [this] { HeadCame(); });
-    QObject::connect(reply_, &QNetworkReply::finished, reply_, [this] { Ended(); });
+    QObject::connect(reply_, &QNetworkReply::metaDataChanged, &watch_, [this] { HeadCame(); });
+    QObject::connect(reply_, &QNetworkReply::finished, &watch_, [this] { Ended(); });
 }
 
-bool NetworkClient::StillExecuting() const {
+bool WebClient::StillExecuting() const {
     return reply_ != nullptr && !headCame_;
 }
 
-void NetworkClient::HeadCame() {
-    if (IsRedirect(*reply_))
+void WebClient::HeadCame() {
+    const std::optional<QUrl> target = RedirectOf(*reply_);
+    if (!target) {
+        headCame_ = true;
+        if (StatusOf(*reply_) >= firstError)
+            Fail();
         return;
-    headCame_ = true;
-    if (StatusOf(*reply_) >= firstError)
+    }
+    const bool leadsDown = reply_->url().scheme() == u"https"_s && target->scheme() != u"https"_s;
+    if (leadsDown || ++redirects_ > mostRedirects)
         Fail();
+    else
+        Request(*target);
 }
 
-void NetworkClient::Ended() {
+void WebClient::Ended() {
     ended_ = true;
     if (reply_->error() != QNetworkReply::NoError)
         Fail();
     headCame_ = true;
 }
 
-void NetworkClient::Fail() {
-    Drop();
+void WebClient::Fail() {
+    Cancel();
     if (StateChanged)
         StateChanged(icError);
 }
 
-void NetworkClient::Cancel() {
-    Drop();
-}
-
-void NetworkClient::Drop() {
+void WebClient::Cancel() {
     came_.clear();
     taken_ = 0;
     if (reply_ == nullptr)
         return;
     QNetworkReply* const reply = reply_;
     reply_ = nullptr;
-    reply->disconnect();
-    reply->abort();
-    reply->deleteLater();
+    reply->disconnect(&watch_);
+    // Not in a signal of its own; and a deletion would wait for the event loop that this one runs in.
+    QMetaObject::invokeMethod(
+        reply,
+        [reply] {
+            reply->abort();
+            reply->deleteLater();
+        },
+        Qt::QueuedConnection);
 }
 
-QString NetworkClient::GetHeader(const QString& name) const {
+QString WebClient::GetHeader(const QString& name) const {
     return reply_ == nullptr ? QString() : QString::fromLatin1(reply_->rawHeader(name.toLatin1())).trimmed();
 }
 
-QByteArray NetworkClient::GetChunk(qsizetype size) {
-    const auto there = [&] { return came_.size() - taken_; };
-    while (reply_ != nullptr && there() < size) {
-        TakeWhatCame(size);
-        if (there() >= size || reply_ == nullptr)
-            break;
-        if (ended_ && reply_->bytesAvailable() == 0)
-            break;
-        const bool stays = Host::Current().WaitUntil(
-            [this] { return reply_ == nullptr || ended_ || reply_->bytesAvailable() > 0; });
-        if (!stays)
+QByteArray WebClient::GetChunk(qsizetype size) {
+    while (reply_ != nullptr && came_.size() - taken_ < size && !IsAllTaken()) {
+        if (reply_->bytesAvailable() > 0)
+            TakeWhatCame();
+        else if (!Host::Current().WaitUntil(
+                     [this] { return reply_ == nullptr || ended_ || reply_->bytesAvailable() > 0; }))
             Fail(); // the program ends
     }
-    const QByteArray chunk = came_.mid(taken_, size);
+    if (reply_ != nullptr && IsAllTaken() && IsShort())
+        Fail();
+    QByteArray chunk = came_.mid(taken_, size);
     taken_ += chunk.size();
     return chunk;
 }
 
-void NetworkClient::TakeWhatCame(qsizetype /*wanted*/) {
+void WebClient::TakeWhatCame() {
     came_.remove(0, taken_);
     taken_ = 0;
     const QByteArray more = reply_->read(readAhead);
     received_ += more.size();
     came_ += more;
-    if (ended_ && reply_->bytesAvailable() == 0 && IsShort())
-        Fail();
 }
 
-bool NetworkClient::IsShort() const {
+/// Nothing more comes behind what is there.
+bool WebClient::IsAllTaken() const {
+    return ended_ && reply_->bytesAvailable() == 0;
+}
+
+bool WebClient::IsShort() const {
     bool told = false;
     const qint64 length = GetHeader(u"Content-length"_s).toLongLong(&told);
     return told && received_ < length;
+}
+
+} // namespace
+
+std::unique_ptr<HttpClient> NetworkClient::Make() {
+    return std::make_unique<WebClient>();
 }

@@ -6,36 +6,13 @@
 
 #include "update/HttpClient.h"
 
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QPointer>
+#include <memory>
 
-/// What a server sends faster than it is taken waits at the server. Redirects are followed at most five times, and never
-/// from HTTPS down to HTTP. An answer of 4xx or 5xx has failed, and so has one that ends before its Content-length.
-class NetworkClient : public HttpClient {
-public:
-    NetworkClient();
-    ~NetworkClient() override;
+namespace NetworkClient {
 
-    void Execute(const QString& verb) override;
-    [[nodiscard]] bool StillExecuting() const override;
-    void Cancel() override;
-    [[nodiscard]] QString GetHeader(const QString& name) const override;
-    QByteArray GetChunk(qsizetype size) override;
+/// A client for the one thread. What a server sends faster than it is taken waits at the server. Redirects are followed
+/// at most five times, and never from HTTPS down to HTTP. An answer of 4xx or 5xx has failed, and so has one that ends
+/// before its Content-length. Other addresses than those of the web have failed at once.
+std::unique_ptr<HttpClient> Make();
 
-private:
-    void HeadCame();
-    void Ended();
-    void Fail();
-    void Drop();
-    void TakeWhatCame(qsizetype wanted);
-    [[nodiscard]] bool IsShort() const;
-
-    QNetworkAccessManager manager_;
-    QPointer<QNetworkReply> reply_; ///< none when the transfer is over and all of it was taken, failed or cancelled
-    bool headCame_ = false;
-    bool ended_ = false;
-    QByteArray came_; ///< what is there to be taken, from taken_ on
-    qsizetype taken_ = 0;
-    qint64 received_ = 0; ///< bytes of the body
-};
+} // namespace NetworkClient
