@@ -74,7 +74,7 @@ private Q_SLOTS:
         QCOMPARE(Panel(), u"picSearching"_s);
     }
 
-    void eachControlHasItsKeyAndItsFrenchText_data() {
+    void eachControlHasItsKey_data() {
         QTest::addColumn<QByteArray>("control");
         QTest::addColumn<QString>("key");
         const auto row = [](const char* control, const char* key) {
@@ -97,7 +97,7 @@ private Q_SLOTS:
         row("cmdCancel", "Cancel");
     }
 
-    void eachControlHasItsKeyAndItsFrenchText() {
+    void eachControlHasItsKey() {
         QFETCH(QByteArray, control);
         QFETCH(QString, key);
         Make();
