@@ -15,6 +15,9 @@
 #include "ui/look/Style.h"
 #include "ui/text/ControlTexts.h"
 #include "ui/window/WindowHost.h"
+#include "update/NetworkClient.h"
+#include "update/mUpdater.h"
+#include "update/window/frmUpdate.h"
 
 #include <QTimer>
 
@@ -22,6 +25,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     Suite suite;
     Navigator::Use(&suite);
     GameFiles::ActivateShellMap = mShellMaps::ActivateShellMap;
+    mUpdater::LoadWindow = [] { frmUpdate::LoadOnce(NetworkClient::Make); };
     // A game is launched without a window, so also where there is no display.
     const mMain::Dispatched dispatched = mMain::Prepare(Processes::CommandLine(argc, argv));
     if (dispatched.What == mMain::Dispatched::Action::LaunchGame)

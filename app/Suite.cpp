@@ -13,6 +13,7 @@
 #include "personal/window/frmPersonalFiles.h"
 #include "platform/Processes.h"
 #include "ui/window/ToolWindow.h"
+#include "update/mUpdater.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -139,7 +140,18 @@ void Suite::ShowAbout(QObject* owner) {
     frmAbout(WidgetOf(owner)).exec();
 }
 
-void Suite::CheckForUpdates(bool /*automatic*/) {}
+// The user's check waits in the event loop: were that inside the menu of a tool, the tool could not be closed meanwhile.
+void Suite::CheckForUpdates(bool automatic) {
+    if (automatic)
+        mUpdater::CheckForUpdates(true);
+    else
+        QMetaObject::invokeMethod(qApp, [] { mUpdater::CheckForUpdates(false); }, Qt::QueuedConnection);
+}
+
+void Suite::EnableToolsMenu(bool enabled) {
+    if (auto* const menu = Shown<frmToolsMenu>(); menu != nullptr && menu->isEnabled() != enabled)
+        menu->setEnabled(enabled);
+}
 
 // A question may close any of them.
 bool Suite::MayEndProgram() {

@@ -21,5 +21,6 @@ public:
     void ShowAddFiles(QObject* owner, const QString& file) override;
     void ShowExportFiles(QObject* owner) override;
     void CheckForUpdates(bool automatic) override;
+    void EnableToolsMenu(bool enabled) override;
     bool MayEndProgram() override;
 };

@@ -33,7 +33,11 @@ public:
     /// and back at once.
     virtual void ShowAddFiles(QObject* owner, const QString& file) = 0;
 
+    /// An automatic check comes back when it is over or has found something, one by the user at once.
     virtual void CheckForUpdates(bool automatic) = 0;
+
+    /// The tools menu takes clicks and keys, or no longer; nothing where it is not visible.
+    virtual void EnableToolsMenu(bool enabled) = 0;
 
     /// Asks each open tool about unsaved changes, before the program ends without closing them; false when one of them
     /// has to stay.

@@ -65,6 +65,9 @@ void DeleteUnprotected(const QString& path);
 /// Deletes one file, a write-protected one too. Raises 53 when missing, 70 when refused.
 void DeleteForced(const QString& path);
 
+/// Whoever may read the file may start it as a program, where the system has such a mark. Raises 53, 70.
+void MakeExecutable(const QString& path);
+
 /// Copies a file over the file at the target, or to a new one, in one step (platform/WriteAside.h); does not wait for
 /// the disk. Raises 53, 57, 61, 70, 75, 76.
 void Copy(const QString& from, const QString& to);

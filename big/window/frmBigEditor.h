@@ -37,13 +37,14 @@ public:
     /// that is done; a file that doesn't exist is ignored, a refused one beeps.
     void ExtractBigFile(const QString& path);
 
+    /// What other programs have open stays known: the window may live on.
+    bool MayEnd() override { return editor_.MayEnd(); }
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     bool MayClose() override { return editor_.MayClose(); }
-
-    bool MayEnd() override { return editor_.MayEnd(); }
 
     [[nodiscard]] bool MenuFollows() const override;
     void ShowWindow() override;

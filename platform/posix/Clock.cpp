@@ -8,13 +8,25 @@
 
 #include <ctime>
 
-QString Clock::Now() {
-    const QDateTime now = QDateTime::currentDateTime();
+namespace {
+
+QString Formatted(QTime time) {
     const QLocale locale = QLocale::system();
     // Only the long form of a time has its seconds, but it names the zone too.
-    const QString timeFormat = locale.timeFormat(QLocale::LongFormat).remove(u't');
-    const QString date = locale.toString(now.date(), QLocale::ShortFormat);
-    return (date + u' ' + locale.toString(now.time(), timeFormat)).simplified();
+    return locale.toString(time, locale.timeFormat(QLocale::LongFormat).remove(u't')).simplified();
+}
+
+} // namespace
+
+QString Clock::Now() {
+    const QDateTime now = QDateTime::currentDateTime();
+    const QString date = QLocale::system().toString(now.date(), QLocale::ShortFormat);
+    return (date + u' ' + Formatted(now.time())).simplified();
+}
+
+QString Clock::TimeOfDay(double seconds) {
+    constexpr int milliseconds = 1000;
+    return Formatted(QTime::fromMSecsSinceStartOfDay(SecondsOfADay(seconds) * milliseconds));
 }
 
 QDate Clock::LocalDay(const QDateTime& time) {

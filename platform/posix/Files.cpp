@@ -177,6 +177,19 @@ void DeleteForced(const QString& path) {
         native.Raise(errno);
 }
 
+void MakeExecutable(const QString& path) {
+    const Native native(path);
+
+    struct stat status {};
+
+    if (::stat(native.Path(), &status) != 0)
+        native.Raise(errno);
+    constexpr mode_t readers = S_IRUSR | S_IRGRP | S_IROTH;
+    constexpr int fromReadToExecute = 2;
+    if (::chmod(native.Path(), status.st_mode | S_IXUSR | (status.st_mode & readers) >> fromReadToExecute) != 0)
+        native.Raise(errno);
+}
+
 void Rename(const QString& from, const QString& to) {
     const Native source(from);
     const Native target(to);

@@ -32,6 +32,16 @@ QString Clock::Now() {
     return (Formatted(&::GetDateFormatW, now) + u' ' + Formatted(&::GetTimeFormatW, now)).simplified();
 }
 
+QString Clock::TimeOfDay(double seconds) {
+    constexpr int sixty = 60;
+    const int whole = SecondsOfADay(seconds);
+    SYSTEMTIME time = LocalTime();
+    time.wHour = static_cast<WORD>(whole / sixty / sixty);
+    time.wMinute = static_cast<WORD>(whole / sixty % sixty);
+    time.wSecond = static_cast<WORD>(whole % sixty);
+    return Formatted(&::GetTimeFormatW, time).simplified();
+}
+
 QDate Clock::LocalDay(const QDateTime& time) {
     return time.toLocalTime().date();
 }

@@ -170,6 +170,11 @@ void DeleteForced(const QString& path) {
     RaiseLastError(error == ERROR_PATH_NOT_FOUND ? ERROR_FILE_NOT_FOUND : error, path);
 }
 
+// What may be started is told by the name alone.
+void MakeExecutable(const QString& path) {
+    FileLength(path);
+}
+
 void Rename(const QString& from, const QString& to) {
     // Where only the case changes, some systems take the new name for the old one: it goes by way of a third.
     const QString step = SameFile(from, to) ? Paths::Folder(from) + PrivateName() : from;

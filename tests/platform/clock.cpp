@@ -38,3 +38,12 @@ TEST(Clock, SecondsOfDayCountFromLocalMidnightWithAFraction) {
     // At midnight the later of the readings is the smaller one.
     EXPECT_TRUE(after < before || (now >= before - 0.1 && now <= after + 0.1)) << before << ' ' << now << ' ' << after;
 }
+
+TEST(Clock, ASpanIsShownAsTheTimeOfDayOfItsMagnitude) {
+    const QString fiveSeconds = Clock::TimeOfDay(5);
+    EXPECT_TRUE(fiveSeconds.contains(u":00:05"_s)) << fiveSeconds.toStdString();
+    EXPECT_EQ(Clock::TimeOfDay(-5), fiveSeconds);
+    EXPECT_EQ(Clock::TimeOfDay(86405), fiveSeconds);
+    EXPECT_TRUE(Clock::TimeOfDay(2 * 3600 + 3 * 60 + 4).contains(u"2:03:04"_s));
+    EXPECT_EQ(Clock::TimeOfDay(86400), Clock::TimeOfDay(0));
+}

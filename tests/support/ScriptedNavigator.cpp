@@ -71,11 +71,15 @@ void ScriptedNavigator::ShowAbout(QObject* owner) {
     RecordModal(u"ShowAbout"_s, owner);
 }
 
-void ScriptedNavigator::CheckForUpdates(bool automatic) {
-    Record(automatic ? u"CheckForUpdates automatic"_s : u"CheckForUpdates manual"_s);
+void ScriptedNavigator::EnableToolsMenu(bool enabled) {
+    ToolsMenuEnabled = enabled;
 }
 
 bool ScriptedNavigator::MayEndProgram() {
     Record(u"MayEndProgram"_s);
     return ProgramMayEnd;
+}
+
+void ScriptedNavigator::CheckForUpdates(bool automatic) {
+    Record(automatic ? u"CheckForUpdates automatic"_s : u"CheckForUpdates manual"_s);
 }

@@ -18,6 +18,7 @@ public:
     QStringList Calls;                          ///< the routine's name, then a blank and its argument where it has one
     QObject* Owner = nullptr;                   ///< of the last modal window
     bool WindowsComeUp = true;                  ///< what the three tools answer
+    bool ToolsMenuEnabled = true;               ///< as it was told last
     bool ProgramMayEnd = true;                  ///< what the open tools answer
     std::function<void(const QString&)> OnCall; ///< runs inside each call with what is recorded of it
 
@@ -33,6 +34,7 @@ public:
     void ShowAddFiles(QObject* owner, const QString& file) override;
     void ShowExportFiles(QObject* owner) override;
     void CheckForUpdates(bool automatic) override;
+    void EnableToolsMenu(bool enabled) override;
     bool MayEndProgram() override;
 
 private:

@@ -1,33 +1,28 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// A small animation that runs while something is being done: sheets that fly from one folder into another, or the
-/// moving picture of a file.
+/// A small animation that runs while something is being done: the moving picture of a file, in a loop.
 #pragma once
 
+#include "ui/look/FrameStrip.h"
+
 #include <QWidget>
-
-#include <memory>
-
-class QMovie;
 
 class BusyAnimation : public QWidget {
     Q_OBJECT
 public:
-    explicit BusyAnimation(QWidget* parent = nullptr);
-    ~BusyAnimation() override;
+    using QWidget::QWidget;
 
-    /// Plays a moving picture instead of the drawing; a file that is missing or no moving picture changes nothing.
-    /// `path` is an inside path.
+    /// `path` is an inside path; with a file that is missing or no moving picture the place stays empty.
     void Load(const QString& path);
 
-    [[nodiscard]] bool PlaysFile() const { return movie_ != nullptr; }
+    [[nodiscard]] bool PlaysFile() const { return strip_.has_value(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    std::unique_ptr<QMovie> movie_;
-    int step_ = 0;
+    std::optional<FrameStrip> strip_;
+    int frame_ = 0;
 };
