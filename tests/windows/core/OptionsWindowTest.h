@@ -7,6 +7,7 @@
 #include "core/Settings.h"
 #include "core/mMain.h"
 #include "core/window/frmOptions.h"
+#include "platform/Paths.h"
 #include "tests/windows/EditorTest.h"
 #include "tests/windows/WindowTests.h"
 
@@ -34,6 +35,8 @@ protected:
         for (GameIndex game = 0; game < GameCount; ++game)
             world_->InstallGame(game);
         world_->Start();
+        // A restart that a test does not want must not start the tests anew.
+        world_->WriteFile(u"program\\"_s + Paths::LastPart(Paths::Executable()), "no program");
     }
 
     void Open() {
