@@ -9,12 +9,15 @@
 #include "core/options/GamePage.h"
 #include "platform/File.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "tests/support/Printing.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/ScriptedNavigator.h"
 #include "tests/support/World.h"
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 class OptionsTest : public testing::Test {
 protected:
@@ -26,6 +29,8 @@ protected:
                            "ReplacesOptions=options %1\r\nReplacesMod=mod %1\r\nReplacesShellMap=%1 to %2\r\n"
                            "ShellMapNone=none\r\nShellMapRandom=random\r\n");
         world_.Start();
+        // A restart that a test does not want must not start the tests anew.
+        world_.WriteFile(u"program\\"_s + Paths::LastPart(Paths::Executable()), "no program");
     }
 
     static void Write(GameIndex game, const QString& file, const QByteArray& bytes = "x") {
@@ -37,8 +42,7 @@ protected:
     }
 
     static void MakeShellMap(GameIndex game, const QString& digits, const QByteArray& name = "Map") {
-        Write(game, QStringLiteral("Maps\\QvShellMap") + digits + QStringLiteral("\\QvInfos.ini"),
-              "[Infos]\r\nName=" + name + "\r\n");
+        Write(game, u"Maps\\QvShellMap"_s + digits + u"\\QvInfos.ini"_s, "[Infos]\r\nName=" + name + "\r\n");
     }
 
     static QStringList CheckedOptions(const GamePage& page) {
