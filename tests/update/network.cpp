@@ -4,8 +4,8 @@
 // The client against a real server, whatever that does.
 
 #include "tests/support/Printing.h"
-#include "tests/support/ScriptedHost.h"
 #include "tests/update/HttpServer.h"
+#include "tests/update/WaitingHost.h"
 #include "update/NetworkClient.h"
 
 #include <QCoreApplication>
@@ -17,14 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Waits as the program does.
-class WaitingHost : public ScriptedHost {
-public:
-    bool WaitUntil(const std::function<bool()>& condition) override { return Host::WaitUntil(condition); }
-
-    void Yield() override { QCoreApplication::processEvents(); }
-};
 
 QByteArray Bytes(qsizetype size) {
     QByteArray bytes(size, 'x');
@@ -356,4 +348,6 @@ TEST_F(NetworkTest, AnEventLoopThatIsLeftIsAFailure) {
     QTimer::singleShot(20, [] { QCoreApplication::exit(); });
     client_->GetChunk(1024);
     EXPECT_TRUE(Failed()) << "what is not whole must not be started";
+    QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+    QCoreApplication::exec(); // the loops of later tests are not to be left
 }
