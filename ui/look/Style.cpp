@@ -4,6 +4,8 @@
 #include "ui/look/Style.h"
 
 #include "ui/look/Picture.h"
+#include "ui/skin/Glyph.h"
+#include "ui/skin/SkinPainter.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -20,23 +22,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Only what the palette can't say: borders, hover and focus of the controls that take part in the theme. Exact class
-// names (with a dot) keep controls that draw themselves out of it.
+// Only what neither the palette can say nor the skin draws.
 constexpr auto sheet = R"(
-.QPushButton {
-    min-width: 64px; padding: 4px 12px; color: black;
-    border: 1px solid #003273; border-radius: 3px;
-    background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #f7f7f7, stop:1 #efebe7);
-}
-.QPushButton:focus { border: 2px solid #6b82ef; padding: 3px 11px; }
-.QPushButton:hover { border: 2px solid #ffb231; padding: 3px 11px; }
-.QPushButton:pressed { background: #e0dcd6; }
-.QPushButton:disabled { color: #a5a294; border: 1px solid #cec7bd; background: #f7f7ef; }
 .QGroupBox { border: 1px solid #b9cdef; border-radius: 3px; margin-top: 8px; background: transparent; }
 .QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 4px; color: #003273; background: #f7f7f7; }
 QToolTip { color: black; background: #ffffe7; border: 1px solid #003273; }
-QProgressBar { border: 1px solid #003273; border-radius: 3px; background: white; text-align: center; }
-QProgressBar::chunk { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #ffd88c, stop:1 #f28e00); }
 )"_L1;
 
 QFont FontOf(const QStringList& families, qreal points) {
@@ -46,9 +36,10 @@ QFont FontOf(const QStringList& families, qreal points) {
     return font;
 }
 
-/// The classes that systems have faces of their own for, which go before the application's.
-constexpr std::array classesWithFaces{"QMenu",      "QMenuBar",          "QMessageBox", "QTipLabel",
-                                      "QStatusBar", "QAbstractItemView", "QHeaderView", "QToolButton"};
+/// The classes that systems have faces or colours of their own for, which go before the application's.
+constexpr std::array classesWithFaces{
+    "QMenu",       "QMenuBar",        "QMessageBox", "QTipLabel", "QStatusBar",   "QAbstractItemView", "QHeaderView",
+    "QToolButton", "QAbstractButton", "QPushButton", "QCheckBox", "QRadioButton", "QProgressBar"};
 
 QPalette FamilyPalette() {
     using namespace Style;
@@ -70,10 +61,64 @@ QPalette FamilyPalette() {
     return palette;
 }
 
-// Message boxes carry the family's own signs, and buttons no pictures.
+Skin::ButtonState StateOf(const QStyleOption& option) {
+    return {.Enabled = option.state.testFlag(QStyle::State_Enabled),
+            .Hover = option.state.testFlag(QStyle::State_MouseOver),
+            .Focus = option.state.testFlag(QStyle::State_HasFocus),
+            .Pressed = option.state.testFlag(QStyle::State_Sunken)};
+}
+
+void PaintIndicator(QPainter& painter, const QStyleOption& option, Skin::Mark mark) {
+    Skin::Ticked ticked = Skin::Ticked::No;
+    if (option.state.testFlag(QStyle::State_NoChange))
+        ticked = Skin::Ticked::Partly;
+    else if (option.state.testFlag(QStyle::State_On))
+        ticked = Skin::Ticked::Yes;
+    const QPoint place(option.rect.x(), option.rect.y() + Skin::GlyphTop(option.rect.height()));
+    Skin::PaintGlyph(painter, place, mark, StateOf(option), ticked);
+}
+
+// Message boxes carry the family's own signs, buttons no pictures, and what the toolkit makes by itself for its dialogs
+// and lists looks as the family's own controls do.
 class FamilyStyle : public QProxyStyle {
 public:
     FamilyStyle() : QProxyStyle(u"Fusion"_s) {}
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* const bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
+        if (element == CE_PushButton) {
+            drawControl(CE_PushButtonBevel, option, painter, widget);
+            drawControl(CE_PushButtonLabel, option, painter, widget);
+        } else if (element == CE_PushButtonBevel) {
+            Skin::PaintFace(*painter, option->rect, Skin::CommandButtonLook(StateOf(*option)));
+        } else if (element == CE_ProgressBar && bar != nullptr) {
+            Skin::PaintProgress(*painter, bar->rect, bar->progress);
+        } else {
+            QProxyStyle::drawControl(element, option, painter, widget);
+        }
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override {
+        return type == CT_PushButton ? Skin::ButtonSize(contents)
+                                     : QProxyStyle::sizeFromContents(type, option, contents, widget);
+    }
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        switch (metric) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight:
+            return Skin::GlyphSize;
+        case PM_CheckBoxLabelSpacing:
+        case PM_RadioButtonLabelSpacing:
+            return Skin::GlyphGap;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
 
     [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                                      const QWidget* widget) const override {
@@ -96,22 +141,31 @@ public:
         return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
     }
 
-    // The frame of a list or a text box, flush with its outer edge: on a screen of 125 or 150 % what the box holds
-    // covers a part of the line that the frame was given, and two of its sides were not seen.
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
         const qreal density = painter->deviceTransform().m11();
-        if (element != PE_Frame || density == std::floor(density) ||
-            qobject_cast<const QAbstractScrollArea*>(widget) == nullptr) {
+        if (element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck)
+            PaintIndicator(*painter, *option, Skin::Mark::Tick);
+        else if (element == PE_IndicatorRadioButton)
+            PaintIndicator(*painter, *option, Skin::Mark::Dot);
+        else if (element == PE_Frame && density != std::floor(density) &&
+                 qobject_cast<const QAbstractScrollArea*>(widget) != nullptr)
+            PaintFlushFrame(*option, *painter);
+        else
             QProxyStyle::drawPrimitive(element, option, painter, widget);
-            return;
-        }
-        const QRectF outside = option->rect;
+    }
+
+private:
+    // The frame of a list or a text box, flush with its outer edge: on a screen of 125 or 150 % what the box holds
+    // covers a part of the line that the frame was given, and two of its sides were not seen.
+    static void PaintFlushFrame(const QStyleOption& option, QPainter& painter) {
+        const qreal density = painter.deviceTransform().m11();
+        const QRectF outside = option.rect;
         const qreal line = std::floor(density) / density;
         QPainterPath frame;
         frame.addRect(outside);
         frame.addRect(outside.adjusted(line, line, -line, -line));
-        painter->fillPath(frame, option->palette.window().color().darker(140));
+        painter.fillPath(frame, option.palette.window().color().darker(140));
     }
 };
 
@@ -134,10 +188,13 @@ QFont Style::LinkFont(bool underlined) {
 
 void Style::Apply(QApplication& application) {
     QApplication::setStyle(new FamilyStyle);
-    QApplication::setPalette(FamilyPalette());
+    const QPalette palette = FamilyPalette();
+    QApplication::setPalette(palette);
     application.setStyleSheet(sheet);
     const QFont font = TextFont(); // after the style sheet, which brings the system's back
     QApplication::setFont(font);
-    for (const char* name : classesWithFaces)
+    for (const char* name : classesWithFaces) {
         QApplication::setFont(font, name);
+        QApplication::setPalette(palette, name);
+    }
 }

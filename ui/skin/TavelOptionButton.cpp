@@ -3,9 +3,14 @@
 
 #include "ui/skin/TavelOptionButton.h"
 
-// The toolkit's own groups end at the parent, and leave only one of them in the order of the Tab key.
+#include <QButtonGroup>
+
+// The toolkit's own groups end at the parent, and leave only one of their buttons in the order of the Tab key. In a
+// group of its own that excludes nobody, the button is out of them, and still what screen readers take for an option.
 TavelOptionButton::TavelOptionButton(QWidget* parent) : TickControl(Skin::Mark::Dot, parent) {
-    setAutoExclusive(false);
+    auto* const alone = new QButtonGroup(this);
+    alone->setExclusive(false);
+    alone->addButton(this);
 }
 
 void TavelOptionButton::SetValue(int value) {

@@ -89,7 +89,7 @@ protected:
 
     void changeEvent(QEvent* event) override {
         if (event->type() == QEvent::EnabledChange)
-            foreColour_ = {};
+            foreColour_ = QColor(); // empty braces would be a colour
         Base::changeEvent(event);
     }
 
