@@ -10,6 +10,7 @@
 TDLine::TDLine(QWidget* parent) : QFrame(parent) {
     setFrameStyle(HLine | Plain);
     setFixedHeight(Rows);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 void TDLine::paintEvent(QPaintEvent* /*event*/) {

@@ -186,8 +186,9 @@ private Q_SLOTS:
             reached += QApplication::focusWidget()->objectName();
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
-        QCOMPARE(reached, QStringList({u"txtFiles"_s, u"OBCompress"_s, u"ckModRecords"_s, u"ckIncludeReadMe"_s,
-                                       u"cmdOpen"_s, u"txtReadMe"_s, u"cmdNext"_s, u"cmdCancel"_s, u"txtFiles"_s}));
+        QCOMPARE(reached, QStringList({u"txtFiles"_s, u"OBCompress"_s, u"OBDontCompress"_s, u"ckModRecords"_s,
+                                       u"ckIncludeReadMe"_s, u"cmdOpen"_s, u"txtReadMe"_s, u"cmdNext"_s, u"cmdCancel"_s,
+                                       u"txtFiles"_s}));
         Part<QCheckBox>("ckModRecords")->setFocus();
         host_->FileNames = {std::nullopt};
         QTest::keyClick(Part<QCheckBox>("ckModRecords"), Qt::Key_Return);
