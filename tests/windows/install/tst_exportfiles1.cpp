@@ -182,7 +182,7 @@ private Q_SLOTS:
         Press("ckIncludeReadMe");
         Part<QPlainTextEdit>("txtFiles")->setFocus();
         QStringList reached;
-        for (int tab = 0; tab < 9; ++tab) {
+        for (int tab = 0; tab < 10; ++tab) {
             reached += QApplication::focusWidget()->objectName();
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
