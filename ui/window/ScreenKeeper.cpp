@@ -25,17 +25,15 @@ QSize LeastSize(const QWidget& window) {
 void Keep(QWidget& window) {
     if (window.isMaximized() || window.isFullScreen())
         return;
-    const QRect place(window.pos(), window.size());
     const bool framed = !window.windowFlags().testFlag(Qt::FramelessWindowHint);
-    // A window's position is that of its frame.
     const QPoint corner = framed ? QPoint(ScreenKeeper::Frame.left(), ScreenKeeper::Frame.top()) : QPoint();
-    const QRect kept =
-        ScreenKeeper::Placed(place.translated(corner), LeastSize(window), window.screen()->availableGeometry());
+    const QRect place(window.pos() + corner, window.size());
+    const QRect kept = ScreenKeeper::Placed(place, LeastSize(window), window.screen()->availableGeometry());
     if (kept.size() != place.size())
         window.resize(kept.size());
-    // Where nobody has placed it, the system does.
-    if (window.testAttribute(Qt::WA_Moved) && kept.topLeft() - corner != place.topLeft())
-        window.move(kept.topLeft() - corner);
+    // Where nobody has placed it, the system does. A window that has no frame yet is moved without it.
+    if (window.testAttribute(Qt::WA_Moved) && kept.topLeft() != place.topLeft())
+        window.move(kept.topLeft() - (window.geometry().topLeft() - window.pos()));
 }
 
 } // namespace
