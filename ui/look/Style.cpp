@@ -37,9 +37,13 @@ QFont FontOf(const QStringList& families, qreal points) {
 }
 
 /// The classes that systems have faces or colours of their own for, which go before the application's.
-constexpr std::array classesWithFaces{
-    "QMenu",       "QMenuBar",        "QMessageBox", "QTipLabel", "QStatusBar",   "QAbstractItemView", "QHeaderView",
-    "QToolButton", "QAbstractButton", "QPushButton", "QCheckBox", "QRadioButton", "QProgressBar"};
+constexpr std::array classesWithFaces{"QMenu",      "QMenuBar",          "QMessageBox", "QTipLabel",
+                                      "QStatusBar", "QAbstractItemView", "QHeaderView", "QToolButton"};
+constexpr std::array classesWithColours{"QAbstractButton", "QAbstractItemView", "QCheckBox",    "QComboBox",
+                                        "QGroupBox",       "QHeaderView",       "QLabel",       "QLineEdit",
+                                        "QMenu",           "QMenuBar",          "QMessageBox",  "QMessageBoxLabel",
+                                        "QProgressBar",    "QPushButton",       "QRadioButton", "QTabBar",
+                                        "QTextControl",    "QTextEdit",         "QToolButton"};
 
 QPalette FamilyPalette() {
     using namespace Style;
@@ -92,9 +96,9 @@ public:
             drawControl(CE_PushButtonLabel, option, painter, widget);
         } else if (element == CE_PushButtonBevel) {
             Skin::PaintFace(*painter, option->rect, Skin::CommandButtonLook(StateOf(*option)));
-        } else if (element == CE_ProgressBar && bar != nullptr) {
+        } else if (element == CE_ProgressBarGroove && bar != nullptr) {
             Skin::PaintProgress(*painter, bar->rect, bar->progress);
-        } else {
+        } else if (element != CE_ProgressBarContents) {
             QProxyStyle::drawControl(element, option, painter, widget);
         }
     }
@@ -193,8 +197,8 @@ void Style::Apply(QApplication& application) {
     application.setStyleSheet(sheet);
     const QFont font = TextFont(); // after the style sheet, which brings the system's back
     QApplication::setFont(font);
-    for (const char* name : classesWithFaces) {
+    for (const char* name : classesWithFaces)
         QApplication::setFont(font, name);
+    for (const char* name : classesWithColours)
         QApplication::setPalette(palette, name);
-    }
 }

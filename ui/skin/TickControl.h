@@ -13,6 +13,7 @@
 #include <QColor>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPalette>
 #include <QPointer>
 
 template <class Control, class Base>
