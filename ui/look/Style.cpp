@@ -3,20 +3,12 @@
 
 #include "ui/look/Style.h"
 
-#include "ui/look/Picture.h"
-#include "ui/skin/Glyph.h"
-#include "ui/skin/SkinPainter.h"
+#include "ui/skin/FamilyStyle.h"
 
-#include <QAbstractScrollArea>
 #include <QApplication>
-#include <QPainter>
-#include <QPainterPath>
 #include <QPalette>
-#include <QProxyStyle>
-#include <QStyleOption>
 
 #include <array>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -64,114 +56,6 @@ QPalette FamilyPalette() {
         palette.setColor(QPalette::Disabled, role, Colour::DisabledText);
     return palette;
 }
-
-Skin::ButtonState StateOf(const QStyleOption& option) {
-    return {.Enabled = option.state.testFlag(QStyle::State_Enabled),
-            .Hover = option.state.testFlag(QStyle::State_MouseOver),
-            .Focus = option.state.testFlag(QStyle::State_HasFocus),
-            .Pressed = option.state.testFlag(QStyle::State_Sunken)};
-}
-
-void PaintIndicator(QPainter& painter, const QStyleOption& option, Skin::Mark mark) {
-    Skin::Ticked ticked = Skin::Ticked::No;
-    if (option.state.testFlag(QStyle::State_NoChange))
-        ticked = Skin::Ticked::Partly;
-    else if (option.state.testFlag(QStyle::State_On))
-        ticked = Skin::Ticked::Yes;
-    const QPoint place(option.rect.x(), option.rect.y() + Skin::GlyphTop(option.rect.height()));
-    Skin::PaintGlyph(painter, place, mark, StateOf(option), ticked);
-}
-
-// Message boxes carry the family's own signs, buttons no pictures, and what the toolkit makes by itself for its dialogs
-// and lists looks as the family's own controls do.
-class FamilyStyle : public QProxyStyle {
-public:
-    FamilyStyle() : QProxyStyle(u"Fusion"_s) {}
-
-    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override {
-        const auto* const bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
-        if (element == CE_PushButton) {
-            drawControl(CE_PushButtonBevel, option, painter, widget);
-            drawControl(CE_PushButtonLabel, option, painter, widget);
-        } else if (element == CE_PushButtonBevel) {
-            Skin::PaintFace(*painter, option->rect, Skin::CommandButtonLook(StateOf(*option)));
-        } else if (element == CE_ProgressBarGroove && bar != nullptr) {
-            Skin::PaintProgress(*painter, bar->rect, bar->progress);
-        } else if (element != CE_ProgressBarContents) {
-            QProxyStyle::drawControl(element, option, painter, widget);
-        }
-    }
-
-    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
-                           const QWidget* widget) const override {
-        return type == CT_PushButton ? Skin::ButtonSize(contents)
-                                     : QProxyStyle::sizeFromContents(type, option, contents, widget);
-    }
-
-    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-        switch (metric) {
-        case PM_IndicatorWidth:
-        case PM_IndicatorHeight:
-        case PM_ExclusiveIndicatorWidth:
-        case PM_ExclusiveIndicatorHeight:
-            return Skin::GlyphSize;
-        case PM_CheckBoxLabelSpacing:
-        case PM_RadioButtonLabelSpacing:
-            return Skin::GlyphGap;
-        default:
-            return QProxyStyle::pixelMetric(metric, option, widget);
-        }
-    }
-
-    [[nodiscard]] QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
-                                     const QWidget* widget) const override {
-        switch (which) {
-        case SP_MessageBoxCritical:
-            return Picture::Icon(u"critical"_s);
-        case SP_MessageBoxWarning:
-            return Picture::Icon(u"warning"_s);
-        case SP_MessageBoxQuestion:
-            return Picture::Icon(u"question"_s);
-        case SP_MessageBoxInformation:
-            return Picture::Icon(u"information"_s);
-        default:
-            return QProxyStyle::standardIcon(which, option, widget);
-        }
-    }
-
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* answer) const override {
-        return hint == SH_DialogButtonBox_ButtonsHaveIcons ? 0 : QProxyStyle::styleHint(hint, option, widget, answer);
-    }
-
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget) const override {
-        const qreal density = painter->deviceTransform().m11();
-        if (element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck)
-            PaintIndicator(*painter, *option, Skin::Mark::Tick);
-        else if (element == PE_IndicatorRadioButton)
-            PaintIndicator(*painter, *option, Skin::Mark::Dot);
-        else if (element == PE_Frame && density != std::floor(density) &&
-                 qobject_cast<const QAbstractScrollArea*>(widget) != nullptr)
-            PaintFlushFrame(*option, *painter);
-        else
-            QProxyStyle::drawPrimitive(element, option, painter, widget);
-    }
-
-private:
-    // The frame of a list or a text box, flush with its outer edge: on a screen of 125 or 150 % what the box holds
-    // covers a part of the line that the frame was given, and two of its sides were not seen.
-    static void PaintFlushFrame(const QStyleOption& option, QPainter& painter) {
-        const qreal density = painter.deviceTransform().m11();
-        const QRectF outside = option.rect;
-        const qreal line = std::floor(density) / density;
-        QPainterPath frame;
-        frame.addRect(outside);
-        frame.addRect(outside.adjusted(line, line, -line, -line));
-        painter.fillPath(frame, option.palette.window().color().darker(140));
-    }
-};
 
 } // namespace
 
