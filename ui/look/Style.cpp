@@ -7,19 +7,13 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QToolTip>
 
 #include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Only what neither the palette can say nor the skin draws.
-constexpr auto sheet = R"(
-.QGroupBox { border: 1px solid #b9cdef; border-radius: 3px; margin-top: 8px; background: transparent; }
-.QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 4px; color: #003273; background: #f7f7f7; }
-QToolTip { color: black; background: #ffffe7; border: 1px solid #003273; }
-)"_L1;
 
 QFont FontOf(const QStringList& families, qreal points) {
     QFont font;
@@ -74,12 +68,12 @@ QFont Style::LinkFont(bool underlined) {
     return font;
 }
 
-void Style::Apply(QApplication& application) {
+void Style::Apply(QApplication& /*application*/) {
     QApplication::setStyle(new FamilyStyle);
     const QPalette palette = FamilyPalette();
     QApplication::setPalette(palette);
-    application.setStyleSheet(sheet);
-    const QFont font = TextFont(); // after the style sheet, which brings the system's back
+    QToolTip::setPalette(palette);
+    const QFont font = TextFont();
     QApplication::setFont(font);
     for (const char* name : classesWithFaces)
         QApplication::setFont(font, name);

@@ -54,6 +54,31 @@ void PaintFrame(QPainter& painter, const QStyleOption& option) {
     painter.fillPath(frame, FrameColour(option));
 }
 
+void PaintHint(QPainter& painter, const QStyleOption& option) {
+    painter.fillRect(option.rect, Style::Colour::Border);
+    painter.fillRect(option.rect.adjusted(1, 1, -1, -1), option.palette.toolTipBase());
+}
+
+// Half of the title stands above the frame, on the ground that interrupts it.
+constexpr int titleLeft = 8, titleRoom = 4, aboveFrame = 8;
+
+void PaintGroup(QPainter& painter, const QStyleOptionGroupBox& option) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Style::Colour::GroupBorder, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, aboveFrame + 0.5, -0.5, -0.5), 3, 3);
+    if (!option.text.isEmpty()) {
+        const QSize text = option.fontMetrics.size(Qt::TextShowMnemonic, option.text);
+        const QRect title(option.rect.topLeft() + QPoint(titleLeft, 0),
+                          QSize(text.width() + 2 * titleRoom, text.height()));
+        painter.fillRect(title, option.palette.window());
+        painter.setPen(Style::Colour::Border);
+        painter.drawText(title, Qt::AlignCenter | Qt::TextShowMnemonic, option.text);
+    }
+    painter.restore();
+}
+
 void PaintArrow(QPainter& painter, const QRect& area, bool enabled) {
     const QPointF tip = QRectF(area).center() + QPointF(0, 2);
     painter.save();
@@ -84,9 +109,14 @@ void FamilyStyle::drawControl(ControlElement element, const QStyleOption* option
     }
 }
 
-// A list that opens is a button with an arrow.
+// A list that opens is a button with an arrow. No group of the family can be ticked.
 void FamilyStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                      const QWidget* widget) const {
+    const auto* const group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control == CC_GroupBox && group != nullptr) {
+        PaintGroup(*painter, *group);
+        return;
+    }
     const auto* const box = qstyleoption_cast<const QStyleOptionComboBox*>(option);
     if (control != CC_ComboBox || box == nullptr || box->editable || !box->frame) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -106,8 +136,17 @@ void FamilyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     else if (element == PE_FrameLineEdit ||
              (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr))
         PaintFrame(*painter, *option);
+    else if (element == PE_PanelTipLabel)
+        PaintHint(*painter, *option);
     else
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+QRect FamilyStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                  const QWidget* widget) const {
+    if (control == CC_GroupBox && part == SC_GroupBoxContents)
+        return option->rect.adjusted(1, aboveFrame + 1, -1, -1);
+    return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 QSize FamilyStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
