@@ -27,10 +27,10 @@ inline QColor PixelOf(QWidget& control, QPoint place) {
 
 /// Whether a text of that colour is in the picture: its strokes are smoothed, and few of their pixels have all of it.
 inline bool HasColour(const QImage& picture, const QColor& colour) {
-    constexpr int near = 48;
+    constexpr int tolerance = 48;
     const auto isNear = [&](const QColor& seen) {
-        return std::abs(seen.red() - colour.red()) < near && std::abs(seen.green() - colour.green()) < near &&
-               std::abs(seen.blue() - colour.blue()) < near;
+        return std::abs(seen.red() - colour.red()) < tolerance && std::abs(seen.green() - colour.green()) < tolerance &&
+               std::abs(seen.blue() - colour.blue()) < tolerance;
     };
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)

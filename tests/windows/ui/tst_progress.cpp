@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tests/support/World.h"
+#include "tests/windows/WindowLook.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/BusyAnimation.h"
 #include "ui/window/frmProgress.h"
@@ -87,6 +88,17 @@ private Q_SLOTS:
         window_->SetValue(42);
         QCOMPARE(Part<QLabel>("Label1")->text(), u"Creating 'a.big'\nHeader"_s);
         QCOMPARE(Part<QProgressBar>("ProgressBar1")->value(), 42);
+    }
+
+    void noTextIsCut_data() { WindowLook::Languages(); }
+
+    void noTextIsCut() {
+        QFETCH(const QString, file);
+        world_->UseLanguage(WindowLook::TextsOf(file));
+        Open();
+        window_->SetText(u"Extracting 'Data\\English\\Generals.csf'"_s);
+        QCOMPARE(WindowLook::CutText(*window_), QString());
+        QVERIFY(WindowLook::FitsSmallScreens(*window_));
     }
 
     void aTextLikeMarkupIsShownAsItStands() {

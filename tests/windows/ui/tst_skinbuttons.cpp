@@ -10,7 +10,9 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QSignalSpy>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -219,6 +221,20 @@ private Q_SLOTS:
         slices_->setFocus();
         QTest::keyRelease(slices_, Qt::Key_Return);
         QCOMPARE(clicks.size(), 0);
+    }
+
+    void anEnterThatClosedAMessageBoxIsNoSecondClick() {
+        int boxes = 0;
+        connect(slices_, &QPushButton::clicked, this, [&] {
+            ++boxes;
+            QMessageBox box(QMessageBox::Information, {}, u"Told"_s, QMessageBox::Ok, window_.get());
+            QTimer::singleShot(0, &box, [&box] { QTest::keyPress(box.button(QMessageBox::Ok), Qt::Key_Return); });
+            box.exec();
+        });
+        slices_->setFocus();
+        QTest::keyClick(slices_, Qt::Key_Return);
+        QTest::keyRelease(slices_, Qt::Key_Return); // the one that the box was closed by
+        QCOMPARE(boxes, 1);
     }
 
     void aBlankPressesTheFaceAndClicksWhenReleased() {

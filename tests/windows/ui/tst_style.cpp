@@ -10,9 +10,12 @@
 #include "ui/skin/TavelOptionButton.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QImage>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -83,6 +86,42 @@ private Q_SLOTS:
             for (const QPoint place : {QPoint(1, 0), QPoint(2, 0), QPoint(1, 1), QPoint(2, 1), QPoint(40, 0)})
                 QCOMPARE(theirs.pixelColor(place), ours.pixelColor(place));
         }
+    }
+
+    void aGroupHasItsTitleInTheLineOfItsFrame() {
+        Style::Apply(*qApp);
+        QGroupBox group(QStringLiteral("MMM"));
+        group.resize(120, 60);
+        const QColor ground = group.palette().color(QPalette::Window);
+        const QImage picture = PictureOf(group);
+        QCOMPARE(picture.pixelColor(60, 0), ground);
+        QCOMPARE(picture.pixelColor(100, 8), Style::Colour::GroupBorder);
+        QCOMPARE(picture.pixelColor(0, 30), Style::Colour::GroupBorder);
+        QCOMPARE(picture.pixelColor(100, 59), Style::Colour::GroupBorder);
+        QVERIFY(HasColour(picture.copy(12, 0, 20, 16), Style::Colour::Border));
+        QCOMPARE(group.contentsRect(), QRect(1, 9, 118, 50));
+    }
+
+    void aListThatOpensHasAButtonsFace() {
+        Style::Apply(*qApp);
+        QComboBox list;
+        list.addItem(QStringLiteral("One"));
+        list.resize(120, 24);
+        const QImage picture = PictureOf(list);
+        QCOMPARE(picture.pixelColor(60, 0), Style::Colour::Border);
+        QCOMPARE(picture.pixelColor(1, 1), QColor(82, 125, 165));
+        QVERIFY(HasColour(picture.copy(90, 4, 26, 16), Style::Colour::Border)); // the arrow
+    }
+
+    void theFrameOfABoxTellsOfTheFocus() {
+        Style::Apply(*qApp);
+        QLineEdit box;
+        box.show();
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        box.setFocus();
+        QCOMPARE(PictureOf(box).pixelColor(0, box.height() / 2), Style::Colour::Border);
+        box.clearFocus();
+        QCOMPARE(PictureOf(box).pixelColor(0, box.height() / 2), Style::Colour::FieldBorder);
     }
 
     void theToolkitsBoxesAndBarsHaveTheFamilysMarks() {
