@@ -32,11 +32,8 @@ template <typename Window>
 Window* Make() {
     auto* const window = new Window;
     window->setAttribute(Qt::WA_DeleteOnClose);
-    const QRect screen = window->screen()->availableGeometry();
-    constexpr QSize frame(16, 48); // about what title and borders take, which are not there yet
-    window->resize(window->size().boundedTo(screen.size() - frame));
     QRect place = window->geometry();
-    place.moveCenter(screen.center());
+    place.moveCenter(window->screen()->availableGeometry().center());
     window->move(place.topLeft());
     return window;
 }

@@ -172,12 +172,13 @@ private Q_SLOTS:
         Press("ckIncludeReadMe");
         Part<QPlainTextEdit>("txtFiles")->setFocus();
         QStringList reached;
-        for (int tab = 0; tab < 9; ++tab) {
+        for (int tab = 0; tab < 10; ++tab) {
             reached += QApplication::focusWidget()->objectName();
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
-        QCOMPARE(reached, QStringList({u"txtFiles"_s, u"OBCompress"_s, u"ckModRecords"_s, u"ckIncludeReadMe"_s,
-                                       u"cmdOpen"_s, u"txtReadMe"_s, u"cmdNext"_s, u"cmdCancel"_s, u"txtFiles"_s}));
+        QCOMPARE(reached, QStringList({u"txtFiles"_s, u"OBCompress"_s, u"OBDontCompress"_s, u"ckModRecords"_s,
+                                       u"ckIncludeReadMe"_s, u"cmdOpen"_s, u"txtReadMe"_s, u"cmdNext"_s, u"cmdCancel"_s,
+                                       u"txtFiles"_s}));
         Part<QCheckBox>("ckModRecords")->setFocus();
         host_->FileNames = {std::nullopt};
         QTest::keyClick(Part<QCheckBox>("ckModRecords"), Qt::Key_Return);

@@ -4,6 +4,7 @@
 // What the window looks like at any size, and how it is reached by keyboard and screen reader.
 
 #include "core/mTraduction.h"
+#include "tests/windows/SmallScreens.h"
 #include "tests/windows/personal/PersonalFilesWindow.h"
 #include "ui/splitter/SplitterBox.h"
 
@@ -72,6 +73,7 @@ private Q_SLOTS:
             if (size.width() == 1000)
                 QVERIFY2(!List(list)->horizontalScrollBar()->isVisible(), list);
         }
+        QVERIFY(FitsSmallScreens(*window_));
         QVERIFY(Comments()->height() >= 40 && NameBox()->height() >= NameBox()->sizeHint().height());
     }
 

@@ -4,6 +4,7 @@
 #include "core/mTraduction.h"
 #include "tests/support/World.h"
 #include "tests/windows/LanguageChecks.h"
+#include "tests/windows/SmallScreens.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/BusyAnimation.h"
 #include "ui/window/frmProgress.h"
@@ -111,7 +112,7 @@ private Q_SLOTS:
                   .replace(u"%3"_s, u"C:\\Extracted"_s)}) {
             window_->SetText(text);
             QCoreApplication::processEvents();
-            QVERIFY(AllTextsHaveRoom(*window_));
+            QVERIFY(AllTextsHaveRoom(*window_) && FitsSmallScreens(*window_));
         }
     }
 
