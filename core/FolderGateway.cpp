@@ -3,6 +3,7 @@
 
 #include "core/FolderGateway.h"
 
+#include "core/CaseFolding.h"
 #include "platform/Files.h"
 #include "platform/FolderEntries.h"
 #include "platform/Paths.h"
@@ -11,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <unordered_map>
 
 using namespace Qt::StringLiterals;
 
@@ -37,11 +39,15 @@ bool IsDeviceName(QStringView component) {
     return numbered && u"123456789\u00B9\u00B2\u00B3"_s.contains(base.back());
 }
 
+bool IsForbidden(QChar character) {
+    constexpr std::u16string_view forbidden = u"<>:\"|?*";
+    return character < u' ' || (character <= u'|' && forbidden.find(character.unicode()) != std::u16string_view::npos);
+}
+
 QString RefusalOfComponent(QStringView component) {
-    static const QString forbidden = u"<>:\"|?*"_s;
     if (component == u"." || component == u"..")
         return u"leads out of its folder"_s;
-    if (std::ranges::any_of(component, [](QChar c) { return c.unicode() < 0x20 || forbidden.contains(c); }))
+    if (std::ranges::any_of(component, IsForbidden))
         return u"holds a character that file names can't have"_s;
     if (component.endsWith(u'.') || component.endsWith(u' '))
         return u"ends in a full stop or a blank"_s;
@@ -68,11 +74,11 @@ struct FolderGateway::Folder {
 
     void ReadNames() {
         for (const FolderEntry& entry : FolderEntries(Path))
-            Names.insert(entry.Name.toCaseFolded(), entry.Name);
+            Names.insert_or_assign(CaseFolded(entry.Name), entry.Name);
     }
 
-    QString Path; ///< with a trailing backslash
-    QHash<QString, QString> Names;
+    QString Path;                               ///< with a trailing backslash
+    std::unordered_map<QString, QString> Names; ///< mostly few
 };
 
 FolderGateway::FolderGateway(const QString& folder) {
@@ -118,17 +124,29 @@ bool FolderGateway::IsInside(const QString& path) const {
 }
 
 FolderGateway::Folder& FolderGateway::FolderFor(QStringView relative) {
-    const QString key = relative.toString().toCaseFolded().replace(u'/', u'\\');
+    if (last_ == nullptr || lastName_ != relative) {
+        Folder& folder = FindOrMake(relative);
+        lastName_ = relative.toString();
+        last_ = &folder;
+    }
+    return *last_;
+}
+
+FolderGateway::Folder& FolderGateway::FindOrMake(QStringView relative) {
+    const QString key = CaseFolded(relative.toString()).replace(u'/', u'\\');
     if (const auto known = folders_.constFind(key); known != folders_.constEnd())
         return **known;
     const qsizetype last = LastComponent(relative);
     Folder& parent = FolderFor(relative.first(std::max<qsizetype>(last - 1, 0)));
     const QString name = relative.sliced(last).toString();
-    const QString found = parent.Names.value(name.toCaseFolded());
+    const auto standing = parent.Names.find(CaseFolded(name));
+    const QString found = standing == parent.Names.end() ? QString() : standing->second;
     auto folder = std::make_shared<Folder>(parent.Path + (found.isEmpty() ? name : found) + u'\\');
     if (found.isEmpty()) {
         Files::MakeFolderAsGiven(folder->Path);
-        parent.Names.insert(name.toCaseFolded(), name);
+        parent.Names.emplace(CaseFolded(name), name);
+        if (Made)
+            Made(folder->Path);
     } else if (IsInside(folder->Path)) {
         folder->ReadNames();
     } else {
@@ -151,13 +169,10 @@ QString FolderGateway::TargetFor(const QString& name) {
     const QString file = name.sliced(last);
     if (file.isEmpty())
         Refuse(name, u"is a folder"_s);
-    const QString key = file.toCaseFolded();
-    const auto found = folder.Names.constFind(key);
-    if (found == folder.Names.constEnd()) {
-        folder.Names.insert(key, file);
-        return folder.Path + file;
-    }
-    QString path = folder.Path + *found;
+    const auto [found, isNew] = folder.Names.try_emplace(CaseFolded(file), file);
+    QString path = folder.Path + found->second;
+    if (isNew)
+        return path;
     switch (Files::StandingAsGiven(path)) {
     case Files::Standing::Nothing: // a name that was handed out before
         break;

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringView>
 
+#include <functional>
 #include <memory>
 
 /// Turns names into target paths below one folder. The case of existing folders and files is looked up once a folder.
@@ -18,6 +19,9 @@ public:
     ~FolderGateway();
     FolderGateway(const FolderGateway&) = delete;
     FolderGateway& operator=(const FolderGateway&) = delete;
+
+    /// Where one is set: told of each folder that is made, an inside path with its trailing backslash.
+    std::function<void(const QString&)> Made;
 
     /// The full inside path for a name, its folders made, in the case that the disk has: for
     /// NumberedFiles::OpenAsGiven. Raises 75 with the reason for a name that may not be written, and what the system
@@ -39,8 +43,11 @@ private:
     struct Folder;
 
     Folder& FolderFor(QStringView relative);
+    Folder& FindOrMake(QStringView relative);
     [[nodiscard]] bool IsInside(const QString& path) const;
 
     QString root_;
     QHash<QString, std::shared_ptr<Folder>> folders_;
+    Folder* last_ = nullptr; ///< of them
+    QString lastName_;       ///< as it was asked for
 };

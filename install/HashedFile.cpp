@@ -17,13 +17,18 @@ HashedFile RunningHash::Result() const {
 }
 
 HashedFile HashOf(const QString& path) {
+    return *HashOf(File::Open(path, File::Access::Read), [] { return true; });
+}
+
+std::optional<HashedFile> HashOf(const File& file, const std::function<bool()>& goesOn) {
     constexpr qint64 atOnce = 1 << 18;
-    const File file = File::Open(path, File::Access::Read);
     // One more than there are: that they come short tells the end.
     QByteArray bytes(std::min<qint64>(file.Length() + 1, atOnce), Qt::Uninitialized);
     RunningHash hash;
     qint64 offset = 0;
     for (qint64 count = bytes.size(); count == bytes.size(); offset += count) {
+        if (!goesOn())
+            return std::nullopt;
         count = file.ReadInto(offset, bytes.data(), bytes.size());
         hash.Add(QByteArrayView(bytes).first(count));
     }

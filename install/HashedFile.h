@@ -9,6 +9,11 @@
 #include <QCryptographicHash>
 #include <QString>
 
+#include <functional>
+#include <optional>
+
+class File;
+
 struct HashedFile {
     QByteArray Hash;   ///< BLAKE2b of 256 bits
     qint64 Length = 0; ///< bytes
@@ -27,3 +32,6 @@ private:
 
 /// Reads a file (inside path) to its end. Raises what the reading raises.
 HashedFile HashOf(const QString& path);
+
+/// The same of an open file, as long as `goesOn`, which is asked now and then, says so; nothing where it did not.
+std::optional<HashedFile> HashOf(const File& file, const std::function<bool()>& goesOn);

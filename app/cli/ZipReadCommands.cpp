@@ -101,7 +101,12 @@ void Extract(const Arguments& given) {
     QSet<QString> written;
     QString reason;
     int failures = 0;
-    for (const QString& name : Chosen(zip, given)) {
+    const QStringList names = Chosen(zip, given);
+    std::vector<qint32> entries;
+    for (const QString& name : names)
+        entries.push_back(zip.Find(name));
+    zip.Ahead(entries, false);
+    for (const QString& name : names) {
         const bool isFolder = name.endsWith(u'/');
         const QString place = PlaceOf(name, withFolders);
         const bool isTaken = !isFolder && written.contains(place);

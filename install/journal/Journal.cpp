@@ -3,6 +3,8 @@
 
 #include "install/journal/Journal.h"
 
+#include "core/CaseFolding.h"
+
 #include <algorithm>
 
 const JournalEntry* Journal::Find(int id) const {
@@ -16,7 +18,7 @@ JournalEntry* Journal::Find(int id) {
 }
 
 QString JournalKey(const QString& path) {
-    return path.toCaseFolded();
+    return CaseFolded(path);
 }
 
 bool IsAtOrBelow(const QString& path, const QString& above) {

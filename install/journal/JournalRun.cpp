@@ -11,6 +11,7 @@
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -19,8 +20,10 @@ namespace {
 /// A folder that the game or the suite has anyhow.
 bool IsGamesOwn(const QString& folder, GameIndex game) {
     const GameEntry& entry = Game.at(static_cast<std::size_t>(game));
-    const QStringList own{entry.InstallPath, entry.InstallPath + u"Maps\\"_s, entry.MapPath, entry.ReplayPath};
-    return own.contains(folder + u'\\', Qt::CaseInsensitive);
+    const auto is = [&](const QString& own) {
+        return own.size() == folder.size() + 1 && own.startsWith(folder, Qt::CaseInsensitive) && own.endsWith(u'\\');
+    };
+    return is(entry.InstallPath) || is(entry.InstallPath + u"Maps\\"_s) || is(entry.MapPath) || is(entry.ReplayPath);
 }
 
 QString ParentOf(const QString& folder) {
@@ -38,9 +41,9 @@ int FreeId(const Journal& journal) {
 
 } // namespace
 
-JournalRun::JournalRun(QString sourcePath, GameIndex game) : sourcePath_(std::move(sourcePath)) {
+JournalRun::JournalRun(const QString& sourcePath, GameIndex game) : sourceHash_(sourcePath) {
     entry_.Game = game;
-    entry_.Source = Paths::LastPart(sourcePath_);
+    entry_.Source = Paths::LastPart(sourcePath);
     entry_.How = JournalEntry::State::Running;
 }
 
@@ -48,22 +51,54 @@ JournalRun::~JournalRun() {
     End();
 }
 
+void JournalRun::MadeFolder(const QString& path) {
+    folders_.try_emplace(JournalKey(path + u'\\'), Folder{.Names = {}, .IsNew = true});
+}
+
 void JournalRun::WillWrite(const QString& path) {
     if (!begun_ && !over_)
         Begin();
-    if (over_ || places_.contains(JournalKey(path)))
+    if (over_)
         return;
-    const QString folder = Paths::Folder(path).chopped(1);
-    if (!folders_.contains(JournalKey(folder)))
-        LookAt(folder);
-    Add(path);
+    Folder& folder = FolderAt(path);
+    const QString key = JournalKey(Paths::LastPart(path));
+    const auto found = folder.Names.find(key);
+    const bool isKnown = found != folder.Names.end();
+    const bool isOurs = isKnown && found->second != Folder::StoodBefore;
+    if (isOurs && promised_ != static_cast<std::size_t>(found->second))
+        return;
+    JournalFile file{.Path = path};
+    // Another program may have made it since its folder was looked at.
+    if ((isKnown && !isOurs) || Files::StandingAsGiven(path) == Files::Standing::File)
+        PutAside(file);
+    if (!isOurs)
+        return Add(std::move(file), key, folder);
+    // What was promised of it could not be put there.
+    entry_.Files[*promised_] = std::move(file);
+    AddLine(JournalText::FileLine(entry_.Files[*promised_]));
+    promised_.reset();
+}
+
+bool JournalRun::WillPut(const QString& path, const HashedFile& hashed) {
+    if (!begun_ && !over_)
+        Begin();
+    if (over_)
+        return true;
+    Folder& folder = FolderAt(path);
+    const QString key = JournalKey(Paths::LastPart(path));
+    if (folder.Names.contains(key))
+        return false;
+    promised_ = entry_.Files.size();
+    Add({.Path = path, .Hash = hashed.Hash, .Length = hashed.Length}, key, folder);
+    return true;
 }
 
 // The whole of the journal is written twice in an install: here, and at its end.
 void JournalRun::Begin() {
     begun_ = true;
     entry_.Time = QDateTime::fromSecsSinceEpoch(QDateTime::currentSecsSinceEpoch(), Qt::UTC);
-    Ignoring([&] { entry_.SourceHash = HashOf(sourcePath_).Hash; });
+    entry_.SourceHash = sourceHash_->Result();
+    sourceHash_.reset();
     try {
         const QString aside = InstallJournal::SetDamagedAside();
         if (!aside.isEmpty())
@@ -97,23 +132,55 @@ void JournalRun::Enter(Journal& journal) {
     journal.Entries.push_back(entry_);
 }
 
+/// The folder that a file lies in.
+JournalRun::Folder& JournalRun::FolderAt(const QString& path) {
+    const QStringView folder = QStringView(path).first(path.lastIndexOf(u'\\') + 1);
+    if (last_ == nullptr || lastPath_ != folder) {
+        lastPath_ = folder.toString();
+        const auto [place, isNew] = folders_.try_emplace(JournalKey(lastPath_));
+        last_ = &place->second;
+        if (isNew)
+            LookAt(lastPath_, *last_);
+        else if (std::exchange(last_->IsNew, false))
+            TakeFolder(lastPath_.chopped(1));
+    }
+    return *last_;
+}
+
+/// Null for one that was not announced.
+JournalFile* JournalRun::FileAt(const QString& path) {
+    if (!begun_ || over_)
+        return nullptr;
+    const auto folder = folders_.find(JournalKey(Paths::Folder(path)));
+    if (folder == folders_.end())
+        return nullptr;
+    const auto found = folder->second.Names.find(JournalKey(Paths::LastPart(path)));
+    const bool isOurs = found != folder->second.Names.end() && found->second != Folder::StoodBefore;
+    return isOurs ? &entry_.Files[static_cast<std::size_t>(found->second)] : nullptr;
+}
+
 // The names in a folder are read once: to look for each of many files without regard to case would read them each time.
-void JournalRun::LookAt(const QString& folder) {
-    QSet<QString>& names = folders_[JournalKey(folder)];
-    if (!Files::FolderExists(folder)) {
-        MakesFolder(folder);
+void JournalRun::LookAt(const QString& path, Folder& folder) {
+    const QString made = path.chopped(1);
+    if (!Files::FolderExists(made)) {
+        MakesFolder(made);
         return;
     }
-    for (const QString& name : Files::ListFolder(folder + u'\\', true))
-        names.insert(JournalKey(name));
-    if (names.isEmpty())
-        MakesFolder(folder);
+    for (const QString& name : Files::ListFolder(path, true))
+        folder.Names.emplace(JournalKey(name), Folder::StoodBefore);
+    if (folder.Names.empty())
+        MakesFolder(made);
 }
 
 // Those above it first, where they are missing too.
 void JournalRun::MakesFolder(const QString& folder) {
     if (const QString above = ParentOf(folder); !above.isEmpty() && !Files::FolderExists(above))
         MakesFolder(above);
+    TakeFolder(folder);
+}
+
+/// Makes it the install's.
+void JournalRun::TakeFolder(const QString& folder) {
     if (made_.contains(JournalKey(folder)) || IsGamesOwn(folder, entry_.Game))
         return;
     made_.insert(JournalKey(folder));
@@ -121,17 +188,10 @@ void JournalRun::MakesFolder(const QString& folder) {
     AddLine(JournalText::FolderLine(folder));
 }
 
-void JournalRun::Add(const QString& path) {
-    JournalFile file{.Path = path};
-    QSet<QString>& names = folders_[JournalKey(Paths::Folder(path).chopped(1))];
-    const QString name = JournalKey(Paths::LastPart(path));
-    // Another program may have made it since its folder was looked at.
-    if (names.contains(name) || Files::StandingAsGiven(path) == Files::Standing::File)
-        PutAside(file);
-    names.insert(name);
-    places_.insert(JournalKey(path), entry_.Files.size());
-    entry_.Files.push_back(file);
-    AddLine(JournalText::FileLine(file));
+void JournalRun::Add(JournalFile file, const QString& key, Folder& folder) {
+    folder.Names.insert_or_assign(key, static_cast<qsizetype>(entry_.Files.size()));
+    entry_.Files.push_back(std::move(file));
+    AddLine(JournalText::FileLine(entry_.Files.back()));
 }
 
 void JournalRun::PutAside(JournalFile& file) {
@@ -161,19 +221,22 @@ void JournalRun::AddLine(const QByteArray& line) {
 
 void JournalRun::Written(const QString& path) {
     HashedFile hashed;
-    if (!over_ && places_.contains(JournalKey(path)))
+    if (FileAt(path) != nullptr)
         Ignoring([&] { hashed = HashOf(path); });
     WrittenAs(path, hashed);
 }
 
 void JournalRun::WrittenAs(const QString& path, const HashedFile& hashed) {
-    const auto place = places_.constFind(JournalKey(path));
-    if (over_ || place == places_.constEnd())
+    if (promised_ && !over_ && entry_.Files[*promised_].Path == path) { // its line tells all
+        promised_.reset();
         return;
-    JournalFile& file = entry_.Files[*place];
-    file.Hash = hashed.Hash;
-    file.Length = hashed.Length;
-    AddLine(JournalText::FileLine(file));
+    }
+    JournalFile* const file = FileAt(path);
+    if (file == nullptr)
+        return;
+    file->Hash = hashed.Hash;
+    file->Length = hashed.Length;
+    AddLine(JournalText::FileLine(*file));
 }
 
 void JournalRun::End() {
@@ -204,6 +267,8 @@ void JournalRun::End() {
 
 // What a step that failed did not write is none of the install's.
 void JournalRun::Settle() {
+    if (promised_)
+        entry_.Files[*promised_].Hash.clear();
     std::erase_if(entry_.Files, [this](const JournalFile& file) {
         if (!file.Hash.isEmpty())
             return false;

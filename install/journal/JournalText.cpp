@@ -61,9 +61,23 @@ void AddEscaped(QByteArray& json, QByteArrayView utf8) {
     }
 }
 
-/// A text in quotes. A surrogate that stands alone, a byte of a name that is no text, is none in UTF-8.
-void AddText(QByteArray& json, const QString& text) {
-    json += '"';
+/// The text as far as it is plain: most are to their end. Returns how far that is.
+qsizetype AddPlain(QByteArray& json, QStringView text) {
+    const qsizetype before = json.size();
+    json.resize(before + 2 * text.size());
+    char* to = json.data() + before;
+    qsizetype at = 0;
+    for (; at < text.size() && text[at] >= u' ' && text[at] <= u'~'; ++at) {
+        if (text[at] == u'"' || text[at] == u'\\')
+            *to++ = '\\';
+        *to++ = static_cast<char>(text[at].unicode());
+    }
+    json.resize(to - json.constData());
+    return at;
+}
+
+/// A surrogate that stands alone, a byte of a name that is no text, is none in UTF-8.
+void AddAny(QByteArray& json, QStringView text) {
     qsizetype from = 0;
     for (qsizetype at = 0; at < text.size(); ++at) {
         const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
@@ -73,12 +87,31 @@ void AddText(QByteArray& json, const QString& text) {
         }
         if (!text[at].isSurrogate())
             continue;
-        AddEscaped(json, QStringView(text).sliced(from, at - from).toUtf8());
+        AddEscaped(json, text.sliced(from, at - from).toUtf8());
         json += "\\u" + QByteArray::number(text[at].unicode(), 16);
         from = at + 1;
     }
-    AddEscaped(json, QStringView(text).sliced(from).toUtf8());
+    AddEscaped(json, text.sliced(from).toUtf8());
+}
+
+/// A text in quotes.
+void AddText(QByteArray& json, QStringView text) {
     json += '"';
+    if (const qsizetype plain = AddPlain(json, text); plain < text.size())
+        AddAny(json, text.sliced(plain));
+    json += '"';
+}
+
+void AddHex(QByteArray& json, QByteArrayView bytes) {
+    constexpr char digits[] = "0123456789abcdef";
+    const qsizetype before = json.size();
+    json.resize(before + 2 * bytes.size());
+    char* to = json.data() + before;
+    for (const char byte : bytes) {
+        const auto value = static_cast<unsigned char>(byte);
+        *to++ = digits[value >> 4U];
+        *to++ = digits[value & 0xFU];
+    }
 }
 
 void AddMember(QByteArray& json, QByteArrayView name, const QString& text) {
@@ -89,8 +122,12 @@ void AddMember(QByteArray& json, QByteArrayView name, const QString& text) {
 void AddFile(QByteArray& json, const JournalFile& file) {
     AddMember(json, "{\"path\":", file.Path);
     json += file.Replaced ? ",\"replaced\":true" : ",\"replaced\":false";
-    if (!file.Hash.isEmpty())
-        json += ",\"hash\":\"" + file.Hash.toHex() + "\",\"length\":" + QByteArray::number(file.Length);
+    if (!file.Hash.isEmpty()) {
+        json += ",\"hash\":\"";
+        AddHex(json, file.Hash);
+        json += "\",\"length\":";
+        json += QByteArray::number(file.Length);
+    }
     if (!file.Kept.isEmpty()) {
         AddMember(json, ",\"kept\":", file.Kept);
         json += ",\"keptHash\":\"" + file.KeptHash.toHex() + '"';
@@ -231,9 +268,12 @@ std::optional<Journal> JournalText::Decode(const QByteArray& bytes) {
 }
 
 QByteArray JournalText::FileLine(const JournalFile& file) {
+    constexpr qsizetype usual = 512;
     QByteArray json;
+    json.reserve(usual);
     AddFile(json, file);
-    return json + '\n';
+    json += '\n';
+    return json;
 }
 
 QByteArray JournalText::FolderLine(const QString& folder) {

@@ -3,6 +3,7 @@
 
 #include "install/wizard/InstallOutcome.h"
 
+#include "core/CaseFolding.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
 
@@ -13,30 +14,38 @@ using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
 void InstallOutcome::Done(const QString& source, const QString& path) {
-    FolderFiles& written = WrittenIn(Paths::Folder(path));
-    const QString key = Paths::LastPart(path).toCaseFolded();
-    if (const auto earlier = written.constFind(key); earlier != written.constEnd() && earlier->Name != source) {
+    FolderFiles& written = WrittenIn(path);
+    const QString key = CaseFolded(Paths::LastPart(path));
+    if (const auto found = written.find(key); found != written.end() && found->second.Name != source) {
+        const Source* const earlier = &found->second;
         InstalledFile& lost = files_[earlier->Place];
         failures_ += lost.How == InstalledFile::State::Failed ? 0 : 1;
         lost = {.How = InstalledFile::State::Failed,
                 .Name = earlier->Name,
                 .Reason = u"another file of that name took its place: %1"_s.arg(source)};
     }
-    written.insert(key, {.Place = files_.size(), .Name = source});
+    written.insert_or_assign(key, Source{.Place = files_.size(), .Name = source});
     files_.push_back({.How = InstalledFile::State::Done, .Name = Paths::ToNativeAsGiven(path)});
 }
 
 void InstallOutcome::Changed(const QString& path) {
-    if (!WrittenIn(Paths::Folder(path)).contains(Paths::LastPart(path).toCaseFolded()))
+    if (!WrittenIn(path).contains(CaseFolded(Paths::LastPart(path))))
         Done({}, path);
 }
 
-InstallOutcome::FolderFiles& InstallOutcome::WrittenIn(const QString& folder) {
-    if (lastFolder_ != folder) {
-        lastKey_ = folder.toCaseFolded();
-        lastFolder_ = folder;
+/// Of the folder that a file lies in.
+InstallOutcome::FolderFiles& InstallOutcome::WrittenIn(const QString& path) {
+    const QStringView folder = QStringView(path).first(path.lastIndexOf(u'\\') + 1);
+    if (written_.empty() || lastFolder_ != folder) {
+        lastFolder_ = folder.toString();
+        const QString key = CaseFolded(lastFolder_);
+        last_ = folders_.value(key, written_.size());
+        if (last_ == written_.size()) {
+            folders_.insert(key, last_);
+            written_.emplace_back();
+        }
     }
-    return written_[lastKey_];
+    return written_[last_];
 }
 
 void InstallOutcome::Kept(const QString& path) {

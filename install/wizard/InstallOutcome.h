@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <map>
+#include <unordered_map>
 #include <vector>
 
 struct InstalledFile {
@@ -51,12 +51,13 @@ private:
     };
 
     std::vector<InstalledFile> files_;
-    using FolderFiles = QHash<QString, Source>;
+    using FolderFiles = std::unordered_map<QString, Source>; // mostly few
 
-    FolderFiles& WrittenIn(const QString& folder);
+    FolderFiles& WrittenIn(const QString& path);
 
-    std::map<QString, FolderFiles> written_; ///< by folders and names without case
-    QString lastFolder_;                     ///< that was asked for, and what it is called without case
-    QString lastKey_;
+    std::vector<FolderFiles> written_;    ///< by names and names without case
+    QHash<QString, std::size_t> folders_; ///< in it, those too
+    QString lastFolder_;                  ///< that was asked for
+    std::size_t last_ = 0;
     int failures_ = 0;
 };

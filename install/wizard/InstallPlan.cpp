@@ -3,6 +3,7 @@
 
 #include "install/wizard/InstallPlan.h"
 
+#include "core/CaseFolding.h"
 #include "core/FolderGateway.h"
 #include "core/GameFiles.h"
 #include "core/NameOrder.h"
@@ -13,11 +14,10 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
-#include <QHash>
 #include <QStringList>
 
 #include <algorithm>
-#include <map>
+#include <unordered_map>
 
 using namespace Qt::StringLiterals;
 
@@ -87,9 +87,9 @@ private:
 
     void AddFile(PlannedItem& item, const SourceFile& file) {
         KnownFolder& folder = Known(item.Folder);
-        const QString key = file.Name.toCaseFolded();
+        const QString key = CaseFolded(file.Name);
         PlannedFile planned{.Source = file.From,
-                            .Target = item.Folder + folder.Names.value(key, file.Name),
+                            .Target = item.Folder + folder.Spelt(key, file.Name),
                             .Size = file.Size,
                             .Refusal = file.Refusal};
         if (planned.Refusal.isEmpty())
@@ -99,22 +99,28 @@ private:
             plan_.Size = Sizes::Sum(plan_.Size, file.Size);
             plan_.Packed = Sizes::Sum(plan_.Packed, file.Packed);
             plan_.IsDense = plan_.IsDense || IsDense(file.Size, file.Packed);
-            folder.Planned.insert(key, {.Size = file.Size, .Crc = file.Crc});
+            folder.Planned.insert_or_assign(key, FileComparison::Content{.Size = file.Size, .Crc = file.Crc});
         }
         item.Files.push_back(std::move(planned));
     }
 
     /// What stands in a folder, and what comes into it, by names without case.
     struct KnownFolder {
-        QHash<QString, QString> Names;
-        QHash<QString, FileComparison::Content> Planned;
+        std::unordered_map<QString, QString> Names; ///< mostly few
+        std::unordered_map<QString, FileComparison::Content> Planned;
+
+        /// The spelling that stands there, if one does.
+        [[nodiscard]] QString Spelt(const QString& key, const QString& name) const {
+            const auto found = Names.find(key);
+            return found == Names.end() ? name : found->second;
+        }
     };
 
     [[nodiscard]] Effect EffectOf(const PlannedItem& item, const SourceFile& file, const QString& target,
                                   const KnownFolder& folder, const QString& key) const {
         const bool isMap = item.Kind == FileKind::Map || item.Kind == FileKind::ShellMap;
-        if (const auto earlier = folder.Planned.constFind(key); earlier != folder.Planned.constEnd())
-            return isMap && FileComparison::IsSame(file, *earlier) ? Effect::Same : Effect::Replaces;
+        if (const auto earlier = folder.Planned.find(key); earlier != folder.Planned.end())
+            return isMap && FileComparison::IsSame(file, earlier->second) ? Effect::Same : Effect::Replaces;
         if (!folder.Names.contains(key))
             return Effect::New;
         if (!source_.SourceIsZip && Files::SameFile(file.From, target))
@@ -126,24 +132,24 @@ private:
     KnownFolder& Known(const QString& folder) {
         if (last_ != nullptr && lastPath_ == folder)
             return *last_;
-        const auto [place, isNew] = folders_.try_emplace(folder.toCaseFolded());
+        const auto [place, isNew] = folders_.try_emplace(CaseFolded(folder));
         if (isNew) {
             for (const QString& name : Files::ListFolder(folder, true))
-                place->second.Names.insert(name.toCaseFolded(), name);
+                place->second.Names.insert_or_assign(CaseFolded(name), name);
         }
         last_ = &place->second;
         lastPath_ = folder;
         return *last_;
     }
 
-    QString CaseOf(const QString& folder, const QString& name) {
-        return Known(folder).Names.value(name.toCaseFolded(), name);
-    }
+    QString CaseOf(const QString& folder, const QString& name) { return Known(folder).Spelt(CaseFolded(name), name); }
 
     QString NextShellMapFolder() {
         const QString maps = place_.InstallPath + u"Maps\\"_s;
-        if (!shellMapsListed_)
-            shellMaps_ = Known(maps).Names.values();
+        if (!shellMapsListed_) {
+            for (const auto& [key, name] : Known(maps).Names)
+                shellMaps_.append(name);
+        }
         shellMapsListed_ = true;
         const int number = InstallPlans::NextShellMapNumber(shellMaps_);
         const QString name = GameFiles::ShellMapName(QString::number(number));
@@ -154,8 +160,8 @@ private:
     /// A folder in a folder; where it is not there, nothing is in it, and nobody need look.
     QString FolderIn(const QString& parent, const QString& name) {
         QString folder = parent + CaseOf(parent, name) + u'\\';
-        if (!Known(parent).Names.contains(name.toCaseFolded()))
-            folders_.try_emplace(folder.toCaseFolded());
+        if (!Known(parent).Names.contains(CaseFolded(name)))
+            folders_.try_emplace(CaseFolded(folder));
         return folder;
     }
 
@@ -164,7 +170,7 @@ private:
     const GameEntry& place_;
     ItemFiles files_;
     InstallPlan plan_;
-    std::map<QString, KnownFolder> folders_; ///< by their paths without case
+    std::unordered_map<QString, KnownFolder> folders_; ///< by their paths without case
     KnownFolder* last_ = nullptr;
     QString lastPath_;
     QStringList shellMaps_;

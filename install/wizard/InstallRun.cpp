@@ -53,8 +53,7 @@ InstallRun::InstallRun(const InstallSource& source, GameIndex game, Installation
       place_(Game.at(static_cast<std::size_t>(game))),
       view_(view),
       outcome_(outcome),
-      watch_(options.Watch),
-      files_(source.SourceIsZip ? &zip_ : nullptr) {
+      watch_(options.Watch) {
     if (source.SourceIsZip && !source.InstallRecords.empty()) {
         zip_.Password = options.Password;
         zip_.Init(source.InstallRecords.front().ZipPath);
@@ -63,6 +62,18 @@ InstallRun::InstallRun(const InstallSource& source, GameIndex game, Installation
     plan_ = InstallPlans::Make(source, game, zip_);
     if (options.Asks)
         notWanted_ = InstallQuestions::NotWanted(plan_);
+    UnpackAhead();
+}
+
+void InstallRun::UnpackAhead() {
+    std::vector<qint32> entries;
+    for (const PlannedItem& item : plan_.Items) {
+        if (notWanted_.contains(item.Number))
+            continue;
+        for (const PlannedFile& file : item.Files)
+            entries.push_back(zip_.Find(file.Source));
+    }
+    zip_.Ahead(entries, watch_ != nullptr);
 }
 
 void InstallRun::Single() {
@@ -130,7 +141,7 @@ void InstallRun::Install(const InstallRecord& record, const PlannedItem& plan) {
 void InstallRun::InstallMap(const Item& item) {
     TargetFolder& maps = FolderAt(place_.MapPath);
     maps.MakeFolder(item.Base);
-    const std::vector<SourceFile> files = files_.Of(item.Record);
+    const std::vector<SourceFile> files = FilesOf(item);
     for (const SourceFile& file : files)
         Put(maps, file, item.Base + u'\\' + file.Name);
     if (files.empty())
@@ -139,7 +150,7 @@ void InstallRun::InstallMap(const Item& item) {
 
 void InstallRun::InstallMod(const Item& item) {
     TargetFolder& game = FolderAt(place_.InstallPath);
-    const std::vector<SourceFile> files = files_.Of(item.Record);
+    const std::vector<SourceFile> files = FilesOf(item);
     bool isKept = false; // the INI file: what was read out of it may have been cut
     for (const SourceFile& file : files) {
         if (item.Record.ZipPath.isEmpty())
@@ -153,7 +164,7 @@ void InstallRun::InstallMod(const Item& item) {
 
 void InstallRun::InstallReplay(const Item& item) {
     TargetFolder& replays = FolderAt(place_.ReplayPath);
-    for (const SourceFile& file : files_.Of(item.Record))
+    for (const SourceFile& file : FilesOf(item))
         Put(replays, file, file.Name);
 }
 
@@ -168,7 +179,7 @@ void InstallRun::InstallShellMap(const Item& item) {
     });
     Files::EmptyFolder(folder); // what a process left that died in here
     TargetFolder scratch(folder + u'\\', nullptr);
-    for (const SourceFile& file : files_.Of(item.Record)) {
+    for (const SourceFile& file : FilesOf(item)) {
         try {
             zip_.Writes = nullptr;
             if (zip_.DecompressTo(scratch.PathFor(file.Name), file.From) != ZipResult::Done)
@@ -198,6 +209,18 @@ void InstallRun::FillShellMap(const Item& item, const QString& sourceFolder) {
 QString InstallRun::NextShellMap() const {
     const QStringList names = Files::ListFolder(place_.InstallPath + u"Maps\\"_s, true);
     return u"Maps\\"_s + GameFiles::ShellMapName(QString::number(InstallPlans::NextShellMapNumber(names)));
+}
+
+/// The plan knows the entries of an archive; loose files are looked for once more.
+std::vector<SourceFile> InstallRun::FilesOf(const Item& item) const {
+    if (!source_.SourceIsZip)
+        return ItemFiles(nullptr).Of(item.Record);
+    std::vector<SourceFile> files;
+    files.reserve(item.Plan.Files.size());
+    for (const PlannedFile& file : item.Plan.Files)
+        files.push_back(
+            {.Name = EntryNames::LastPart(file.Source), .From = file.Source, .Size = file.Size, .IsEntry = true});
+    return files;
 }
 
 void InstallRun::Put(TargetFolder& folder, const SourceFile& file, const QString& name) {

@@ -34,6 +34,7 @@ private:
         QString Base; ///< the file's name less its last four characters
     };
 
+    void UnpackAhead();
     void Install(const InstallRecord& record, const PlannedItem& plan);
     void InstallMap(const Item& item);
     void InstallMod(const Item& item);
@@ -42,6 +43,7 @@ private:
     void FillShellMap(const Item& item, const QString& sourceFolder);
     [[nodiscard]] QString NextShellMap() const;
 
+    [[nodiscard]] std::vector<SourceFile> FilesOf(const Item& item) const;
     void Put(TargetFolder& folder, const SourceFile& file, const QString& name);
     bool PutStrictly(TargetFolder& folder, const SourceFile& file, const QString& name);
     void Describe(TargetFolder& folder, const QString& name, const QString& section, const InstallRecord& record);
@@ -58,7 +60,6 @@ private:
     InstallOutcome& outcome_;
     FileWatch* watch_;
     ccZip zip_;
-    ItemFiles files_;
     InstallPlan plan_;
     std::set<std::size_t> notWanted_;
     std::map<QString, std::unique_ptr<TargetFolder>> folders_;

@@ -40,15 +40,23 @@ TargetFolder::TargetFolder(const QString& folder, FileWatch* watch)
     : folder_(folder),
       gateway_(Made(folder)),
       real_(WithBackslash(Paths::Real(folder))),
-      watch_(watch) {}
+      isSpeltSo_(real_ == folder_),
+      watch_(watch) {
+    if (watch != nullptr)
+        gateway_.Made = [this](const QString& made) { watch_->MadeFolder(Spelt(made).chopped(1)); };
+}
 
 QString TargetFolder::Spelt(const QString& path) const {
-    return path.startsWith(real_) ? folder_ + path.sliced(real_.size()) : path;
+    return isSpeltSo_ || !path.startsWith(real_) ? path : folder_ + path.sliced(real_.size());
 }
 
 void TargetFolder::WillWrite(const QString& path) {
     if (watch_ != nullptr)
         watch_->WillWrite(Spelt(path));
+}
+
+bool TargetFolder::WillPut(const QString& path, const HashedFile& hashed) {
+    return watch_ == nullptr || watch_->WillPut(Spelt(path), hashed);
 }
 
 void TargetFolder::Written(const QString& path) {

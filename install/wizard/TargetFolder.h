@@ -43,11 +43,13 @@ public:
 
 private:
     void WillWrite(const QString& path) override;
+    bool WillPut(const QString& path, const HashedFile& hashed) override;
     void Written(const QString& path) override;
     void WrittenAs(const QString& path, const HashedFile& hashed) override;
 
     QString folder_;
     FolderGateway gateway_;
     QString real_; ///< where the gateway's paths begin
+    bool isSpeltSo_;
     FileWatch* watch_;
 };

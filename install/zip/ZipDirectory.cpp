@@ -114,7 +114,9 @@ QString ZipEntry::ListedName() const {
     constexpr qsizetype longest = 256;
     const qsizetype zero = Name.indexOf(QChar(u'\0'));
     const qsizetype length = std::min(zero < 0 ? Name.size() : zero, longest);
-    const bool inPair = length < Name.size() && length > 0 && Name[length - 1].isHighSurrogate();
+    if (length == Name.size())
+        return Name; // one text in memory for both
+    const bool inPair = length > 0 && Name[length - 1].isHighSurrogate();
     return Name.first(inPair ? length - 1 : length);
 }
 
@@ -207,7 +209,7 @@ void ZipDirectory::ReadRecords(const Device& archive, const End& end) {
     // A count that lies makes it no more than the directory's bytes could hold.
     const auto most = static_cast<quint64>(std::max<qint64>(end.Limit - end.Start, 0) / RecordLength);
     entries_.reserve(static_cast<std::size_t>(std::min(end.Count, most)));
-    places_.reserve(static_cast<qsizetype>(std::min(end.Count, most)));
+    numbers_.reserve(static_cast<qsizetype>(std::min(end.Count, most)));
     ReadAhead bytes(archive);
     qint64 at = end.Start;
     while (end.Limit - at >= RecordLength) {
@@ -233,21 +235,23 @@ void ZipDirectory::ReadRecords(const Device& archive, const End& end) {
 
 /// Two different names never become one: the later one is told another way.
 void ZipDirectory::Append(const Device& archive, ZipEntry entry, QByteArrayView rawName) {
-    const auto isTaken = [&] {
-        const qsizetype place = Find(entry.Name);
-        if (place < 0)
-            return false;
+    const auto isSame = [&](qsizetype place) {
         const qint64 record = entries_[static_cast<std::size_t>(place)].Record;
         const QByteArray other = archive.Read(record, RecordLength + rawName.size());
-        return other.size() < RecordLength || Word(other, 28) != rawName.size() || NameIn(other) != rawName;
+        return other.size() >= RecordLength && Word(other, 28) == rawName.size() && NameIn(other) == rawName;
     };
-    if (isTaken()) {
-        entry.Name = AnsiCodec::Decode(rawName);
-        while (isTaken())
+    const auto number = static_cast<qsizetype>(entries_.size()) + 1;
+    for (bool isRetold = false;; isRetold = true) {
+        qsizetype& first = numbers_[entry.Name];
+        if (first == 0)
+            first = number;
+        if (first == number || isSame(first - 1))
+            break;
+        if (isRetold)
             entry.Name += QChar(QChar::ReplacementCharacter);
+        else
+            entry.Name = AnsiCodec::Decode(rawName);
     }
-    if (!places_.contains(entry.Name))
-        places_.insert(entry.Name, static_cast<qsizetype>(entries_.size()));
     entries_.push_back(std::move(entry));
 }
 

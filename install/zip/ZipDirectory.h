@@ -58,7 +58,7 @@ public:
     [[nodiscard]] const std::vector<ZipEntry>& Entries() const { return entries_; }
 
     /// The first entry of exactly that whole name; -1 for none.
-    [[nodiscard]] qsizetype Find(const QString& name) const { return places_.value(name, -1); }
+    [[nodiscard]] qsizetype Find(const QString& name) const { return numbers_.value(name) - 1; }
 
     /// As the archive has it.
     [[nodiscard]] const QByteArray& Comment() const { return comment_; }
@@ -74,7 +74,7 @@ private:
     void MarkStandings();
 
     std::vector<ZipEntry> entries_;
-    QHash<QString, qsizetype> places_;
+    QHash<QString, qsizetype> numbers_; ///< of the first entry of each name, from 1 on
     QByteArray comment_;
     qint64 start_ = 0;
 };

@@ -3,6 +3,7 @@
 
 #include "install/zip/ZipReading.h"
 
+#include "core/CaseFolding.h"
 #include "core/Host.h"
 #include "install/zip/ZipFailure.h"
 #include "platform/Files.h"
@@ -29,7 +30,7 @@ constexpr qint64 WorthAskingForRoom = 1'048'576;
 
 ZipReading::ZipReading(const QString& path)
     : archive_(File::Open(path, File::Access::Read)),
-      fileName_(Paths::LastPart(path).toCaseFolded()),
+      fileName_(CaseFolded(Paths::LastPart(path))),
       directory_(archive_),
       library_(archive_, directory_) {}
 
@@ -55,7 +56,7 @@ QString ZipReading::TargetIn(const QString& folder, const QString& name) {
 
 QString ZipReading::PathOf(const Target& target) {
     QString path = target.Folder.isEmpty() ? target.Name : TargetIn(target.Folder, target.Name);
-    if (Paths::LastPart(path).toCaseFolded() == fileName_ && StateOf(path).Identity == archive_.State().Identity)
+    if (CaseFolded(Paths::LastPart(path)) == fileName_ && StateOf(path).Identity == archive_.State().Identity)
         throw RuntimeError(ErrorNumber::PathFileAccess, u"%1 is the archive itself."_s.arg(Paths::ToNative(path)));
     return path;
 }
@@ -64,7 +65,45 @@ void ZipReading::MakeFolder(const QString& folder, const QString& name) {
     GatewayTo(folder).MakeFolder(name);
 }
 
+void ZipReading::Ahead(std::vector<qsizetype> places, bool hashes) {
+    ahead_.reset();
+    ahead_ = std::make_unique<ZipAhead>(archive_, directory_, std::move(places), hashes);
+}
+
 void ZipReading::Unpack(qsizetype place, const Target& target, const QByteArray& password, const Watching& watching) {
+    if (!PutAhead(place, target, watching))
+        UnpackAside(place, target, password, watching);
+}
+
+NewFiles& ZipReading::FolderAt(QStringView folder) {
+    if (folder_ == nullptr || folder_->Folder() != folder)
+        folder_ = std::make_unique<NewFiles>(folder.toString());
+    return *folder_;
+}
+
+/// A file that is not there yet, out of an entry that was unpacked ahead. False where it is to go the long way.
+bool ZipReading::PutAhead(qsizetype place, const Target& target, const Watching& watching) {
+    if (ahead_ == nullptr)
+        return false;
+    const auto unpacked = ahead_->Take(place);
+    if (!unpacked || (watching.Files != nullptr && unpacked->Hashed.Hash.isEmpty()))
+        return false;
+    const QString path = target.Folder.isEmpty() ? target.Name : GatewayTo(target.Folder).TargetFor(target.Name);
+    const qsizetype name = path.lastIndexOf(u'\\') + 1;
+    NewFiles& folder = FolderAt(QStringView(path).first(name));
+    if (watching.Files != nullptr && !watching.Files->WillPut(path, unpacked->Hashed))
+        return false;
+    if (!folder.Put(path.sliced(name), unpacked->Bytes))
+        return false;
+    if (watching.Bytes)
+        watching.Bytes(unpacked->Bytes.size());
+    if (watching.Files != nullptr)
+        watching.Files->WrittenAs(path, unpacked->Hashed);
+    return true;
+}
+
+void ZipReading::UnpackAside(qsizetype place, const Target& target, const QByteArray& password,
+                             const Watching& watching) {
     const ZipEntry& entry = Entry(place);
     auto forget = qScopeGuard([&] { library_.Forget(); });
     const auto stream = library_.Open(place, password);

@@ -6,12 +6,15 @@
 
 #include "core/FolderGateway.h"
 #include "install/FileWatch.h"
+#include "install/zip/ZipAhead.h"
 #include "install/zip/ZipDirectory.h"
 #include "install/zip/ZipLibrary.h"
 #include "platform/File.h"
+#include "platform/NewFiles.h"
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 class ZipReading {
 public:
@@ -47,11 +50,18 @@ public:
     /// what is wrong with the entry, and what the gateway, WriteAside and who is told raise.
     void Unpack(qsizetype place, const Target& target, const QByteArray& password, const Watching& watching);
 
+    /// Begins to unpack entries of those places, each at most once, for those who will want them in that order;
+    /// `hashes` for those who will be watched. What was unpacked for others is let go.
+    void Ahead(std::vector<qsizetype> places, bool hashes);
+
     /// Makes a folder below a folder.
     void MakeFolder(const QString& folder, const QString& name);
 
 private:
     FolderGateway& GatewayTo(const QString& folder);
+    bool PutAhead(qsizetype place, const Target& target, const Watching& watching);
+    void UnpackAside(qsizetype place, const Target& target, const QByteArray& password, const Watching& watching);
+    NewFiles& FolderAt(QStringView folder);
     QString PathOf(const Target& target);
     QString TargetIn(const QString& folder, const QString& name);
     void RequireEnd(const ZipEntry& entry, qint64 size) const;
@@ -63,4 +73,6 @@ private:
     QByteArray block_;
     std::unique_ptr<FolderGateway> gateway_; ///< of the last folder: it knows what stands there
     QString gatewayFolder_;
+    std::unique_ptr<NewFiles> folder_; ///< the last that a file was put into
+    std::unique_ptr<ZipAhead> ahead_;  ///< the archive and its directory outlive it
 };

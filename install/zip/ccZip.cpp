@@ -104,6 +104,22 @@ quint32 ccZip::Crc(qint32 index) const {
     return index < 1 || index > Count() ? 0 : reading_->Entry(index - 1).Crc;
 }
 
+void ccZip::Ahead(const std::vector<qint32>& indexes, bool hashes) {
+    constexpr std::size_t worthAThread = 2;
+    if (reading_ == nullptr || indexes.size() < worthAThread)
+        return;
+    std::vector<bool> isTaken(reading_->Directory().Entries().size() + 1);
+    std::vector<qsizetype> places;
+    places.reserve(indexes.size());
+    for (const qint32 index : indexes) {
+        if (index < 1 || index > Count() || isTaken[static_cast<std::size_t>(index)])
+            continue;
+        isTaken[static_cast<std::size_t>(index)] = true;
+        places.push_back(index - 1);
+    }
+    reading_->Ahead(std::move(places), hashes);
+}
+
 qint32 ccZip::Decompress(const QString& extractDir, const QString& entryName, bool honourDirs) {
     if (extractDir.isEmpty())
         return ZipResult::NoFolder;

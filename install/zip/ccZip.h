@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class FileWatch;
 class ZipReading;
@@ -56,6 +57,11 @@ public:
     [[nodiscard]] qint64 Size(qint32 index) const;
     [[nodiscard]] qint64 Packed(qint32 index) const;
     [[nodiscard]] quint32 Crc(qint32 index) const;
+
+    /// Entries by their numbers, in the order in which they will be extracted, for those who extract many: they are
+    /// unpacked ahead, as far as they are short. What becomes of each is as without this. `hashes`: Writes will be
+    /// told.
+    void Ahead(const std::vector<qint32>& indexes, bool hashes);
 
     /// Extracts the first entry of exactly that name into a folder (an inside path, made when missing), over what
     /// stands there, never outside of it: with `honourDirs` with the folders of its name, else without. What stood

@@ -110,7 +110,8 @@ namespace Paths {
 
 QString ToNativeAsGiven(const QString& path) {
     QString native = HasDrive(path) ? DriveFolder(path) + path.sliced(2) : path;
-    return NameToNative(native.replace(u'\\', u'/'));
+    std::replace(native.begin(), native.end(), QChar(u'\\'), QChar(u'/'));
+    return NameToNative(native);
 }
 
 QString ToNative(const QString& path) {
@@ -125,6 +126,8 @@ QString FromNative(const QString& path) {
 }
 
 QString NameToNative(const QString& name) {
+    if (!name.contains(QChar(BackslashInName)))
+        return name;
     return QString(name).replace(QChar(BackslashInName), u'\\');
 }
 

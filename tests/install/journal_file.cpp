@@ -211,6 +211,26 @@ TEST_F(JournalFileTest, AnInstallThatDiedBetweenAnnouncingAndWritingIsUninstalle
     EXPECT_EQ(Aside(), QStringList());
 }
 
+TEST_F(JournalFileTest, AnInstallThatDiedOverWhatItPromisedIsUninstalledByWhatStandsThere) {
+    RunningHash hash;
+    hash.Add("abc");
+    const HashedFile promised = hash.Result();
+    BreakOff(Source(), [&](JournalRun& run) {
+        for (const QString& name : {u"Put.big"_s, u"Missing.big"_s, u"Another.big"_s}) {
+            EXPECT_TRUE(run.WillPut(InGame(name), promised));
+            run.WrittenAs(InGame(name), promised); // as far as its lines tell, none of them stood there yet
+        }
+    });
+    Write(InGame(u"Put.big"_s), "abc");
+    Write(InGame(u"Another.big"_s), "of another program");
+    const UninstallPlan plan = PlanOf(1);
+    EXPECT_EQ(plan.Paths(Fate::Goes), QStringList{InGame(u"Put.big"_s)});
+    EXPECT_EQ(plan.Paths(Fate::Gone), QStringList{InGame(u"Missing.big"_s)});
+    EXPECT_EQ(plan.Paths(Fate::Changed), QStringList{InGame(u"Another.big"_s)});
+    EXPECT_EQ(Uninstall::Run(plan), QStringList());
+    EXPECT_EQ(Bytes(InGame(u"Another.big"_s)), "of another program");
+}
+
 TEST_F(JournalFileTest, LinesThatAreTornOffArePassedOver) {
     const QByteArray whole = JournalText::FileLine({.Path = u"C:\\a"_s}) + JournalText::FolderLine(u"C:\\f"_s) +
                              JournalText::FileLine({.Path = u"C:\\b"_s});

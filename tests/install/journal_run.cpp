@@ -12,7 +12,14 @@ namespace {
 
 constexpr auto HashOfAbc = "bddd813c634239723171ef3fee98579b94964e3bb1cb3e427262c8c068d52319";
 
-class Journaling : public JournalTest {};
+class Journaling : public JournalTest {
+protected:
+    static HashedFile Hashed(QByteArrayView bytes) {
+        RunningHash hash;
+        hash.Add(bytes);
+        return hash.Result();
+    }
+};
 
 } // namespace
 
@@ -273,4 +280,82 @@ TEST_F(Journaling, TheJournalIsWrittenTwiceForThousandsOfFiles) {
     EXPECT_EQ(entry.Files[1234].Path, Game[0].ReplayPath + u"1234.rep"_s);
     EXPECT_EQ(entry.Files[1234].Length, 4);
     EXPECT_EQ(PlanOf(1).Paths(Fate::Goes).size(), count);
+}
+
+TEST_F(Journaling, AFileThatIsPutInOneStepIsKnownWithAllThatItWillHold) {
+    JournalRun run(Source(), 0);
+    const QString path = InGame(u"A.big"_s);
+    EXPECT_TRUE(run.WillPut(path, Hashed("abc")));
+    JournalEntry before;
+    JournalText::ReadLines(Bytes(InstallJournal::LinesOf(1)), before);
+    ASSERT_EQ(before.Files.size(), std::size_t{1});
+    EXPECT_EQ(before.Files[0].Hash.toHex(), QByteArray(HashOfAbc)) << "before it stands there";
+    EXPECT_EQ(before.Files[0].Length, 3);
+    Write(path, "abc");
+    run.WrittenAs(path, Hashed("abc"));
+    EXPECT_EQ(Bytes(InstallJournal::LinesOf(1)).count('\n'), 1) << "one line is enough";
+    run.End();
+    EXPECT_EQ(Entry(1).Files.at(0).Hash.toHex(), QByteArray(HashOfAbc));
+    EXPECT_FALSE(Entry(1).Files.at(0).Replaced);
+    EXPECT_EQ(PlanOf(1).Paths(Fate::Goes), QStringList{path});
+}
+
+TEST_F(Journaling, NothingIsPutWhereSomethingStandsInAnyCase) {
+    Install(u"Old.big"_s, "old");
+    JournalRun run(Source(), 0);
+    EXPECT_FALSE(run.WillPut(InGame(u"old.BIG"_s), Hashed("abc")));
+    EXPECT_TRUE(run.WillPut(InGame(u"A.big"_s), Hashed("abc")));
+    run.WrittenAs(InGame(u"A.big"_s), Hashed("abc"));
+    EXPECT_FALSE(run.WillPut(InGame(u"a.big"_s), Hashed("abc"))) << "it came a moment ago";
+}
+
+TEST_F(Journaling, WhatCameInBetweenIsPutAsideWhenTheFileTakesTheOtherWay) {
+    JournalRun run(Source(), 0);
+    const QString path = InGame(u"A.big"_s);
+    EXPECT_TRUE(run.WillPut(path, Hashed("abc")));
+    Install(u"A.big"_s, "another's");
+    run.WillWrite(path);
+    Write(path, "abc");
+    run.WrittenAs(path, Hashed("abc"));
+    run.End();
+    ASSERT_EQ(PathsOf(1), QStringList{path});
+    EXPECT_TRUE(Entry(1).Files.at(0).Replaced);
+    EXPECT_EQ(UninstallIt(1), QStringList());
+    EXPECT_EQ(Bytes(path), "another's");
+}
+
+TEST_F(Journaling, WhatWasPromisedAndNotPutIsLeftOut) {
+    JournalRun run(Source(), 0);
+    EXPECT_TRUE(run.WillPut(InGame(u"A.big"_s), Hashed("abc")));
+    run.WillWrite(InGame(u"A.big"_s)); // and this fails too
+    Step(run, InGame(u"B.big"_s), "b");
+    EXPECT_TRUE(run.WillPut(InGame(u"C.big"_s), Hashed("abc")));
+    run.End();
+    EXPECT_EQ(PathsOf(1), QStringList{InGame(u"B.big"_s)});
+}
+
+TEST_F(Journaling, AFolderThatIsToldToBeNewIsTheInstallsOnceAFileComesIntoIt) {
+    JournalRun run(Source(), 0);
+    for (const QString& name : {u"First"_s, u"Second"_s, u"Empty"_s}) {
+        Files::MakeFolder(InMaps(name));
+        run.MadeFolder(InMaps(name));
+    }
+    EXPECT_TRUE(run.WillPut(InMaps(u"First\\a.map"_s), Hashed("abc")));
+    Write(InMaps(u"First\\a.map"_s), "abc");
+    run.WrittenAs(InMaps(u"First\\a.map"_s), Hashed("abc"));
+    Step(run, InMaps(u"Second\\a.map"_s), "b");
+    Step(run, InMaps(u"Second\\b.map"_s), "b");
+    run.End();
+    EXPECT_EQ(Entry(1).Folders, (QStringList{InMaps(u"First"_s), InMaps(u"Second"_s)}));
+    EXPECT_EQ(UninstallIt(1), QStringList());
+    EXPECT_FALSE(Files::FolderExists(InMaps(u"First"_s)));
+    EXPECT_TRUE(Files::FolderExists(InMaps(u"Empty"_s)));
+}
+
+TEST_F(Journaling, ALongSourceIsNotWaitedForWhereNothingIsWritten) {
+    const QString path = Source(u"Long.zip"_s);
+    File::OpenAsGiven(path, File::Access::ReadWrite).SetLength(qint64{1} << 36U); // hours to be read
+    JournalRun run(path, 0);
+    run.End();
+    EXPECT_FALSE(IsKnown(1));
 }
