@@ -24,8 +24,11 @@ using mTraduction::GetText;
 
 namespace {
 
-/// The same text in two lines of about one length.
+/// A long text in two lines of about one length.
 QString InTwoLines(QString text) {
+    constexpr qsizetype longestOfOne = 16;
+    if (text.size() <= longestOfOne)
+        return text;
     const qsizetype middle = text.size() / 2;
     const qsizetype before = text.lastIndexOf(u' ', middle);
     const qsizetype behind = text.indexOf(u' ', middle);
@@ -69,7 +72,7 @@ void frmOptions::ShowFocus() {
     for (QListView* const list : {static_cast<QListView*>(ui_->lstOptions), ui_->lstMods, ui_->lstShellMaps}) {
         QPalette palette = QApplication::palette(list);
         if (!list->hasFocus()) {
-            palette.setColor(QPalette::Highlight, Style::Colour::SideMenuTop);
+            palette.setColor(QPalette::Highlight, Style::Colour::SideMenuBottom);
             palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
         }
         list->setPalette(palette);
