@@ -58,7 +58,6 @@ frmOptions::frmOptions(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     FitScreen();
     connect(qApp, &QApplication::focusChanged, this, &frmOptions::ShowFocus);
     ShowFocus();
-    setAttribute(Qt::WA_KeyboardFocusChange); // so that the focus is seen from the start
     ui_->Tab1->setFocus();
 }
 
@@ -250,6 +249,12 @@ void frmOptions::ShowNotice() {
     if (notice.Text != told_)
         ui_->Notices->ShowNotice(notice);
     told_ = notice.Text;
+}
+
+// So that the focus is seen from the start.
+void frmOptions::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void frmOptions::accept() {
