@@ -24,8 +24,11 @@ using mTraduction::GetText;
 
 namespace {
 
-/// The same text in two lines of about one length.
+/// A long text in two lines of about one length.
 QString InTwoLines(QString text) {
+    constexpr qsizetype longestOfOne = 16;
+    if (text.size() <= longestOfOne)
+        return text;
     const qsizetype middle = text.size() / 2;
     const qsizetype before = text.lastIndexOf(u' ', middle);
     const qsizetype behind = text.indexOf(u' ', middle);
@@ -55,7 +58,6 @@ frmOptions::frmOptions(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     FitScreen();
     connect(qApp, &QApplication::focusChanged, this, &frmOptions::ShowFocus);
     ShowFocus();
-    setAttribute(Qt::WA_KeyboardFocusChange); // so that the focus is seen from the start
     ui_->Tab1->setFocus();
 }
 
@@ -69,7 +71,7 @@ void frmOptions::ShowFocus() {
     for (QListView* const list : {static_cast<QListView*>(ui_->lstOptions), ui_->lstMods, ui_->lstShellMaps}) {
         QPalette palette = QApplication::palette(list);
         if (!list->hasFocus()) {
-            palette.setColor(QPalette::Highlight, Style::Colour::SideMenuTop);
+            palette.setColor(QPalette::Highlight, Style::Colour::SideMenuBottom);
             palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
         }
         list->setPalette(palette);
@@ -247,6 +249,12 @@ void frmOptions::ShowNotice() {
     if (notice.Text != told_)
         ui_->Notices->ShowNotice(notice);
     told_ = notice.Text;
+}
+
+// So that the focus is seen from the start.
+void frmOptions::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void frmOptions::accept() {

@@ -29,6 +29,9 @@ public:
     /// Cancel, Escape and the window's cross.
     void reject() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void ShowTabs();
     void FitScreen();
