@@ -17,6 +17,7 @@ public:
 
     /// The buttons.
     void DownloadPressed() { Download.Pressed(); }
+
     void CancelPressed();
 
     /// The window has been closed, however.

@@ -142,7 +142,8 @@ TEST_F(UpdateCheckTest, AnAutomaticCheckThatFindsNothingIsSilent) {
 }
 
 TEST_F(UpdateCheckTest, NoVersionCountsAsUpToDate) {
-    for (const QByteArray& info : {QByteArray("[LatestVersion]\r\n"), QByteArray("<html>Not an INI file</html>"), QByteArray(4, 0)}) {
+    for (const QByteArray& info :
+         {QByteArray("[LatestVersion]\r\n"), QByteArray("<html>Not an INI file</html>"), QByteArray(4, 0)}) {
         Tell(info);
         Check();
         EXPECT_EQ(view_.Shown, Panel::NoUpdate) << info.constData();

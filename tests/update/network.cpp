@@ -239,9 +239,9 @@ TEST_F(NetworkTest, OnlyTheWebIsAskedAtAll) {
     QFile file(folder.filePath(u"secret"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("secret") == 6);
     file.close();
-    for (const QString& url : {u""_s, u"updates_info.inf"_s, u"file://"_s + file.fileName(), file.fileName(), u"data:,x"_s,
-                               u"ftp://127.0.0.1/x"_s, u"qrc:/x"_s, u"http://"_s, u"http:// bad host/"_s, u"javascript:x"_s,
-                               u"http://127.0.0.1:1"_s + QChar(0) + u"/"_s}) {
+    for (const QString& url : {u""_s, u"updates_info.inf"_s, u"file://"_s + file.fileName(), file.fileName(),
+                               u"data:,x"_s, u"ftp://127.0.0.1/x"_s, u"qrc:/x"_s, u"http://"_s, u"http:// bad host/"_s,
+                               u"javascript:x"_s, u"http://127.0.0.1:1"_s + QChar(0) + u"/"_s}) {
         Get(url);
         EXPECT_TRUE(Failed()) << url.toStdString();
         EXPECT_EQ(TakeAll(), QByteArray()) << url.toStdString();

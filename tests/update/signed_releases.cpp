@@ -125,8 +125,11 @@ TEST_F(SignedReleases, AnInfoFileOfAnotherKeyOrWithAnotherByteIsRefused) {
 
 TEST_F(SignedReleases, AnInfoFileWhoseCommentIsOfAnotherFileOrVersionIsRefused) {
     const QByteArray info = At(u"updates_info.inf"_s).Body;
-    for (const auto& [version, file] : {std::pair{"9.1.2", "patch.exe"}, {"9.1.3", "updates_info.inf"},
-                                        {"09.1.2", "updates_info.inf"}, {"", ""}, {"9.1.2", "Updates_info.inf"}}) {
+    for (const auto& [version, file] : {std::pair{"9.1.2", "patch.exe"},
+                                        {"9.1.3", "updates_info.inf"},
+                                        {"09.1.2", "updates_info.inf"},
+                                        {"", ""},
+                                        {"9.1.2", "Updates_info.inf"}}) {
         At(u"updates_info.inf.minisig"_s).Body = Signed(info, version, file);
         ExpectInfoIsRefused();
     }
@@ -180,8 +183,12 @@ TEST_F(SignedReleases, AnUpdateOfAnotherKeyOrWithAnotherByteIsDeletedAndNotStart
 }
 
 TEST_F(SignedReleases, ASignatureOfAnotherFileOrAnOlderVersionIsRefused) {
-    for (const auto& [version, file] : {std::pair{"9.1.1", "patch.exe"}, {"3.5.4", "patch.exe"}, {"9.1.2", "setup.exe"},
-                                        {"9.1.2", "Patch.exe"}, {"9.1.2", ""}, {"", "patch.exe"}}) {
+    for (const auto& [version, file] : {std::pair{"9.1.1", "patch.exe"},
+                                        {"3.5.4", "patch.exe"},
+                                        {"9.1.2", "setup.exe"},
+                                        {"9.1.2", "Patch.exe"},
+                                        {"9.1.2", ""},
+                                        {"", "patch.exe"}}) {
         At(u"patch.exe.minisig"_s).Body = Signed("patch bytes", version, file);
         ExpectUpdateIsRefused();
     }

@@ -23,7 +23,6 @@ public:
     virtual bool MayEnd() { return MayClose(); }
 
 protected:
-
     /// The entries that every tool has.
     struct CommonEntries {
         QAction* Exit;
