@@ -137,12 +137,14 @@ void Suite::ShowAbout(QObject* owner) {
     frmAbout(WidgetOf(owner)).exec();
 }
 
-// The user's check waits in the event loop: were that inside the menu of a tool, the tool could not be closed meanwhile.
+// The user's check waits in the event loop: were that inside the menu of a tool, the tool could not be closed
+// meanwhile.
 void Suite::CheckForUpdates(bool automatic) {
     if (automatic)
         mUpdater::CheckForUpdates(true);
     else
-        QMetaObject::invokeMethod(qApp, [] { mUpdater::CheckForUpdates(false); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            qApp, [] { mUpdater::CheckForUpdates(false); }, Qt::QueuedConnection);
 }
 
 void Suite::EnableToolsMenu(bool enabled) {

@@ -13,6 +13,7 @@ namespace NetworkClient {
 /// A client for the one thread. What a server sends faster than it is taken waits at the server. Redirects are followed
 /// at most five times, and never from HTTPS down to HTTP. An answer of 4xx or 5xx has failed, and so has one that ends
 /// before its Content-length. Other addresses than those of the web have failed at once.
+/// Raises 53 where the library is not installed.
 std::unique_ptr<HttpClient> Make();
 
 } // namespace NetworkClient

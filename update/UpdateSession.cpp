@@ -5,6 +5,9 @@
 
 #include "core/Host.h"
 #include "core/mTraduction.h"
+#include "platform/Clock.h"
+
+#include <QElapsedTimer>
 
 #include <algorithm>
 
@@ -12,9 +15,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr qsizetype ChunkSize = 1024;
+
+/// The system looks its time zone up at each question, which takes longer than a chunk does.
+class SeldomClock {
+public:
+    double operator()() {
+        constexpr qint64 milliseconds = 5;
+        if (!asked_.isValid() || asked_.elapsed() >= milliseconds) {
+            seconds_ = Clock::SecondsOfDay();
+            asked_.start();
+        }
+        return seconds_;
+    }
+
+private:
+    QElapsedTimer asked_;
+    double seconds_ = 0;
+};
 } // namespace
 
-UpdateSession::UpdateSession(HttpClient& http, UpdateView& view) : Http(http), View(view) {
+UpdateSession::UpdateSession(HttpClient& http, UpdateView& view) : Http(http), View(view), SecondsOfDay(SeldomClock()) {
     Http.StateChanged = [this](int state) { ServerFailed = ServerFailed || state == HttpClient::icError; };
 }
 

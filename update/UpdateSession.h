@@ -5,9 +5,10 @@
 /// speak with what runs inside their waits.
 #pragma once
 
-#include "platform/Clock.h"
 #include "update/HttpClient.h"
 #include "update/UpdateView.h"
+
+#include <functional>
 
 struct UpdateSession {
     UpdateSession(HttpClient& http, UpdateView& view);
@@ -19,7 +20,7 @@ struct UpdateSession {
     bool DownloadCancelRequested = false; ///< by the user
     bool GivenUp = false;                 ///< the automatic check has waited long enough
     bool Closed = false;                  ///< the window is gone, or the program ends
-    std::function<double()> SecondsOfDay = Clock::SecondsOfDay;
+    std::function<double()> SecondsOfDay; ///< the time; the system's, to some milliseconds
 
     /// Nobody waits for the check any more.
     [[nodiscard]] bool Stopped() const { return Closed || GivenUp; }

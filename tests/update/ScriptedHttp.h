@@ -24,10 +24,10 @@ public:
         qsizetype EndsAt = -1;           ///< so much comes, and the server hangs up
     };
 
-    QHash<QString, Answer> Answers;   ///< an address that is not here is refused
-    QStringList Requests;             ///< every address, in order
-    int Cancels = 0;                  ///< of transfers that were under way
-    std::function<void()> OnChunk;    ///< runs before each chunk is given
+    QHash<QString, Answer> Answers; ///< an address that is not here is refused
+    QStringList Requests;           ///< every address, in order
+    int Cancels = 0;                ///< of transfers that were under way
+    std::function<void()> OnChunk;  ///< runs before each chunk is given
 
     void Execute(const QString& verb) override {
         Requests << verb + u' ' + URL;

@@ -88,7 +88,8 @@ protected:
 
     /// What stands at an address below the base, or at a whole one.
     ScriptedHttp::Answer& At(const QString& name) {
-        return http_.Answers[name.contains(QStringLiteral("://")) ? name : QStringLiteral("http://server/base/") + name];
+        return http_
+            .Answers[name.contains(QStringLiteral("://")) ? name : QStringLiteral("http://server/base/") + name];
     }
 
     void Tell(const QByteArray& info) { At(QStringLiteral("updates_info.inf")).Body = info; }

@@ -14,4 +14,3 @@ public:
 
     void Yield() override { QCoreApplication::processEvents(); }
 };
-

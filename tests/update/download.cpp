@@ -3,6 +3,7 @@
 
 // The download, and the end of the program behind it.
 
+#include "platform/Clock.h"
 #include "platform/Files.h"
 #include "tests/update/UpdateTest.h"
 

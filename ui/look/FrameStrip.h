@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// A moving picture out of a file: a PNG whose frames stand one below the other, with text fields that tell how many there
-/// are ("Frames"), how long each stands ("Milliseconds") and how many pixels a point has ("Scale").
+/// A moving picture out of a file: a PNG whose frames stand one below the other, with text fields that tell how many
+/// there are ("Frames"), how long each stands ("Milliseconds") and how many pixels a point has ("Scale").
 #pragma once
 
 #include <QPixmap>

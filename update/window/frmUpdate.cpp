@@ -164,7 +164,8 @@ void frmUpdate::RunTimers(bool running) {
         running ? timer->start() : timer->stop();
 }
 
-// Never over a question that waits for its answer, nor over an open menu. A menu that is locked has no use for the keys.
+// Never over a question that waits for its answer, nor over an open menu. A menu that is locked has no use for the
+// keys.
 void frmUpdate::BringToFront() {
     if (!isVisible() || QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr)
         return;

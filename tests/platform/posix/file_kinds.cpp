@@ -85,3 +85,18 @@ TEST_F(FileKinds, AWriteBefore1970IsRoundedDownToTheMillisecond) {
     EXPECT_EQ(File::Open(At(u"f"_s), Access::Read).Modified().toMSecsSinceEpoch(), -1750);
     EXPECT_EQ(Files::ModifiedTime(At(u"f"_s)).toMSecsSinceEpoch(), -1750);
 }
+
+TEST_F(FileKinds, WhoMayReadAFileMayStartItOnceItIsExecutable) {
+    Make(u"program"_s, "#!/bin/sh\n");
+    for (const auto& [before, after] :
+         {std::pair{0644, 0755}, {0600, 0700}, {0640, 0750}, {0200, 0300}, {0755, 0755}}) {
+        ASSERT_EQ(::chmod(Native(u"program"_s).constData(), static_cast<mode_t>(before)), 0);
+        Files::MakeExecutable(At(u"program"_s));
+
+        struct stat status {};
+
+        ASSERT_EQ(::stat(Native(u"program"_s).constData(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777, static_cast<mode_t>(after)) << before;
+    }
+    EXPECT_EQ(NumberRaisedBy([&] { Files::MakeExecutable(At(u"missing"_s)); }), 53);
+}

@@ -22,8 +22,8 @@ namespace {
 class WholeRoad : public testing::Test {
 protected:
     WholeRoad() {
-        world_.WriteFile(u"program\\updater.cfg"_s, "[BrindockUpdater]\r\nUpdateServer=" +
-                                                        server_.Address(u"/base/"_s).toLatin1() + "\r\n");
+        world_.WriteFile(u"program\\updater.cfg"_s,
+                         "[BrindockUpdater]\r\nUpdateServer=" + server_.Address(u"/base/"_s).toLatin1() + "\r\n");
         world_.UseLanguage("[LNG]\r\nServerError=No server\r\n");
         world_.Start();
         mUpdater::AutoUpdateCheck = true;
@@ -76,8 +76,9 @@ TEST_F(WholeRoad, AReleaseIsFoundDownloadedMadeExecutableAndStarted) {
     client_.DownloadPressed();
     EXPECT_TRUE(ended_);
     EXPECT_TRUE(MarkComes());
-    EXPECT_EQ(server_.Requests, (QStringList{u"GET /base/updates_info.inf HTTP/1.1"_s, u"GET /base/updates_info.inf HTTP/1.1"_s,
-                                             u"GET /base/patch.run HTTP/1.1"_s, u"GET /base/patch.run HTTP/1.1"_s}));
+    EXPECT_EQ(server_.Requests,
+              (QStringList{u"GET /base/updates_info.inf HTTP/1.1"_s, u"GET /base/updates_info.inf HTTP/1.1"_s,
+                           u"GET /base/patch.run HTTP/1.1"_s, u"GET /base/patch.run HTTP/1.1"_s}));
 }
 
 TEST_F(WholeRoad, AChunkedReleaseGoesTheSameWay) {

@@ -165,11 +165,13 @@ private Q_SLOTS:
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("no picture") << QByteArray("no picture");
         QTest::newRow("cut") << Strip().first(60);
-        for (const auto& [name, field, value] :
-             {std::tuple{"no frames", u"Frames"_s, u"0"_s}, {"too many frames", u"Frames"_s, u"3"_s},
-              {"negative", u"Frames"_s, u"-1"_s}, {"no number", u"Frames"_s, u"many"_s},
-              {"no time", u"Milliseconds"_s, u"0"_s}, {"endless", u"Milliseconds"_s, u"999999999999"_s},
-              {"no scale", u"Scale"_s, u"0"_s}})
+        for (const auto& [name, field, value] : {std::tuple{"no frames", u"Frames"_s, u"0"_s},
+                                                 {"too many frames", u"Frames"_s, u"3"_s},
+                                                 {"negative", u"Frames"_s, u"-1"_s},
+                                                 {"no number", u"Frames"_s, u"many"_s},
+                                                 {"no time", u"Milliseconds"_s, u"0"_s},
+                                                 {"endless", u"Milliseconds"_s, u"999999999999"_s},
+                                                 {"no scale", u"Scale"_s, u"0"_s}})
             QTest::newRow(name) << Strip({{field, value}});
     }
 

@@ -55,8 +55,9 @@ class tst_update : public EditorTest<frmUpdate> {
 private Q_SLOTS:
 
     void init() {
-        BeginIn("[LNG]\r\nDownload=Laden\r\nCancel=Abbrechen\r\nServerError=Kein Server\r\nKiloBytes=KB\r\nSeconds=s\r\n"
-                "Size2=Size:\r\nNewVersion=New\r\nElapsedTime2=Elapsed:\r\n");
+        BeginIn(
+            "[LNG]\r\nDownload=Laden\r\nCancel=Abbrechen\r\nServerError=Kein Server\r\nKiloBytes=KB\r\nSeconds=s\r\n"
+            "Size2=Size:\r\nNewVersion=New\r\nElapsedTime2=Elapsed:\r\n");
         mUpdater::AutoUpdateCheck = false;
         world_->WriteFile(u"program\\updater.cfg"_s, "[BrindockUpdater]\r\nUpdateServer=http://server/\r\n");
     }
@@ -349,8 +350,8 @@ private:
     }
 
     void Offer() {
-        http_->Answers[infoUrl].Body = "[LatestVersion]\r\nVersion=9.9.9\r\nVersionName=Nine <b>\r\nURL=" +
-                                       updateUrl.toLatin1() + "\r\n";
+        http_->Answers[infoUrl].Body =
+            "[LatestVersion]\r\nVersion=9.9.9\r\nVersionName=Nine <b>\r\nURL=" + updateUrl.toLatin1() + "\r\n";
         http_->Answers[updateUrl].Body = QByteArray(30000, 'x');
     }
 

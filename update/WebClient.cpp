@@ -1,9 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "update/NetworkClient.h"
-
-#include "core/Host.h"
+#include "update/WebClient.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkProxyFactory>
@@ -59,7 +57,7 @@ std::optional<QUrl> RedirectOf(const QNetworkReply& reply) {
 
 class WebClient : public HttpClient {
 public:
-    WebClient();
+    explicit WebClient(HttpWait wait);
     ~WebClient() override;
 
     void Execute(const QString& verb) override;
@@ -77,6 +75,7 @@ private:
     [[nodiscard]] bool IsAllTaken() const;
     [[nodiscard]] bool IsShort() const;
 
+    HttpWait wait_;
     QNetworkAccessManager manager_;
     QObject watch_;                 ///< what listens to the answer
     QPointer<QNetworkReply> reply_; ///< none before the first request, and behind one that failed or was cancelled
@@ -88,7 +87,7 @@ private:
     qint64 received_ = 0; ///< bytes of the body
 };
 
-WebClient::WebClient() {
+WebClient::WebClient(HttpWait wait) : wait_(std::move(wait)) {
     manager_.setProxyFactory(new SystemProxies); // the manager's own then
 }
 
@@ -172,8 +171,7 @@ QByteArray WebClient::GetChunk(qsizetype size) {
     while (reply_ != nullptr && came_.size() - taken_ < size && !IsAllTaken()) {
         if (reply_->bytesAvailable() > 0)
             TakeWhatCame();
-        else if (!Host::Current().WaitUntil(
-                     [this] { return reply_ == nullptr || ended_ || reply_->bytesAvailable() > 0; }))
+        else if (!wait_([this] { return reply_ == nullptr || ended_ || reply_->bytesAvailable() > 0; }))
             Fail(); // the program ends
     }
     if (reply_ != nullptr && IsAllTaken() && IsShort())
@@ -204,6 +202,6 @@ bool WebClient::IsShort() const {
 
 } // namespace
 
-std::unique_ptr<HttpClient> NetworkClient::Make() {
-    return std::make_unique<WebClient>();
+std::unique_ptr<HttpClient> MakeWebClient(HttpWait wait) {
+    return std::make_unique<WebClient>(std::move(wait));
 }

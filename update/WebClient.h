@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// The toolkit's network library as an HttpClient. It knows nothing of the rest of the program, which loads it when it
+/// is asked for first, or has it linked in where the programs are built in one piece.
+#pragma once
+
+#include "update/HttpClient.h"
+
+#include <memory>
+
+/// Sleeps in the event loop until a condition holds; false when the loop is left before that.
+using HttpWait = std::function<bool(const std::function<bool()>& condition)>;
+
+std::unique_ptr<HttpClient> MakeWebClient(HttpWait wait);
