@@ -26,6 +26,13 @@ Skin::ButtonState StateOf(const QStyleOption& option) {
             .Pressed = option.state.testFlag(QStyle::State_Sunken)};
 }
 
+// One that is on stays pressed.
+void PaintToolButton(QPainter& painter, const QStyleOption& option) {
+    Skin::ButtonState state = StateOf(option);
+    state.Pressed = state.Pressed || option.state.testFlag(QStyle::State_On);
+    Skin::PaintFace(painter, option.rect, Skin::UserControlLook(state));
+}
+
 void PaintIndicator(QPainter& painter, const QStyleOption& option, Skin::Mark mark) {
     Skin::Ticked ticked = Skin::Ticked::No;
     if (option.state.testFlag(QStyle::State_NoChange))
@@ -136,6 +143,8 @@ void FamilyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     else if (element == PE_FrameLineEdit ||
              (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr))
         PaintFrame(*painter, *option);
+    else if (element == PE_PanelButtonTool)
+        PaintToolButton(*painter, *option);
     else if (element == PE_PanelTipLabel)
         PaintHint(*painter, *option);
     else

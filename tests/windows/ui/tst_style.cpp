@@ -19,6 +19,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QToolButton>
 #include <QTreeView>
 #include <QtMath>
 
@@ -111,6 +112,17 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(60, 0), Style::Colour::Border);
         QCOMPARE(picture.pixelColor(1, 1), QColor(82, 125, 165));
         QVERIFY(HasColour(picture.copy(90, 4, 26, 16), Style::Colour::Border)); // the arrow
+    }
+
+    void aToolButtonHasAButtonsFaceAndStaysPressedWhileItIsOn() {
+        Style::Apply(*qApp);
+        QToolButton button;
+        button.setCheckable(true);
+        button.resize(28, 28);
+        QCOMPARE(PictureOf(button).pixelColor(14, 0), Style::Colour::Border);
+        QCOMPARE(PictureOf(button).pixelColor(14, 1), QColor(247, 247, 247));
+        button.setChecked(true);
+        QCOMPARE(PictureOf(button).pixelColor(14, 1), QColor(231, 223, 214));
     }
 
     void theFrameOfABoxTellsOfTheFocus() {
