@@ -14,6 +14,7 @@
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/text/ControlTexts.h"
+#include "ui/window/ScreenKeeper.h"
 #include "ui/window/WindowHost.h"
 #include "update/NetworkClient.h"
 #include "update/mUpdater.h"
@@ -37,6 +38,8 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     if (watcher != nullptr)
         application.installEventFilter(watcher);
     Style::Apply(application);
+    ScreenKeeper screenKeeper;
+    application.installEventFilter(&screenKeeper);
     Application::installTranslator(new ControlTexts(&application));
     // The icon's readers take longer than the first window: it comes up without it.
     constexpr int untilTheWindowStands = 100;

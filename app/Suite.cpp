@@ -5,6 +5,7 @@
 
 #include "big/window/frmBigEditor.h"
 #include "core/window/frmAbout.h"
+#include "core/window/frmOptions.h"
 #include "core/window/frmToolsMenu.h"
 #include "csf/window/frmCSFEditor.h"
 #include "install/window/AddFilesWizard.h"
@@ -15,6 +16,7 @@
 #include "update/mUpdater.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QScreen>
 
 #include <algorithm>
@@ -30,11 +32,8 @@ template <typename Window>
 Window* Make() {
     auto* const window = new Window;
     window->setAttribute(Qt::WA_DeleteOnClose);
-    const QRect screen = window->screen()->availableGeometry();
-    constexpr QSize frame(16, 48); // about what title and borders take, which are not there yet
-    window->resize(window->size().boundedTo(screen.size() - frame));
     QRect place = window->geometry();
-    place.moveCenter(screen.center());
+    place.moveCenter(window->screen()->availableGeometry().center());
     window->move(place.topLeft());
     return window;
 }
@@ -130,8 +129,8 @@ void Suite::ShowExportFiles(QObject* owner) {
     frmExportFiles1(WidgetOf(owner)).exec();
 }
 
-void Suite::ShowOptions(QObject* /*owner*/) {
-    StayInMenu();
+void Suite::ShowOptions(QObject* owner) {
+    frmOptions(WidgetOf(owner)).exec();
 }
 
 void Suite::ShowAbout(QObject* owner) {
@@ -153,9 +152,10 @@ void Suite::EnableToolsMenu(bool enabled) {
         menu->setEnabled(enabled);
 }
 
+// A question may close any of them.
 bool Suite::MayEndProgram() {
     const QWidgetList windows = QApplication::topLevelWidgets();
-    return std::ranges::all_of(windows, [](QWidget* window) {
+    return std::ranges::all_of(QList<QPointer<QWidget>>(windows.begin(), windows.end()), [](const auto& window) {
         auto* const tool = qobject_cast<ToolWindow*>(window);
         return tool == nullptr || !tool->isVisible() || tool->MayEnd();
     });

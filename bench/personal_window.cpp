@@ -7,15 +7,12 @@
 ///     personal_window picture    walks over the maps of Generals, which all have a preview of one size
 ///
 /// Prints the median and the longest time in milliseconds. The games are those of the registry in use.
+#include "bench/MeasuredSuite.h"
 #include "bench/PaintTimes.h"
-#include "core/mMain.h"
-#include "media/MediaChild.h"
 #include "media/PictureView.h"
 #include "personal/window/KeyedTreeModel.h"
 #include "personal/window/frmPersonalFiles.h"
 #include "ui/list/RowListView.h"
-#include "ui/look/Style.h"
-#include "ui/window/WindowHost.h"
 
 #include <QApplication>
 #include <QThread>
@@ -64,20 +61,12 @@ void Click(const frmPersonalFiles& window, const QString& node) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (MediaChild::IsAsked(argc, argv))
-        return MediaChild::Run(argc, argv);
-    if (argc != 2)
-        return 2;
-    mMain::UseRuntimes();
-    QApplication application(argc, argv);
-    Style::Apply(application);
-    WindowHost host;
-    Host::Use(&host);
-    mMain::DetectGames();
-    frmPersonalFiles window;
-    window.show();
-    QApplication::processEvents();
-    if (QByteArrayView(argv[1]) == "list")
-        TimeList(window);
-    TimePicture(window);
+    return RunMeasured(argc, argv, 1, [&] {
+        frmPersonalFiles window;
+        window.show();
+        QApplication::processEvents();
+        if (QByteArrayView(argv[1]) == "list")
+            TimeList(window);
+        TimePicture(window);
+    });
 }

@@ -6,12 +6,9 @@
 ///     wizard_window FILE
 ///
 /// Prints the median and the longest time in milliseconds. The games are those of the registry in use.
-#include "core/mMain.h"
+#include "bench/MeasuredSuite.h"
 #include "install/window/AddFilesWizard.h"
-#include "media/MediaChild.h"
 #include "platform/Paths.h"
-#include "ui/look/Style.h"
-#include "ui/window/WindowHost.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -49,25 +46,13 @@ double Milliseconds(AddFilesWizard& wizard, TreePainted& painted) {
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    if (MediaChild::IsAsked(argc, argv))
-        return MediaChild::Run(argc, argv);
-    if (argc != 2)
-        return 2;
-    mMain::UseRuntimes();
-    QApplication application(argc, argv);
-    Style::Apply(application);
-    WindowHost host;
-    Host::Use(&host);
-    mMain::DetectGames();
+void Measure(const QString& file) {
     constexpr int rounds = 7;
     std::vector<double> times;
     for (int round = 0; round < rounds; ++round) {
         TreePainted painted;
         AddFilesWizard wizard(nullptr);
-        wizard.Begin(Paths::FromNative(QString::fromLocal8Bit(argv[1])));
+        wizard.Begin(file);
         QApplication::processEvents();
         QApplication::instance()->installEventFilter(&painted);
         times.push_back(Milliseconds(wizard, painted));
@@ -76,4 +61,10 @@ int main(int argc, char** argv) {
     std::printf("%.1f %.1f\n", times.at(rounds / 2), times.back());
     std::fflush(stdout);
     std::_Exit(0);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    return RunMeasured(argc, argv, 1, [&] { Measure(Paths::FromNative(QString::fromLocal8Bit(argv[1]))); });
 }

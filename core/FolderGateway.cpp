@@ -108,6 +108,10 @@ QString FolderGateway::RefusalOf(QStringView name) {
     return {};
 }
 
+QString FolderGateway::RefusalOfFolder(QStringView name) {
+    return std::ranges::any_of(name, IsSeparator) ? u"holds a separator"_s : RefusalOf(name);
+}
+
 bool FolderGateway::IsInside(const QString& path) const {
     const QString real = Paths::Real(path);
     return (real + u'\\').startsWith(root_) && !real.isEmpty();

@@ -32,6 +32,9 @@ public:
     /// names can't. Empty for a good name. Both separators count; the answer is the same on every system.
     static QString RefusalOf(QStringView name);
 
+    /// Why a name can't be one folder's; empty for a good one.
+    static QString RefusalOfFolder(QStringView name);
+
 private:
     struct Folder;
 

@@ -39,7 +39,8 @@ public:
     /// The tools menu takes clicks and keys, or no longer; nothing where it is not visible.
     virtual void EnableToolsMenu(bool enabled) = 0;
 
-    /// Asks each open tool about what would be lost if the program ended; false when it has to stay.
+    /// Asks each open tool about unsaved changes, before the program ends without closing them; false when one of them
+    /// has to stay.
     virtual bool MayEndProgram() = 0;
 
     /// The one in use; asking for a missing one raises 91.

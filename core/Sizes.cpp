@@ -6,6 +6,9 @@
 #include "core/mTraduction.h"
 
 #include <QLocale>
+#include <QtNumeric>
+
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +18,11 @@ QString Sizes::Grouped(qint64 number) {
     for (qsizetype at = text.size() - group; at > 0; at -= group)
         text.insert(at, QLocale().groupSeparator());
     return text;
+}
+
+qint64 Sizes::Sum(qint64 left, qint64 right) {
+    qint64 sum = 0;
+    return qAddOverflow(left, right, &sum) ? std::numeric_limits<qint64>::max() : sum;
 }
 
 QString Sizes::KiloBytes(qint64 bytes) {

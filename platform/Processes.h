@@ -14,10 +14,15 @@ namespace Processes {
 /// A process that was started; 0 is none.
 using Handle = quintptr;
 
+enum class FirstWindow {
+    Normal,
+    Minimised, ///< where a system lets the one who starts a program say that: on Windows
+};
+
 /// Starts a command text: a program, quoted or up to the first blank, and its arguments, which reach it unchanged.
-/// On Linux the program is a Windows one and runs through `wine` in the prefix that its path belongs to; the path is
-/// looked up without regard to case. Does not wait. Raises 53 when the program can't be started.
-void StartCommand(const QString& command);
+/// On Linux a Windows program (.exe) runs through `wine` in the prefix that its path belongs to; the path is looked up
+/// without regard to case. Does not wait. Raises 53 when the program can't be started.
+void StartCommand(const QString& command, FirstWindow window = FirstWindow::Normal);
 
 /// The program and arguments that StartCommand would run on this system, for show.
 QStringList CommandFor(const QString& command);

@@ -4,9 +4,11 @@
 #include "update/SignedFile.h"
 
 #include "core/mTraduction.h"
+#include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
-#include "update/ReleaseKey.h"
+#include "update/Signature.h"
+#include "update/VersionNumbers.h"
 #include "update/mUpdater.h"
 
 using namespace Qt::StringLiterals;
@@ -28,9 +30,9 @@ bool SignedFiles::Accept(UpdateSession& session, const SignedFile& file) {
     const QByteArray signature = session.GetSmall(file.Url + u".minisig"_s, LongestSignature);
     bool accepted = false;
     Ignoring([&] {
-        if (signature.isEmpty() || !ReleaseKey::Make)
-            return;
-        const ReleaseKey::Claim claim = ReleaseKey::Make(mUpdater::PublicKey())->Verify(file.Path, signature);
+        const Signature::PublicKey key = Signature::ReadPublicKey(mUpdater::PublicKey());
+        const File bytes = File::Open(file.Path, File::Access::Read);
+        const Signature::Claim claim = Signature::ReadClaim(Signature::Verify(bytes, signature, key));
         accepted = claim.File == file.Name && claim.Version == mUpdater::LatestVersion &&
                    VersionNumbers::Of(claim.Version).has_value();
     });

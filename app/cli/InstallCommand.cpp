@@ -121,7 +121,14 @@ void InstallNow(const Arguments& given, const QString& path) {
     }
     NoView view;
     InstallOutcome outcome;
-    Installation::InstallFiles(source, game, view, outcome, options);
+    try {
+        Installation::InstallFiles(source, game, view, outcome, options);
+    } catch (const RuntimeError&) {
+        // What was done until then is there.
+        InstallRows::Print(outcome, given.Has("--json"));
+        Flush();
+        throw;
+    }
     InstallRows::Print(outcome, given.Has("--json"));
     if (outcome.AnyFailed())
         EndWith(1);

@@ -4,6 +4,7 @@
 #include "app/cli/InstallRows.h"
 
 #include "app/cli/Output.h"
+#include "core/Sizes.h"
 #include "core/mMain.h"
 #include "platform/Paths.h"
 
@@ -29,14 +30,14 @@ QString EffectName(PlannedFile::Effect effect) {
 }
 
 QString StateName(InstalledFile::State state) {
-    static const std::array<QString, 3> names{u"installed"_s, u"kept"_s, u"failed"_s};
+    static const std::array<QString, 4> names{u"installed"_s, u"kept"_s, u"failed"_s, u"journal"_s};
     return names.at(static_cast<std::size_t>(state));
 }
 
 qint64 SizeOf(const PlannedItem& item) {
     qint64 size = 0;
     for (const PlannedFile& file : item.Files)
-        size += file.Size;
+        size = Sizes::Sum(size, file.Size);
     return size;
 }
 
@@ -116,7 +117,7 @@ void InstallRows::Print(const InstallOutcome& outcome, bool asJson) {
         if (asJson)
             files.append(
                 QJsonObject{{u"state"_s, StateName(file.How)}, {u"name"_s, file.Name}, {u"reason"_s, file.Reason}});
-        else if (file.How != InstalledFile::State::Failed)
+        else if (file.How == InstalledFile::State::Done || file.How == InstalledFile::State::Kept)
             PrintRow({StateName(file.How), file.Name});
     }
     if (asJson)
@@ -124,5 +125,7 @@ void InstallRows::Print(const InstallOutcome& outcome, bool asJson) {
     for (const InstalledFile& file : outcome.Files()) {
         if (file.How == InstalledFile::State::Failed)
             Report(RuntimeError(ErrorNumber::PathFileAccess, file.Name + u": "_s + file.Reason));
+        else if (file.How == InstalledFile::State::Noted)
+            Report(RuntimeError(ErrorNumber::PathFileAccess, file.Name));
     }
 }

@@ -97,10 +97,11 @@ public:
     static void DragEnded() { DragOut::Ended(); }
 
     /// The questions about copies that other programs have changed so far, and about unsaved changes; false when the
-    /// window has to stay. True ends every wait for another program.
-    bool MayClose();
-    /// The same questions where the document stays all the same.
+    /// window has to stay.
     bool MayEnd();
+
+    /// The same; true ends every wait for another program.
+    bool MayClose();
 
     /// A click on a node of the tree.
     void ClickNode(int node);

@@ -36,6 +36,7 @@ frmVersion::frmVersion(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     // Yes and No say nothing without their question.
     for (QRadioButton* answer : {ui_->optYes, ui_->optNo})
         answer->setAccessibleName(ui_->lblTranslated->text() + u' ' + answer->text());
+    resize(size().expandedTo(sizeHint())); // the games' names are longer in some languages
     connect(ui_->cmdOK, &QPushButton::clicked, this, [this] {
         Store();
         accept();

@@ -3,11 +3,11 @@
 
 #include "install/export/ExportSource.h"
 
-#include "core/FolderGateway.h"
 #include "core/NameOrder.h"
 #include "install/InstallSource.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Files.h"
+#include "platform/FolderBounds.h"
 #include "platform/FolderEntries.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -25,7 +25,8 @@ public:
     Lister(ExportSource& source, const QString& folder, bool recurse)
         : source_(source),
           top_(folder + u'\\'),
-          recurse_(recurse) {}
+          recurse_(recurse),
+          bounds_(folder) {}
 
     /// `below` is a folder's name below the top, with a backslash behind it; empty for the top itself.
     void Enter(const QString& below) {
@@ -47,7 +48,7 @@ public:
 
 private:
     void TakeFile(const QString& name, qint64 size) {
-        if (size < 0 || LeadsOut(top_ + name))
+        if (size < 0 || bounds_.LeadsOut(top_ + name))
             Pass(name, ExportOutcome::NotPlain);
         else
             source_.Files.push_back({.Path = top_ + name, .Name = source_.Record.Name + u'\\' + name, .Size = size});
@@ -71,18 +72,10 @@ private:
         source_.Other.push_back({ExportSources::Shown(source_.Record.Name + u'\\' + name), outcome});
     }
 
-    [[nodiscard]] bool LeadsOut(const QString& path) {
-        if (!Files::IsLink(path))
-            return false;
-        if (realTop_.isEmpty())
-            realTop_ = Paths::Real(top_) + u'\\';
-        return !Paths::Real(path).startsWith(realTop_);
-    }
-
     ExportSource& source_;
     QString top_; ///< with its backslash
     bool recurse_;
-    QString realTop_;
+    FolderBounds bounds_;
 };
 
 /// The folder of a shell map, whose record names the pattern of its files.
@@ -97,6 +90,8 @@ void List(ExportSource& source) {
     if (folder.isEmpty())
         return;
     if (record.Kind == FileKind::Map || record.Kind == FileKind::ShellMap) {
+        if (!Files::FolderExists(folder))
+            return;
         source.Folders.append(record.Name);
         Lister(source, folder, record.Kind == FileKind::Map).Enter({});
     } else if (Files::FileExists(record.Path)) {
@@ -134,12 +129,10 @@ QStringList ExportSources::NamesBeyondThePage(const std::vector<ExportSource>& s
     return names;
 }
 
-QString ExportSources::Shown(const QString& name) {
-    return Paths::ToNativeAsGiven(name);
+QString ExportSources::NameOf(const ExportRecord& record) {
+    return record.Name.isEmpty() ? Shown(Paths::LastPart(FolderOf(record))) : record.Name;
 }
 
-QString ExportSources::RefusalOfFolder(const QString& name) {
-    if (name.contains(u'\\') || name.contains(u'/'))
-        return u"holds a separator"_s;
-    return FolderGateway::RefusalOf(name);
+QString ExportSources::Shown(const QString& name) {
+    return Paths::ToNativeAsGiven(name);
 }

@@ -36,10 +36,10 @@ qint64 Bytes(const std::vector<ExportSource>& sources);
 /// The files' names that the ANSI page lacks letters for.
 QStringList NamesBeyondThePage(const std::vector<ExportSource>& sources);
 
+/// What to call a record where its name can't be a folder's: an empty one is called as the folder it stands in.
+QString NameOf(const ExportRecord& record);
+
 /// A name below the target as the system writes it.
 QString Shown(const QString& name);
-
-/// Why a text can't be the name of a folder, separators included; empty for one that can.
-QString RefusalOfFolder(const QString& name);
 
 } // namespace ExportSources

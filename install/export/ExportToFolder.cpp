@@ -28,9 +28,9 @@ public:
         if (record.Path.isEmpty())
             return Tell(QString(), ExportOutcome::NoPath);
         if (record.Kind == FileKind::ShellMap)
-            if (const QString refusal = ExportSources::RefusalOfFolder(record.Name); !refusal.isEmpty())
-                return Tell(record.Name, ExportOutcome::Refused, refusal);
-        if (source.Files.empty())
+            if (const QString refusal = FolderGateway::RefusalOfFolder(record.Name); !refusal.isEmpty())
+                return Tell(ExportSources::NameOf(record), ExportOutcome::Refused, refusal);
+        if (source.Folders.empty() && source.Files.empty())
             Tell(ExportSources::Shown(record.Name), ExportOutcome::Gone);
         else
             CopyAll(source);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "core/FolderGateway.h"
 #include "core/ProgramFolders.h"
 #include "install/InstallSource.h"
 #include "install/export/ExportWork.h"
@@ -154,8 +155,8 @@ private:
 
     void AddShellMap(const ExportSource& source) {
         const QString& name = source.Record.Name;
-        if (const QString refusal = ExportSources::RefusalOfFolder(name); !refusal.isEmpty())
-            return Tell(name, ExportOutcome::Refused, refusal);
+        if (const QString refusal = FolderGateway::RefusalOfFolder(name); !refusal.isEmpty())
+            return Tell(ExportSources::NameOf(source.Record), ExportOutcome::Refused, refusal);
         const qint32 before = zip_.FileCount();
         Failure failure;
         ExportSource copied{.Record = source.Record, .Files = {}, .Folders = {}, .Other = {}};

@@ -26,7 +26,8 @@ struct ExportWatch {
 namespace Exporting {
 
 /// Writes a ZIP, over what stands there. Of maps and shell maps the names begin with the folder's, of mods and replays
-/// they are the files' alone. One that was cancelled leaves nothing behind.
+/// they are the files' alone. One that was cancelled leaves nothing behind,
+/// but where a record behind it packs the ZIP itself: then it is written behind each.
 ExportReport ToZip(const std::vector<ExportSource>& sources, const QString& zip, const ExportChoice& choice,
                    const ExportWatch& watch = {});
 

@@ -43,11 +43,6 @@ JournalChanges::~JournalChanges() {
     });
 }
 
-const JournalFile* JournalChanges::Last(const QString& path) const {
-    const auto found = places_.constFind(JournalKey(path));
-    return found == places_.constEnd() || found->empty() ? nullptr : &At(found->back());
-}
-
 void JournalChanges::Add(std::size_t entry, JournalFile file) {
     std::vector<JournalFile>& files = journal_.Entries[entry].Files;
     std::vector<Place>& places = places_[JournalKey(file.Path)];

@@ -33,9 +33,6 @@ public:
     /// The file holds `now` in place of `before`; what held anything else stays as it was known.
     void Rewritten(const QString& path, const QByteArray& before, const HashedFile& now);
 
-    /// What the last install that wrote a file knows of it; null when none has.
-    [[nodiscard]] const JournalFile* Last(const QString& path) const;
-
 private:
     using Place = std::pair<std::size_t, std::size_t>; ///< in the entries, and in that one's files
 

@@ -86,7 +86,7 @@ void AddFilesWizard::Show(WizardPage* page) {
     if (owner_ != nullptr)
         page->setWindowModality(Qt::ApplicationModal);
     if (page_ != nullptr)
-        page->move(page_->pos());
+        page->setGeometry(page_->geometry());
     connect(page, &QDialog::finished, this, &AddFilesWizard::End);
     page->show();
     Leave();

@@ -30,7 +30,8 @@ frmAddFiles1::frmAddFiles1(QWidget* parent) : WizardPage(parent), ui_(std::make_
         source_.Browse();
         Follow();
     });
-    connect(ui_->cbGame, &QComboBox::currentIndexChanged, this, [this](int row) {
+    // A click on the row that is selected already counts, too: the file may be another one by now.
+    connect(ui_->cbGame, &QComboBox::activated, this, [this](int row) {
         source_.SelectGame(row);
         Follow();
     });

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The text with CR LF behind each line. The raw text: the plain one has ordinary blanks in place of no-break ones.
+/// The text with CR LF between its lines. The raw text: the plain one has ordinary blanks in place of no-break ones.
 QString TextOf(const QPlainTextEdit& box) {
     QString text = box.document()->toRawText();
     text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');

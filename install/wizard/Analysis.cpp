@@ -23,6 +23,7 @@ namespace {
 constexpr qsizetype ExtensionLength = 3;
 constexpr qsizetype ExtensionWithDot = 4;
 constexpr int EntriesAtATime = 256;
+constexpr qint64 LargestRecord = 1024 * 1024;
 
 constexpr QStringView FirstShellMap = u"shellmap1.map";
 constexpr QStringView SecondShellMap = u"shellmapmd.map";
@@ -136,12 +137,18 @@ private:
         if (!Has(ini))
             return;
         DescribeBy(record, ini);
-        passedOver_.AddModIni(ini);
+        if (IsReadable(ini))
+            passedOver_.AddModIni(ini);
+        else
+            passedOver_.AddTooLarge(ini);
     }
+
+    /// Nobody was asked about its size yet. People's are of a few lines.
+    [[nodiscard]] bool IsReadable(const QString& ini) const { return zip_.Size(zip_.Find(ini)) <= LargestRecord; }
 
     /// What can't be extracted can't be deleted. This is meant.
     void DescribeBy(InstallRecord& record, const QString& ini) const {
-        if (records_ == Analysis::Records::Left)
+        if (records_ == Analysis::Records::Left || !IsReadable(ini))
             return;
         const QString scratch = ProgramFolders::ScratchFolder();
         if (zip_.Decompress(scratch, ini, false) != 0)

@@ -23,7 +23,8 @@ namespace {
 
 constexpr qsizetype ExtensionLength = 3;
 constexpr qsizetype ExtensionWithDot = 4;
-constexpr qsizetype KeyPrefix = 4; ///< "ZIP:"
+constexpr qint64 LargestPicture = 64LL * 1024 * 1024; ///< bytes; nobody was asked about it
+constexpr qsizetype KeyPrefix = 4;                    ///< "ZIP:"
 
 /// By kind.
 QString GroupKey(qint32 kind) {
@@ -216,7 +217,7 @@ FilesTree::Preview FilesTree::ExtractedPreview(const FilesNode& node) const {
     ccZip zip;
     zip.Password = zip_.Password;
     zip.Init(source_.InstallRecords.front().ZipPath);
-    if (zip.Decompress(scratch, entry, false) != 0)
+    if (zip.Size(zip.Find(entry)) > LargestPicture || zip.Decompress(scratch, entry, false) != 0)
         return {};
     return {.File = scratch + u'\\' + EntryNames::LastPart(entry), .IsExtracted = true};
 }

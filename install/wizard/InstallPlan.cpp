@@ -6,6 +6,7 @@
 #include "core/FolderGateway.h"
 #include "core/GameFiles.h"
 #include "core/NameOrder.h"
+#include "core/Sizes.h"
 #include "install/wizard/EntryNames.h"
 #include "install/wizard/FileComparison.h"
 #include "install/wizard/ItemFiles.h"
@@ -66,7 +67,7 @@ private:
 
     void AddFiles(PlannedItem& item, const InstallRecord& record, const QString& base) {
         if (record.Kind == FileKind::Map) {
-            item.Refusal = InstallPlans::FolderRefusal(base);
+            item.Refusal = FolderGateway::RefusalOfFolder(base);
             item.Folder = FolderIn(place_.MapPath, base);
         } else if (record.Kind == FileKind::ShellMap) {
             item.Folder = NextShellMapFolder();
@@ -95,8 +96,8 @@ private:
             planned.Refusal = FolderGateway::RefusalOf(file.Name);
         planned.What = planned.Refusal.isEmpty() ? EffectOf(item, file, planned.Target, folder, key) : Effect::Refused;
         if (planned.What != Effect::Refused && planned.What != Effect::Itself) {
-            plan_.Size += file.Size;
-            plan_.Packed += file.Packed;
+            plan_.Size = Sizes::Sum(plan_.Size, file.Size);
+            plan_.Packed = Sizes::Sum(plan_.Packed, file.Packed);
             plan_.IsDense = plan_.IsDense || IsDense(file.Size, file.Packed);
             folder.Planned.insert(key, {.Size = file.Size, .Crc = file.Crc});
         }
@@ -178,12 +179,6 @@ bool PlannedItem::ReplacesSomething() const {
 
 InstallPlan InstallPlans::Make(const InstallSource& source, GameIndex game, const ccZip& zip) {
     return Planner(source, game, zip).Make();
-}
-
-QString InstallPlans::FolderRefusal(const QString& name) {
-    if (name.contains(u'\\') || name.contains(u'/'))
-        return u"holds a separator"_s;
-    return FolderGateway::RefusalOf(name);
 }
 
 int InstallPlans::NextShellMapNumber(const QStringList& names) {

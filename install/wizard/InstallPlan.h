@@ -60,9 +60,6 @@ inline constexpr qint64 DensestUsual = 500;
 /// what takes their place.
 InstallPlan Make(const InstallSource& source, GameIndex game, const ccZip& zip);
 
-/// Why a text can't be the name of one folder, by the gateway's rules; empty for a good one.
-QString FolderRefusal(const QString& name);
-
 /// The number that the next shell map of a game gets, by the names in its "Maps" folder; 0 where the last one of them
 /// ends in no number.
 int NextShellMapNumber(const QStringList& names);

@@ -7,6 +7,7 @@
 #include "install/wizard/EntryNames.h"
 #include "install/zip/ccZip.h"
 #include "platform/Files.h"
+#include "platform/FolderBounds.h"
 #include "platform/FolderEntries.h"
 #include "platform/Paths.h"
 
@@ -17,11 +18,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype ExtensionWithDot = 4;
-
-/// True for a link to what does not lie in the folder (with its trailing backslash) or below.
-bool LeadsOut(const QString& folder, const QString& path) {
-    return Files::IsLink(path) && !Paths::Real(path).startsWith(Paths::Real(folder) + u'\\');
-}
 
 SourceFile Loose(const QString& path) {
     const qint64 size = Files::FileLength(path);
@@ -39,13 +35,14 @@ std::vector<SourceFile> AllIn(const QString& folder) {
         entries.insert(entry.Name, entry);
     }
     NameOrder::Sort(names);
+    FolderBounds bounds(folder);
     std::vector<SourceFile> files;
     for (const QString& name : names) {
         const FolderEntry& entry = entries[name];
         SourceFile file{.Name = name, .From = folder + name, .Size = entry.Size, .Packed = entry.Size};
         if (!entry.IsPlain)
             file.Refusal = u"is no plain file"_s;
-        else if (LeadsOut(folder, file.From))
+        else if (bounds.LeadsOut(file.From))
             file.Refusal = u"is a link that leads out of its folder"_s;
         files.push_back(file);
     }

@@ -69,6 +69,8 @@ std::optional<QString> PassedOver::ReasonOf(const QString& entry) const {
         return u"PassedOverLongName"_s;
     if (modInis_.contains(entry))
         return u"PassedOverModIni"_s;
+    if (tooLarge_.contains(entry))
+        return u"PassedOverTooLarge"_s;
     if (IsArchive(name))
         return u"PassedOverArchive"_s;
     if (IsBelowAMap(folder))

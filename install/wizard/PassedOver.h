@@ -22,6 +22,9 @@ public:
     /// An entry of that name was read beside a mod.
     void AddModIni(const QString& entry) { modInis_.insert(entry); }
 
+    /// One that was too large to be read there.
+    void AddTooLarge(const QString& entry) { tooLarge_.insert(entry); }
+
     /// An entry that is no map, mod, replay or shell map.
     void AddOther(const QString& entry) { others_.append(entry); }
 
@@ -34,5 +37,6 @@ private:
 
     QSet<QString> mapFolders_;
     QSet<QString> modInis_;
+    QSet<QString> tooLarge_;
     QStringList others_;
 };

@@ -6,6 +6,7 @@
 #include "core/NameOrder.h"
 #include "platform/File.h"
 #include "platform/Files.h"
+#include "platform/FolderBounds.h"
 #include "platform/FolderEntries.h"
 #include "platform/Paths.h"
 #include "platform/Wildcards.h"
@@ -23,7 +24,7 @@ struct Listed {
 class Walker {
 public:
     Walker(const QString& path, bool recurse, const ZipWalk::Visitor& visitor)
-        : top_(Paths::Folder(path)),
+        : bounds_(Paths::Folder(path)),
           recurse_(recurse),
           visitor_(visitor) {
         const QString name = Paths::LastPart(path);
@@ -67,7 +68,7 @@ private:
         // A name without a dot fits no pattern of a walk. This is meant.
         const QString pattern = base_ + u'.' + extension_;
         for (const QString& name : names) {
-            if (IsLike(name, pattern) && !LeadsOut(folder + name))
+            if (IsLike(name, pattern) && !bounds_.LeadsOut(folder + name))
                 visitor_.File(folder + name);
         }
     }
@@ -78,27 +79,17 @@ private:
         if (extension_.isEmpty())
             names.prepend(base_);
         for (const QString& name : names) {
-            if (!StateOf(folder + name).Identity.isEmpty() && !LeadsOut(folder + name))
+            if (!StateOf(folder + name).Identity.isEmpty() && !bounds_.LeadsOut(folder + name))
                 return folder + name;
         }
         return {};
     }
 
-    /// True for a link to what does not lie below the folder that the walk began in.
-    [[nodiscard]] bool LeadsOut(const QString& path) {
-        if (!Files::IsLink(path))
-            return false;
-        if (realTop_.isEmpty())
-            realTop_ = Paths::Real(top_);
-        return !Paths::Real(path).startsWith(realTop_.endsWith(u'\\') ? realTop_ : realTop_ + u'\\');
-    }
-
-    QString top_; ///< with its backslash
+    FolderBounds bounds_; ///< of the folder that the walk began in
     bool recurse_;
     const ZipWalk::Visitor& visitor_;
     QString base_;
     QString extension_;
-    QString realTop_;
 };
 
 } // namespace

@@ -112,7 +112,7 @@ QStringList Processes::CommandFor(const QString& command) {
     return IsWindowsProgram(parts.Program) ? QStringList(u"wine"_s) + words : words;
 }
 
-void Processes::StartCommand(const QString& command) {
+void Processes::StartCommand(const QString& command, FirstWindow /*window*/) {
     const QString program = CommandText::Split(command).Program;
     QByteArrayList words;
     for (const QString& word : CommandFor(command))

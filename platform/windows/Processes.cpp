@@ -31,13 +31,13 @@ QStringList Processes::CommandFor(const QString& command) {
     return QStringList(parts.Program) + CommandText::Arguments(parts.Rest);
 }
 
-void Processes::StartCommand(const QString& command) {
+void Processes::StartCommand(const QString& command, FirstWindow window) {
     // The call writes into the text.
     std::wstring text = command.toStdWString();
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow = SW_SHOWNORMAL;
+    startup.wShowWindow = window == FirstWindow::Minimised ? SW_SHOWMINIMIZED : SW_SHOWNORMAL;
     PROCESS_INFORMATION started{};
     if (::CreateProcessW(nullptr, text.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &started) == 0)
         throw RuntimeError(ErrorNumber::FileNotFound, u"%1: can't be started"_s.arg(command));

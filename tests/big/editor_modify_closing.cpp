@@ -77,6 +77,19 @@ TEST_F(EditorModifyClosing, ANoClosesAndLeavesTheCopyWhereItIs) {
     EXPECT_EQ(World::ReadFile(Scratch(u"One.csf"_s)), "written");
 }
 
+TEST_F(EditorModifyClosing, TheQuestionsBeforeTheProgramEndsKeepTheWait) {
+    bool mayEnd = false;
+    Program = [&](const QString& path) {
+        mayEnd = Editor.MayEnd();
+        Write(path, "written");
+        Speaker.Answers = {Answer::Yes};
+    };
+    Editor.ActivateRow(0);
+    EXPECT_TRUE(mayEnd);
+    EXPECT_EQ(Asked(), QStringList{u"InsertModifiedFile"_s}) << "another tool stayed, and so does the program";
+    EXPECT_TRUE(Entry(0).IsNew);
+}
+
 TEST_F(EditorModifyClosing, ACancelKeepsTheWindowAndTheWait) {
     bool closed = true;
     Program = [&](const QString& path) {

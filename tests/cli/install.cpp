@@ -195,6 +195,27 @@ TEST_F(InstallCommand, APasswordOpensWhatIsEncrypted) {
     EXPECT_EQ(World::ReadFile(Game[0].ReplayPath + u"a.rep"_s), "hello");
 }
 
+TEST_F(InstallCommand, WhatTheJournalHasToSayStandsOnStandardError) {
+    world_.WriteFile(u"installed.json"_s, "damaged");
+    const QStringList command{u"install"_s, Put(u"a.rep"_s), game_, gen_};
+    const Outcome outcome = RunCommand(command);
+    EXPECT_EQ(outcome.Output, Line({u"installed"_s, Paths::ToNative(Game[0].ReplayPath + u"a.rep"_s)}));
+    EXPECT_TRUE(outcome.Error.contains("installed.damaged-1.json")) << outcome.Error.constData();
+    world_.WriteFile(u"installed.json"_s, "damaged");
+    const QJsonArray files = QJsonDocument::fromJson(RunCommand(command + QStringList(u"--json"_s)).Output).array();
+    EXPECT_EQ(files.last().toObject()[u"state"_s].toString(), u"journal"_s);
+}
+
+TEST_F(InstallCommand, WhatWasDoneBeforeAFailureIsTold) {
+    Put(u"M.ini"_s, "[Mod]\r\nName=m\r\n");
+    const QString elsewhere = Paths::ToNative(world_.WriteFile(u"elsewhere\\x"_s, "x"));
+    ASSERT_TRUE(QFile::link(elsewhere, Paths::ToNative(Game[0].InstallPath + u"M.ini"_s)));
+    const Outcome outcome = RunCommand({u"install"_s, Put(u"M.big"_s), game_, gen_});
+    EXPECT_EQ(outcome.Code, 1);
+    EXPECT_EQ(outcome.Output, Line({u"installed"_s, Paths::ToNative(Game[0].InstallPath + u"M.big"_s)}));
+    EXPECT_TRUE(outcome.Error.contains("M.ini")) << outcome.Error.constData();
+}
+
 TEST_F(InstallCommand, AModThatCanNotBeCopiedIsToldWithItsName) {
     Files::MakeFolder(Game[0].InstallPath + u"M.big"_s);
     EXPECT_TRUE(Failure({Put(u"M.big"_s), game_, gen_}).contains("M.big"));

@@ -41,6 +41,12 @@ TEST_F(Gateway, NamesThatLeaveTheFolderAreRefused) {
         EXPECT_TRUE(Refused(name)) << name.toStdString();
 }
 
+TEST_F(Gateway, AFoldersNameHoldsNoSeparator) {
+    for (const QString& name : {u".."_s, u""_s, u"a\\b"_s, u"a/b"_s, u"C:"_s, u"con"_s, u"a."_s, u"a "_s})
+        EXPECT_FALSE(FolderGateway::RefusalOfFolder(name).isEmpty()) << name.toStdString();
+    EXPECT_EQ(FolderGateway::RefusalOfFolder(u"[RANK] Arctic Arena ZH v1"_s), QString());
+}
+
 TEST_F(Gateway, NamesThatFilesCanNotHaveAreRefused) {
     for (const QString& name : {u"CON"_s, u"nul.txt"_s, u"a\\Aux.ini"_s, u"LPT1"_s, u"com\u00B9.txt"_s, u"con .txt"_s,
                                 u"conin$"_s, u"x."_s, u"x "_s, u"dir.\\x"_s, u"a*b"_s, u"a?b"_s, u"a<b"_s, u"a|b"_s,

@@ -62,6 +62,23 @@ TEST_F(ExportFolder, AShellMapWhoseNameIsNoFolderNameIsLeftOut) {
     EXPECT_FALSE(Files::FolderExists(At(u"x"_s)));
 }
 
+TEST_F(ExportFolder, AMapOfSubfoldersAloneIsCopiedWithThem) {
+    Put(u"maps\\Alpine\\art\\a.tga"_s);
+    Files::MakeFolder(At(u"maps\\Bare"_s));
+    ToFolder({Map(u"Alpine"_s), Map(u"Bare"_s)});
+    EXPECT_EQ(World::ReadFile(Out() + u"\\Alpine\\art\\a.tga"_s), "x");
+    EXPECT_TRUE(Files::FolderExists(Out() + u"\\Bare"_s));
+}
+
+TEST_F(ExportFolder, AShellMapWithoutANameIsToldByItsFolder) {
+    Put(u"game\\Maps\\QvShellMap005\\shellmap1.map"_s);
+    for (const ExportReport& report :
+         {ToFolder({ShellMap(u"QvShellMap005"_s, {})}), ToZip({ShellMap(u"QvShellMap005"_s, {})})}) {
+        EXPECT_EQ(report.Lines[0].Outcome, Outcome::Refused);
+        EXPECT_EQ(report.Lines[0].Item, u"QvShellMap005"_s);
+    }
+}
+
 TEST_F(ExportFolder, WhatStandsThereIsOverwrittenInWhateverCase) {
     Put(u"out\\alpine\\ALPINE.map"_s, "an old one that is longer");
     Put(u"out\\alpine\\other.txt"_s, "kept");

@@ -155,6 +155,23 @@ TEST_F(AnalysisTest, AModInAnArchiveIsDescribedUnderInfos) {
     EXPECT_EQ(Scratch(), QStringList());
 }
 
+TEST_F(AnalysisTest, AnIniFileOfThousandsOfLinesIsNotRead) {
+    QByteArray most = "[Infos]\r\nName=read\r\n";
+    most += QByteArray(1024 * 1024 - most.size(), ' ');
+    AnalyseZip({{.Name = "One.big"},
+                {.Name = "One.ini", .Content = most},
+                {.Name = "Two.big"},
+                {.Name = "Two.ini", .Content = most + ' '},
+                {.Name = "S/shellmap1.map"},
+                {.Name = "S/QvInfos.ini", .Content = most + ' '}});
+    EXPECT_EQ(Record(0).DisplayName, u"read"_s);
+    EXPECT_EQ(Record(1).DisplayName, QString());
+    EXPECT_EQ(Record(2).DisplayName, QString());
+    EXPECT_EQ(PassedOver(), (std::map<QString, QString>{{u"One.ini"_s, u"PassedOverModIni"_s},
+                                                        {u"Two.ini"_s, u"PassedOverTooLarge"_s}}));
+    EXPECT_EQ(Scratch(), QStringList());
+}
+
 TEST_F(AnalysisTest, AnIniFileThatDoesNotComeOutEndsTheAnalysisWithItsName) {
     const QString path = PutZip({{.Name = "One.big"}, {.Name = "One.ini", .Content = "[Infos]", .Crc = 1}});
     world_.WriteFile(u"program\\Temp\\One.ini"_s, "somebody else's");
@@ -293,7 +310,7 @@ TEST_F(AnalysisTest, ALongArchiveYields) {
     EXPECT_GT(host_.Yields, 0);
 }
 
-TEST_F(AnalysisTest, ThousandsOfNamesWithBackslashesAreSearchedInTime) {
+TEST_F(AnalysisTest, ThousandsOfNamesWithBackslashesAreAllFound) {
     std::vector<Part> parts;
     parts.reserve(4000);
     for (int number = 0; number < 4000; ++number)

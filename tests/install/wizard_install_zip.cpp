@@ -360,7 +360,7 @@ TEST_F(InstallArchive, AFileThatTheWatchRefusesStaysAsItWas) {
     EXPECT_EQ(Failures(), QStringList{u"a.rep"_s});
 }
 
-TEST_F(InstallArchive, MapsAndReplaysInTurnsNeedNoNewLookAtTheirFolders) {
+TEST_F(InstallArchive, MapsAndReplaysInTurnsAllGoIntoTheirFolders) {
     std::vector<Part> parts;
     parts.reserve(300);
     for (int number = 0; number < 300; ++number) {

@@ -4,6 +4,8 @@
 /// What would go where, told without writing anything.
 #include "tests/install/InstallTest.h"
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -90,6 +92,15 @@ TEST_F(PlanTest, AModIsKnownAsTheGamesOwnByItsName) {
     EXPECT_EQ(plan.Items[1].IniFile, Own() + u"mine.ini"_s);
 }
 
+TEST_F(PlanTest, SizesThatAddUpToMoreThanThereIsAreTheMostThereIs) {
+    constexpr quint64 most = std::numeric_limits<qint64>::max();
+    const InstallPlan plan = ZipPlan({{.Name = "a.rep", .IsWide = true, .Size = most},
+                                      {.Name = "b.rep", .IsWide = true, .Size = most},
+                                      {.Name = "s/shellmap1.map", .IsWide = true, .Size = most}});
+    EXPECT_EQ(plan.Size, std::numeric_limits<qint64>::max());
+    EXPECT_TRUE(plan.IsDense);
+}
+
 TEST_F(PlanTest, DenseIsWhatIsLargeAndPackedFiveHundredfold) {
     constexpr quint64 limit = 64ULL * 1024 * 1024;
     const auto isDense = [&](quint64 size, quint64 packed) {
@@ -111,10 +122,4 @@ TEST_F(PlanTest, TheNextNumberIsTheLastNamesPlusOne) {
     EXPECT_EQ(InstallPlans::NextShellMapNumber({u"QvShellMap009"_s, u"QvShellMap003"_s}), 10);
     EXPECT_EQ(InstallPlans::NextShellMapNumber({u"QvShellMap009"_s, u"QvShellMapabc"_s}), 0);
     EXPECT_EQ(InstallPlans::NextShellMapNumber({u"qvshellmap009"_s, u"other"_s}), 1);
-}
-
-TEST_F(PlanTest, FolderNamesAreOnesOfOneFolder) {
-    for (const QString& name : {u".."_s, u""_s, u"a\\b"_s, u"a/b"_s, u"C:"_s, u"con"_s, u"a."_s, u"a "_s})
-        EXPECT_FALSE(InstallPlans::FolderRefusal(name).isEmpty()) << name.toStdString();
-    EXPECT_EQ(InstallPlans::FolderRefusal(u"[RANK] Arctic Arena ZH v1"_s), QString());
 }

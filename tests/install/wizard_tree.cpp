@@ -278,7 +278,7 @@ TEST_F(FilesTreeTest, APictureOfAHostileNameStaysInTheScratchFolder) {
     EXPECT_FALSE(Files::FileExists(world_.ProgramFolder() + u"\\a.tga"_s));
 }
 
-TEST_F(FilesTreeTest, TenThousandFilesAreTickedAtOnce) {
+TEST_F(FilesTreeTest, AGroupTicksItsTenThousandFiles) {
     std::vector<Part> parts;
     parts.reserve(10000);
     for (int number = 0; number < 10000; ++number)

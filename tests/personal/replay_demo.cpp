@@ -23,7 +23,7 @@ class DemoReplays : public ReplayFolders {
 protected:
     DemoReplays() {
         world_.WriteFile(u"program\\gdatas.cfg"_s, Data(u"gdatas.cfg"_s));
-        world_.UseLanguage(Data(u"languages/English.lng"_s));
+        world_.UseOwnLanguage(u"English"_s);
         world_.Start();
         for (GameIndex game = 0; game < GameCount; ++game) {
             for (const Demo::NamedReplay& replay : Demo::WorldReplays(game))

@@ -19,7 +19,7 @@ public:
     QObject* Owner = nullptr;                   ///< of the last modal window
     bool WindowsComeUp = true;                  ///< what the three tools answer
     bool ToolsMenuEnabled = true;               ///< as it was told last
-    bool ProgramMayEnd = true;                  ///< what MayEndProgram answers
+    bool ProgramMayEnd = true;                  ///< what the open tools answer
     std::function<void(const QString&)> OnCall; ///< runs inside each call with what is recorded of it
 
     void ShowToolsMenu() override;

@@ -9,6 +9,7 @@
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/Paths.h"
+#include "tests/support/OwnLanguages.h"
 
 #include <QDir>
 #include <QFile>
@@ -113,6 +114,10 @@ void World::WriteRegistry(const QByteArray& text) const {
 void World::UseLanguage(const QByteArray& lngText, const QString& fileName) const {
     WriteFile(u"program\\"_s + fileName, lngText);
     RegistryRuntime().SaveString(RootKey::CurrentUser, QString::fromUtf16(SettingsKey), u"TradFileName"_s, fileName);
+}
+
+void World::UseOwnLanguage(const QString& name) const {
+    UseLanguage(OwnLanguages::Bytes(name));
 }
 
 QString World::WriteFile(const QString& path, const QByteArray& bytes) const {

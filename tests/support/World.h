@@ -30,6 +30,8 @@ public:
 
     /// Puts the language file in place and names it in the settings.
     void UseLanguage(const QByteArray& lngText, const QString& fileName = QStringLiteral("Test.lng")) const;
+    /// Does so with one of the program's own, named as `OwnLanguages` names it.
+    void UseOwnLanguage(const QString& name) const;
 
     /// Makes the file with its folders; path relative to Root(), backslashes. Returns the full inside path.
     QString WriteFile(const QString& path, const QByteArray& bytes) const;

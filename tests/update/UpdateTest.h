@@ -11,7 +11,6 @@
 #include "tests/support/ScriptedNavigator.h"
 #include "tests/support/World.h"
 #include "tests/update/ScriptedHttp.h"
-#include "update/ReleaseKey.h"
 #include "update/UpdateClient.h"
 #include "update/mUpdater.h"
 
@@ -81,8 +80,6 @@ protected:
         client_.Download.End = [this] { ++ends_; };
         view_.OnClose = [this] { client_.WindowClosed(); };
     }
-
-    ~UpdateTest() override { ReleaseKey::Make = nullptr; }
 
     void Configure(const QByteArray& more = {}) {
         world_.WriteFile(QStringLiteral("program\\updater.cfg"),

@@ -8,9 +8,9 @@
 #include "tests/support/Printing.h"
 #include "tests/support/Raised.h"
 #include "tests/support/World.h"
-#include "update/ReleaseKey.h"
 #include "update/SignedFile.h"
 #include "update/TransferFigures.h"
+#include "update/VersionNumbers.h"
 
 #include <gtest/gtest.h>
 

@@ -3,38 +3,23 @@
 
 // Releases that must be signed, as updater.cfg holds a key. The key here is one of the test's own making.
 
-#include "platform/File.h"
 #include "platform/Files.h"
+#include "tests/update/SigningKey.h"
 #include "tests/update/UpdateTest.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A signature is the file's bytes behind the two lines of its comment; another key's begins with another word.
-class PlainKey : public ReleaseKey {
-public:
-    [[nodiscard]] Claim Verify(const QString& path, const QByteArray& signature) const override {
-        const QList<QByteArray> lines = signature.split('\n');
-        if (lines.size() < 4 || lines[0] != "ours" || signature.mid(signature.indexOf("\n--\n") + 4) != ReadWhole(path))
-            throw RuntimeError(ErrorNumber::InvalidCall, u"no signature of this key"_s);
-        return {.Version = QString::fromLatin1(lines[1]), .File = QString::fromLatin1(lines[2])};
-    }
-};
-
 QByteArray Signed(const QByteArray& bytes, const QByteArray& version, const QByteArray& file,
-                  const QByteArray& key = "ours") {
-    return key + '\n' + version + '\n' + file + "\n--\n" + bytes;
+                  const SigningKey& key = SigningKey()) {
+    return key.Sign(bytes, "version:" + version + "\tfile:" + file);
 }
 
 class SignedReleases : public UpdateTest {
 protected:
     SignedReleases() {
-        Configure("PublicKey=RWQ-key\r\n");
-        ReleaseKey::Make = [this](const QString& text) {
-            keys_ << text;
-            return std::make_unique<PlainKey>();
-        };
+        Configure("PublicKey=" + SigningKey().PublicText().toLatin1() + "\r\n");
         OfferPatch("patch bytes");
         Sign();
     }
@@ -72,8 +57,6 @@ protected:
         EXPECT_EQ(started_, QStringList());
         EXPECT_EQ(ends_, 0);
     }
-
-    QStringList keys_;
 };
 
 } // namespace
@@ -86,7 +69,6 @@ TEST_F(SignedReleases, BothSignaturesAreAskedForAndTheUpdateIsStarted) {
     EXPECT_EQ(ends_, 1);
     EXPECT_TRUE(http_.Requests.contains(u"GET http://server/base/updates_info.inf.minisig"_s));
     EXPECT_EQ(http_.Requests.last(), u"GET http://server/base/patch.exe.minisig"_s);
-    EXPECT_EQ(keys_, (QStringList{u"RWQ-key"_s, u"RWQ-key"_s}));
     EXPECT_EQ(Messages(), QStringList());
 }
 
@@ -117,7 +99,7 @@ TEST_F(SignedReleases, AnInfoFileWithoutItsSignatureIsRefusedInBothModes) {
 
 TEST_F(SignedReleases, AnInfoFileOfAnotherKeyOrWithAnotherByteIsRefused) {
     const QByteArray info = At(u"updates_info.inf"_s).Body;
-    At(u"updates_info.inf.minisig"_s).Body = Signed(info, "9.1.2", "updates_info.inf", "theirs");
+    At(u"updates_info.inf.minisig"_s).Body = Signed(info, "9.1.2", "updates_info.inf", SigningKey('o'));
     ExpectInfoIsRefused();
     At(u"updates_info.inf.minisig"_s).Body = Signed(info + ' ', "9.1.2", "updates_info.inf");
     ExpectInfoIsRefused();
@@ -176,7 +158,7 @@ TEST_F(SignedReleases, AnUpdateWithoutItsSignatureIsDeletedAndNotStarted) {
 }
 
 TEST_F(SignedReleases, AnUpdateOfAnotherKeyOrWithAnotherByteIsDeletedAndNotStarted) {
-    At(u"patch.exe.minisig"_s).Body = Signed("patch bytes", "9.1.2", "patch.exe", "theirs");
+    At(u"patch.exe.minisig"_s).Body = Signed("patch bytes", "9.1.2", "patch.exe", SigningKey('o'));
     ExpectUpdateIsRefused();
     At(u"patch.exe.minisig"_s).Body = Signed("patch bytez", "9.1.2", "patch.exe");
     ExpectUpdateIsRefused();
@@ -200,11 +182,7 @@ TEST_F(SignedReleases, SwappedSignaturesAreRefused) {
 }
 
 TEST_F(SignedReleases, AKeyThatIsNoneRefusesEverything) {
-    ReleaseKey::Make = [](const QString&) -> std::unique_ptr<ReleaseKey> {
-        throw RuntimeError(ErrorNumber::InvalidCall, u"no key"_s);
-    };
-    ExpectInfoIsRefused();
-    ReleaseKey::Make = nullptr;
+    Configure("PublicKey=RWQ-key\r\n");
     ExpectInfoIsRefused();
 }
 

@@ -4,6 +4,7 @@
 /// What the tests of the editors' windows share: a window in a world of its own.
 #pragma once
 
+#include "tests/support/OwnLanguages.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/ScriptedNavigator.h"
 #include "tests/support/World.h"
@@ -24,6 +25,9 @@ protected:
         world_->UseLanguage(texts);
         world_->Start();
     }
+
+    /// A world in one of the program's own languages.
+    void BeginInLanguage(const QString& name) { BeginIn(OwnLanguages::Bytes(name)); }
 
     void End() {
         window_.reset();

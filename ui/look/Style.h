@@ -13,6 +13,9 @@ namespace Style {
 
 namespace Colour {
 inline constexpr QColor Border{0, 50, 115};
+/// Of boxes with text and of lists; with the focus they have the border's colour.
+inline constexpr QColor FieldBorder{127, 157, 185};
+inline constexpr QColor GroupBorder{185, 205, 239};
 inline constexpr QColor DisabledBorder{206, 199, 189};
 inline constexpr QColor DisabledText{165, 162, 148};
 inline constexpr QColor Face{239, 235, 231};

@@ -33,6 +33,7 @@ constexpr std::array entries{
 
 /// Keys, as menus name them.
 constexpr std::array keys{
+    ToolkitText{"Ctrl", [] { return GetText(u"KeyControl"_s); }},
     ToolkitText{"Ins", [] { return GetText(u"KeyInsert"_s); }},
     ToolkitText{"Del", [] { return GetText(u"KeyDelete"_s); }},
     ToolkitText{"Shift", [] { return GetText(u"KeyShift"_s); }},

@@ -155,7 +155,8 @@ NoticeStrip::NoticeStrip(QWidget* parent) : QWidget(parent) {
     cross_->setObjectName(u"cmdCloseNotice"_s);
     cross_->setFixedSize(crossSize, crossSize);
     connect(cross_, &QAbstractButton::clicked, this, &NoticeStrip::Close);
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &NoticeStrip::Close);
+    escape_ = new QShortcut(Qt::Key_Escape, this);
+    connect(escape_, &QShortcut::activated, this, &NoticeStrip::Close);
     connect(qApp, &QApplication::focusChanged, this, &NoticeStrip::FollowFocus);
     hide();
 }
@@ -181,6 +182,10 @@ void NoticeStrip::ShowNotice(const Notice& notice) {
     update();
     QAccessibleEvent told(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&told);
+}
+
+void NoticeStrip::LeaveEscape() {
+    escape_->setEnabled(false);
 }
 
 void NoticeStrip::Close() {

@@ -13,6 +13,7 @@
 #include <array>
 
 class QAbstractButton;
+class QShortcut;
 
 class NoticeStrip : public QWidget {
     Q_OBJECT
@@ -25,6 +26,9 @@ public:
     /// Shows a notice in place of the one that stands, and tells screen readers; an empty one closes the strip. A link
     /// that is clicked closes the strip before it runs.
     void ShowNotice(const Notice& notice);
+
+    /// Escape is left to the window, as in a dialog, where it is Cancel.
+    void LeaveEscape();
 
     /// Hides the strip. The keyboard goes back to where it came from.
     void Close();
@@ -63,5 +67,6 @@ private:
     Notice notice_;
     std::array<QAbstractButton*, MostLinks> links_{};
     QAbstractButton* cross_;
+    QShortcut* escape_;
     QPointer<QWidget> before_; ///< had the keyboard before the strip
 };

@@ -5,11 +5,11 @@
 
 #include "ui/look/Drawing.h"
 #include "ui/look/Style.h"
+#include "ui/skin/SkinPainter.h"
+#include "ui/skin/xpMenu.h"
 
 #include <QKeyEvent>
-#include <QLinearGradient>
 #include <QPainter>
-#include <QPainterPath>
 
 namespace {
 
@@ -20,73 +20,6 @@ constexpr int textIndent = linkPadding + linkPicture + 8;
 bool IsEnter(const QKeyEvent* event) {
     return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
-
-void DrawFocus(QPainter& painter, const QRectF& area) {
-    painter.setPen(QPen(Style::Colour::Focus, 1, Qt::DotLine));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(area, 2, 2);
-}
-
-/// The bar at the head of a group, with a mark that tells whether the group is folded.
-class Heading : public QAbstractButton {
-public:
-    explicit Heading(QWidget* parent) : QAbstractButton(parent) {
-        setCheckable(true);
-        setChecked(true);
-        setCursor(Qt::PointingHandCursor);
-        setFocusPolicy(Qt::StrongFocus);
-        setAttribute(Qt::WA_Hover);
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        PaintBar(painter);
-        QFont bold = font();
-        bold.setBold(true);
-        painter.setFont(bold);
-        painter.setPen(underMouse() ? Style::Colour::EntryHover : Style::Colour::Border);
-        painter.drawText(rect().adjusted(10, 0, -28, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
-        PaintMark(painter);
-        if (hasFocus())
-            DrawFocus(painter, QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5));
-    }
-
-    void keyPressEvent(QKeyEvent* event) override {
-        if (IsEnter(event))
-            click();
-        else
-            QAbstractButton::keyPressEvent(event);
-    }
-
-private:
-    void PaintBar(QPainter& painter) {
-        const QRectF bar = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-        QLinearGradient face(bar.topLeft(), bar.topRight());
-        face.setColorAt(0, Qt::white);
-        face.setColorAt(1, QColor(199, 212, 247));
-        QPainterPath outline;
-        outline.setFillRule(Qt::WindingFill);
-        outline.addRoundedRect(bar, 4, 4);
-        outline.addRect(bar.adjusted(0, bar.height() / 2, 0, 0)); // only the upper corners are round
-        painter.fillPath(outline.simplified(), face);
-    }
-
-    void PaintMark(QPainter& painter) {
-        const QPointF middle(width() - 15.0, height() / 2.0);
-        const qreal down = isChecked() ? -1 : 1; // points up while the group is open
-        QPen pen = painter.pen();
-        pen.setWidthF(1.6);
-        pen.setCapStyle(Qt::RoundCap);
-        painter.setPen(pen);
-        for (const qreal shift : {-2.5, 1.5}) {
-            const QPointF tip = middle + QPointF(0, shift + down * 1.5);
-            painter.drawLine(tip, tip + QPointF(-3.5, -down * 3));
-            painter.drawLine(tip, tip + QPointF(3.5, -down * 3));
-        }
-    }
-};
 
 } // namespace
 
@@ -104,7 +37,7 @@ void SidePane::mouseMoveEvent(QMouseEvent* event) {
     Q_EMIT MouseMoved();
 }
 
-SideGroup::SideGroup(QWidget* parent) : QWidget(parent), heading_(new Heading(this)) {
+SideGroup::SideGroup(QWidget* parent) : QWidget(parent), heading_(new xpMenu(this)) {
     setMouseTracking(true);
     setContentsMargins(0, HeadingHeight, 0, 0);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
@@ -116,7 +49,7 @@ QString SideGroup::Caption() const {
 }
 
 void SideGroup::SetCaption(const QString& caption) {
-    heading_->setText(caption);
+    heading_->SetCaption(caption);
 }
 
 bool SideGroup::IsFolded() const {
@@ -174,7 +107,7 @@ void SideLink::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(isEnabled() ? Style::Colour::Link : Style::Colour::DisabledText);
     painter.drawText(rect().adjusted(textIndent, 0, -linkPadding, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
     if (hasFocus())
-        DrawFocus(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+        Skin::PaintFocus(painter, rect());
 }
 
 void SideLink::mouseMoveEvent(QMouseEvent* event) {

@@ -4,8 +4,12 @@
 /// The menu at the left of a tool window: groups of text links under headings that fold, on a soft gradient.
 #pragma once
 
+#include "ui/skin/Bar.h"
+
 #include <QAbstractButton>
 #include <QWidget>
+
+class xpMenu;
 
 /// The ground that the groups lie on.
 class SidePane : public QWidget {
@@ -27,7 +31,7 @@ class SideGroup : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
 public:
-    static constexpr int HeadingHeight = 26;
+    static constexpr int HeadingHeight = Skin::HeadingHeight;
 
     explicit SideGroup(QWidget* parent = nullptr);
 
@@ -42,7 +46,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QAbstractButton* heading_;
+    xpMenu* heading_;
 };
 
 /// A text link with its picture; a button for keyboard and screen reader.

@@ -17,12 +17,13 @@ class NoticeStrip;
 class ToolWindow : public QMainWindow {
     Q_OBJECT
 public:
-    using QMainWindow::QMainWindow;
-
-    /// The questions about what would be lost if the program ended; false when it has to stay. The window stays.
+    /// The questions about what would be lost if the program ended now; false when the window has to stay. Nothing
+    /// ends with it.
     virtual bool MayEnd() { return MayClose(); }
 
 protected:
+    using QMainWindow::QMainWindow;
+
     /// The entries that every tool has.
     struct CommonEntries {
         QAction* Exit;

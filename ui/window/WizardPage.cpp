@@ -32,7 +32,6 @@ WizardPage::WizardPage(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     // One label is the other one's light edge.
     Colour(ui_->Label5, Qt::white);
     Colour(ui_->Label6, Style::Colour::DisabledText);
-    Colour(ui_->linVersion, Style::Colour::DisabledBorder);
     ui_->Label5->setContentsMargins(0, 1, 0, 0);
     ui_->Label6->setContentsMargins(0, 0, 1, 1);
     connect(ui_->cmdPrevious, &QPushButton::clicked, this, [this] { Previous(); });

@@ -8,6 +8,7 @@
 #include "core/mTraduction.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Files.h"
+#include "tests/support/OwnLanguages.h"
 #include "tests/support/Printing.h"
 #include "tests/support/World.h"
 
@@ -16,6 +17,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QMap>
+#include <QProcess>
 #include <QRegularExpression>
 
 #include <set>
@@ -56,22 +58,20 @@ QByteArray BytesOf(const QString& nativePath) {
     return file.readAll();
 }
 
-QByteArray LanguageBytes(const QString& language) {
-    return BytesOf(SourceFolder() + u"/data/languages/"_s + language + u".lng"_s);
-}
-
-/// Section LNG; the keys in lower case, as they are found without regard to case.
+/// Section LNG.
 Texts TextsOf(const QString& language) {
     Texts texts;
+    std::set<QString> found; // in lower case, as keys are found without regard to case
     bool inTexts = false;
-    for (const QString& line : AnsiCodec::Decode(LanguageBytes(language)).split(u"\r\n"_s)) {
+    for (const QString& line : AnsiCodec::Decode(OwnLanguages::Bytes(language)).split(u"\r\n"_s)) {
         if (line.startsWith(u'['))
             inTexts = line == u"[LNG]"_s;
         const qsizetype equals = line.indexOf(u'=');
         if (!inTexts || equals < 0 || line.startsWith(u';'))
             continue;
-        const QString key = line.first(equals).toLower();
-        EXPECT_FALSE(texts.contains(key)) << key.toStdString() << " stands twice";
+        const QString key = line.first(equals);
+        EXPECT_TRUE(found.insert(key.toLower()).second)
+            << language.toStdString() << ".lng: " << key.toStdString() << " stands twice";
         texts.insert(key, line.sliced(equals + 1));
     }
     return texts;
@@ -106,15 +106,43 @@ std::set<QString> KeysOfData() {
     return keys;
 }
 
-class LanguageFiles : public testing::TestWithParam<const char*> {
+QStringList EndsOf(const QString& text) {
+    QStringList ends;
+    for (const QString& end : {u"..."_s, u":"_s})
+        if (text.endsWith(end))
+            ends += end;
+    return ends;
+}
+
+/// What set-up chooses for a locale that stands in the given variable.
+QString ChosenLanguage(const QString& locale, const QString& variable = u"LANG"_s) {
+    QProcess script;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString& name : {u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LANG"_s})
+        environment.remove(name);
+    environment.insert(variable, locale);
+    script.setProcessEnvironment(environment);
+    script.start(SourceFolder() + u"/tools/user-language"_s, QStringList());
+    EXPECT_TRUE(script.waitForFinished());
+    return QString::fromUtf8(script.readAllStandardOutput()).trimmed();
+}
+
+class LanguageFiles : public testing::TestWithParam<QString> {
 protected:
-    QString language_ = QString::fromUtf8(GetParam());
+    QString language_ = GetParam();
     Texts texts_ = TextsOf(language_);
+    Texts english_ = TextsOf(u"English"_s);
+
+    /// The file and one of its keys, as a message names them.
+    [[nodiscard]] std::string At(const QString& key) const {
+        return language_.toStdString() + ".lng: " + key.toStdString();
+    }
 
     void ExpectEach(const std::set<QString>& keys) {
         EXPECT_FALSE(keys.empty());
+        const QStringList found = texts_.keys();
         for (const QString& key : keys)
-            EXPECT_TRUE(texts_.contains(key.toLower())) << key.toStdString() << " is missing";
+            EXPECT_TRUE(found.contains(key, Qt::CaseInsensitive)) << At(key) << " is missing";
     }
 };
 
@@ -137,20 +165,23 @@ TEST_P(LanguageFiles, HoldEveryNameOfASide) {
     ExpectEach(KeysOfData());
 }
 
-TEST_P(LanguageFiles, HoldTheSameKeysInEachLanguage) {
-    EXPECT_EQ(texts_.keys(), TextsOf(u"English"_s).keys());
+TEST_P(LanguageFiles, HoldTheKeysOfTheEnglishOneAndNoOther) {
+    for (const QString& key : english_.keys())
+        EXPECT_TRUE(texts_.contains(key)) << At(key) << " is missing, English.lng has it";
+    for (const QString& key : texts_.keys())
+        EXPECT_TRUE(english_.contains(key)) << At(key) << " stands there, English.lng lacks it";
 }
 
 TEST_P(LanguageFiles, KeepEveryTextWithin254Characters) {
     for (auto text = texts_.cbegin(); text != texts_.cend(); ++text) {
-        EXPECT_FALSE(text->isEmpty()) << text.key().toStdString();
-        EXPECT_LE(text->size(), 254) << text.key().toStdString();
+        EXPECT_FALSE(text->isEmpty()) << At(text.key());
+        EXPECT_LE(text->size(), 254) << At(text.key());
     }
 }
 
 TEST_P(LanguageFiles, ComeBackWholeThroughGetText) {
     World world;
-    world.UseLanguage(LanguageBytes(language_));
+    world.UseOwnLanguage(language_);
     world.Start();
     for (auto text = texts_.cbegin(); text != texts_.cend(); ++text)
         EXPECT_EQ(mTraduction::GetText(text.key()), QString(*text).replace(u"\\n"_s, u"\r\n"_s));
@@ -159,38 +190,82 @@ TEST_P(LanguageFiles, ComeBackWholeThroughGetText) {
 
 TEST_P(LanguageFiles, NameThemselvesForTheLanguageList) {
     World world;
-    const QString file = world.WriteFile(u"program\\x.lng"_s, LanguageBytes(language_));
+    const QString file = world.WriteFile(u"program\\x.lng"_s, OwnLanguages::Bytes(language_));
     EXPECT_EQ(mMain::INI().ReadINI(u"Infos"_s, u"Version"_s, file), u"2005"_s);
     EXPECT_FALSE(mMain::INI().ReadINI(u"Infos"_s, u"Language"_s, file).isEmpty());
     EXPECT_FALSE(mMain::INI().ReadINI(u"Infos"_s, u"Translator"_s, file).isEmpty());
 }
 
-TEST_P(LanguageFiles, HaveWindowsLineEndsAndNoUtf8) {
-    const QByteArray bytes = LanguageBytes(language_);
+TEST_P(LanguageFiles, HaveWindowsLineEndsAndCharacters) {
+    const QByteArray bytes = OwnLanguages::Bytes(language_);
     EXPECT_EQ(bytes.count('\n'), bytes.count("\r\n"));
     EXPECT_TRUE(bytes.endsWith("\r\n"));
-    EXPECT_FALSE(bytes.contains('\xC3')) << "a letter stands in UTF-8";
+    const QString text = QString::fromLatin1(bytes);
+    const QRegularExpression unassigned(uR"([\x00-\x09\x0B\x0C\x0E-\x1F\x7F\x81\x8D\x8F\x90\x9D])"_s);
+    EXPECT_FALSE(text.contains(unassigned)) << At({}) << "a byte is no character of Windows-1252";
+    EXPECT_FALSE(text.contains(QRegularExpression(uR"([\xC2-\xDF][\x80-\xBF]|\xE2\x80)"_s)))
+        << At({}) << "a letter stands in UTF-8";
 }
 
-TEST_P(LanguageFiles, KeepThePlaceholders) {
-    const Texts english = TextsOf(u"English"_s);
-    for (auto text = texts_.cbegin(); text != texts_.cend(); ++text) {
-        for (const QString& placeholder : {u"%1"_s, u"%2"_s, u"%3"_s})
-            EXPECT_EQ(text->contains(placeholder), english[text.key()].contains(placeholder))
-                << text.key().toStdString();
-    }
-    EXPECT_TRUE(english[u"quitsave"_s].contains(u"%1"_s));
-    EXPECT_TRUE(english[u"progresslbl"_s].contains(u"%3"_s));
+TEST_P(LanguageFiles, KeepPlaceholdersAndLineBreaks) {
+    for (auto text = texts_.cbegin(); text != texts_.cend(); ++text)
+        for (const QString& mark : {u"%1"_s, u"%2"_s, u"%3"_s, u"%"_s, u"\\n"_s})
+            EXPECT_EQ(text->count(mark), english_[text.key()].count(mark)) << At(text.key());
+    EXPECT_TRUE(english_[u"QuitSave"_s].contains(u"%1"_s));
+    EXPECT_TRUE(english_[u"ProgressLbl"_s].contains(u"%3"_s));
+}
+
+TEST_P(LanguageFiles, EndInAColonOrDotsWhereTheEnglishTextDoes) {
+    for (auto text = texts_.cbegin(); text != texts_.cend(); ++text)
+        EXPECT_EQ(EndsOf(*text), EndsOf(english_[text.key()])) << At(text.key());
 }
 
 TEST_P(LanguageFiles, EndALabelFormWithItsColon) {
     for (auto text = texts_.cbegin(); text != texts_.cend(); ++text) {
-        const bool isName = text.key() == u"bfme2"_s || text.key().startsWith(u"aftext"_s);
+        const bool isName = text.key() == u"BFME2"_s || text.key().startsWith(u"AFText"_s);
         if (text.key().endsWith(u'2') && !isName) {
-            EXPECT_TRUE(text->endsWith(language_ == u"French"_s ? u" :"_s : u":"_s)) << text.key().toStdString();
+            EXPECT_TRUE(text->endsWith(language_ == u"French"_s ? u" :"_s : u":"_s)) << At(text.key());
         }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, LanguageFiles, testing::Values("English", "French"),
-                         [](const auto& tested) { return std::string(tested.param); });
+// A letter that one text marked for itself could be another's in the same menu.
+TEST_P(LanguageFiles, LeaveTheChoiceOfLettersToMenusAndWindows) {
+    for (auto text = texts_.cbegin(); text != texts_.cend(); ++text)
+        EXPECT_FALSE(text->contains(u'&')) << At(text.key());
+}
+
+TEST_P(LanguageFiles, AreEachChosenForALocale) {
+    static const QMap<QString, QString> locales{
+        {u"Dutch"_s, u"nl"_s},   {u"English"_s, u"en"_s},    {u"French"_s, u"fr"_s}, {u"German"_s, u"de"_s},
+        {u"Italian"_s, u"it"_s}, {u"Portuguese"_s, u"pt"_s}, {u"Spanish"_s, u"es"_s}};
+    ASSERT_TRUE(locales.contains(language_)) << "no locale is known for " << At({});
+    for (const QString& rest : {u""_s, u"_BR"_s, u".UTF-8"_s, u"_DE@euro"_s})
+        EXPECT_EQ(ChosenLanguage(locales[language_] + rest), language_ + u".lng"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, LanguageFiles, testing::ValuesIn(OwnLanguages::Names()),
+                         [](const auto& tested) { return tested.param.toStdString(); });
+
+TEST(LanguageNames, AreAllDifferent) {
+    World world;
+    std::set<QString> names;
+    const QStringList languages = OwnLanguages::Names();
+    for (const QString& language : languages) {
+        const QString file = world.WriteFile(u"program\\x.lng"_s, OwnLanguages::Bytes(language));
+        names.insert(mMain::INI().ReadINI(u"Infos"_s, u"Language"_s, file));
+    }
+    EXPECT_GE(languages.size(), 7);
+    EXPECT_EQ(static_cast<qsizetype>(names.size()), languages.size());
+    EXPECT_TRUE(names.contains(u"Fran\u00E7ais"_s));
+}
+
+TEST(ChoiceOfALanguage, IsEnglishWhereThereIsNoOther) {
+    for (const QString& locale : {u""_s, u"C"_s, u"C.UTF-8"_s, u"pl_PL.UTF-8"_s, u"fur_IT"_s, u"est"_s, u"d"_s})
+        EXPECT_EQ(ChosenLanguage(locale), u"English.lng"_s) << locale.toStdString();
+}
+
+TEST(ChoiceOfALanguage, FollowsEachVariable) {
+    for (const QString& variable : {u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LANG"_s})
+        EXPECT_EQ(ChosenLanguage(u"nl_BE.UTF-8"_s, variable), u"Dutch.lng"_s) << variable.toStdString();
+}

@@ -9,6 +9,7 @@
 #include "core/mMain.h"
 #include "tests/big/document_support.h"
 #include "tests/windows/EditorTest.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/SideMenu.h"
 
@@ -23,10 +24,10 @@
 
 class BigEditorWindow : public EditorTest<frmBigEditor> {
 protected:
-    void Begin() {
-        BeginIn("[LNG]\r\nReady=Bereit\r\nFile=Datei\r\nNew=Neu\r\nOpen=Auf\r\nBIGFile=BIG-Datei\r\n"
-                "Actions=Aktionen\r\nKiloBytes=KB\r\nSize2=Gr\xF6\xDF"
-                "e:\r\n");
+    void Begin(const QByteArray& texts = "[LNG]\r\nReady=Bereit\r\nFile=Datei\r\nNew=Neu\r\nOpen=Auf\r\n"
+                                         "BIGFile=BIG-Datei\r\nActions=Aktionen\r\nKiloBytes=KB\r\nSize2=Gr\xF6\xDF"
+                                         "e:\r\n") {
+        BeginIn(texts);
         mBIG::BigEntries.clear();
         mBIG::BigFileName.clear();
         archive_ = world_->WriteFile(QStringLiteral("a.big"),

@@ -4,15 +4,21 @@
 #include "core/Settings.h"
 #include "tests/windows/big/BigEditorWindow.h"
 
-#include <QMenu>
 #include <QMenuBar>
-
-#include <set>
 
 using namespace Qt::StringLiterals;
 
 class tst_bigeditor : public BigEditorWindow {
     Q_OBJECT
+private:
+    /// In the language of the test's row.
+    void ShowIn() {
+        QFETCH(QString, language);
+        End();
+        Begin(OwnLanguages::Bytes(language));
+        OpenArchive();
+    }
+
 private Q_SLOTS:
 
     void init() { Begin(); }
@@ -45,20 +51,27 @@ private Q_SLOTS:
         QCOMPARE(Part<QLabel>("Label3")->text(), u"Gr\u00F6\u00DFe:"_s);
     }
 
-    void everyEntryOfAMenuHasAKeyOfItsOwn() {
-        Open();
-        for (const QAction* menu : window_->menuBar()->actions()) {
-            std::set<QChar> keys;
-            qsizetype entries = 0;
-            for (const QAction* entry : menu->menu()->actions()) {
-                if (entry->isSeparator())
-                    continue;
-                ++entries;
-                const qsizetype mark = entry->text().indexOf(u'&');
-                QVERIFY2(mark >= 0, qPrintable(entry->text()));
-                keys.insert(entry->text()[mark + 1].toLower());
+    void everyEntryOfAMenuHasALetterOfItsOwn_data() { AddEachLanguage(); }
+
+    void everyEntryOfAMenuHasALetterOfItsOwn() {
+        ShowIn();
+        QVERIFY(window_->menuBar()->actions().size() == 5);
+        QVERIFY(AllEntriesHaveLetters(*window_));
+    }
+
+    void textIsNeverCut_data() { AddEachLanguage(); }
+
+    void textIsNeverCut() {
+        ShowIn();
+        Select(u"data\\"_s);
+        for (const QSize size : {QSize(1000, 640), QSize(560, 440)}) {
+            window_->resize(size);
+            for (const int row : {0, 1}) { // a folder, and a file with its details
+                ClickRow(row);
+                QCoreApplication::processEvents();
+                QCOMPARE(window_->size(), size);
+                QVERIFY(AllTextsHaveRoom(*window_));
             }
-            QCOMPARE(static_cast<qsizetype>(keys.size()), entries);
         }
     }
 

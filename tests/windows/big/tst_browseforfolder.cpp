@@ -7,6 +7,7 @@
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
 #include "tests/ui/ScriptedMachine.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/folders/CoolFileBox.h"
 
@@ -162,6 +163,18 @@ private Q_SLOTS:
         host_->InputTexts = {std::nullopt};
         QTest::mouseClick(Part<QPushButton>("cmdNewFolder"), Qt::LeftButton);
         QCOMPARE(Box()->Path(), world_->Root() + u'\\');
+    }
+
+    void textIsNeverCut_data() { AddEachLanguage(); }
+
+    void textIsNeverCut() {
+        QFETCH(QString, language);
+        world_->UseOwnLanguage(language);
+        world_->Start();
+        window_ = std::make_unique<frmBrowseForFolder>(nullptr, std::make_unique<ScriptedMachine>());
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+        QVERIFY(AllTextsHaveRoom(*window_));
     }
 
 private:

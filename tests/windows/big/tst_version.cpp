@@ -4,6 +4,7 @@
 #include "big/format/mBIG.h"
 #include "big/window/frmVersion.h"
 #include "tests/support/World.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 
 #include <QComboBox>
@@ -101,6 +102,19 @@ private Q_SLOTS:
         Games()->setCurrentIndex(-1);
         QTest::mouseClick(Part<QPushButton>("cmdOK"), Qt::LeftButton);
         QCOMPARE(mBIG::BigVersion, 3);
+    }
+
+    void textIsNeverCut_data() { AddEachLanguage(); }
+
+    void textIsNeverCut() {
+        QFETCH(QString, language);
+        world_->UseOwnLanguage(language);
+        world_->Start();
+        Open(0);
+        for (int row = 0; row < Games()->count(); ++row) {
+            Games()->setCurrentIndex(row);
+            QVERIFY(AllTextsHaveRoom(*window_));
+        }
     }
 
 private:

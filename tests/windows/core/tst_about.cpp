@@ -4,6 +4,7 @@
 #include "core/mMain.h"
 #include "core/window/frmAbout.h"
 #include "tests/support/World.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 
 #include <QLabel>
@@ -58,6 +59,18 @@ private Q_SLOTS:
     void anotherKeyDoesNot() {
         QTest::keyClick(about_.get(), Qt::Key_A);
         QVERIFY(about_->isVisible());
+    }
+
+    void textIsNeverCut_data() { AddEachLanguage(); }
+
+    void textIsNeverCut() {
+        QFETCH(QString, language);
+        world_->UseOwnLanguage(language);
+        world_->Start();
+        frmAbout about;
+        about.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&about));
+        QVERIFY(AllTextsHaveRoom(about));
     }
 
 private:

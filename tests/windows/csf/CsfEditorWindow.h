@@ -8,6 +8,7 @@
 #include "csf/format/mCSF.h"
 #include "csf/window/frmCSFEditor.h"
 #include "tests/windows/EditorTest.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/SideMenu.h"
 
@@ -21,9 +22,9 @@
 
 class CsfEditorWindow : public EditorTest<frmCSFEditor> {
 protected:
-    void Begin() {
-        BeginIn("[LNG]\r\nNew=Neu\r\nFind=Suchen\r\nText=Wert\r\nKiloBytes=KB\r\nName=Name\r\nValue=Wert\r\n"
-                "RowCount=%1 rows\r\nMatchCount=%1 matches\r\n");
+    void Begin(const QByteArray& texts = "[LNG]\r\nNew=Neu\r\nFind=Suchen\r\nText=Wert\r\nKiloBytes=KB\r\n"
+                                         "Name=Name\r\nValue=Wert\r\nRowCount=%1 rows\r\nMatchCount=%1 matches\r\n") {
+        BeginIn(texts);
         mMain::CsfOpenedByHost = false;
         mMain::CommandLine.clear();
     }

@@ -8,6 +8,7 @@
 #include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QMenuBar>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +16,15 @@ using Answer = Host::Answer;
 
 class tst_csfeditor : public CsfEditorWindow {
     Q_OBJECT
+private:
+    /// In the language of the test's row.
+    void ShowIn() {
+        QFETCH(QString, language);
+        End();
+        Begin(OwnLanguages::Bytes(language));
+        OpenThree();
+    }
+
 private Q_SLOTS:
 
     void init() { Begin(); }
@@ -297,6 +307,27 @@ private Q_SLOTS:
         Open({{u"<b>bold</b>"_s, u"a"_s}, {u"z"_s, u"z"_s}});
         QCOMPARE(Cell(0, 1), u"<b>bold</b>"_s);
         QVERIFY(List()->model()->index(0, 1).data(Qt::ToolTipRole).toString().contains(u"&lt;b&gt;bold"_s));
+    }
+
+    void textIsNeverCut_data() { AddEachLanguage(); }
+
+    void textIsNeverCut() {
+        ShowIn();
+        for (const QSize size : {QSize(1000, 640), QSize(640, 440)}) {
+            window_->resize(size);
+            ClickRow(1);
+            QCoreApplication::processEvents();
+            QCOMPARE(window_->size(), size);
+            QVERIFY(AllTextsHaveRoom(*window_));
+        }
+    }
+
+    void everyEntryOfAMenuHasALetterOfItsOwn_data() { AddEachLanguage(); }
+
+    void everyEntryOfAMenuHasALetterOfItsOwn() {
+        ShowIn();
+        QVERIFY(!window_->menuBar()->actions().isEmpty());
+        QVERIFY(AllEntriesHaveLetters(*window_));
     }
 
     void thirtyTwoThousandRowsAreShown() {

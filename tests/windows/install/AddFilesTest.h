@@ -4,19 +4,18 @@
 /// What the tests of the pages of adding files share: a wizard in a world with the program's own texts.
 #pragma once
 
-#include "Places.h"
 #include "core/mMain.h"
 #include "install/InstallSource.h"
 #include "install/window/AddFilesWizard.h"
 #include "platform/Paths.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 #include "tools/demoworld/ZipBytes.h"
 
 #include <QApplication>
 #include <QDropEvent>
-#include <QFile>
 #include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
@@ -30,10 +29,7 @@ protected:
     void Begin(std::initializer_list<GameIndex> games, const QString& language = QStringLiteral("English")) {
         world_ = std::make_unique<World>();
         host_ = std::make_unique<ScriptedHost>();
-        QFile texts(QString::fromUtf8(Places::Sources) + QStringLiteral("/data/languages/%1.lng").arg(language));
-        if (!texts.open(QIODevice::ReadOnly))
-            qFatal("%s is missing", qPrintable(texts.fileName()));
-        world_->UseLanguage(texts.readAll());
+        world_->UseOwnLanguage(language);
         for (const GameIndex game : games)
             world_->InstallGame(game);
         world_->Start();
@@ -110,24 +106,6 @@ protected:
         QApplication::sendEvent(window, &drop);
         QCoreApplication::processEvents();
         return drop.isAccepted();
-    }
-
-    /// The name of a visible caption or button that has less room than its text takes; empty when there is none.
-    QString CutText() {
-        for (const QWidget* const part : wizard_->Page()->findChildren<QWidget*>()) {
-            const auto* const label = qobject_cast<const QLabel*>(part);
-            const bool isText = (label != nullptr && !part->inherits("ElidedLabel")) ||
-                                qobject_cast<const QPushButton*>(part) != nullptr;
-            if (!part->isVisible() || !isText)
-                continue;
-            const bool wraps = label != nullptr && label->wordWrap();
-            const int height = wraps ? part->heightForWidth(part->width()) : part->sizeHint().height();
-            if (part->height() < height || (!wraps && part->width() < part->sizeHint().width()))
-                return part->objectName();
-            if (!wizard_->Page()->rect().contains(QRect(part->mapTo(wizard_->Page(), QPoint()), part->size())))
-                return part->objectName();
-        }
-        return {};
     }
 
     /// The names of the controls that the Tab key walks through, from the one that has the keyboard.

@@ -5,18 +5,17 @@
 /// and ways to reach its parts.
 #pragma once
 
-#include "Places.h"
 #include "core/mMain.h"
 #include "install/InstallSource.h"
 #include "install/window/frmExportFiles1.h"
 #include "install/zip/ccZip.h"
 #include "platform/Files.h"
 #include "tests/windows/EditorTest.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 
 #include <QCheckBox>
 #include <QClipboard>
-#include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -26,12 +25,7 @@
 
 class ExportFilesPage : public EditorTest<frmExportFiles1> {
 protected:
-    void Begin(const QString& language) {
-        QFile file(QString::fromUtf8(Places::Sources) + QStringLiteral("/data/languages/") + language +
-                   QStringLiteral(".lng"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        BeginIn(file.readAll());
-    }
+    void Begin(const QString& language) { BeginInLanguage(language); }
 
     void Open() {
         window_ = std::make_unique<frmExportFiles1>();

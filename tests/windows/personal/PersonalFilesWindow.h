@@ -15,6 +15,7 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 #include "tests/windows/EditorTest.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/list/RowListModel.h"
 #include "ui/list/RowListView.h"
@@ -41,7 +42,7 @@ protected:
 
     /// Generals and Zero Hour are installed.
     void Begin(const QString& language = QStringLiteral("English")) {
-        BeginIn(Data(QStringLiteral("languages/") + language + QStringLiteral(".lng")));
+        BeginInLanguage(language);
         world_->WriteFile(QStringLiteral("program\\gdatas.cfg"), Data(QStringLiteral("gdatas.cfg")));
         world_->InstallGame(0);
         world_->InstallGame(1);

@@ -33,7 +33,7 @@ private Q_SLOTS:
         world_ = std::make_unique<World>();
         world_->UseLanguage("[LNG]\r\nUndo=R\xFC"
                             "ck\r\nRedo=Vor\r\nCut=Aus\r\nCopy=Kopie\r\nPaste=Ein\r\nDelete=Weg\r\nSelectAll=Alles\r\n"
-                            "KeyInsert=Einfg\r\nKeyDelete=Entf\r\nKeyShift=Umschalt\r\n");
+                            "KeyControl=Strg\r\nKeyInsert=Einfg\r\nKeyDelete=Entf\r\nKeyShift=Umschalt\r\n");
         world_->Start();
         texts_ = std::make_unique<ControlTexts>();
         QApplication::installTranslator(texts_.get());
@@ -54,7 +54,7 @@ private Q_SLOTS:
 
     void keysHaveTheirNamesInTheUsersLanguage() {
         QCOMPARE(QKeySequence(u"Ins"_s).toString(QKeySequence::NativeText), u"Einfg"_s);
-        QCOMPARE(QKeySequence(u"Ctrl+Shift+Del"_s).toString(QKeySequence::NativeText), u"Ctrl+Umschalt+Entf"_s);
+        QCOMPARE(QKeySequence(u"Ctrl+Shift+Del"_s).toString(QKeySequence::NativeText), u"Strg+Umschalt+Entf"_s);
         QCOMPARE(QKeySequence(u"Ins"_s).toString(), u"Ins"_s);
     }
 

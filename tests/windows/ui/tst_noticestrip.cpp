@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "core/mTraduction.h"
 #include "tests/support/World.h"
+#include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/NoticeStrip.h"
 
@@ -13,6 +15,7 @@
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
+using mTraduction::GetText;
 
 class tst_noticestrip : public QObject {
     Q_OBJECT
@@ -201,6 +204,39 @@ private Q_SLOTS:
                 QVERIFY(!Link(link)->geometry().intersects(Cross()->geometry()));
             }
             QVERIFY(!Link(0)->geometry().intersects(Link(1)->geometry()));
+        }
+    }
+
+    void textIsNeverCut_data() { AddEachLanguage(); }
+
+    // In the narrowest of the windows that have a strip.
+    void textIsNeverCut() {
+        QFETCH(QString, language);
+        world_->UseOwnLanguage(language);
+        world_->Start();
+        constexpr int narrowest = 560;
+        const QList<QStringList> notices{{u"ArchiveChanged"_s},
+                                         {u"ArchiveShifted"_s, u"ReadShiftedBack"_s},
+                                         {u"CommentNotRead"_s, u"KeepIt"_s},
+                                         {u"EditNotKept"_s},
+                                         {u"MayBeShifted"_s},
+                                         {u"NotMarkedAsChanged"_s, u"AskBeforeClosing"_s},
+                                         {u"OneEntryCut"_s, u"Show"_s, u"SaveExactly"_s},
+                                         {u"OneEntryMayBeShifted"_s, u"Show"_s},
+                                         {u"OneEntryNotSaved"_s, u"SaveExactly"_s},
+                                         {u"OneEntryShifted"_s, u"Show"_s, u"ReadShiftedBack"_s},
+                                         {u"ReplayStaysOpen"_s, u"LetGoOfIt"_s},
+                                         {u"SavedCut"_s, u"SaveExactly"_s, u"Always"_s},
+                                         {u"SavedShifted"_s, u"SaveExactly"_s, u"Always"_s},
+                                         {u"TextWasCut"_s, u"KeepIt"_s}};
+        for (const QStringList& keys : notices) {
+            Notice notice{.Text = GetText(keys.first()).replace(u"%1"_s, u"12"_s).replace(u"%2"_s, u"36"_s)};
+            for (const QString& link : keys.mid(1))
+                notice.Links.push_back({GetText(link), {}});
+            strip_->ShowNotice(notice);
+            strip_->resize(narrowest, strip_->heightForWidth(narrowest));
+            QVERIFY2(!strip_->IsElided(), qPrintable(notice.Text));
+            QVERIFY(AllTextsHaveRoom(*strip_));
         }
     }
 

@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "core/mTraduction.h"
 #include "tests/support/World.h"
+#include "tests/windows/LanguageChecks.h"
+#include "tests/windows/SmallScreens.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/BusyAnimation.h"
 #include "ui/window/frmProgress.h"
@@ -91,6 +94,26 @@ private Q_SLOTS:
         QVERIFY(window_->Cancelled());
         QVERIFY(!Part<QTimer>("Timer1")->isActive());
         QVERIFY(!window_->isVisible());
+    }
+
+    void textIsNeverCut_data() { AddEachLanguage(); }
+
+    void textIsNeverCut() {
+        QFETCH(QString, language);
+        world_->UseOwnLanguage(language);
+        world_->Start();
+        Open();
+        const QString writing = mTraduction::GetText(u"CreatingFile"_s) + u" 'Bigger.big'\r\n"_s;
+        for (const QString& text :
+             {writing + mTraduction::GetText(u"WritingHeader"_s), writing + mTraduction::GetText(u"WritingFiles"_s),
+              mTraduction::GetText(u"ProgressLbl"_s)
+                  .replace(u"%1"_s, u"Bigger.big"_s)
+                  .replace(u"%2"_s, u"data\\ini\\object\\america.ini"_s)
+                  .replace(u"%3"_s, u"C:\\Extracted"_s)}) {
+            window_->SetText(text);
+            QCoreApplication::processEvents();
+            QVERIFY(AllTextsHaveRoom(*window_) && FitsSmallScreens(*window_));
+        }
     }
 
     void theTimerCanBeStoppedWithoutCancelling() {

@@ -2,11 +2,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "tests/windows/WindowTests.h"
+#include "tests/windows/ui/Pixels.h"
 #include "ui/look/Style.h"
+#include "ui/skin/CommandButton.h"
+#include "ui/skin/ProgressBar.h"
+#include "ui/skin/TavelCheckBox.h"
+#include "ui/skin/TavelOptionButton.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QGroupBox>
 #include <QImage>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QTreeView>
 #include <QtMath>
@@ -31,6 +42,114 @@ private Q_SLOTS:
         Style::Apply(*qApp);
         QCOMPARE(QMenuBar().font(), Style::TextFont());
         QCOMPARE(QTreeView().font(), Style::TextFont());
+    }
+
+    void aDarkDesktopLeavesTheFamilyItsColours() {
+        QPalette dark(QColor(40, 40, 40), QColor(30, 30, 30));
+        dark.setColor(QPalette::Base, Qt::black);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            dark.setColor(role, Qt::white);
+        QApplication::setPalette(dark);
+        for (const char* name : {"QAbstractButton", "QAbstractItemView", "QCheckBox", "QComboBox", "QGroupBox",
+                                 "QHeaderView", "QLabel", "QLineEdit", "QMenu", "QMenuBar", "QMessageBoxLabel",
+                                 "QPushButton", "QRadioButton", "QTabBar", "QTextControl", "QTextEdit", "QToolButton"})
+            QApplication::setPalette(dark, name);
+        Style::Apply(*qApp);
+        QMessageBox box(QMessageBox::Question, QStringLiteral("Title"), QStringLiteral("Text"), QMessageBox::Yes);
+        box.setCheckBox(new QCheckBox(QStringLiteral("Again")));
+        QInputDialog input;
+        QFileDialog files;
+        files.setOption(QFileDialog::DontUseNativeDialog);
+        for (QDialog* const dialog :
+             {static_cast<QDialog*>(&box), static_cast<QDialog*>(&input), static_cast<QDialog*>(&files)}) {
+            dialog->ensurePolished();
+            for (const QWidget* const part : dialog->findChildren<QWidget*>()) {
+                const QPalette palette = part->palette();
+                for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+                    QVERIFY2(palette.color(QPalette::Active, role) == QColor(Qt::black),
+                             part->metaObject()->className());
+                for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+                    QVERIFY2(palette.color(QPalette::Active, role).lightness() > 200, part->metaObject()->className());
+            }
+        }
+    }
+
+    void theToolkitsButtonsHaveTheFacesOfTheFamilys() {
+        Style::Apply(*qApp);
+        QMessageBox box(QMessageBox::Question, {}, QStringLiteral("Text"), QMessageBox::Yes | QMessageBox::No);
+        box.show();
+        for (QAbstractButton* const button : box.buttons()) {
+            CommandButton own(button->text());
+            own.resize(button->size());
+            QCOMPARE(button->size(), own.sizeHint());
+            const QImage theirs = PictureOf(*button), ours = PictureOf(own);
+            for (const QPoint place : {QPoint(1, 0), QPoint(2, 0), QPoint(1, 1), QPoint(2, 1), QPoint(40, 0)})
+                QCOMPARE(theirs.pixelColor(place), ours.pixelColor(place));
+        }
+    }
+
+    void aGroupHasItsTitleInTheLineOfItsFrame() {
+        Style::Apply(*qApp);
+        QGroupBox group(QStringLiteral("MMM"));
+        group.resize(120, 60);
+        const QColor ground = group.palette().color(QPalette::Window);
+        const QImage picture = PictureOf(group);
+        QCOMPARE(picture.pixelColor(60, 0), ground);
+        QCOMPARE(picture.pixelColor(100, 8), Style::Colour::GroupBorder);
+        QCOMPARE(picture.pixelColor(0, 30), Style::Colour::GroupBorder);
+        QCOMPARE(picture.pixelColor(100, 59), Style::Colour::GroupBorder);
+        QVERIFY(HasColour(picture.copy(12, 0, 20, 16), Style::Colour::Border));
+        QCOMPARE(group.contentsRect(), QRect(1, 9, 118, 50));
+    }
+
+    void aListThatOpensHasAButtonsFace() {
+        Style::Apply(*qApp);
+        QComboBox list;
+        list.addItem(QStringLiteral("One"));
+        list.resize(120, 24);
+        const QImage picture = PictureOf(list);
+        QCOMPARE(picture.pixelColor(60, 0), Style::Colour::Border);
+        QCOMPARE(picture.pixelColor(1, 1), QColor(82, 125, 165));
+        QVERIFY(HasColour(picture.copy(90, 4, 26, 16), Style::Colour::Border)); // the arrow
+    }
+
+    void theFrameOfABoxTellsOfTheFocus() {
+        Style::Apply(*qApp);
+        QLineEdit box;
+        box.show();
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        box.setFocus();
+        QCOMPARE(PictureOf(box).pixelColor(0, box.height() / 2), Style::Colour::Border);
+        box.clearFocus();
+        QCOMPARE(PictureOf(box).pixelColor(0, box.height() / 2), Style::Colour::FieldBorder);
+    }
+
+    void theToolkitsBoxesAndBarsHaveTheFamilysMarks() {
+        Style::Apply(*qApp);
+        QCheckBox plain(QStringLiteral("Tick"));
+        TavelCheckBox own;
+        own.setText(plain.text());
+        QRadioButton plainOption(QStringLiteral("Tick"));
+        TavelOptionButton ownOption;
+        ownOption.setText(plainOption.text());
+        QProgressBar plainBar;
+        plainBar.setTextVisible(false);
+        ProgressBar ownBar;
+        for (QProgressBar* const bar : {&plainBar, static_cast<QProgressBar*>(&ownBar)}) {
+            bar->setValue(60);
+            bar->resize(208, 20);
+        }
+        QCOMPARE(PictureOf(plainBar), PictureOf(ownBar));
+        for (const bool checked : {false, true}) {
+            for (QAbstractButton* const box :
+                 {static_cast<QAbstractButton*>(&plain), static_cast<QAbstractButton*>(&own),
+                  static_cast<QAbstractButton*>(&plainOption), static_cast<QAbstractButton*>(&ownOption)}) {
+                box->resize(100, 21);
+                box->setChecked(checked);
+            }
+            QCOMPARE(PictureOf(plain).copy(0, 0, 13, 21), PictureOf(own).copy(0, 0, 13, 21));
+            QCOMPARE(PictureOf(plainOption).copy(0, 0, 13, 21), PictureOf(ownOption).copy(0, 0, 13, 21));
+        }
     }
 
     void everyDensityShowsAllFourSidesOfABox_data() {

@@ -5,12 +5,15 @@
 #include "tests/support/World.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/NoticeStrip.h"
+#include "ui/window/ScreenKeeper.h"
 #include "ui/window/ToolWindow.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -109,6 +112,15 @@ private Q_SLOTS:
         QVERIFY(navigator_->Calls.isEmpty());
     }
 
+    void beforeTheProgramEndsItIsAskedAndNothingCloses() {
+        QVERIFY(window_->MayEnd());
+        window_->Closes = false;
+        QVERIFY(!window_->MayEnd());
+        QCOMPARE(window_->Questions, 2);
+        QVERIFY(window_->isVisible());
+        QVERIFY(navigator_->Calls.isEmpty());
+    }
+
     void withoutAMenuBehindItTheWindowJustCloses() {
         window_->Menu = false;
         window_->close();
@@ -153,6 +165,48 @@ private Q_SLOTS:
         QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
         SampleTool::SetBusy(false);
         QVERIFY(QApplication::overrideCursor() == nullptr);
+    }
+
+    void theRoomOnAScreen_data() {
+        QTest::addColumn<QRect>("wanted");
+        QTest::addColumn<QSize>("least");
+        QTest::addColumn<QSize>("screen");
+        QTest::addColumn<QRect>("placed");
+        const QSize small(800, 600);
+        const QSize dense(960, 540); // 1920 x 1080 at scale 2
+        QTest::newRow("fits") << QRect(100, 100, 400, 300) << QSize() << small << QRect(100, 100, 400, 300);
+        QTest::newRow("too large") << QRect(-100, -20, 1000, 640) << QSize(640, 440) << small << QRect(8, 40, 784, 552);
+        QTest::newRow("dense") << QRect(-20, -50, 1000, 640) << QSize(640, 440) << dense << QRect(8, 40, 944, 492);
+        QTest::newRow("beyond") << QRect(700, 500, 400, 300) << QSize() << small << QRect(392, 292, 400, 300);
+        QTest::newRow("least") << QRect(0, 0, 1000, 700) << QSize(900, 600) << small << QRect(8, 40, 900, 600);
+    }
+
+    void theRoomOnAScreen() {
+        QFETCH(const QRect, wanted);
+        QFETCH(const QSize, least);
+        QFETCH(const QSize, screen);
+        QFETCH(const QRect, placed);
+        QCOMPARE(ScreenKeeper::Placed(wanted, least, QRect(QPoint(), screen)), placed);
+    }
+
+    // The test's screen has 800 x 800 pixels.
+    void noWindowOpensLargerThanTheScreenOrOutsideOfIt() {
+        ScreenKeeper keeper;
+        qApp->installEventFilter(&keeper);
+        const QRect screen = window_->screen()->availableGeometry();
+        const QRect room = screen.marginsRemoved(ScreenKeeper::Frame);
+        SampleTool tool;
+        tool.resize(screen.size() * 2);
+        tool.move(screen.center());
+        tool.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&tool));
+        QCOMPARE(tool.size(), room.size());
+        QCOMPARE(tool.geometry(), room); // the title has its place above
+        QDialog dialog(&tool);
+        dialog.resize(screen.size() * 2);
+        dialog.show();
+        QCOMPARE(dialog.size(), room.size());
+        QVERIFY(screen.contains(dialog.pos()));
     }
 
 private:

@@ -3,6 +3,7 @@
 
 #include "core/mMain.h"
 #include "tests/support/World.h"
+#include "tests/windows/SmallScreens.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/window/WizardPage.h"
 
@@ -97,6 +98,7 @@ private Q_SLOTS:
         page_->show();
         QCOMPARE(page_->size(), other.size());
         QCOMPARE(page_->size(), QSize(600, 440));
+        QVERIFY(FitsSmallScreens(*page_));
     }
 
     void buttonsRunWhatThePageDoes() {

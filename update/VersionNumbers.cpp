@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "update/ReleaseKey.h"
+#include "update/VersionNumbers.h"
 
 #include <QStringList>
 
 #include <algorithm>
-
-std::function<std::unique_ptr<ReleaseKey>(const QString&)> ReleaseKey::Make;
 
 std::optional<VersionNumbers::Numbers> VersionNumbers::Of(const QString& version) {
     Numbers numbers{};

@@ -1,0 +1,333 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "tests/windows/WindowTests.h"
+#include "tests/windows/ui/Pixels.h"
+#include "ui/look/Style.h"
+#include "ui/skin/CommandButton.h"
+#include "ui/skin/UserControl1.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QColor border(0, 50, 115);
+const QColor hoverTop(255, 243, 206);
+const QColor focusTop(206, 231, 255);
+const QColor pressedTop(231, 223, 214);
+const QColor normalTop(247, 247, 247);
+const QColor disabledInside(247, 247, 239);
+
+/// The row below the border tells which face is shown.
+QColor TopLine(const QWidget& button) {
+    return PixelOf(const_cast<QWidget&>(button), {button.width() / 2, 1});
+}
+
+} // namespace
+
+class tst_skinbuttons : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+
+    void init() {
+        Style::Apply(*qApp);
+        window_ = std::make_unique<QWidget>();
+        window_->resize(400, 200);
+        other_ = new QLineEdit(window_.get());
+        other_->setGeometry(200, 100, 100, 24);
+        painted_ = new CommandButton(u"Go"_s, window_.get());
+        painted_->setGeometry(10, 10, 100, 28);
+        slices_ = new UserControl1(window_.get());
+        slices_->setText(u"Go"_s);
+        slices_->setGeometry(10, 60, 100, 28);
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+        other_->setFocus();
+        PointAt(*other_);
+    }
+
+    void cleanup() { window_.reset(); }
+
+    void theCornersAreTheSamePixelsOnBoth() {
+        const QImage faces[] = {PictureOf(*painted_), PictureOf(*slices_)};
+        const QColor ground = window_->palette().color(QPalette::Window);
+        for (const QImage& face : faces) {
+            QCOMPARE(face.pixelColor(0, 0), ground);
+            QCOMPARE(face.pixelColor(1, 0), QColor(198, 207, 222));
+            QCOMPARE(face.pixelColor(2, 0), QColor(33, 85, 132));
+            QCOMPARE(face.pixelColor(3, 0), border);
+            QCOMPARE(face.pixelColor(1, 1), QColor(82, 125, 165));
+            QCOMPARE(face.pixelColor(2, 1), QColor(123, 150, 173));
+            QCOMPARE(face.pixelColor(97, 27), QColor(33, 85, 132));
+            QCOMPARE(face.pixelColor(99, 27), ground);
+            QCOMPARE(face.pixelColor(99, 14), border);
+            QCOMPARE(face.pixelColor(50, 26), QColor(214, 211, 198));
+        }
+    }
+
+    void atTwiceTheScaleCornersAreCurvesAndEdgesSharp() {
+        const QImage face = PictureOf(*painted_, 2);
+        const QColor ground = window_->palette().color(QPalette::Window);
+        QCOMPARE(face.size(), QSize(200, 56));
+        QCOMPARE(face.pixelColor(0, 0), ground);
+        for (const int row : {0, 1})
+            QCOMPARE(face.pixelColor(100, row), border);
+        QCOMPARE(face.pixelColor(100, 2), normalTop);
+        for (const int column : {0, 1, 198, 199})
+            QCOMPARE(face.pixelColor(column, 28), border);
+        QVERIFY(face.pixelColor(2, 28) != border);
+        QCOMPARE(face.pixelColor(100, 53), QColor(214, 211, 198));
+        // The curve has pixels between its colour and the ground's, where blocks of four would have none alone.
+        QVERIFY(face.pixelColor(1, 3) != face.pixelColor(0, 2));
+    }
+
+    void statesShowTheirFaces_data() { Both(); }
+
+    void statesShowTheirFaces() {
+        QPushButton& button = Chosen();
+        QCOMPARE(TopLine(button), normalTop);
+        button.setFocus();
+        QCOMPARE(TopLine(button), focusTop);
+        PointAt(button);
+        QCOMPARE(TopLine(button), hoverTop);
+        QTest::mousePress(&button, Qt::LeftButton);
+        QCOMPARE(TopLine(button), pressedTop);
+        QTest::mouseRelease(&button, Qt::LeftButton);
+        QCOMPARE(TopLine(button), hoverTop);
+        PointAt(*other_);
+        QCOMPARE(TopLine(button), focusTop);
+        button.setEnabled(false);
+        QCOMPARE(TopLine(button), disabledInside);
+    }
+
+    void aDragOutClearsHoverAndPressedAndItsReleaseIsNoClick_data() { Both(); }
+
+    void aDragOutClearsHoverAndPressedAndItsReleaseIsNoClick() {
+        QPushButton& button = Chosen();
+        const QSignalSpy clicks(&button, &QPushButton::clicked);
+        PointAt(button);
+        QTest::mousePress(&button, Qt::LeftButton);
+        Drag(button, {150, 14});
+        QVERIFY(!button.isDown());
+        QVERIFY(TopLine(button) != hoverTop);
+        QVERIFY(TopLine(button) != pressedTop);
+        QTest::mouseRelease(&button, Qt::LeftButton, {}, {150, 14});
+        QCOMPARE(clicks.size(), 0);
+    }
+
+    void aDragThatComesBackPressesTheSlicesAgain() {
+        const QSignalSpy clicks(slices_, &QPushButton::clicked);
+        PointAt(*slices_);
+        QTest::mousePress(slices_, Qt::LeftButton);
+        Drag(*slices_, {150, 14});
+        Drag(*slices_, {50, 14});
+        QCOMPARE(TopLine(*slices_), pressedTop);
+        QTest::mouseRelease(slices_, Qt::LeftButton, {}, {50, 14});
+        QCOMPARE(clicks.size(), 1);
+    }
+
+    void aDragThatComesBackPressesThePaintedButtonNoMore() {
+        const QSignalSpy clicks(painted_, &QPushButton::clicked);
+        PointAt(*painted_);
+        QTest::mousePress(painted_, Qt::LeftButton);
+        Drag(*painted_, {150, 14});
+        Drag(*painted_, {50, 14});
+        QCOMPARE(TopLine(*painted_), hoverTop);
+        QTest::mouseRelease(painted_, Qt::LeftButton, {}, {50, 14});
+        QCOMPARE(clicks.size(), 0);
+        QTest::mouseClick(painted_, Qt::LeftButton);
+        QCOMPARE(clicks.size(), 1);
+    }
+
+    void thePaintedButtonTellsOfTheMouseAndOfTheClickBeforeItsEnd() {
+        QStringList told;
+        connect(painted_, &CommandButton::MouseDown, this,
+                [&](Qt::MouseButton, Qt::KeyboardModifiers shift, int x, int y) {
+                    told += u"down %1 %2 %3"_s.arg(x).arg(y).arg(shift == Qt::ShiftModifier);
+                });
+        connect(painted_, &CommandButton::MouseMove, this, [&] { told += u"move"_s; });
+        connect(painted_, &CommandButton::MouseUp, this, [&] { told += u"up"_s; });
+        connect(painted_, &CommandButton::clicked, this, [&] { told += u"click"_s; });
+        connect(painted_, &CommandButton::DblClick, this, [&] { told += u"double"_s; });
+        QTest::mousePress(painted_, Qt::LeftButton, Qt::ShiftModifier, {7, 9});
+        Drag(*painted_, {8, 9});
+        QTest::mouseRelease(painted_, Qt::LeftButton, {}, {8, 9});
+        QCOMPARE(told, (QStringList{u"down 7 9 1"_s, u"move"_s, u"click"_s, u"up"_s}));
+        QTest::mouseDClick(painted_, Qt::LeftButton);
+        QVERIFY(told.contains(u"double"_s));
+    }
+
+    void everyMouseButtonPressesThePaintedOne() {
+        const QSignalSpy clicks(painted_, &QPushButton::clicked);
+        QTest::mouseClick(painted_, Qt::RightButton);
+        QTest::mouseClick(painted_, Qt::MiddleButton);
+        QCOMPARE(clicks.size(), 2);
+        const QSignalSpy others(slices_, &QPushButton::clicked);
+        QTest::mouseClick(slices_, Qt::RightButton);
+        QCOMPARE(others.size(), 0);
+    }
+
+    void aClickMayEndTheButton() {
+        connect(painted_, &CommandButton::clicked, this, [this] { delete painted_; });
+        QTest::mouseClick(painted_, Qt::LeftButton);
+    }
+
+    void aDisabledPaintedButtonIgnoresItsColour() {
+        painted_->SetForeColor(Qt::red);
+        QVERIFY(HasColour(PictureOf(*painted_), Qt::red));
+        painted_->setEnabled(false);
+        QVERIFY(!HasColour(PictureOf(*painted_), Qt::red));
+        QVERIFY(HasColour(PictureOf(*painted_), QColor(165, 162, 148)));
+    }
+
+    void textIsTheSuitesOnADarkDesktopToo() {
+        QPalette dark(QColor(30, 30, 30));
+        dark.setColor(QPalette::ButtonText, Qt::white);
+        QApplication::setPalette(dark);
+        for (const char* name : {"QPushButton", "QAbstractButton"})
+            QApplication::setPalette(dark, name);
+        Style::Apply(*qApp);
+        UserControl1 button;
+        button.setText(u"Go"_s);
+        QCOMPARE(button.palette().color(QPalette::ButtonText), QColor(Qt::black));
+        QCOMPARE(button.palette().color(QPalette::Disabled, QPalette::ButtonText), Style::Colour::DisabledText);
+    }
+
+    void enterClicksWhenItIsReleased() {
+        const QSignalSpy clicks(slices_, &QPushButton::clicked);
+        slices_->setFocus();
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+            const auto before = clicks.size();
+            QTest::keyPress(slices_, key);
+            QCOMPARE(clicks.size(), before);
+            QTest::keyRelease(slices_, key);
+            QCOMPARE(clicks.size(), before + 1);
+        }
+    }
+
+    void anEnterThatWasPressedElsewhereIsNoClick() {
+        const QSignalSpy clicks(slices_, &QPushButton::clicked);
+        slices_->setFocus();
+        QTest::keyRelease(slices_, Qt::Key_Return);
+        QTest::keyPress(slices_, Qt::Key_Return);
+        other_->setFocus();
+        slices_->setFocus();
+        QTest::keyRelease(slices_, Qt::Key_Return);
+        QCOMPARE(clicks.size(), 0);
+    }
+
+    void anEnterThatClosedAMessageBoxIsNoSecondClick() {
+        int boxes = 0;
+        connect(slices_, &QPushButton::clicked, this, [&] {
+            ++boxes;
+            QMessageBox box(QMessageBox::Information, {}, u"Told"_s, QMessageBox::Ok, window_.get());
+            QTimer::singleShot(0, &box, [&box] { QTest::keyPress(box.button(QMessageBox::Ok), Qt::Key_Return); });
+            box.exec();
+        });
+        slices_->setFocus();
+        QTest::keyClick(slices_, Qt::Key_Return);
+        QTest::keyRelease(slices_, Qt::Key_Return); // the one that the box was closed by
+        QCOMPARE(boxes, 1);
+    }
+
+    void aBlankPressesTheFaceAndClicksWhenReleased() {
+        const QSignalSpy clicks(slices_, &QPushButton::clicked);
+        slices_->setFocus();
+        QTest::keyPress(slices_, Qt::Key_Space);
+        QCOMPARE(TopLine(*slices_), pressedTop);
+        QCOMPARE(clicks.size(), 0);
+        QTest::keyRelease(slices_, Qt::Key_Space);
+        QCOMPARE(clicks.size(), 1);
+        QCOMPARE(TopLine(*slices_), focusTop);
+    }
+
+    void aDisabledButtonHearsNoKey() {
+        const QSignalSpy clicks(slices_, &QPushButton::clicked);
+        slices_->setEnabled(false);
+        QTest::keyClick(slices_, Qt::Key_Return);
+        QTest::keyClick(slices_, Qt::Key_Space);
+        QCOMPARE(clicks.size(), 0);
+    }
+
+    void arrowsAreTabs_data() {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<bool>("forward");
+        QTest::newRow("left") << Qt::Key_Left << false;
+        QTest::newRow("up") << Qt::Key_Up << false;
+        QTest::newRow("right") << Qt::Key_Right << true;
+        QTest::newRow("down") << Qt::Key_Down << true;
+    }
+
+    void arrowsAreTabs() {
+        QFETCH(const Qt::Key, key);
+        QFETCH(const bool, forward);
+        slices_->setFocus();
+        QTest::keyClick(slices_, key);
+        // The order is the box, the painted button, the slices.
+        QCOMPARE(QApplication::focusWidget(), forward ? static_cast<QWidget*>(other_) : painted_);
+    }
+
+    void withoutACaptionItShowsItsName() {
+        UserControl1 button;
+        button.setObjectName(u"UserControl11"_s);
+        QCOMPARE(button.text(), u"UserControl11"_s);
+        CommandButton other(u"Given"_s);
+        other.setObjectName(u"Command1"_s);
+        QCOMPARE(other.text(), u"Given"_s);
+    }
+
+    void aScreenReaderMeetsAButtonWithItsName_data() { Both(); }
+
+    void aScreenReaderMeetsAButtonWithItsName() {
+        QPushButton& button = Chosen();
+        button.setText(u"&Go"_s);
+        const QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(&button);
+        QVERIFY(seen != nullptr);
+        QCOMPARE(seen->role(), QAccessible::PushButton);
+        QCOMPARE(seen->text(QAccessible::Name), u"Go"_s);
+    }
+
+    void theSizeLeavesRoomForEveryCaption_data() { Both(); }
+
+    void theSizeLeavesRoomForEveryCaption() {
+        QPushButton& button = Chosen();
+        for (const QString& caption : {u"OK"_s, u"Enregistrer la table sous un autre nom"_s, u"two\nlines"_s}) {
+            button.setText(caption);
+            const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, caption);
+            QVERIFY(button.sizeHint().width() >= text.width() + 16);
+            QVERIFY(button.sizeHint().height() >= text.height() + 4);
+            QCOMPARE(button.sizeHint().width() % 4, 0);
+            QCOMPARE(button.sizeHint().height() % 4, 0);
+        }
+    }
+
+private:
+    static void Both() {
+        QTest::addColumn<bool>("painted");
+        QTest::newRow("CommandButton") << true;
+        QTest::newRow("UserControl1") << false;
+    }
+
+    QPushButton& Chosen() {
+        QFETCH(const bool, painted);
+        if (painted)
+            return *painted_;
+        return *slices_;
+    }
+
+    std::unique_ptr<QWidget> window_;
+    QLineEdit* other_ = nullptr;
+    CommandButton* painted_ = nullptr;
+    UserControl1* slices_ = nullptr;
+};
+
+WINDOW_TEST(tst_skinbuttons)
+
+#include "tst_skinbuttons.moc"

@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/skin/Face.h"
+
+#include <array>
+#include <optional>
+
+namespace {
+
+using Skin::Bgr;
+using Skin::Fill;
+using Skin::Look;
+
+/// Light falls from above: gradients are given from their lower end, where the inner lines are, to the upper one.
+struct Gradient {
+    Bgr Lower;
+    Bgr Upper;
+};
+
+/// What frames the face of a button under the pointer or with the focus.
+struct Accent {
+    std::array<Bgr, 2> TopLines;
+    Gradient Sides;
+};
+
+/// The rows of an inner line: from above, or (negative) from below.
+struct InnerLine {
+    int First;
+    int Rows;
+    Bgr Colour;
+};
+
+struct Theme {
+    Bgr Border;
+    Bgr Ground;
+    std::array<InnerLine, 2> InnerLines;
+    std::optional<Gradient> Body;
+    std::optional<Accent> Frame;
+    std::array<Bgr, 4> Corners;
+};
+
+constexpr Bgr border = 0x733200;
+constexpr Bgr ground = 0xE7EBEF;
+constexpr Gradient body{0xE7EBEF, 0xF7F7F7};
+constexpr std::array<Bgr, 4> corners{0x845521, 0xAD967B, 0xA57D52, 0xDECFC6};
+
+constexpr Bgr disabledBorder = 0xBDC7CE;
+constexpr Bgr disabledGround = 0xEFF7F7;
+
+/// By Look.
+constexpr std::array<Theme, 5> themes{{
+    {border, ground, {{{-3, 1, 0xD6DFE7}, {-2, 1, 0xC6D3D6}}}, body, {}, corners},
+    {border,
+     ground,
+     {{{-3, 1, 0x31B2FF}, {-2, 1, 0x31B2FF}}},
+     body,
+     Accent{{0xCEF3FF, 0x8CDBFF}, {0x30B6FF, 0x9CDFE1}},
+     corners},
+    {border,
+     ground,
+     {{{-3, 1, 0xE7AE8C}, {-2, 1, 0xEF826B}}},
+     body,
+     Accent{{0xFFE7CE, 0xF7D7BD}, {0xE7AE8C, 0xF7D3BD}},
+     corners},
+    {border, ground, {{{1, 1, 0xD6DFE7}, {-2, 1, 0xEFF3F7}}}, {}, {}, corners},
+    {disabledBorder,
+     disabledGround,
+     {{{-3, 1, disabledGround}, {-2, 1, disabledGround}}},
+     {},
+     {},
+     {disabledBorder, disabledBorder, disabledBorder, disabledBorder}},
+}};
+
+constexpr int accentWidth = 2;
+constexpr int innerLines = 2; // rows that the lines below take
+
+std::vector<Fill> BorderLines(Bgr colour, QSize size) {
+    constexpr int reach = Skin::CornerReach;
+    const int right = size.width() - 1, bottom = size.height() - 1;
+    const int across = size.width() - 2 * reach, down = size.height() - 2 * reach;
+    return {{{reach, 0, across, 1}, colour, colour},
+            {{reach, bottom, across, 1}, colour, colour},
+            {{0, reach, 1, down}, colour, colour},
+            {{right, reach, 1, down}, colour, colour}};
+}
+
+std::vector<Fill> InsideOf(const Theme& theme, QSize size) {
+    const QRect inside = QRect(QPoint(), size).adjusted(1, 1, -1, -1);
+    std::vector<Fill> fills{{inside, theme.Ground, theme.Ground}};
+    for (const InnerLine& line : theme.InnerLines) {
+        const int row = line.First < 0 ? size.height() + line.First : line.First;
+        fills.push_back({{inside.x(), row, inside.width(), line.Rows}, line.Colour, line.Colour});
+    }
+    QRect face = inside.adjusted(0, 0, 0, -innerLines);
+    if (theme.Frame) {
+        for (const Bgr colour : theme.Frame->TopLines) {
+            fills.push_back({{face.x(), face.y(), face.width(), 1}, colour, colour});
+            face.setTop(face.top() + 1);
+        }
+        const Gradient& sides = theme.Frame->Sides;
+        fills.push_back({{face.x(), face.y(), accentWidth, face.height()}, sides.Upper, sides.Lower});
+        fills.push_back(
+            {{face.right() + 1 - accentWidth, face.y(), accentWidth, face.height()}, sides.Upper, sides.Lower});
+        face.adjust(accentWidth, 0, -accentWidth, 0);
+    }
+    if (theme.Body)
+        fills.push_back({face, theme.Body->Upper, theme.Body->Lower});
+    return fills;
+}
+
+// The first colour goes on with the border's lines, the fourth lies outside of the curve, the third in its middle, the
+// second on its inner side.
+std::vector<Skin::Dot> CornersOf(const Theme& theme, QSize size) {
+    const auto [first, second, third, fourth] = theme.Corners;
+    const std::array<Skin::Dot, 7> upperLeft{{{{2, 0}, first},
+                                              {{0, 2}, first},
+                                              {{2, 1}, second},
+                                              {{1, 2}, second},
+                                              {{1, 1}, third},
+                                              {{1, 0}, fourth},
+                                              {{0, 1}, fourth}}};
+    const int right = size.width() - 1, bottom = size.height() - 1;
+    std::vector<Skin::Dot> dots;
+    for (const auto& [place, colour] : upperLeft)
+        for (const int x : {place.x(), right - place.x()})
+            for (const int y : {place.y(), bottom - place.y()})
+                dots.push_back({{x, y}, colour});
+    return dots;
+}
+
+} // namespace
+
+Bgr Skin::Between(Bgr first, Bgr last, int line, int lines) {
+    if (lines < 2)
+        return first;
+    Bgr colour = 0;
+    for (const int shift : {0, 8, 16}) {
+        const int from = static_cast<int>(first >> shift & 0xFFU), to = static_cast<int>(last >> shift & 0xFFU);
+        colour |= static_cast<Bgr>(from + (to - from) * line / (lines - 1)) << shift;
+    }
+    return colour;
+}
+
+Look Skin::CommandButtonLook(const ButtonState& state) {
+    if (!state.Enabled)
+        return Look::Disabled;
+    if (state.Hover)
+        return state.Pressed ? Look::Pressed : Look::Hover;
+    return state.Focus ? Look::Focus : Look::Normal;
+}
+
+Look Skin::UserControlLook(const ButtonState& state) {
+    if (!state.Enabled)
+        return Look::Disabled;
+    if (state.Pressed)
+        return Look::Pressed;
+    if (state.Hover)
+        return Look::Hover;
+    return state.Focus ? Look::Focus : Look::Normal;
+}
+
+Skin::Face Skin::FaceOf(Look look, QSize size) {
+    const Theme& theme = themes.at(static_cast<std::size_t>(look));
+    return {theme.Border, BorderLines(theme.Border, size), InsideOf(theme, size), CornersOf(theme, size)};
+}

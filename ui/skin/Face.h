@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// How the family's push buttons look, as plain data: which face a state shows, and the pixels of each face at scale 1.
+/// Colours are written 0xBBGGRR.
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+
+#include <vector>
+
+namespace Skin {
+
+using Bgr = quint32;
+
+/// The colour of one line of a gradient: red, green and blue run each by itself from `first` (line 0) to `last` (line
+/// `lines` - 1).
+Bgr Between(Bgr first, Bgr last, int line, int lines);
+
+/// In the order of the faces' slices, three to each.
+enum class Look { Normal, Hover, Focus, Pressed, Disabled };
+
+struct ButtonState {
+    bool Enabled = true;
+    bool Hover = false;
+    bool Focus = false;
+    bool Pressed = false;
+};
+
+/// The painted button: a pressed face needs the pointer over it, and the pointer goes before the focus.
+Look CommandButtonLook(const ButtonState& state);
+/// The button made of slices: pressed goes before all else that is enabled.
+Look UserControlLook(const ButtonState& state);
+
+/// A rectangle of full lines from `Top`'s colour to `Bottom`'s.
+struct Fill {
+    QRect Area;
+    Bgr Top;
+    Bgr Bottom;
+};
+
+struct Dot {
+    QPoint Place;
+    Bgr Colour;
+};
+
+struct Face {
+    Bgr Border;
+    std::vector<Fill> Lines;  ///< the four lines of the border, three pixels short of the corners
+    std::vector<Fill> Inside; ///< what lies inside the border, in the order of painting
+    std::vector<Dot> Corners; ///< what rounds the four corners, over all else
+};
+
+/// How far a corner reaches, in pixels. The outermost pixel of each corner is not painted.
+inline constexpr int CornerReach = 3;
+
+/// The face of a button of that size.
+Face FaceOf(Look look, QSize size);
+
+} // namespace Skin

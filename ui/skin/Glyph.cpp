@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/skin/Glyph.h"
+
+#include <array>
+
+namespace {
+
+constexpr int states = 4;
+constexpr Skin::Bgr border = 0x733200;
+constexpr Skin::Bgr disabled = 0xBDC7CE;
+
+/// Normal, pointer over, pressed, disabled.
+constexpr std::array<Skin::GlyphColours, states> colours{{
+    {border, 0xE7EBEF, 0xFFFFFF, {}, border},
+    {border, 0xE7EBEF, 0xFFFFFF, 0x31B2FF, border},
+    {border, 0xC6D3D6, 0xE7EBEF, {}, border},
+    {disabled, 0xEFF7F7, 0xEFF7F7, {}, 0x94A2A5},
+}};
+
+} // namespace
+
+int Skin::GlyphFrame(const ButtonState& state, bool ticked) {
+    int frame = 0;
+    if (!state.Enabled)
+        frame = 3;
+    else if (state.Pressed)
+        frame = 2;
+    else if (state.Hover)
+        frame = 1;
+    return frame + (ticked ? states : 0);
+}
+
+int Skin::GlyphTop(int height) {
+    return (height - GlyphSize) / 2;
+}
+
+const Skin::GlyphColours& Skin::ColoursOfGlyph(int frame) {
+    return colours.at(static_cast<std::size_t>(frame % states));
+}
+
+std::vector<Skin::Fill> Skin::BoxOfGlyph(int frame) {
+    const GlyphColours& parts = ColoursOfGlyph(frame);
+    QRect area(0, 0, GlyphSize, GlyphSize);
+    std::vector<Fill> fills{{area, parts.Border, parts.Border}};
+    area.adjust(1, 1, -1, -1);
+    if (parts.Ring) {
+        fills.push_back({area, *parts.Ring, *parts.Ring});
+        area.adjust(2, 2, -2, -2);
+    }
+    fills.push_back({area, parts.Top, parts.Bottom});
+    return fills;
+}

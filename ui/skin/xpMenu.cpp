@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "ui/skin/xpMenu.h"
+
+#include "ui/look/Style.h"
+#include "ui/skin/Bar.h"
+#include "ui/skin/SkinPainter.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+constexpr int captionLeft = 10, captionRight = 28;
+} // namespace
+
+xpMenu::xpMenu(QWidget* parent) : QAbstractButton(parent) {
+    setCheckable(true);
+    setChecked(true);
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setFixedHeight(Skin::HeadingHeight);
+}
+
+void xpMenu::SetCaption(const QString& caption) {
+    setText(caption);
+    Q_EMIT CaptionChanged(caption);
+}
+
+QSize xpMenu::sizeHint() const {
+    return {captionLeft + fontMetrics().horizontalAdvance(text()) + captionRight, Skin::HeadingHeight};
+}
+
+void xpMenu::paintEvent(QPaintEvent* /*event*/) {
+    constexpr int inset = 3;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintBar(painter);
+    QFont bold = font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    painter.setPen(underMouse() ? Style::Colour::EntryHover : Style::Colour::Border);
+    painter.drawText(rect().adjusted(captionLeft, 0, -captionRight, 0), Qt::AlignVCenter | Qt::AlignLeft, text());
+    PaintMark(painter);
+    if (hasFocus())
+        Skin::PaintFocus(painter, rect().adjusted(inset, inset, -inset, -inset));
+}
+
+// The two ends are round above; what is between them is stretched.
+void xpMenu::PaintBar(QPainter& painter) const {
+    const auto [left, top, right] = Skin::PartsOfHeading(width());
+    QLinearGradient face(left.left(), 0, right.right(), 0);
+    face.setColorAt(0, Qt::white);
+    face.setColorAt(1, QColor(199, 212, 247));
+    QPainterPath outline;
+    outline.setFillRule(Qt::WindingFill);
+    for (const QRectF end : {left, right}) {
+        outline.addRoundedRect(end.adjusted(end.x() > 0 ? -end.width() : 0, 0, end.x() > 0 ? 0 : end.width(), 0),
+                               Skin::HeadingEnd, Skin::HeadingEnd);
+        outline.addRect(end.adjusted(0, Skin::HeadingEnd, 0, 0));
+    }
+    outline.addRect(top);
+    painter.fillPath(outline.simplified(), face);
+}
+
+void xpMenu::PaintMark(QPainter& painter) const {
+    const QPointF middle(width() - 15.0, height() / 2.0);
+    const qreal down = isChecked() ? -1 : 1; // points up while the group is open
+    QPen pen = painter.pen();
+    pen.setWidthF(1.6);
+    pen.setCapStyle(Qt::RoundCap);
+    painter.setPen(pen);
+    for (const qreal shift : {-2.5, 1.5}) {
+        const QPointF tip = middle + QPointF(0, shift + down * 1.5);
+        painter.drawLine(tip, tip + QPointF(-3.5, -down * 3));
+        painter.drawLine(tip, tip + QPointF(3.5, -down * 3));
+    }
+}
+
+void xpMenu::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
