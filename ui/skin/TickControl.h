@@ -60,7 +60,6 @@ public:
 protected:
     TickControl(Skin::Mark mark, QWidget* parent) : Base(parent), mark_(mark) {
         Skin::Equip(*this);
-        this->setMinimumHeight(Skin::GlyphSize);
         QObject::connect(this, &Base::toggled, this, [this] { Q_EMIT Self().ValueChanged(Value()); });
     }
 
@@ -92,6 +91,13 @@ protected:
         if (event->type() == QEvent::EnabledChange)
             foreColour_ = QColor(); // empty braces would be a colour
         Base::changeEvent(event);
+    }
+
+    // A minimum height would let layouts take what the caption needs.
+    void resizeEvent(QResizeEvent* event) override {
+        Base::resizeEvent(event);
+        if (this->height() < Skin::GlyphSize)
+            this->resize(this->width(), Skin::GlyphSize);
     }
 
     void paintEvent(QPaintEvent* event) override;

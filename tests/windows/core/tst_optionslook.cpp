@@ -110,7 +110,8 @@ private Q_SLOTS:
         Select(u"Generals"_s);
         Tabs()->setFocus();
         QCOMPARE(Walk(), (QStringList{u"Tab1"_s, u"lstOptions"_s, u"checkMod"_s, u"lstMods"_s, u"opNoShellMap"_s,
-                                      u"lstShellMaps"_s, u"UserControl11"_s, u"UserControl12"_s}));
+                                      u"opLoadShellMap"_s, u"lstShellMaps"_s, u"opRndShellMap"_s, u"UserControl11"_s,
+                                      u"UserControl12"_s}));
     }
 
     void everyControlHasAMnemonicOfItsOwnAndAName() {
