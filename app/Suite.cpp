@@ -147,7 +147,11 @@ void Suite::CheckForUpdates(bool automatic) {
             qApp, [] { mUpdater::CheckForUpdates(false); }, Qt::QueuedConnection);
 }
 
+// What the menu asks in a box of its own would be locked with it, and nobody could answer: the box locks the menu
+// itself.
 void Suite::EnableToolsMenu(bool enabled) {
+    if (!enabled && QApplication::activeModalWidget() != nullptr)
+        return;
     if (auto* const menu = Shown<frmToolsMenu>(); menu != nullptr && menu->isEnabled() != enabled)
         menu->setEnabled(enabled);
 }

@@ -14,7 +14,7 @@ build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-qpa-plugins zlib1g
   libbenchmark-dev librsvg2-bin imagemagick libdevil-dev libstb-dev libsdl2-mixer-dev libzip-dev libsodium-dev pkg-config)
 # What the tests run besides: other programs read what is written here.
 test_packages=(clang-format python3 gettext unzip p7zip-full libarchive-tools minisign)
-display_packages=(xvfb xdotool fonts-dejavu-core)
+display_packages=(xvfb xdotool openbox fonts-dejavu-core)
 
 say() { printf '%s\n' "$*"; }
 

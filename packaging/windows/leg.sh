@@ -52,4 +52,5 @@ run_tests windows
 
 start_display
 check "Windows leg: brindock.exe starts" windows_picture
+check "Windows leg: a release is found, downloaded and started" tools/try-update windows build/screenshots/update-windows.png
 stop_display

@@ -5,6 +5,7 @@
 
 #include "app/Suite.h"
 #include "core/window/frmOptions.h"
+#include "core/window/frmToolsMenu.h"
 #include "csf/window/frmCSFEditor.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
@@ -12,6 +13,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 
@@ -56,6 +58,21 @@ private Q_SLOTS:
         suite_->ShowOptions(&owner);
         QVERIFY(options.isNull());
         QVERIFY(owner.isVisible());
+    }
+
+    // A box of the menu's own would be locked with it, and nobody could answer.
+    void theMenuIsLockedWhenItAsksNothing() {
+        frmToolsMenu menu;
+        menu.show();
+        QMessageBox box(&menu);
+        box.open();
+        suite_->EnableToolsMenu(false);
+        QVERIFY(menu.isEnabled() && box.isEnabled());
+        box.close();
+        suite_->EnableToolsMenu(false);
+        QVERIFY(!menu.isEnabled());
+        suite_->EnableToolsMenu(true);
+        QVERIFY(menu.isEnabled());
     }
 
     void withoutToolsTheProgramMayEnd() {
