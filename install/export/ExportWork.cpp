@@ -6,13 +6,13 @@
 #include "core/GameFiles.h"
 #include "core/ProgramFolders.h"
 #include "platform/AnsiCodec.h"
+#include "platform/FileTime.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/PrivateName.h"
 #include "platform/RuntimeError.h"
 #include "platform/WriteAside.h"
 
-#include <QFile>
 
 #include <algorithm>
 
@@ -21,13 +21,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 PieceSize = qint64{4} * 1024 * 1024;
-
-/// As a copy of the system's own has it.
-void KeepTime(const QString& from, const QString& to) {
-    QFile file(Paths::ToNativeAsGiven(to));
-    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        file.setFileTime(Files::ModifiedTime(from), QFileDevice::FileModificationTime);
-}
 
 /// A value that reads as this text again: blanks around it and a pair of quotes would be dropped.
 QString IniValue(const QString& text) {
@@ -68,7 +61,7 @@ void ExportFiles::Copy(const QString& from, const QString& to, const std::functi
         copied(piece);
     }
     target.Commit(false);
-    Ignoring([&] { KeepTime(from, to); });
+    FileTime::Keep(from, to);
 }
 
 QString ExportFiles::ModRecordPath(const QString& mod) {

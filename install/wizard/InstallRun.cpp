@@ -289,7 +289,7 @@ void InstallRun::BeginShare(double from, double to, const PlannedItem& plan) {
     ended_ = 0;
     total_ = 0;
     for (const PlannedFile& file : plan.Files)
-        total_ += file.Size;
+        total_ += static_cast<double>(file.Size);
     if (plan.Kind == FileKind::ShellMap && source_.SourceIsZip) // extracted, then copied
         total_ *= 2;
 }
@@ -297,13 +297,14 @@ void InstallRun::BeginShare(double from, double to, const PlannedItem& plan) {
 void InstallRun::ShowBytes(qint64 bytes) {
     if (total_ <= 0)
         return;
-    const double part = std::min(1.0, static_cast<double>(ended_ + bytes) / static_cast<double>(total_));
-    const int percent = static_cast<int>(from_ + part * (to_ - from_));
+    const double part = std::min(1.0, (ended_ + static_cast<double>(bytes)) / total_);
+    // Rounded as the value behind each record is, or the bar would go back.
+    const int percent = static_cast<int>(std::nearbyint(from_ + part * (to_ - from_)));
     if (percent != shown_)
         view_.ShowProgress(percent);
     shown_ = percent;
 }
 
 void InstallRun::EndFile(qint64 size) {
-    ended_ += size;
+    ended_ += static_cast<double>(size);
 }

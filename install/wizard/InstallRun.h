@@ -47,7 +47,6 @@ private:
     void Put(TargetFolder& folder, const SourceFile& file, const QString& name);
     bool PutStrictly(TargetFolder& folder, const SourceFile& file, const QString& name);
     void Describe(TargetFolder& folder, const QString& name, const QString& section, const InstallRecord& record);
-    QString Extracted(const Item& item);
 
     TargetFolder& FolderAt(const QString& path);
     void BeginShare(double from, double to, const PlannedItem& plan);
@@ -68,7 +67,7 @@ private:
 
     double from_ = 0; ///< the share of the bar that the item at work has
     double to_ = 100;
-    qint64 total_ = 0; ///< bytes of that item
-    qint64 ended_ = 0; ///< those of its files that are done
+    double total_ = 0; ///< bytes of that item, as it tells them: no whole number need hold them
+    double ended_ = 0; ///< those of its files that are done
     int shown_ = -1;
 };

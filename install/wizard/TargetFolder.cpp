@@ -6,6 +6,7 @@
 #include "core/Host.h"
 #include "core/mMain.h"
 #include "platform/File.h"
+#include "platform/FileTime.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -87,6 +88,7 @@ bool TargetFolder::Copy(const QString& from, const QString& path, const std::fun
             Host::Current().Yield();
     }
     aside.Commit(false);
+    FileTime::Keep(from, path);
     Written(path);
     return true;
 }

@@ -29,6 +29,17 @@ TEST_F(InstallSingle, AMapTakesAllFilesBesideItAlong) {
     EXPECT_TRUE(host_.Messages.empty());
 }
 
+// Lists of replays show the day of the game by it.
+TEST_F(InstallSingle, AFileKeepsItsTime) {
+    const QString path = Put(u"a.rep"_s);
+    const QDateTime time(QDate(2003, 8, 30), QTime(20, 55, 28));
+    QFile file(Paths::ToNative(path));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(time, QFileDevice::FileModificationTime));
+    file.close();
+    InstallFile(path);
+    EXPECT_EQ(Files::ModifiedTime(Of(0).ReplayPath + u"a.rep"_s), time);
+}
+
 TEST_F(InstallSingle, AMapGoesToTheFolderOfItsNameLessFourCharacters) {
     InstallFile(Put(u"a\\[RANK] Arctic Arena ZH v1.map"_s, "m"), 1);
     EXPECT_EQ(At(Of(1).MapPath + u"[RANK] Arctic Arena ZH v1\\[RANK] Arctic Arena ZH v1.map"_s), "m");
