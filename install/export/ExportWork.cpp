@@ -13,7 +13,6 @@
 #include "platform/RuntimeError.h"
 #include "platform/WriteAside.h"
 
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
