@@ -23,7 +23,7 @@ namespace {
 constexpr qsizetype ExtensionLength = 3;
 constexpr qsizetype ExtensionWithDot = 4;
 constexpr int EntriesAtATime = 256;
-constexpr qint64 LargestRecord = 1024 * 1024;
+constexpr qint64 LargestRecord = qint64{1024} * 1024; ///< bytes
 
 constexpr QStringView FirstShellMap = u"shellmap1.map";
 constexpr QStringView SecondShellMap = u"shellmapmd.map";

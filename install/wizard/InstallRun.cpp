@@ -140,7 +140,7 @@ void InstallRun::Install(const InstallRecord& record, const PlannedItem& plan) {
 
 void InstallRun::InstallMap(const Item& item) {
     TargetFolder& maps = FolderAt(place_.MapPath);
-    maps.MakeFolder(item.Base);
+    maps.AddFolder(item.Base);
     const std::vector<SourceFile> files = FilesOf(item);
     for (const SourceFile& file : files)
         Put(maps, file, item.Base + u'\\' + file.Name);
@@ -195,9 +195,9 @@ void InstallRun::InstallShellMap(const Item& item) {
 /// All that lies in a folder becomes the game's next shell map.
 void InstallRun::FillShellMap(const Item& item, const QString& sourceFolder) {
     TargetFolder& game = FolderAt(place_.InstallPath);
-    Ignoring([&] { game.MakeFolder(u"Maps"_s); });
+    Ignoring([&] { game.AddFolder(u"Maps"_s); });
     const QString name = NextShellMap();
-    game.MakeFolder(name);
+    game.AddFolder(name);
     InstallRecord beside = item.Record;
     beside.EntryPath = sourceFolder + EntryNames::LastPart(item.Record.FileName);
     for (const SourceFile& file : ItemFiles(nullptr).Of(beside))

@@ -20,7 +20,7 @@ public:
     /// The path to write a file to, for those who take it as given; its folders are made. Raises what the gateway does.
     QString PathFor(const QString& name) { return gateway_.TargetFor(name); }
 
-    void MakeFolder(const QString& name) { gateway_.MakeFolder(name); }
+    void AddFolder(const QString& name) { gateway_.MakeFolder(name); }
 
     /// How people and the journal know a path that PathFor gave.
     [[nodiscard]] QString Spelt(const QString& path) const;

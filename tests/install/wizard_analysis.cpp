@@ -157,7 +157,7 @@ TEST_F(AnalysisTest, AModInAnArchiveIsDescribedUnderInfos) {
 
 TEST_F(AnalysisTest, AnIniFileOfThousandsOfLinesIsNotRead) {
     QByteArray most = "[Infos]\r\nName=read\r\n";
-    most += QByteArray(1024 * 1024 - most.size(), ' ');
+    most += QByteArray(qsizetype{1024} * 1024 - most.size(), ' ');
     AnalyseZip({{.Name = "One.big"},
                 {.Name = "One.ini", .Content = most},
                 {.Name = "Two.big"},

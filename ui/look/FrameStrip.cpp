@@ -55,7 +55,7 @@ std::optional<FrameStrip> FrameStrip::Read(const QString& path) {
 }
 
 QSizeF FrameStrip::Size() const {
-    return QSizeF(strip_.width(), strip_.height() / frames_) / scale_;
+    return QSizeF(QSize(strip_.width(), strip_.height() / frames_)) / scale_;
 }
 
 void FrameStrip::Paint(QPainter& painter, const QRectF& place, int frame) const {
