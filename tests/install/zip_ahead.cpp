@@ -69,6 +69,7 @@ protected:
 
 std::vector<Part> Many(int count, qsizetype size) {
     std::vector<Part> parts;
+    parts.reserve(static_cast<std::size_t>(count));
     for (int number = 0; number < count; ++number)
         parts.push_back({.Name = "f" + QByteArray::number(number),
                          .Content = QByteArray::number(number).leftJustified(size, 'x'),
@@ -207,7 +208,8 @@ TEST_F(ZipAheadTest, WhatIsWrongFailsInTheSameWords) {
     int failed = 0;
     for (int round = 0; round < rounds; ++round) {
         QByteArray bytes = sample;
-        bytes[static_cast<qsizetype>(random() % static_cast<quint32>(bytes.size()))] ^= static_cast<char>(random());
+        char& changed = bytes[static_cast<qsizetype>(random() % static_cast<quint32>(bytes.size()))];
+        changed = static_cast<char>(static_cast<quint32>(changed) ^ random());
         const Outcome plain = Extracted(bytes, false);
         ASSERT_EQ(Extracted(bytes, true), plain) << round;
         failed += plain.Results.count(ZipResult::Done) < plain.Results.size() ? 1 : 0;

@@ -59,7 +59,7 @@ public:
         Host::Current().WaitUntil([&] { return !active_ || !stalls(); });
         if (!active_)
             return {};
-        const QByteArray chunk = answer_.Body.mid(taken_, std::min(size, end - taken_));
+        QByteArray chunk = answer_.Body.mid(taken_, std::min(size, end - taken_));
         taken_ += chunk.size();
         if (answer_.EndsAt >= 0 && taken_ == end)
             Fail();

@@ -10,7 +10,10 @@
 
 class WaitingHost : public ScriptedHost {
 public:
-    bool WaitUntil(const std::function<bool()>& condition) override { return Host::WaitUntil(condition); }
+    // Not the scripted host's, which is the one above.
+    bool WaitUntil(const std::function<bool()>& condition) override {
+        return Host::WaitUntil(condition); // NOLINT(bugprone-parent-virtual-call)
+    }
 
     void Yield() override { QCoreApplication::processEvents(); }
 };

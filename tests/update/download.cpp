@@ -144,7 +144,7 @@ TEST_F(UpdateDownloadTest, TheBarStaysFrom21474837BytesOnAndTheDownloadGoesOn) {
 }
 
 TEST_F(UpdateDownloadTest, ACancelAtHalfLeavesTheHalfAndFreesTheMenu) {
-    const QByteArray patch = Bytes(10 * 1024);
+    const QByteArray patch = Bytes(10240);
     Find(patch);
     int chunks = 0;
     http_.OnChunk = [&] {
@@ -156,7 +156,7 @@ TEST_F(UpdateDownloadTest, ACancelAtHalfLeavesTheHalfAndFreesTheMenu) {
     };
     client_.DownloadPressed();
     ExpectNothingStarted();
-    EXPECT_EQ(World::ReadFile(Downloaded(u"patch.exe"_s)), patch.first(5 * 1024));
+    EXPECT_EQ(World::ReadFile(Downloaded(u"patch.exe"_s)), patch.first(5120));
     EXPECT_EQ(Messages(), QStringList());
 }
 
@@ -188,7 +188,7 @@ TEST_F(UpdateDownloadTest, AServerThatStallsCanBeLeftAtOnce) {
 }
 
 TEST_F(UpdateDownloadTest, ClosingTheWindowEndsTheDownload) {
-    Find(Bytes(10 * 1024));
+    Find(Bytes(10240));
     int chunks = 0;
     http_.OnChunk = [&] {
         if (++chunks == 3)
@@ -312,7 +312,7 @@ TEST_F(UpdateDownloadTest, AnOlderFileOfTheNameIsReplaced) {
 }
 
 TEST_F(UpdateDownloadTest, EachChunkYieldsOnce) {
-    Find(Bytes(10 * 1024));
+    Find(Bytes(10240));
     host_.Yields = 0;
     int chunks = 0;
     http_.OnChunk = [&] { EXPECT_EQ(host_.Yields, ++chunks); };

@@ -6,9 +6,10 @@
 #include "tests/support/Raised.h"
 #include "tests/update/SigningKey.h"
 
+#include <QList>
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
