@@ -98,6 +98,26 @@ stop_display() {
   display_process=
 }
 
+# start_window_manager: for frames, and so that the window in front has the keyboard. A window that is mapped while the
+# manager starts may never be seen.
+start_window_manager() {
+  local ready=${TMPDIR:-/tmp}/brindock-manager.$$
+  rm -f "$ready"
+  openbox --sm-disable --startup "touch '$ready'" >/dev/null 2>&1 &
+  manager_process=$!
+  for _ in $(seq 100); do
+    [ -e "$ready" ] && break
+    sleep 0.1
+  done
+  [ -e "$ready" ] || fail "the window manager (openbox) did not start"
+  rm -f "$ready"
+}
+
+stop_window_manager() {
+  [ -z "${manager_process:-}" ] || kill "$manager_process" 2>/dev/null || true
+  manager_process=
+}
+
 # wait_for_window SECONDS: the number of the first visible window with a title, or failure.
 wait_for_window() {
   local window
