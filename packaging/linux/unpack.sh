@@ -20,7 +20,8 @@ else
 fi
 
 mkdir -p "$target"
-new=$(mktemp -d "$target/.unpacked-XXXXXX")
+new=$target/.unpacked-$$
+mkdir "$new"
 trap 'rm -rf "$new"' EXIT
 trap 'exit 1' HUP INT TERM
 sed '1,/^exit$/d' "$0" | tar -xz -C "$new" || {
