@@ -3,65 +3,23 @@
 
 // HTTPS, with an authority of the tests' own.
 
-#include "Places.h"
 #include "tests/support/Printing.h"
-#include "tests/update/Certificates.h"
 #include "tests/update/HttpServer.h"
+#include "tests/update/SecureServer.h"
+#include "tests/update/TrustedAuthority.h"
 #include "tests/update/WaitingHost.h"
 #include "update/NetworkClient.h"
 
-#include <QSslCertificate>
-#include <QSslConfiguration>
-#include <QSslKey>
-#include <QSslServer>
-#include <QSslSocket>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Wine's own Schannel knows no store of certificates that a program brings along.
-constexpr bool TrustsNoAuthority = Places::SystemIsEmulated;
-
-/// Answers each request of a client that has come to an understanding with it.
-class SecureServer : public QSslServer {
-public:
-    SecureServer() {
-        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-        configuration.setLocalCertificate(QSslCertificate(Certificates::Server));
-        configuration.setPrivateKey(QSslKey(Certificates::ServerKey, QSsl::Rsa));
-        configuration.setPeerVerifyMode(QSslSocket::VerifyNone);
-        setSslConfiguration(configuration);
-        listen(QHostAddress::LocalHost);
-        connect(this, &QTcpServer::pendingConnectionAvailable, this, [this] {
-            QTcpSocket* const client = nextPendingConnection();
-            connect(client, &QTcpSocket::readyRead, client, [this, client] {
-                ++Requests;
-                client->readAll();
-                client->write(Answer);
-            });
-        });
-    }
-
-    QByteArray Answer = HttpServer::Whole("secret");
-    int Requests = 0;
-
-    [[nodiscard]] QString Address() const { return u"https://localhost:%1/file"_s.arg(serverPort()); }
-};
-
 class Https : public testing::Test {
 protected:
     Https() {
         client_->StateChanged = [this](int state) { failed_ = failed_ || state == HttpClient::icError; };
-    }
-
-    ~Https() override { QSslConfiguration::setDefaultConfiguration(before_); }
-
-    void TrustTheAuthority() {
-        QSslConfiguration trusting = before_;
-        trusting.addCaCertificate(QSslCertificate(Certificates::Authority));
-        QSslConfiguration::setDefaultConfiguration(trusting);
     }
 
     QByteArray Get(const QString& url) {
@@ -72,9 +30,8 @@ protected:
         return client_->GetChunk(1024);
     }
 
-    QSslConfiguration before_ = QSslConfiguration::defaultConfiguration();
+    TrustedAuthority authority_;
     WaitingHost host_;
-    SecureServer server_;
     std::unique_ptr<HttpClient> client_ = NetworkClient::Make();
     bool failed_ = false;
 };
@@ -82,46 +39,41 @@ protected:
 } // namespace
 
 TEST_F(Https, AServerThatIsTrustedAnswers) {
-    if (TrustsNoAuthority)
-        GTEST_SKIP() << "Wine";
-    TrustTheAuthority();
-    EXPECT_EQ(Get(server_.Address()), "secret");
+    SecureServer server(HttpServer::Whole("secret"), {});
+    EXPECT_EQ(Get(server.Address()), "secret");
     EXPECT_FALSE(failed_);
 }
 
 TEST_F(Https, AServerThatNobodyVouchesForIsAFailure) {
-    EXPECT_EQ(Get(server_.Address()), "");
+    SecureServer server(HttpServer::Whole("secret"),
+                        {.Certificate = QByteArray(Certificates::Stranger) + Certificates::StrangerKey});
+    EXPECT_EQ(Get(server.Address()), "");
     EXPECT_TRUE(failed_);
-    EXPECT_EQ(server_.Requests, 0);
+    EXPECT_EQ(server.Words(1), QByteArrayList{"came"});
 }
 
 TEST_F(Https, ACertificateOfAnotherNameIsAFailure) {
-    if (TrustsNoAuthority)
-        GTEST_SKIP() << "Wine";
-    TrustTheAuthority();
-    EXPECT_EQ(Get(u"https://127.0.0.2:%1/file"_s.arg(server_.serverPort())), "");
+    SecureServer server(HttpServer::Whole("secret"), {.Host = u"127.0.0.2"_s});
+    EXPECT_EQ(Get(server.Address(u"127.0.0.2"_s)), "");
     EXPECT_TRUE(failed_);
+    EXPECT_EQ(server.Words(1), QByteArrayList{"came"});
 }
 
 TEST_F(Https, ARedirectNeverLeadsDown) {
-    if (TrustsNoAuthority)
-        GTEST_SKIP() << "Wine";
-    TrustTheAuthority();
     HttpServer plain;
     plain.Serve = [](QTcpSocket& client, const QByteArray&) { client.write(HttpServer::Whole("plain")); };
-    server_.Answer = HttpServer::Redirect(plain.Address());
-    EXPECT_EQ(Get(server_.Address()), "");
+    SecureServer server(HttpServer::Redirect(plain.Address()), {});
+    EXPECT_EQ(Get(server.Address()), "");
     EXPECT_TRUE(failed_);
     EXPECT_EQ(plain.Requests, QStringList());
+    EXPECT_EQ(server.Words(2), (QByteArrayList{"came", "request"}));
 }
 
 TEST_F(Https, ARedirectMayLeadUp) {
-    if (TrustsNoAuthority)
-        GTEST_SKIP() << "Wine";
-    TrustTheAuthority();
+    SecureServer server(HttpServer::Whole("secret"), {});
     HttpServer plain;
-    plain.Serve = [this](QTcpSocket& client, const QByteArray&) {
-        client.write(HttpServer::Redirect(server_.Address()));
+    plain.Serve = [&server](QTcpSocket& client, const QByteArray&) {
+        client.write(HttpServer::Redirect(server.Address()));
     };
     EXPECT_EQ(Get(plain.Address()), "secret");
     EXPECT_FALSE(failed_);
