@@ -12,10 +12,10 @@
 
 #include <QApplication>
 
-int RunMeasured(int argc, char** argv, int arguments, const std::function<void()>& measure) {
+int RunMeasured(int argc, char** argv, int least, int most, const std::function<void()>& measure) {
     if (MediaChild::IsAsked(argc, argv))
         return MediaChild::Run(argc, argv);
-    if (argc != arguments + 1)
+    if (argc <= least || argc > most + 1)
         return 2;
     mMain::UseRuntimes();
     QApplication application(argc, argv);

@@ -8,5 +8,5 @@
 #include <functional>
 
 /// The whole of a program's main: runs `measure`, which ends the program by itself or returns. The exit code is 2 where
-/// there are not just so many arguments.
-int RunMeasured(int argc, char** argv, int arguments, const std::function<void()>& measure);
+/// there are fewer or more arguments than that.
+int RunMeasured(int argc, char** argv, int least, int most, const std::function<void()>& measure);

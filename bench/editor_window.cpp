@@ -11,15 +11,13 @@
 ///     editor_window TABLE type        types into its value box
 ///
 /// Prints the median and the longest time in milliseconds.
+#include "bench/MeasuredSuite.h"
 #include "bench/PaintTimes.h"
 #include "big/window/FileListView.h"
 #include "big/window/frmBigEditor.h"
-#include "core/mMain.h"
 #include "csf/window/frmCSFEditor.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "ui/look/Style.h"
-#include "ui/window/WindowHost.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -91,16 +89,11 @@ void Press(QWidget& widget, int key, const QString& text = {}) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2 && argc != 3)
-        return 2;
-    mMain::UseRuntimes();
-    QApplication application(argc, argv);
-    Style::Apply(application);
-    WindowHost host;
-    Host::Use(&host);
-    const QString path = Paths::Absolute(Paths::DecodeNative(argv[1]));
-    const QString second = argc == 3 ? Paths::DecodeNative(argv[2]) : QString();
-    if (path.endsWith(".csf"_L1))
-        TimeTable(path, second);
-    TimeArchive(path, argc == 3 ? Paths::Absolute(second) : QString());
+    return RunMeasured(argc, argv, 1, 2, [&] {
+        const QString path = Paths::Absolute(Paths::DecodeNative(argv[1]));
+        const QString second = argc == 3 ? Paths::DecodeNative(argv[2]) : QString();
+        if (path.endsWith(".csf"_L1))
+            TimeTable(path, second);
+        TimeArchive(path, argc == 3 ? Paths::Absolute(second) : QString());
+    });
 }

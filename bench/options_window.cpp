@@ -37,5 +37,5 @@ void Measure(int from) {
 } // namespace
 
 int main(int argc, char** argv) {
-    return RunMeasured(argc, argv, 1, [&] { Measure(QByteArrayView(argv[1]) == "program" ? 0 : 2); });
+    return RunMeasured(argc, argv, 1, 1, [&] { Measure(QByteArrayView(argv[1]) == "program" ? 0 : 2); });
 }

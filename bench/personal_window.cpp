@@ -61,7 +61,7 @@ void Click(const frmPersonalFiles& window, const QString& node) {
 } // namespace
 
 int main(int argc, char** argv) {
-    return RunMeasured(argc, argv, 1, [&] {
+    return RunMeasured(argc, argv, 1, 1, [&] {
         frmPersonalFiles window;
         window.show();
         QApplication::processEvents();

@@ -66,5 +66,5 @@ void Measure(const QString& file) {
 } // namespace
 
 int main(int argc, char** argv) {
-    return RunMeasured(argc, argv, 1, [&] { Measure(Paths::FromNative(QString::fromLocal8Bit(argv[1]))); });
+    return RunMeasured(argc, argv, 1, 1, [&] { Measure(Paths::FromNative(QString::fromLocal8Bit(argv[1]))); });
 }

@@ -66,3 +66,16 @@ function(window_program name)
     qt_import_plugins(${name} INCLUDE Qt6::QOffscreenIntegrationPlugin)
   endif()
 endfunction()
+
+# library_of_system(RESULT NAME WINDOWS_TARGET): a C library, on Linux by pkg-config (some of Debian's own CMake files ask
+# for more than is installed), in the Windows SDK by its CMake files.
+macro(library_of_system result name windows_target)
+  if(WIN32)
+    find_package(${name} REQUIRED)
+    set(${result} ${windows_target})
+  else()
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(${name} REQUIRED IMPORTED_TARGET ${name})
+    set(${result} PkgConfig::${name})
+  endif()
+endmacro()

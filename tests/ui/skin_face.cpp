@@ -45,6 +45,18 @@ std::map<Bgr, char> With(std::map<Bgr, char> letters) {
     return letters;
 }
 
+/// With the normal face's gradient in the three rows that a frame leaves of it.
+std::map<Bgr, char> WithFrame(std::map<Bgr, char> letters) {
+    letters.insert({{0xF7F7F7, 'a'}, {0xEFF1F3, 'c'}, {0xE7EBEF, 'e'}});
+    return With(letters);
+}
+
+/// A face that has a frame inside its border; the last row but two is its own.
+Rows Framed(const std::string& row) {
+    return {".41BBBBBB14.", "432hhhhhh234", "12iiiiiiii21", "BjjaaaaaajjB", "BkkcccccckkB", "BlleeeeeellB", row,
+            "432mmmmmm234", ".41BBBBBB14."};
+}
+
 constexpr QSize size{12, 9};
 
 } // namespace
@@ -83,51 +95,15 @@ TEST(SkinFace, TheNormalFace) {
 
 // Three rows between the lines: the middle one of each gradient is the mean, its halves towards the upper colour.
 TEST(SkinFace, TheFaceUnderThePointer) {
-    const auto letters = With({{0xCEF3FF, 'h'},
-                               {0x8CDBFF, 'i'},
-                               {0x9CDFE1, 'j'},
-                               {0x66CBF0, 'k'},
-                               {0x30B6FF, 'l'},
-                               {0x31B2FF, 'm'},
-                               {0xF7F7F7, 'a'},
-                               {0xEFF1F3, 'c'},
-                               {0xE7EBEF, 'e'}});
-    const Rows expected{
-        ".41BBBBBB14.", //
-        "432hhhhhh234", //
-        "12iiiiiiii21", //
-        "BjjaaaaaajjB", //
-        "BkkcccccckkB", //
-        "BlleeeeeellB", //
-        "12mmmmmmmm21", //
-        "432mmmmmm234", //
-        ".41BBBBBB14.",
-    };
-    EXPECT_EQ(Painted(Look::Hover, size, letters), expected);
+    const auto letters = WithFrame(
+        {{0xCEF3FF, 'h'}, {0x8CDBFF, 'i'}, {0x9CDFE1, 'j'}, {0x66CBF0, 'k'}, {0x30B6FF, 'l'}, {0x31B2FF, 'm'}});
+    EXPECT_EQ(Painted(Look::Hover, size, letters), Framed("12mmmmmmmm21"));
 }
 
 TEST(SkinFace, TheFaceWithTheFocus) {
-    const auto letters = With({{0xFFE7CE, 'h'},
-                               {0xF7D7BD, 'i'},
-                               {0xF7D3BD, 'j'},
-                               {0xEFC1A5, 'k'},
-                               {0xE7AE8C, 'l'},
-                               {0xEF826B, 'm'},
-                               {0xF7F7F7, 'a'},
-                               {0xEFF1F3, 'c'},
-                               {0xE7EBEF, 'e'}});
-    const Rows expected{
-        ".41BBBBBB14.", //
-        "432hhhhhh234", //
-        "12iiiiiiii21", //
-        "BjjaaaaaajjB", //
-        "BkkcccccckkB", //
-        "BlleeeeeellB", //
-        "12llllllll21", //
-        "432mmmmmm234", //
-        ".41BBBBBB14.",
-    };
-    EXPECT_EQ(Painted(Look::Focus, size, letters), expected);
+    const auto letters = WithFrame(
+        {{0xFFE7CE, 'h'}, {0xF7D7BD, 'i'}, {0xF7D3BD, 'j'}, {0xEFC1A5, 'k'}, {0xE7AE8C, 'l'}, {0xEF826B, 'm'}});
+    EXPECT_EQ(Painted(Look::Focus, size, letters), Framed("12llllllll21"));
 }
 
 TEST(SkinFace, ThePressedFaceHasNoGradient) {

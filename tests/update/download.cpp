@@ -35,6 +35,18 @@ protected:
         EXPECT_FALSE(view_.TimersRun);
         EXPECT_TRUE(navigator_.ToolsMenuEnabled);
     }
+
+    /// Begins a download and presses Cancel as soon as it waits, which ends it.
+    void LeaveInTheFirstWait() {
+        int waits = 0;
+        host_.OnWait = [&] {
+            ++waits;
+            client_.CancelPressed();
+        };
+        client_.DownloadPressed();
+        EXPECT_EQ(waits, 1);
+        ExpectNothingStarted();
+    }
 };
 
 } // namespace
@@ -163,28 +175,14 @@ TEST_F(UpdateDownloadTest, ACancelAtHalfLeavesTheHalfAndFreesTheMenu) {
 TEST_F(UpdateDownloadTest, AServerThatNeverAnswersCanBeLeftAtOnce) {
     Find(Bytes(4096));
     At(u"patch.exe"_s).NeverComes = true;
-    int waits = 0;
-    host_.OnWait = [&] {
-        ++waits;
-        client_.CancelPressed();
-    };
-    client_.DownloadPressed();
-    EXPECT_EQ(waits, 1);
-    ExpectNothingStarted();
+    LeaveInTheFirstWait();
     EXPECT_EQ(Messages(), QStringList());
 }
 
 TEST_F(UpdateDownloadTest, AServerThatStallsCanBeLeftAtOnce) {
     Find(Bytes(4096));
     At(u"patch.exe"_s).StallsAt = 2000;
-    int waits = 0;
-    host_.OnWait = [&] {
-        ++waits;
-        client_.CancelPressed();
-    };
-    client_.DownloadPressed();
-    EXPECT_EQ(waits, 1);
-    ExpectNothingStarted();
+    LeaveInTheFirstWait();
 }
 
 TEST_F(UpdateDownloadTest, ClosingTheWindowEndsTheDownload) {
