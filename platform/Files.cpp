@@ -140,12 +140,14 @@ void Delete(const QString& pattern) {
 void DeleteFolder(const QString& path) {
     const QString folder = WithoutTrailingBackslash(path);
     Ignoring([&] {
+        if (IsLink(folder))
+            return RemoveLink(folder);
         for (const FolderEntry& entry : FolderEntries(folder)) {
             const QString below = folder + u'\\' + entry.Name;
-            if (!entry.IsFolder)
-                Ignoring([&] { DeleteForced(below); });
-            else if (!IsLink(below))
+            if (entry.IsFolder)
                 DeleteFolder(below);
+            else
+                Ignoring([&] { DeleteForced(below); });
         }
         RemoveFolder(folder);
     });

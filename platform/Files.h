@@ -52,7 +52,7 @@ void MakeFolders(const QString& path);
 /// Removes an empty folder. Raises 76 when missing, 75 when it can't be removed.
 void RemoveFolder(const QString& path);
 
-/// Removes a folder with everything in it. Links are never followed; what can't be removed stays, without a word.
+/// Removes a folder with everything in it. A link is removed itself; what can't be removed stays, without a word.
 void DeleteFolder(const QString& path);
 
 /// Deletes every file that `pattern` names ('*' and '?' in its last part) up to the first that is refused. Raises 53

@@ -20,17 +20,17 @@ constexpr qsizetype LongestSignature = 16384;
 
 } // namespace
 
-bool SignedFiles::AreWanted() {
-    return !mUpdater::PublicKey().isEmpty();
+bool SignedFiles::AreWanted(const UpdateSession& session) {
+    return !session.PublicKey.isEmpty();
 }
 
 bool SignedFiles::Accept(UpdateSession& session, const SignedFile& file) {
-    if (!AreWanted())
+    if (!AreWanted(session))
         return true;
     const QByteArray signature = session.GetSmall(file.Url + u".minisig"_s, LongestSignature);
     bool accepted = false;
     Ignoring([&] {
-        const Signature::PublicKey key = Signature::ReadPublicKey(mUpdater::PublicKey());
+        const Signature::PublicKey key = Signature::ReadPublicKey(session.PublicKey);
         const File bytes = File::Open(file.Path, File::Access::Read);
         const Signature::Claim claim = Signature::ReadClaim(Signature::Verify(bytes, signature, key));
         accepted = claim.File == file.Name && claim.Version == mUpdater::LatestVersion &&

@@ -16,7 +16,7 @@ struct SignedFile {
 namespace SignedFiles {
 
 /// Whether there is a public key.
-bool AreWanted();
+bool AreWanted(const UpdateSession& session);
 
 /// Fetches the signature, which has the file's address and ".minisig", and holds the file against it. True without a
 /// public key, and nothing is fetched then.

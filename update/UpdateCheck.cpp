@@ -53,6 +53,7 @@ void UpdateCheck::Load() {
 void UpdateCheck::CheckServer() {
     mUpdater::CurrentVersion = mMain::VersionText();
     mUpdater::ServerBase = mUpdater::UpdateServer();
+    session_.PublicKey = mUpdater::PublicKey();
     const qint32 size = session_.RemoteFileSize(Address(u"updates_info.inf"_s));
     if (session_.Stopped() || (size == 0 && mUpdater::AutoUpdateCheck))
         return session_.CloseWindow();
@@ -97,18 +98,17 @@ bool UpdateCheck::IsSigned() {
     mUpdater::LatestVersion = mUpdater::ReadInfo(u"LatestVersion"_s, u"Version"_s);
     const SignedFile info{
         .Url = Address(u"updates_info.inf"_s), .Path = mUpdater::InfoFile(), .Name = u"updates_info.inf"_s};
-    if (SignedFiles::Accept(session_, info))
-        return true;
+    const bool accepted = SignedFiles::Accept(session_, info);
     if (session_.Stopped())
         session_.CloseWindow();
-    else
+    else if (!accepted)
         SignedFiles::Refuse(session_, info);
-    return false;
+    return accepted && !session_.Stopped();
 }
 
 bool UpdateCheck::IsSomethingAvailable() const {
     const QString& latest = mUpdater::LatestVersion;
-    if (SignedFiles::AreWanted())
+    if (SignedFiles::AreWanted(session_))
         return SignedFiles::IsNewer(latest, mUpdater::CurrentVersion);
     // Any other text counts as newer, also that of an older release. This is meant.
     return !latest.isEmpty() && latest != mUpdater::CurrentVersion;

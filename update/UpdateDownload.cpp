@@ -106,14 +106,19 @@ void UpdateDownload::CountChunk(qsizetype bytes) {
 }
 
 void UpdateDownload::Finish(const QString& url, const QString& path) {
-    const SignedFile update{.Url = url, .Path = path, .Name = mUpdater::UpdateFileName};
-    if (!SignedFiles::Accept(session_, update))
-        return session_.Closed ? session_.CloseWindow() : SignedFiles::Refuse(session_, update);
     // What was changed since the button was pressed would be gone without a word.
-    const bool mayEnd = Navigator::Current().MayEndProgram();
-    session_.CloseWindow();
-    if (!mayEnd)
+    if (!Navigator::Current().MayEndProgram())
+        return session_.CloseWindow();
+    if (session_.Closed)
         return;
+    // Last of all: while a question stands open, the file may become another.
+    const SignedFile update{.Url = url, .Path = path, .Name = mUpdater::UpdateFileName};
+    const bool accepted = SignedFiles::Accept(session_, update);
+    if (session_.Closed)
+        return;
+    if (!accepted)
+        return SignedFiles::Refuse(session_, update);
+    session_.CloseWindow();
     Ignoring([&] { Start(path); });
     End();
 }

@@ -15,6 +15,7 @@ struct UpdateSession {
 
     HttpClient& Http;
     UpdateView& View;
+    QString PublicKey;                    ///< the one of `updater.cfg` as the check began; empty: nothing is signed
     bool ServerFailed = false;            ///< the last request failed
     bool Downloading = false;             ///< from the request for the update to its last byte
     bool DownloadCancelRequested = false; ///< by the user

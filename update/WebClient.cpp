@@ -20,9 +20,9 @@ namespace {
 
 constexpr int mostRedirects = 5;
 constexpr std::array<int, 5> redirects{301, 302, 303, 307, 308};
+constexpr int whole = 200; ///< the only answer that is the file: no part was asked for
 /// What may have come and not been taken; the system's own buffers come on top.
 constexpr qint64 readAhead = 1 << 20;
-constexpr int firstError = 400;
 
 class SystemProxies : public QNetworkProxyFactory {
 public:
@@ -49,15 +49,16 @@ int StatusOf(const QNetworkReply& reply) {
 
 /// Where an answer leads to; nothing when it is the answer.
 std::optional<QUrl> RedirectOf(const QNetworkReply& reply) {
-    const QUrl target = reply.header(QNetworkRequest::LocationHeader).toUrl();
+    // The library's own reading of the field knows no address that is relative to the one asked for.
+    const QByteArray target = reply.rawHeader("Location").trimmed();
     if (std::ranges::find(redirects, StatusOf(reply)) == redirects.end() || target.isEmpty())
         return std::nullopt;
-    return reply.url().resolved(target);
+    return reply.url().resolved(QUrl::fromEncoded(target));
 }
 
 class WebClient : public HttpClient {
 public:
-    explicit WebClient(HttpWait wait);
+    WebClient(HttpWait wait, std::chrono::milliseconds silence);
     ~WebClient() override;
 
     void Execute(const QString& verb) override;
@@ -87,7 +88,8 @@ private:
     qint64 received_ = 0; ///< bytes of the body
 };
 
-WebClient::WebClient(HttpWait wait) : wait_(std::move(wait)) {
+WebClient::WebClient(HttpWait wait, std::chrono::milliseconds silence) : wait_(std::move(wait)) {
+    manager_.setTransferTimeout(static_cast<int>(silence.count()));
     manager_.setProxyFactory(new SystemProxies); // the manager's own then
 }
 
@@ -97,7 +99,7 @@ WebClient::~WebClient() {
 
 void WebClient::Execute(const QString& /*verb*/) {
     redirects_ = 0;
-    Request(QUrl(URL, QUrl::StrictMode));
+    Request(QUrl(URL, QUrl::TolerantMode)); // a name may hold blanks
 }
 
 void WebClient::Request(const QUrl& address) {
@@ -121,7 +123,7 @@ void WebClient::HeadCame() {
     const std::optional<QUrl> target = RedirectOf(*reply_);
     if (!target) {
         headCame_ = true;
-        if (StatusOf(*reply_) >= firstError)
+        if (StatusOf(*reply_) != whole)
             Fail();
         return;
     }
@@ -202,6 +204,6 @@ bool WebClient::IsShort() const {
 
 } // namespace
 
-std::unique_ptr<HttpClient> MakeWebClient(HttpWait wait) {
-    return std::make_unique<WebClient>(std::move(wait));
+std::unique_ptr<HttpClient> MakeWebClient(HttpWait wait, std::chrono::milliseconds silence) {
+    return std::make_unique<WebClient>(std::move(wait), silence);
 }

@@ -7,9 +7,13 @@
 
 #include "update/HttpClient.h"
 
+#include <chrono>
 #include <memory>
 
 /// Sleeps in the event loop until a condition holds; false when the loop is left before that.
 using HttpWait = std::function<bool(const std::function<bool()>& condition)>;
 
-std::unique_ptr<HttpClient> MakeWebClient(HttpWait wait);
+/// How long a server may say nothing; then the transfer has failed.
+inline constexpr std::chrono::milliseconds LongestSilence{60000};
+
+std::unique_ptr<HttpClient> MakeWebClient(HttpWait wait, std::chrono::milliseconds silence = LongestSilence);

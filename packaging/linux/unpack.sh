@@ -24,15 +24,29 @@ new=$target/.unpacked-$$
 mkdir "$new"
 trap 'rm -rf "$new"' EXIT
 trap 'exit 1' HUP INT TERM
-sed '1,/^exit$/d' "$0" | tar -xz -C "$new" || {
-  echo "$0: what it should hold is damaged; nothing was changed" >&2
+
+# give_up REASON: the suite that ended for this one goes on as it was.
+give_up() {
+  echo "$0: $1; nothing was changed" >&2
+  rm -rf "$new"
+  [ -z "$start" ] || exec "$target/brindock"
   exit 1
 }
+
+# can_take FILE: whether a file of the folder can take its place there.
+can_take() {
+  mkdir -p "$(dirname "$target/$1")" && [ -w "$(dirname "$target/$1")" ] && [ ! -d "$target/$1" ]
+}
+
+sed '1,/^exit$/d' "$0" | tar -xz -C "$new" || give_up "what it should hold is damaged"
 # The address of the server is set where the suite is installed.
 [ ! -e "$target/updater.cfg" ] || rm -f "$new/updater.cfg"
-# All is unpacked: each file takes the place of its forerunner at once, also of one that runs.
-(cd "$new" && find . -type f) | while IFS= read -r file; do
-  mkdir -p "$target/$(dirname "$file")"
+files=$(cd "$new" && find . ! -type d)
+echo "$files" | while IFS= read -r file; do
+  can_take "$file" || exit 1
+done || give_up "$target can't take it"
+# Each takes the place of its forerunner at once, also of one that runs.
+echo "$files" | while IFS= read -r file; do
   mv -f "$new/$file" "$target/$file"
 done
 rm -rf "$new"

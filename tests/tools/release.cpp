@@ -143,6 +143,29 @@ TEST_F(Release, PackedForLinuxAndCutShortChangesNothing) {
     }
 }
 
+TEST_F(Release, PackedForLinuxChangesNothingWhereAFileCantGoAndTheSuiteGoesOn) {
+    ASSERT_EQ(MakePacked().Code, 0);
+    Write(u"suite/brindock"_s, "#!/bin/sh\ntouch \"$(dirname \"$0\")/goes on\"\n");
+    QFile::setPermissions(Path(u"suite/brindock"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const QByteArray old = Read(u"suite/brindock"_s);
+    QDir().mkpath(Path(u"suite/pictures/one two.png"_s));
+    QDir().mkpath(Path(u"suite/TempUpdater"_s));
+    ASSERT_TRUE(QFile::copy(Packed(), Path(u"suite/TempUpdater/new"_s)));
+    const Ran ran = RunProgram(Path(u"suite/TempUpdater/new"_s), {});
+    EXPECT_TRUE(ran.Errors.contains(u"nothing was changed"_s)) << qPrintable(ran.Errors);
+    EXPECT_EQ(Read(u"suite/brindock"_s), old);
+    EXPECT_EQ(QDir(Path(u"suite"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              (QStringList{u"brindock"_s, u"goes on"_s, u"pictures"_s, u"TempUpdater"_s}));
+}
+
+TEST_F(Release, CanBeReadByAServerOfAnotherUser) {
+    QFile::setPermissions(Path(u"setup.exe"_s), QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_EQ(Make(u"windows"_s, {u"--program"_s, Path(u"setup.exe"_s)}).Code, 0);
+    EXPECT_TRUE(QFile::permissions(Path(u"out"_s)).testFlags(QFile::ReadOther | QFile::ExeOther));
+    EXPECT_TRUE(QFile::permissions(Path(u"out/setup.exe"_s)).testFlag(QFile::ReadOther));
+    EXPECT_TRUE(QFile::permissions(Path(u"out/updates_info.inf"_s)).testFlag(QFile::ReadOther));
+}
+
 TEST_F(Release, IsTheSameBytesFromTheSameFiles) {
     ASSERT_EQ(MakePacked().Code, 0);
     const QByteArray first = Read(PackedName);
@@ -154,13 +177,16 @@ TEST_F(Release, IsTheSameBytesFromTheSameFiles) {
 TEST_F(Release, IsRefusedWhereTheSuitesCouldNotReadIt) {
     const QString setup = Path(u"setup.exe"_s);
     Write(u"set up.exe"_s, "x");
+    Write(u"setup.exe.minisig"_s, "x");
     Write(u"more/setup.exe"_s, "x");
     for (const QStringList& wrong : {QStringList{u"--program"_s, Path(u"set up.exe"_s)},
                                      {u"--program"_s, Path(u"none"_s)},
                                      {u"--program"_s},
                                      {u"--name"_s, u"no program"_s},
                                      {u"--program"_s, setup, u"--name"_s, u"Zürich"_s},
+                                     {u"--program"_s, setup, u"--name"_s, u"4\n[3.5.4]\nUpdateAvailable=1"_s},
                                      {u"--program"_s, setup, u"--name"_s, QString(255, u'x')},
+                                     {u"--program"_s, Path(u"setup.exe.minisig"_s)},
                                      {u"--program"_s, setup, u"--unknown"_s},
                                      {u"--program"_s, setup, u"--url"_s, u"ftp://example.test/"_s},
                                      {u"--program"_s, setup, u"--patch"_s, u"3.5"_s, Path(u"patch-352.exe"_s)},

@@ -63,8 +63,8 @@ private:
         waited.start();
         QByteArray told;
         do {
-            told_.open(QIODevice::ReadOnly);
-            told = told_.readAll().replace('\r', "").trimmed();
+            if (told_.open(QIODevice::ReadOnly)) // not before the server has begun
+                told = told_.readAll().replace('\r', "").trimmed();
             told_.close();
             if (told.count('\n') + 1 >= count && !told.isEmpty())
                 break;

@@ -21,6 +21,7 @@ class RecordedView : public UpdateView {
 public:
     std::function<void()> OnClose; ///< as the window, which tells the client
     bool Visible = false;
+    int Shows = 0;
     bool IsClosed = false;
     Panel Shown = Panel::Searching;
     QMap<Field, QString> Texts;
@@ -30,7 +31,10 @@ public:
     int TimerStarts = 0;
     int Fronts = 0;
 
-    void ShowWindow() override { Visible = true; }
+    void ShowWindow() override {
+        Visible = true;
+        ++Shows;
+    }
 
     void ShowPanel(Panel panel) override { Shown = panel; }
 

@@ -81,6 +81,57 @@ TEST_F(SignedReleases, ANewReleaseHasItsSignatureAtItsOwnAddress) {
     EXPECT_EQ(started_, QStringList(Downloaded(u"setup.exe"_s)));
 }
 
+TEST_F(SignedReleases, WhoCancelsWhileTheSignatureComesStartsNothing) {
+    Check();
+    int asked = 0;
+    http_.OnChunk = [&] {
+        if (http_.URL.endsWith(u"patch.exe.minisig"_s) && ++asked == 2)
+            client_.CancelPressed(); // all of it is there by then
+    };
+    client_.DownloadPressed();
+    EXPECT_EQ(asked, 2);
+    EXPECT_TRUE(view_.IsClosed);
+    EXPECT_EQ(started_, QStringList());
+    EXPECT_EQ(ends_, 0);
+    EXPECT_EQ(Messages(), QStringList());
+}
+
+TEST_F(SignedReleases, WhoCancelsWhileTheFilesSignatureComesIsShownNothing) {
+    int asked = 0;
+    http_.OnChunk = [&] {
+        if (http_.URL.endsWith(u"updates_info.inf.minisig"_s) && ++asked == 2)
+            client_.CancelPressed();
+    };
+    Check();
+    EXPECT_EQ(asked, 2);
+    EXPECT_TRUE(view_.IsClosed);
+    EXPECT_EQ(view_.Shows, 1) << "as it was opened";
+    EXPECT_FALSE(view_.DownloadEnabled);
+    EXPECT_FALSE(http_.Requests.last().endsWith(u"patch.exe"_s));
+}
+
+TEST_F(SignedReleases, WhatTakesTheFilesPlaceWhileAQuestionStandsOpenIsNotStarted) {
+    Check();
+    int questions = 0;
+    navigator_.OnCall = [&](const QString& call) {
+        if (call == u"MayEndProgram"_s && ++questions == 2)
+            world_.WriteFile(u"program\\TempUpdater\\patch.exe"_s, "other bytes");
+    };
+    client_.DownloadPressed();
+    EXPECT_EQ(questions, 2);
+    EXPECT_EQ(Messages(), QStringList(u"Not signed"_s));
+    EXPECT_EQ(started_, QStringList());
+}
+
+TEST_F(SignedReleases, TheKeyOfTheCheckHoldsForTheDownload) {
+    Check();
+    Configure();
+    At(u"patch.exe.minisig"_s) = {.Body = "none"};
+    client_.DownloadPressed();
+    EXPECT_EQ(Messages(), QStringList(u"Not signed"_s));
+    EXPECT_EQ(started_, QStringList());
+}
+
 TEST_F(SignedReleases, WithoutAKeyNoSignatureIsAskedFor) {
     Configure();
     Check();

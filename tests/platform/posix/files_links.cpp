@@ -40,7 +40,11 @@ TEST(FilesAndLinks, RemovingAFolderFollowsNoLink) {
     Link(scratch, u"folder/circle"_s, ".");
     Files::DeleteFolder(scratch.Inside(u"folder"_s));
     EXPECT_EQ(scratch.Read(u"outside/keep"_s), "keep");
-    EXPECT_FALSE(Files::FileExists(scratch.Inside(u"folder/file"_s)));
+    EXPECT_FALSE(Files::FolderExists(scratch.Inside(u"folder"_s))) << "the links in it go, too";
+    Link(scratch, u"folder"_s, "outside");
+    Files::DeleteFolder(scratch.Inside(u"folder"_s));
+    EXPECT_EQ(scratch.Read(u"outside/keep"_s), "keep");
+    EXPECT_FALSE(Files::IsLink(scratch.Inside(u"folder"_s)));
 }
 
 TEST(FilesAndLinks, ALinkIsKnownByItsVeryNameToo) {

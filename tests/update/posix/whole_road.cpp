@@ -93,6 +93,35 @@ TEST_F(WholeRoad, AChunkedReleaseGoesTheSameWay) {
     EXPECT_TRUE(MarkComes());
 }
 
+TEST_F(WholeRoad, ASlowReleaseGoesTheSameWay) {
+    const QByteArray whole = HttpServer::Whole(Program());
+    server_.Serve = [this, whole](QTcpSocket& client, const QByteArray& head) {
+        if (head.contains("updates_info.inf"))
+            Answer(client, head);
+        else
+            HttpServer::SendSlowly(client, whole, 1000);
+    };
+    client_.Load();
+    client_.DownloadPressed();
+    EXPECT_TRUE(ended_);
+    EXPECT_TRUE(MarkComes());
+}
+
+TEST_F(WholeRoad, AReleaseWithoutALengthGoesTheSameWay) {
+    const QByteArray program = Program();
+    server_.Serve = [this, program](QTcpSocket& client, const QByteArray& head) {
+        if (head.contains("updates_info.inf"))
+            Answer(client, head);
+        else
+            HttpServer::SendAndClose(client, "HTTP/1.1 200 OK\r\n\r\n" + program);
+    };
+    client_.Load();
+    EXPECT_EQ(mUpdater::UpdateFileSize, 0);
+    client_.DownloadPressed();
+    EXPECT_TRUE(ended_);
+    EXPECT_TRUE(MarkComes());
+}
+
 TEST_F(WholeRoad, ACutReleaseIsNotStarted) {
     const QByteArray whole = HttpServer::Whole(Program());
     server_.Serve = [this, whole](QTcpSocket& client, const QByteArray& head) {
@@ -108,12 +137,22 @@ TEST_F(WholeRoad, ACutReleaseIsNotStarted) {
     EXPECT_FALSE(QFileInfo::exists(Mark()));
 }
 
-TEST_F(WholeRoad, AServerThatAnswersWithErrorsStartsNothing) {
-    patch_ = HttpServer::Whole("#!/bin/sh\n", "404 Not Found");
-    client_.Load();
-    client_.DownloadPressed();
-    EXPECT_FALSE(ended_);
-    EXPECT_EQ(host_.Messages.size(), 1U);
+TEST_F(WholeRoad, AServerThatAnswersWithSomethingElseStartsNothing) {
+    const QByteArray page = "#!/bin/sh\ntouch '" + Mark().toUtf8() + "'\n";
+    for (const QByteArray& answer :
+         {HttpServer::Whole(page, "404 Not Found"), HttpServer::Whole(page, "500 Internal Server Error"),
+          HttpServer::Whole(page, "206 Partial Content"),
+          HttpServer::Redirect(server_.Address(u"/base/patch.run"_s))}) {
+        UpdateClient client{*http_, view_};
+        client.Download.End = [this] { ended_ = true; };
+        host_.Messages.clear();
+        patch_ = answer;
+        client.Load();
+        client.DownloadPressed();
+        EXPECT_EQ(host_.Messages.size(), 1U) << answer.constData();
+        EXPECT_FALSE(ended_);
+        EXPECT_FALSE(QFileInfo::exists(Mark()));
+    }
 }
 
 TEST_F(WholeRoad, AnInfoFileWithoutALengthIsNoServerAndAnAutomaticCheckIsSilent) {

@@ -27,6 +27,17 @@ namespace {
 const QString infoUrl = u"http://server/updates_info.inf"_s;
 const QString updateUrl = u"http://other/a/setup.exe"_s;
 
+/// How often a window comes up.
+class ShowCounter : public QObject {
+public:
+    int Shows = 0;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        Shows += event->type() == QEvent::Show ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 } // namespace
 
 class tst_update : public EditorTest<frmUpdate> {
@@ -187,11 +198,12 @@ private Q_SLOTS:
     void anAutomaticCheckIsNeverSeenWithoutAnUpdate() {
         mUpdater::AutoUpdateCheck = true;
         Make();
-        QObject watcher;
-        bool seen = false;
-        host_->OnWait = [&] { seen = seen || window_->isVisible(); };
+        http_->Answers[infoUrl].Body = "[Nothing]\r\n";
+        ShowCounter shows;
+        window_->installEventFilter(&shows);
         window_->Load();
-        QVERIFY(!seen);
+        QCOMPARE(http_->Requests.size(), 2);
+        QCOMPARE(shows.Shows, 0);
         QVERIFY(!window_->isVisible());
         QCOMPARE(host_->Messages.size(), 0U);
     }
