@@ -118,6 +118,26 @@ stop_window_manager() {
   manager_process=
 }
 
+# start_server FOLDER LOG: serves a folder on a free port of this machine, which server_port tells; the log gets a line
+# for each request.
+start_server() {
+  local told=${TMPDIR:-/tmp}/brindock-server.$$
+  python3 -u -m http.server --bind 127.0.0.1 --directory "$1" 0 >"$told" 2>"$2" &
+  server_process=$!
+  for _ in $(seq 100); do
+    server_port=$(sed -n 's/.* port \([0-9]*\) .*/\1/p' "$told")
+    [ -z "$server_port" ] || break
+    sleep 0.1
+  done
+  rm -f "$told"
+  [ -n "$server_port" ] || fail "the server (http.server of python3) did not start"
+}
+
+stop_server() {
+  [ -z "${server_process:-}" ] || kill "$server_process" 2>/dev/null || true
+  server_process=
+}
+
 # wait_for_window SECONDS: the number of the first visible window with a title, or failure.
 wait_for_window() {
   local window
