@@ -134,18 +134,26 @@ void frmOptions::ConnectGeneral() {
 }
 
 void frmOptions::ConnectGame() {
-    // What is set by the page itself is no click.
+    // Not by clicks alone: a screen reader sets the state. What the page itself sets is nobody's choice.
     const auto chosen = [this](QAbstractButton* button, const std::function<void(bool)>& run) {
-        connect(button, &QAbstractButton::clicked, this, [this, run](bool on) {
+        connect(button, &QAbstractButton::toggled, this, [this, run](bool on) {
+            if (filling_)
+                return;
             run(on);
             SelectRow(ui_->lstShellMaps, plan_.Page.ShellMap);
             ShowNotice();
         });
     };
     chosen(ui_->checkMod, [this](bool on) { plan_.Page.SetLoadsMod(on); });
-    chosen(ui_->opNoShellMap, [this](bool) { plan_.Page.Choose(ShellMapChoice::None); });
-    chosen(ui_->opLoadShellMap, [this](bool) { plan_.Page.Choose(ShellMapChoice::Load); });
-    chosen(ui_->opRndShellMap, [this](bool) { plan_.Page.Choose(ShellMapChoice::Random); });
+    const auto choose = [this](ShellMapChoice choice) {
+        return [this, choice](bool on) {
+            if (on)
+                plan_.Page.Choose(choice);
+        };
+    };
+    chosen(ui_->opNoShellMap, choose(ShellMapChoice::None));
+    chosen(ui_->opLoadShellMap, choose(ShellMapChoice::Load));
+    chosen(ui_->opRndShellMap, choose(ShellMapChoice::Random));
     connect(ui_->lstOptions, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
         plan_.Page.CheckOption(ui_->lstOptions->row(item), item->checkState() == Qt::Checked);
     });

@@ -5,6 +5,7 @@
 #include "ui/window/NoticeStrip.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QRadioButton>
@@ -87,6 +88,19 @@ private Q_SLOTS:
             Select(u"ZeroHour"_s);
             QCOMPARE(ReadSetting(u"GenShellMapMode"_s), mode);
         }
+    }
+
+    void whatAScreenReaderSetsIsStored() {
+        AddContent();
+        Open();
+        Select(u"Generals"_s);
+        for (const char* name : {"opRndShellMap", "checkMod"})
+            QAccessible::queryAccessibleInterface(Part<QWidget>(name))
+                ->actionInterface()
+                ->doAction(QAccessibleActionInterface::toggleAction());
+        Select(u"ZeroHour"_s);
+        QCOMPARE(ReadSetting(u"GenShellMapMode"_s), u"Random"_s);
+        QCOMPARE(ReadSetting(u"GenLoadMod"_s), u"Alpha.big"_s);
     }
 
     void aListKeepsARowSelectedUnderAClickWithCtrl() {
