@@ -38,3 +38,13 @@ QByteArray ReadWhole(const QString& path) {
     const File file = File::Open(path, File::Access::Read);
     return file.Read(0, file.Length());
 }
+
+QByteArray WholeOrNothing(const QString& path) {
+    try {
+        return ReadWhole(path);
+    } catch (const RuntimeError& failure) {
+        if (failure.Number() != ErrorNumber::FileNotFound && failure.Number() != ErrorNumber::PathNotFound)
+            throw;
+        return {};
+    }
+}

@@ -87,3 +87,6 @@ FileState StateOf(const QString& path);
 
 /// A file's bytes. Raises like File::Open, and when reading fails.
 QByteArray ReadWhole(const QString& path);
+
+/// The same, and nothing for a file that is missing. One that is there and can't be read is not taken for that.
+QByteArray WholeOrNothing(const QString& path);

@@ -4,6 +4,7 @@
 #include "platform/FileRegistry.h"
 
 #include "platform/AnsiCodec.h"
+#include "platform/FolderLock.h"
 #include "platform/Paths.h"
 #include "platform/RegistryText.h"
 #include "platform/RuntimeError.h"
@@ -11,7 +12,6 @@
 
 #include <QByteArrayView>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -23,6 +23,9 @@ using namespace Qt::StringLiterals;
 using RegistryText::Line;
 
 namespace {
+
+/// Nobody changes a registry for longer than a save takes; one who is stopped in it must not stop the others.
+constexpr std::chrono::seconds patience{5};
 
 constexpr QByteArrayView Utf16Mark("\xFF\xFE");
 constexpr QByteArrayView Utf8Mark("\xEF\xBB\xBF");
@@ -205,17 +208,20 @@ RegistryValue FileRegistry::Read(RootKey root, const QString& path, const QStrin
 }
 
 bool FileRegistry::Write(RootKey root, const QString& path, const QString& name, const RegistryValue& value) {
-    return Load() &&
+    const auto lock = Lock();
+    return lock && Load() &&
            Store(now_->WithValue(FullKey(root, path), name, RegistryText::Format(name, value, now_->Flavour)));
 }
 
 bool FileRegistry::AddKey(RootKey root, const QString& path) {
     const QString key = FullKey(root, path);
-    return Load() && (now_->LastLineOf(key) != nullptr || Store(now_->WithKey(key)));
+    const auto lock = Lock();
+    return lock && Load() && (now_->LastLineOf(key) != nullptr || Store(now_->WithKey(key)));
 }
 
 bool FileRegistry::RemoveKey(RootKey root, const QString& path) {
-    if (!Load())
+    const auto lock = Lock();
+    if (!lock || !Load())
         return false;
     const QStringList keys = Spellings(root, path);
     if (std::any_of(keys.begin(), keys.end(), [&](const QString& key) { return now_->HasKeysBelow(key); }))
@@ -226,7 +232,8 @@ bool FileRegistry::RemoveKey(RootKey root, const QString& path) {
 }
 
 bool FileRegistry::RemoveValue(RootKey root, const QString& path, const QString& name) {
-    if (!Load())
+    const auto lock = Lock();
+    if (!lock || !Load())
         return false;
     const QStringList keys = Spellings(root, path);
     return Store(now_->Without([&](const Line& line) {
@@ -236,7 +243,7 @@ bool FileRegistry::RemoveValue(RootKey root, const QString& path, const QString&
 
 bool FileRegistry::Load() const {
     QByteArray bytes;
-    if (QFile::exists(path_) && !Ignoring([&] { bytes = ReadWhole(InsidePath()); }))
+    if (!Ignoring([&] { bytes = WholeOrNothing(InsidePath()); }))
         return false;
     // The bytes tell for certain whether the file changed; times and sizes don't.
     if (bytes != now_->Bytes)
@@ -244,11 +251,16 @@ bool FileRegistry::Load() const {
     return true;
 }
 
+std::optional<FolderLock> FileRegistry::Lock() const {
+    const QString folder = QFileInfo(path_).path();
+    if (!QDir().mkpath(folder))
+        return std::nullopt;
+    return FolderLock::WaitedFor(Paths::FromNative(QDir::toNativeSeparators(folder)), patience);
+}
+
 bool FileRegistry::Store(const QString& text) {
     if (text == now_->Text)
         return true;
-    if (!QDir().mkpath(QFileInfo(path_).path()))
-        return false;
     return Ignoring([&] { WriteWhole(InsidePath(), now_->Encode(text)); });
 }
 

@@ -4,16 +4,19 @@
 /// A registry in a text file, as an export writes it: "REGEDIT4" in the ANSI code page, or version 5.00 in UTF-16 or
 /// UTF-8 with a byte order mark. What isn't understood stays in the file.
 ///
-/// Every read sees the file as it is now. Every write puts the whole new text aside and renames it over the old one;
+/// Every read sees the file as it is now. Writes of several processes follow each other, so that none loses another's
+/// value. Every write puts the whole new text aside and renames it over the old one;
 /// one that fails changes nothing and says so by its result, without a failure raised.
 #pragma once
 
+#include "platform/FolderLock.h"
 #include "platform/RegistryRuntime.h"
 #include "platform/RegistryText.h"
 
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class FileRegistry {
 public:
@@ -41,6 +44,10 @@ private:
     struct Document;
 
     bool Load() const;
+
+    /// Makes the file's folder and holds it for as long as a change takes; nothing when it can't be made.
+    [[nodiscard]] std::optional<FolderLock> Lock() const;
+
     bool Store(const QString& text);
 
     [[nodiscard]] QString InsidePath() const;

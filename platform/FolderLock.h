@@ -8,6 +8,8 @@
 
 #include <QString>
 
+#include <chrono>
+
 /// Locks a folder while it lives; the system lifts the lock when the process dies, however it dies. What is in the
 /// folder is open to everybody all the same.
 class FolderLock {
@@ -20,6 +22,9 @@ public:
 
     /// Asks once for an inside path; never waits.
     explicit FolderLock(const QString& folder);
+
+    /// Asks again and again while somebody else has it, for so long.
+    static FolderLock WaitedFor(const QString& folder, std::chrono::milliseconds patience);
 
     [[nodiscard]] Result State() const { return state_; }
 

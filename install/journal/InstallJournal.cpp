@@ -13,7 +13,6 @@
 #include "platform/WriteAside.h"
 
 #include <QSet>
-#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -23,15 +22,9 @@ namespace {
 class JournalLock {
 public:
     JournalLock() {
-        constexpr int attempts = 500;
-        constexpr unsigned long pause = 10; // milliseconds
+        constexpr std::chrono::seconds patience{5};
         Files::MakeFolders(InstallJournal::Folder());
-        for (int attempt = 0; attempt < attempts; ++attempt) {
-            lock_.emplace(InstallJournal::Folder());
-            if (lock_->State() != FolderLock::Result::Taken)
-                break;
-            QThread::msleep(pause);
-        }
+        lock_.emplace(FolderLock::WaitedFor(InstallJournal::Folder(), patience));
         if (!lock_->Held())
             throw RuntimeError(ErrorNumber::PermissionDenied,
                                Paths::ToNative(InstallJournal::File()) + u": another program is changing it"_s);

@@ -5,9 +5,12 @@
 
 #include "platform/File.h"
 #include "platform/Files.h"
+#include "platform/FolderLock.h"
 #include "platform/RuntimeError.h"
 #include "platform/WriteAside.h"
 #include "platform/posix/ProfileText.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +18,9 @@ namespace {
 
 /// The buffer of 255 characters that values are read into holds one zero behind them.
 constexpr qsizetype LongestValue = 254;
+
+/// One who is stopped while he writes must not stop the others.
+constexpr std::chrono::seconds patience{5};
 
 /// Most files are shorter, and in a longer one the value mostly stands at its beginning.
 constexpr qint64 Beginning = 65536;
@@ -65,10 +71,11 @@ QStringList INIRuntime::ReadValues(const QString& section, const QStringList& ke
 QString INIRuntime::WriteINI(const QString& section, const QString& key, const QString& value,
                              const QString& file) const {
     const bool done = Ignoring([&] {
-        const bool there = Files::FileExists(file);
-        const QByteArray old = there ? ReadWhole(file) : QByteArray();
+        // None who writes at the same time loses a value.
+        const FolderLock lock = FolderLock::WaitedFor(file.first(std::max(file.lastIndexOf(u'\\'), 0LL)), patience);
+        const QByteArray old = WholeOrNothing(file);
         const QByteArray changed = ProfileText(old).Write(section, key, value);
-        if (!there || changed != old)
+        if (changed != old || !Files::FileExists(file))
             WriteWhole(file, changed);
     });
     return done ? u"1"_s : u"0"_s;
