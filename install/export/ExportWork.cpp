@@ -6,7 +6,7 @@
 #include "core/GameFiles.h"
 #include "core/ProgramFolders.h"
 #include "platform/AnsiCodec.h"
-#include "platform/FileTime.h"
+#include "platform/CopiedTime.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/PrivateName.h"
@@ -60,7 +60,7 @@ void ExportFiles::Copy(const QString& from, const QString& to, const std::functi
         copied(piece);
     }
     target.Commit(false);
-    FileTime::Keep(from, to);
+    CopiedTime::Keep(from, to);
 }
 
 QString ExportFiles::ModRecordPath(const QString& mod) {

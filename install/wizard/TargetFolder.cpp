@@ -5,8 +5,8 @@
 
 #include "core/Host.h"
 #include "core/mMain.h"
+#include "platform/CopiedTime.h"
 #include "platform/File.h"
-#include "platform/FileTime.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -88,7 +88,7 @@ bool TargetFolder::Copy(const QString& from, const QString& path, const std::fun
             Host::Current().Yield();
     }
     aside.Commit(false);
-    FileTime::Keep(from, path);
+    CopiedTime::Keep(from, path);
     Written(path);
     return true;
 }
