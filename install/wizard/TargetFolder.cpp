@@ -39,12 +39,26 @@ QString WithBackslash(const QString& path) {
 
 TargetFolder::TargetFolder(const QString& folder, FileWatch* watch)
     : folder_(folder),
-      gateway_(Made(folder)),
+      gateway_(std::make_unique<FolderGateway>(Made(folder))),
       real_(WithBackslash(Paths::Real(folder))),
       isSpeltSo_(real_ == folder_),
       watch_(watch) {
-    if (watch != nullptr)
-        gateway_.Made = [this](const QString& made) { watch_->MadeFolder(Spelt(made).chopped(1)); };
+    TellOfFolders();
+}
+
+void TargetFolder::TellOfFolders() {
+    if (watch_ != nullptr)
+        gateway_->Made = [this](const QString& made) { watch_->MadeFolder(Spelt(made).chopped(1)); };
+}
+
+QString TargetFolder::PathFor(const QString& name) {
+    QString path = gateway_->TargetFor(name);
+    if (Files::IsLinkAsGiven(path)) { // it may have come since its folder was looked at
+        gateway_ = std::make_unique<FolderGateway>(folder_);
+        TellOfFolders();
+        path = gateway_->TargetFor(name);
+    }
+    return path;
 }
 
 QString TargetFolder::Spelt(const QString& path) const {
