@@ -5,20 +5,15 @@
 
 #include "core/Host.h"
 #include "core/mMain.h"
-#include "platform/CopiedTime.h"
+#include "install/WatchedCopy.h"
 #include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "platform/WriteAside.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint64 BlockSize = 1'048'576;
 
 /// The folder, for whoever can't go on without it.
 const QString& Made(const QString& folder) {
@@ -89,20 +84,15 @@ bool TargetFolder::Copy(const QString& from, const QString& path, const std::fun
         return false;
     const File source = File::Open(from, File::Access::Read);
     WillWrite(path);
-    WriteAside aside(path, WriteAside::Names::AsGiven);
     const qint64 length = source.Length();
-    for (qint64 done = 0; done < length;) {
-        const qint64 wanted = std::min(BlockSize, length - done);
-        if (aside.Out().CopyFrom(done, source, done, wanted) != wanted)
-            throw RuntimeError(ErrorNumber::DeviceError, u"%1: breaks off"_s.arg(source.Name()));
-        done += wanted;
+    qint64 done = 0;
+    WatchedCopy(from, source, path, [&](qint64 piece) {
+        done += piece;
         if (bytes)
             bytes(done);
         if (done < length && Host::IsThere())
             Host::Current().Yield();
-    }
-    aside.Commit(false);
-    CopiedTime::Keep(from, path);
+    });
     Written(path);
     return true;
 }
