@@ -78,7 +78,8 @@ TEST_F(InstallDies, AtAnyMomentFilesAreWholeAndKnown) {
         EXPECT_FALSE(going.isEmpty());
         EXPECT_EQ(Uninstall::Run(plan), QStringList());
         EXPECT_EQ(Standing(), QStringList());
-        for (const QString& folder : {Maps(), Of(0).ReplayPath}) { // what was aside, and folders that held it
+        EXPECT_EQ(Files::ListFolderFiles(Maps(), true).size(), std::size_t{0}) << "what was aside went with its folder";
+        for (const QString& folder : {Maps(), Of(0).ReplayPath}) { // in the game's own folder it stays
             for (const QString& name : Names(folder)) {
                 Files::DeleteFolder(folder + name);
                 Ignoring([&] { Files::DeleteForced(folder + name); });
