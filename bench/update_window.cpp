@@ -13,7 +13,6 @@
 #include "platform/File.h"
 #include "platform/Paths.h"
 #include "platform/WriteAside.h"
-#include "ui/look/Style.h"
 #include "ui/window/WindowHost.h"
 #include "update/NetworkClient.h"
 #include "update/window/frmUpdate.h"
@@ -23,6 +22,7 @@
 #include <QFile>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>

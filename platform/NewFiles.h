@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// A folder that many new files are put into: it is opened once, and what is known of all is not asked for each.
+/// A folder that many new files are put into, and what is known of all is not asked for each. Where the system can, it
+/// is opened once: what stands at its path later is not asked either, unless the folder itself is gone.
 #pragma once
 
 #include <QByteArrayView>
@@ -11,8 +12,8 @@
 
 class NewFiles {
 public:
-    /// An inside path in the disk's own case, with its trailing backslash. Nothing is raised: into a folder that can't
-    /// be opened nothing can be put.
+    /// An inside path in the disk's own case, with its trailing backslash. Nothing is raised: into a folder that is
+    /// none nothing can be put.
     explicit NewFiles(const QString& folder);
     ~NewFiles();
     NewFiles(const NewFiles&) = delete;

@@ -3,8 +3,10 @@
 
 #include "core/FolderGateway.h"
 #include "install/InstallSource.h"
+#include "install/WatchedCopy.h"
 #include "install/export/ExportWork.h"
 #include "install/export/Exporting.h"
+#include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -78,7 +80,8 @@ private:
             return ExportOutcome::AlreadyThere;
         }
         work_.Advance(0);
-        ExportFiles::Copy(file.Path, target, [this](qint64 bytes) { work_.Advance(bytes); });
+        WatchedCopy(file.Path, File::Open(file.Path, File::Access::Read), target,
+                    [this](qint64 bytes) { work_.Advance(bytes); });
         const bool isAnother = copied_.contains(target);
         copied_.insert(target);
         return isAnother ? ExportOutcome::Replaced : ExportOutcome::Done;

@@ -4,10 +4,12 @@
 #include "core/FolderGateway.h"
 #include "core/ProgramFolders.h"
 #include "install/InstallSource.h"
+#include "install/WatchedCopy.h"
 #include "install/export/ExportWork.h"
 #include "install/export/Exporting.h"
 #include "install/zip/ZipClass.h"
 #include "platform/AnsiCodec.h"
+#include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -178,8 +180,8 @@ private:
     /// A file that can't be copied costs that file only.
     void CopyTo(const QString& folder, const ExportFile& file, ExportSource& copied) {
         const Failure failure = FailureOf([&] {
-            ExportFiles::Copy(file.Path, folder + u'\\' + Paths::LastPart(file.Path),
-                              [this](qint64) { work_.Advance(0); });
+            WatchedCopy(file.Path, File::Open(file.Path, File::Access::Read),
+                        folder + u'\\' + Paths::LastPart(file.Path), [this](qint64) { work_.Advance(0); });
         });
         if (failure.Number == 0)
             copied.Files.push_back(file);

@@ -6,20 +6,16 @@
 #include "core/GameFiles.h"
 #include "core/ProgramFolders.h"
 #include "platform/AnsiCodec.h"
-#include "platform/FileTime.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/PrivateName.h"
 #include "platform/RuntimeError.h"
-#include "platform/WriteAside.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint64 PieceSize = qint64{4} * 1024 * 1024;
 
 /// A value that reads as this text again: blanks around it and a pair of quotes would be dropped.
 QString IniValue(const QString& text) {
@@ -46,21 +42,6 @@ ExportScratch::ExportScratch() : folder_(ProgramFolders::ScratchFolder() + u'\\'
 
 ExportScratch::~ExportScratch() {
     Ignoring([&] { Files::DeleteFolder(folder_); });
-}
-
-void ExportFiles::Copy(const QString& from, const QString& to, const std::function<void(qint64)>& copied) {
-    const File source = File::Open(from, File::Access::Read);
-    WriteAside target(to, WriteAside::Names::AsGiven);
-    const qint64 length = source.Length();
-    for (qint64 done = 0; done < length;) {
-        const qint64 piece = std::min(PieceSize, length - done);
-        if (CopyBytes(target.Out(), done, source, done, piece) != piece)
-            throw RuntimeError(ErrorNumber::DeviceError, u"%1: breaks off"_s.arg(source.Name()));
-        done += piece;
-        copied(piece);
-    }
-    target.Commit(false);
-    FileTime::Keep(from, to);
 }
 
 QString ExportFiles::ModRecordPath(const QString& mod) {

@@ -9,8 +9,6 @@
 #include <QByteArray>
 #include <QString>
 
-#include <functional>
-
 /// Counts bytes, lets the window live, and ends the work when it is cancelled.
 class ExportWork {
 public:
@@ -45,10 +43,6 @@ private:
 };
 
 namespace ExportFiles {
-
-/// Copies a file over the file at the target, whose case is known to be right, with the time of its last write.
-/// `copied` is told how many bytes more are done; what it throws leaves the target as it was.
-void Copy(const QString& from, const QString& to, const std::function<void(qint64)>& copied);
 
 /// The INI file of a mod (the archive's inside path) that whoever installs it finds name and comments in, whether it
 /// comes alone or in a ZIP; empty for a mod that has neither.

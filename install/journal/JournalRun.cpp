@@ -65,7 +65,8 @@ void JournalRun::WillWrite(const QString& path) {
     const auto found = folder.Names.find(key);
     const bool isKnown = found != folder.Names.end();
     const bool isOurs = isKnown && found->second != Folder::StoodBefore;
-    if (isOurs && promised_ != static_cast<std::size_t>(found->second))
+    const auto place = static_cast<std::size_t>(isOurs ? found->second : 0);
+    if (isOurs && promised_ != place && !broken_.contains(place))
         return;
     JournalFile file{.Path = path};
     // Another program may have made it since its folder was looked at.
@@ -74,9 +75,10 @@ void JournalRun::WillWrite(const QString& path) {
     if (!isOurs)
         return Add(std::move(file), key, folder);
     // What was promised of it could not be put there.
-    entry_.Files[*promised_] = std::move(file);
-    AddLine(JournalText::FileLine(entry_.Files[*promised_]));
-    promised_.reset();
+    BreakPromise();
+    broken_.erase(place);
+    entry_.Files[place] = std::move(file);
+    AddLine(JournalText::FileLine(entry_.Files[place]));
 }
 
 bool JournalRun::WillPut(const QString& path, const HashedFile& hashed) {
@@ -88,9 +90,20 @@ bool JournalRun::WillPut(const QString& path, const HashedFile& hashed) {
     const QString key = JournalKey(Paths::LastPart(path));
     if (folder.Names.contains(key))
         return false;
+    BreakPromise();
     promised_ = entry_.Files.size();
     Add({.Path = path, .Hash = hashed.Hash, .Length = hashed.Length}, key, folder);
     return true;
+}
+
+/// What was promised of a file that was not put is not what it holds, if it is ever there.
+void JournalRun::BreakPromise() {
+    if (!promised_)
+        return;
+    const std::size_t place = *std::exchange(promised_, std::nullopt);
+    broken_.insert(place);
+    entry_.Files[place].Hash.clear();
+    AddLine(JournalText::FileLine(entry_.Files[place]));
 }
 
 // The whole of the journal is written twice in an install: here, and at its end.
@@ -267,8 +280,7 @@ void JournalRun::End() {
 
 // What a step that failed did not write is none of the install's.
 void JournalRun::Settle() {
-    if (promised_)
-        entry_.Files[*promised_].Hash.clear();
+    BreakPromise();
     std::erase_if(entry_.Files, [this](const JournalFile& file) {
         if (!file.Hash.isEmpty())
             return false;

@@ -16,6 +16,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <unordered_map>
 
 /// Nothing here raises: an install goes on without its journal, and Told says why. An install that writes nothing
@@ -65,6 +66,7 @@ private:
     void MakesFolder(const QString& folder);
     void TakeFolder(const QString& folder);
     void Add(JournalFile file, const QString& key, Folder& folder);
+    void BreakPromise();
     void PutAside(JournalFile& file);
     void AddLine(const QByteArray& line);
     void Settle();
@@ -82,6 +84,7 @@ private:
     Folder* last_ = nullptr;            ///< of them
     QString lastPath_;
     std::optional<std::size_t> promised_; ///< the file that is to be put
+    std::set<std::size_t> broken_;        ///< files that were to be, and were not
     QSet<QString> made_;                  ///< the entry's folders, as JournalKey
     QStringList notNeeded_;               ///< put aside, but not replaced in the end
     QStringList told_;

@@ -3,16 +3,12 @@
 
 #include "install/journal/KeptFiles.h"
 
+#include "platform/CopiedTime.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 
-#include <QFile>
-
 void KeptFiles::Copy(const QString& from, const QString& to) {
-    const QDateTime time = Files::ModifiedTime(from);
-    Files::Copy(from, to);
-    // Its bytes are what counts: without its time it is whole, too.
-    QFile file(Paths::ToNative(to));
-    if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        file.setFileTime(time, QFileDevice::FileModificationTime);
+    const QString target = Paths::FromNative(Paths::ToNative(to)); // in the disk's own case
+    Files::CopyAsGiven(from, target);
+    CopiedTime::Keep(from, target);
 }

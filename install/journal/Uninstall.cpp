@@ -5,6 +5,8 @@
 
 #include "install/journal/InstallJournal.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
+#include "platform/PrivateName.h"
 #include "platform/RuntimeError.h"
 
 #include <QHash>
@@ -64,24 +66,37 @@ bool IsLonger(const QString& first, const QString& second) {
     return first.size() > second.size();
 }
 
+/// A file that was not finished as its process died: it never was anybody's.
+bool IsLeftover(const QString& path) {
+    return IsPrivateName(Paths::LastPart(path)) && !Files::IsLinkAsGiven(path) &&
+           Files::StandingAsGiven(path) == Files::Standing::File;
+}
+
 /// Which of an install's folders hold nothing but what goes.
-QStringList FoldersThatEmpty(QStringList folders, const QStringList& goingFiles) {
+void FindFoldersThatEmpty(QStringList folders, UninstallPlan& plan) {
     QSet<QString> going;
-    for (const QString& path : goingFiles)
+    for (const QString& path : plan.Paths(Fate::Goes))
         going.insert(JournalKey(path));
     std::ranges::stable_sort(folders, IsLonger); // those below first
-    QStringList emptied;
     for (const QString& folder : folders) {
         if (!Files::FolderExists(folder) || Files::IsLink(folder))
             continue;
         const QStringList names = Files::ListFolder(folder + u'\\', true);
-        const auto goes = [&](const QString& name) { return going.contains(JournalKey(folder + u'\\' + name)); };
+        QStringList leftovers;
+        const auto goes = [&](const QString& name) {
+            const QString path = folder + u'\\' + name;
+            const bool isLeftover = IsLeftover(path);
+            if (isLeftover)
+                leftovers += path;
+            return isLeftover || going.contains(JournalKey(path));
+        };
         if (!std::ranges::all_of(names, goes))
             continue;
         going.insert(JournalKey(folder));
-        emptied.append(folder);
+        plan.Folders.append(folder);
+        for (const QString& path : leftovers)
+            plan.Leftovers.push_back({.Path = path, .Seen = StateOf(path)});
     }
-    return emptied;
 }
 
 const JournalEntry& EntryOf(const Journal& journal, int id) {
@@ -114,7 +129,7 @@ UninstallPlan Uninstall::Plan(const Journal& journal, int id) {
         const FileState seen = StateOf(file.Path);
         plan.Files.push_back({.File = file, .What = FateOf(file, later), .Seen = seen});
     }
-    plan.Folders = FoldersThatEmpty(entry.Folders, plan.Paths(Fate::Goes));
+    FindFoldersThatEmpty(entry.Folders, plan);
     return plan;
 }
 

@@ -31,6 +31,14 @@ struct UninstallPlan {
     std::vector<PlannedRemoval> Files;
     QStringList Folders; ///< that go, as they are empty then; inside paths
 
+    /// What a process that died left aside in those folders; it goes with them.
+    struct Leftover {
+        QString Path;
+        FileState Seen; ///< when the plan was made
+    };
+
+    std::vector<Leftover> Leftovers{};
+
     /// The paths of the files with that fate, in order.
     [[nodiscard]] QStringList Paths(PlannedRemoval::Fate fate) const;
 };

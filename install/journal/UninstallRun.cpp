@@ -29,6 +29,7 @@ public:
             Do(file);
         // Shell maps change their numbers when a folder goes: the files that went are out of the journal by then.
         InstallJournal::Change([this](Journal& journal) { return TakeOut(journal); });
+        RemoveLeftovers();
         RemoveFolders();
         InstallJournal::Change([this](Journal& journal) { return TakeOutFolders(journal); });
         return failures_;
@@ -107,6 +108,14 @@ private:
             return std::nullopt;
         const QString meant = GameFiles::ShellMapFolder(plan_.Game, GameFiles::ShellMapName(QString::number(*number)));
         return meant.compare(folder, Qt::CaseInsensitive) == 0 ? number : std::nullopt;
+    }
+
+    /// Who goes on with one has it still: then its folder stays too.
+    void RemoveLeftovers() const {
+        for (const UninstallPlan::Leftover& leftover : plan_.Leftovers) {
+            if (StateOf(leftover.Path) == leftover.Seen)
+                Ignoring([&] { Files::DeleteForced(leftover.Path); });
+        }
     }
 
     void RemoveFolders() {

@@ -55,8 +55,8 @@ private:
 
     FolderFiles& WrittenIn(const QString& path);
 
-    std::vector<FolderFiles> written_;    ///< by names and names without case
-    QHash<QString, std::size_t> folders_; ///< in it, those too
+    std::vector<FolderFiles> written_;    ///< one for each folder: its files by their names without case
+    QHash<QString, std::size_t> folders_; ///< the place of each in it, by its path without case
     QString lastFolder_;                  ///< that was asked for
     std::size_t last_ = 0;
     int failures_ = 0;

@@ -5,20 +5,15 @@
 
 #include "core/Host.h"
 #include "core/mMain.h"
+#include "install/WatchedCopy.h"
 #include "platform/File.h"
-#include "platform/FileTime.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "platform/WriteAside.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint64 BlockSize = 1'048'576;
 
 /// The folder, for whoever can't go on without it.
 const QString& Made(const QString& folder) {
@@ -39,12 +34,26 @@ QString WithBackslash(const QString& path) {
 
 TargetFolder::TargetFolder(const QString& folder, FileWatch* watch)
     : folder_(folder),
-      gateway_(Made(folder)),
+      gateway_(std::make_unique<FolderGateway>(Made(folder))),
       real_(WithBackslash(Paths::Real(folder))),
       isSpeltSo_(real_ == folder_),
       watch_(watch) {
-    if (watch != nullptr)
-        gateway_.Made = [this](const QString& made) { watch_->MadeFolder(Spelt(made).chopped(1)); };
+    TellOfFolders();
+}
+
+void TargetFolder::TellOfFolders() {
+    if (watch_ != nullptr)
+        gateway_->Made = [this](const QString& made) { watch_->MadeFolder(Spelt(made).chopped(1)); };
+}
+
+QString TargetFolder::PathFor(const QString& name) {
+    QString path = gateway_->TargetFor(name);
+    if (Files::IsLinkAsGiven(path)) { // it may have come since its folder was looked at
+        gateway_ = std::make_unique<FolderGateway>(folder_);
+        TellOfFolders();
+        path = gateway_->TargetFor(name);
+    }
+    return path;
 }
 
 QString TargetFolder::Spelt(const QString& path) const {
@@ -75,20 +84,15 @@ bool TargetFolder::Copy(const QString& from, const QString& path, const std::fun
         return false;
     const File source = File::Open(from, File::Access::Read);
     WillWrite(path);
-    WriteAside aside(path, WriteAside::Names::AsGiven);
     const qint64 length = source.Length();
-    for (qint64 done = 0; done < length;) {
-        const qint64 wanted = std::min(BlockSize, length - done);
-        if (aside.Out().CopyFrom(done, source, done, wanted) != wanted)
-            throw RuntimeError(ErrorNumber::DeviceError, u"%1: breaks off"_s.arg(source.Name()));
-        done += wanted;
+    qint64 done = 0;
+    WatchedCopy(from, source, path, [&](qint64 piece) {
+        done += piece;
         if (bytes)
             bytes(done);
         if (done < length && Host::IsThere())
             Host::Current().Yield();
-    }
-    aside.Commit(false);
-    FileTime::Keep(from, path);
+    });
     Written(path);
     return true;
 }

@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 class TargetFolder : private FileWatch {
 public:
@@ -18,9 +19,9 @@ public:
     TargetFolder(const QString& folder, FileWatch* watch);
 
     /// The path to write a file to, for those who take it as given; its folders are made. Raises what the gateway does.
-    QString PathFor(const QString& name) { return gateway_.TargetFor(name); }
+    QString PathFor(const QString& name);
 
-    void AddFolder(const QString& name) { gateway_.MakeFolder(name); }
+    void AddFolder(const QString& name) { gateway_->MakeFolder(name); }
 
     /// How people and the journal know a path that PathFor gave.
     [[nodiscard]] QString Spelt(const QString& path) const;
@@ -42,13 +43,14 @@ public:
     bool WriteIni(const QString& path, const QString& section, const std::initializer_list<Value>& values);
 
 private:
+    void TellOfFolders();
     void WillWrite(const QString& path) override;
     bool WillPut(const QString& path, const HashedFile& hashed) override;
     void Written(const QString& path) override;
     void WrittenAs(const QString& path, const HashedFile& hashed) override;
 
     QString folder_;
-    FolderGateway gateway_;
+    std::unique_ptr<FolderGateway> gateway_;
     QString real_; ///< where the gateway's paths begin
     bool isSpeltSo_;
     FileWatch* watch_;

@@ -6,11 +6,12 @@
 #include "install/zip/ZipInflate.h"
 
 #include <algorithm>
+#include <exception>
 
 namespace {
 
-/// A batch has no more than about so many bytes, and so many are ready at a time: with the one at hand and the one at
-/// work less than 8 MiB.
+/// A batch is full with so many bytes, which its last entry may exceed by as many, or so many entries. So many batches
+/// are ready at a time: with the one at hand and the one at work less than 8 MiB.
 constexpr qsizetype BatchBytes = 262'144;
 constexpr std::size_t BatchItems = 64;
 constexpr std::size_t MostReady = 12;
@@ -28,19 +29,27 @@ public:
 
     void Run(const std::vector<qsizetype>& places) {
         Batch batch;
+        std::size_t begin = 0;
+        qint64 done = 0; // those that fail count too: whoever waits does not wait for all of them
         for (std::size_t number = 0; number < places.size(); ++number) {
-            Add(batch, directory_.Entries()[static_cast<std::size_t>(places[number])], number);
+            const ZipEntry& entry = directory_.Entries()[static_cast<std::size_t>(places[number])];
+            if (entry.Size <= Longest && entry.Packed <= Longest) {
+                Add(batch, entry, number);
+                done += std::max(entry.Size, entry.Packed);
+            }
             batch.End = number + 1;
-            if ((batch.Used >= BatchBytes || batch.Items.size() == BatchItems) && !to_.Hand(batch))
+            if (done < BatchBytes && batch.End - begin < BatchItems)
+                continue;
+            if (!to_.Hand(batch))
                 return;
+            begin = batch.End;
+            done = 0;
         }
         to_.Hand(batch);
     }
 
 private:
     void Add(Batch& batch, const ZipEntry& entry, std::size_t number) {
-        if (entry.Size > Longest || entry.Packed > Longest)
-            return;
         if (batch.Bytes.size() < batch.Used + entry.Size)
             batch.Bytes.resize(std::max(batch.Used + entry.Size, BatchBytes));
         char* const bytes = batch.Bytes.data() + batch.Used;
@@ -65,7 +74,7 @@ ZipAhead::ZipAhead(const Device& archive, const ZipDirectory& directory, std::ve
     : numbers_(directory.Entries().size(), -1) {
     for (std::size_t number = 0; number < places.size(); ++number)
         numbers_[static_cast<std::size_t>(places[number])] = static_cast<qint32>(number);
-    worker_ = std::thread([this, &archive, &directory, hashes, asked = std::move(places)] {
+    const auto work = [this, &archive, &directory, hashes, asked = std::move(places)] {
         try {
             Work(*this, archive, directory, hashes).Run(asked);
         } catch (...) { // no memory, or an archive that can't be read: the others do without it
@@ -73,7 +82,12 @@ ZipAhead::ZipAhead(const Device& archive, const ZipDirectory& directory, std::ve
         const std::lock_guard lock(mutex_);
         ended_ = true;
         changed_.notify_all();
-    });
+    };
+    try {
+        worker_ = std::thread(work);
+    } catch (const std::exception&) { // no thread to be had: all do without it
+        ended_ = true;
+    }
 }
 
 ZipAhead::~ZipAhead() {
@@ -82,7 +96,8 @@ ZipAhead::~ZipAhead() {
         wanted_ = false;
     }
     changed_.notify_all();
-    worker_.join();
+    if (worker_.joinable())
+        worker_.join();
 }
 
 /// The worker's: gives a batch and gets an empty one. False when no more are wanted.

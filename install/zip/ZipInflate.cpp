@@ -3,7 +3,7 @@
 
 #include "install/zip/ZipInflate.h"
 
-#include <QtEndian>
+#include "install/zip/ZipRecords.h"
 
 #include <algorithm>
 #include <limits>
@@ -11,8 +11,6 @@
 namespace {
 
 constexpr quint16 Deflated = 8;
-constexpr qint64 HeadLength = 30;
-constexpr quint32 HeadMark = 0x04034B50;
 
 bool IsPlain(const ZipEntry& entry) {
     constexpr quint16 special =
@@ -50,14 +48,10 @@ bool ZipInflate::Unpack(const ZipEntry& entry, char* bytes) {
 
 /// Nothing for an entry that does not stand where the directory says, or that reaches into it.
 std::optional<QByteArrayView> ZipInflate::PackedBytes(const ZipEntry& entry) {
-    const QByteArrayView head = bytes_.View(entry.Offset, HeadLength);
-    if (head.size() < HeadLength || qFromLittleEndian<quint32>(head.data()) != HeadMark)
+    const auto before = ZipRecords::BytesBeforeData(bytes_.View(entry.Offset, ZipRecords::LocalLength));
+    if (!before || entry.Packed > end_ - entry.Offset - *before)
         return std::nullopt;
-    const qint64 before =
-        HeadLength + qFromLittleEndian<quint16>(head.data() + 26) + qFromLittleEndian<quint16>(head.data() + 28);
-    if (entry.Packed > end_ - entry.Offset - before)
-        return std::nullopt;
-    return bytes_.View(entry.Offset + before, entry.Packed);
+    return bytes_.View(entry.Offset + *before, entry.Packed);
 }
 
 bool ZipInflate::Inflate(QByteArrayView packed, char* bytes, qint64 size) {

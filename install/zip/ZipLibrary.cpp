@@ -4,12 +4,12 @@
 #include "install/zip/ZipLibrary.h"
 
 #include "install/zip/ZipFailure.h"
+#include "install/zip/ZipRecords.h"
 #include "install/zip/ZipShown.h"
-
-#include <QtEndian>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <span>
 
 #include <zip.h>
@@ -125,18 +125,15 @@ void ZipLibrary::RequireReadable(qsizetype place) {
 
 /// What the library does not look at: that an entry begins there, and ends before the directory.
 void ZipLibrary::RequireInPlace(const ZipEntry& entry) {
-    constexpr qint64 head = 30;
-    QByteArrayView local;
+    std::optional<qint64> before;
     try {
-        local = bytes_.View(entry.Offset, head);
+        before = ZipRecords::BytesBeforeData(bytes_.View(entry.Offset, ZipRecords::LocalLength));
     } catch (const RuntimeError& error) {
         throw ZipFailure(ZipResult::CutShort, error.Description());
     }
-    if (local.size() < head || qFromLittleEndian<quint32>(local.data()) != 0x04034B50)
+    if (!before)
         Refuse(entry.Name, ZipResult::BadData, u"does not stand where the directory says"_s);
-    const qint64 before =
-        head + qFromLittleEndian<quint16>(local.data() + 26) + qFromLittleEndian<quint16>(local.data() + 28);
-    if (entry.Packed > directory_.Start() - entry.Offset - before)
+    if (entry.Packed > directory_.Start() - entry.Offset - *before)
         Refuse(entry.Name, ZipResult::CutShort, u"lies outside of the archive"_s);
 }
 

@@ -58,6 +58,15 @@ QByteArray ZipRecords::Local(const Entry& entry) {
     return bytes;
 }
 
+std::optional<qint64> ZipRecords::BytesBeforeData(QByteArrayView local) {
+    constexpr qsizetype nameLength = 26;
+    constexpr qsizetype extraLength = 28;
+    if (local.size() < LocalLength || qFromLittleEndian<quint32>(local.data()) != LocalSignature)
+        return std::nullopt;
+    return LocalLength + qFromLittleEndian<quint16>(local.data() + nameLength) +
+           qFromLittleEndian<quint16>(local.data() + extraLength);
+}
+
 QByteArray ZipRecords::Central(const Entry& entry, quint32 offset) {
     QByteArray bytes;
     Append32(bytes, {CentralSignature});

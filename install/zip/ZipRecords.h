@@ -5,6 +5,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
+
+#include <optional>
 
 namespace ZipRecords {
 
@@ -21,6 +24,10 @@ struct Entry {
 
 /// The 30 bytes before an entry's name and data.
 QByteArray Local(const Entry& entry);
+constexpr qint64 LocalLength = 30;
+
+/// How many bytes stand before an entry's data, by those that its local record begins with; nothing for what is none.
+std::optional<qint64> BytesBeforeData(QByteArrayView local);
 
 /// The 46 bytes before an entry's name in the central directory; `offset` is that of its local record.
 QByteArray Central(const Entry& entry, quint32 offset);

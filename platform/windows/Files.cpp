@@ -177,7 +177,7 @@ void MakeExecutable(const QString& path) {
 
 void Rename(const QString& from, const QString& to) {
     // Where only the case changes, some systems take the new name for the old one: it goes by way of a third.
-    const QString step = SameFile(from, to) ? Paths::Folder(from) + PrivateName() : from;
+    const QString step = SameFile(from, to) ? Paths::Folder(from) + PrivateName() + QStringLiteral(".renamed") : from;
     if (step != from && MoveFileExW(WidePath(from).c_str(), WidePath(step).c_str(), 0) == 0)
         RaiseLastError(GetLastError(), from);
     if (MoveFileExW(WidePath(step).c_str(), WidePath(to).c_str(), MOVEFILE_COPY_ALLOWED) == 0)

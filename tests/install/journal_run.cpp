@@ -334,6 +334,36 @@ TEST_F(Journaling, WhatWasPromisedAndNotPutIsLeftOut) {
     EXPECT_EQ(PathsOf(1), QStringList{InGame(u"B.big"_s)});
 }
 
+TEST_F(Journaling, APromiseThatAnotherOneFollowsIsLeftOutToo) {
+    JournalRun run(Source(), 0);
+    for (const QString& name : {u"A.big"_s, u"B.big"_s, u"C.big"_s})
+        EXPECT_TRUE(run.WillPut(InGame(name), Hashed("abc")));
+    JournalEntry known;
+    JournalText::ReadLines(Bytes(InstallJournal::LinesOf(1)), known);
+    ASSERT_EQ(known.Files.size(), std::size_t{3});
+    EXPECT_EQ(known.Files[0].Hash, QByteArray()) << "also while it runs";
+    EXPECT_EQ(known.Files[1].Hash, QByteArray());
+    EXPECT_EQ(known.Files[2].Hash.toHex(), QByteArray(HashOfAbc));
+    Write(InGame(u"C.big"_s), "abc");
+    run.WrittenAs(InGame(u"C.big"_s), Hashed("abc"));
+    run.End();
+    EXPECT_EQ(PathsOf(1), QStringList{InGame(u"C.big"_s)});
+}
+
+TEST_F(Journaling, WhatCameInBetweenIsPutAsideAlsoWhenAnotherFileWasPromisedSince) {
+    JournalRun run(Source(), 0);
+    const QString path = InGame(u"A.big"_s);
+    EXPECT_TRUE(run.WillPut(path, Hashed("abc")));
+    Install(u"A.big"_s, "another's");
+    EXPECT_TRUE(run.WillPut(InGame(u"B.big"_s), Hashed("b")));
+    EXPECT_FALSE(run.WillPut(path, Hashed("abc")));
+    Step(run, path, "abc");
+    run.End();
+    ASSERT_EQ(PathsOf(1), QStringList{path});
+    EXPECT_EQ(UninstallIt(1), QStringList());
+    EXPECT_EQ(Bytes(path), "another's");
+}
+
 TEST_F(Journaling, AFolderThatIsToldToBeNewIsTheInstallsOnceAFileComesIntoIt) {
     JournalRun run(Source(), 0);
     for (const QString& name : {u"First"_s, u"Second"_s, u"Empty"_s}) {
@@ -350,12 +380,4 @@ TEST_F(Journaling, AFolderThatIsToldToBeNewIsTheInstallsOnceAFileComesIntoIt) {
     EXPECT_EQ(UninstallIt(1), QStringList());
     EXPECT_FALSE(Files::FolderExists(InMaps(u"First"_s)));
     EXPECT_TRUE(Files::FolderExists(InMaps(u"Empty"_s)));
-}
-
-TEST_F(Journaling, ALongSourceIsNotWaitedForWhereNothingIsWritten) {
-    const QString path = Source(u"Long.zip"_s);
-    File::OpenAsGiven(path, File::Access::ReadWrite).SetLength(qint64{1} << 36U); // hours to be read
-    JournalRun run(path, 0);
-    run.End();
-    EXPECT_FALSE(IsKnown(1));
 }

@@ -129,6 +129,37 @@ TEST_F(Uninstalling, AFolderWithSomethingElseInItStays) {
     EXPECT_FALSE(IsKnown(1));
 }
 
+TEST_F(Uninstalling, WhatAProcessThatDiedLeftAsideKeepsNoFolder) {
+    const QString name = u"\\~brindock-0123456789abcdef0123456789abcdef"_s;
+    BreakOff(Source(), [&](JournalRun& run) {
+        for (const QString& folder : {u"A"_s, u"B"_s, u"C"_s, u"D"_s})
+            Step(run, InMaps(folder + u'\\' + folder + u".map"_s), "m");
+    });
+    const QStringList leftovers{InMaps(u"A"_s) + name, InMaps(u"A"_s) + name + u"17"_s, InMaps(u"B"_s) + name};
+    for (const QString& path : leftovers)
+        Write(path, "half");
+    Write(InMaps(u"B\\notes.txt"_s));
+    Write(InMaps(u"C\\~brindock-notes.txt"_s));
+    Write(InMaps(u"D"_s) + name + u".renamed"_s, "a user's");
+    const UninstallPlan plan = PlanOf(1);
+    EXPECT_EQ(plan.Folders, QStringList{InMaps(u"A"_s)});
+    EXPECT_EQ(Uninstall::Run(plan), QStringList());
+    EXPECT_FALSE(Files::FolderExists(InMaps(u"A"_s)));
+    EXPECT_TRUE(Files::FileExists(leftovers.back())) << "its folder stays anyhow";
+    EXPECT_TRUE(Files::FileExists(InMaps(u"C\\~brindock-notes.txt"_s)));
+    EXPECT_TRUE(Files::FileExists(InMaps(u"D"_s) + name + u".renamed"_s));
+    EXPECT_FALSE(IsKnown(1));
+}
+
+TEST_F(Uninstalling, WhatIsWrittenAsideBehindThePlanStays) {
+    InstallFiles({{InMaps(u"A\\A.map"_s), "m"}});
+    const QString aside = Write(InMaps(u"A\\~brindock-0123456789abcdef0123456789abcdef"_s), "half");
+    const UninstallPlan plan = PlanOf(1);
+    Write(aside, "another half");
+    EXPECT_EQ(Uninstall::Run(plan), QStringList());
+    EXPECT_EQ(Bytes(aside), "another half");
+}
+
 TEST_F(Uninstalling, AFolderThatStoodBeforeStaysEmpty) {
     Write(InMaps(u"A\\notes.txt"_s));
     InstallFiles({{InMaps(u"A\\A.map"_s), "m"}});

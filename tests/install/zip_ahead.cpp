@@ -7,8 +7,12 @@
 #include "Places.h"
 #include "tests/install/ZipSamples.h"
 #include "tests/install/zip_fixture.h"
+#include "tests/support/ScriptedHost.h"
 
+#include <algorithm>
+#include <atomic>
 #include <map>
+#include <numeric>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -163,6 +167,34 @@ TEST_F(ZipAheadTest, NobodyWaitsForWhatIsNotWanted) {
     EXPECT_TRUE(begun.Take(200).startsWith("200"));
 }
 
+TEST_F(ZipAheadTest, NobodyWaitsForAllThatFails) {
+    struct Watched : MemoryDevice {
+        using MemoryDevice::MemoryDevice;
+        mutable std::atomic<qint64> Furthest = 0; ///< byte that was asked for
+
+        qint64 ReadInto(qint64 offset, char* bytes, qint64 count) const override {
+            Furthest = std::max<qint64>(Furthest, offset);
+            return MemoryDevice::ReadInto(offset, bytes, count);
+        }
+    };
+
+    for (const auto& [count, size] : {std::pair{60, qsizetype{ZipAhead::Longest}}, {4000, 10}, {4000, 0}}) {
+        std::vector<Part> parts = Many(count, size);
+        for (Part& part : parts)
+            part.Crc = 1;
+        std::vector<qsizetype> places(parts.size());
+        std::iota(places.begin(), places.end(), 0);
+        const Watched archive(ZipBytes::Archive(parts));
+        const ZipDirectory directory(archive);
+        archive.Furthest = 0;
+        {
+            ZipAhead ahead(archive, directory, places, true);
+            EXPECT_FALSE(ahead.Take(0));
+        }
+        EXPECT_LT(archive.Furthest, archive.Length() / 2) << size;
+    }
+}
+
 TEST_F(ZipAheadTest, AnArchiveThatCanNotBeReadLeavesAllOut) {
     struct Failing : MemoryDevice {
         using MemoryDevice::MemoryDevice;
@@ -218,12 +250,18 @@ TEST_F(ZipAheadTest, WhatIsWrongFailsInTheSameWords) {
 }
 
 TEST_F(ZipAheadTest, PasswordsAreAskedForAsEver) {
+    ScriptedHost host;
+    host.InputTexts = {u"wrong"_s, u"secret"_s};
     Open(ZipSamples::Sample(ZipSamples::Traditional));
-    zip_.Password = u"secret"_s;
     std::vector<qint32> indexes;
     for (qint32 index = 1; index <= zip_.Count(); ++index)
         indexes.push_back(index);
+    ASSERT_EQ(indexes.size(), std::size_t{2});
     zip_.Ahead(indexes, false);
-    for (const QString& name : QStringList(zip_.Col))
-        EXPECT_EQ(Extract(name), ZipResult::Done);
+    EXPECT_EQ(Extract(u"a.txt"_s), ZipResult::WrongPassword);
+    EXPECT_EQ(host.InputTexts.size(), std::size_t{1}) << "one box each time";
+    EXPECT_EQ(Extract(u"b.txt"_s), ZipResult::Done);
+    EXPECT_TRUE(host.InputTexts.empty());
+    EXPECT_EQ(Extract(u"a.txt"_s), ZipResult::Done) << "with the password at hand";
+    EXPECT_EQ(Got(u"a.txt"_s), "hello");
 }

@@ -4,6 +4,7 @@
 #include "platform/WriteAside.h"
 
 #include "platform/Files.h"
+#include "platform/PrivateName.h"
 #include "tests/platform/InAFolder.h"
 
 #include <QSet>
@@ -59,10 +60,19 @@ TEST_F(WriteAsideTest, TheNameAsideIsAnotherOneEachTime) {
         const WriteAside aside(At(u"f"_s));
         const QString name = Paths::LastPart(aside.AsidePath());
         EXPECT_EQ(name.size(), u"~brindock-"_s.size() + 32);
+        EXPECT_TRUE(IsPrivateName(name));
         names.insert(name.right(16));
         names.insert(name.chopped(16).right(16));
     }
     EXPECT_EQ(names.size(), 200);
+}
+
+TEST_F(WriteAsideTest, NoOtherNameIsTakenForOneAside) {
+    const QString name = PrivateName();
+    EXPECT_TRUE(IsPrivateName(name + u"255"_s));
+    for (const QString& other : {QString(), u"~brindock-"_s, name.chopped(1), name + u'a', name + u".map"_s,
+                                 name.toUpper(), u'x' + name, name.sliced(1)})
+        EXPECT_FALSE(IsPrivateName(other)) << other.toStdString();
 }
 
 TEST_F(WriteAsideTest, AFolderIsNoTarget) {

@@ -18,12 +18,12 @@ namespace {
 
 class InstallDies : public InstallTest {
 protected:
-    /// Installs what was analysed in a process that is killed when so many of its files are told to be done.
-    void DieAfter(int files) {
+    /// Installs what was analysed in a process that is killed when its progress was told so many times.
+    void DieAfter(int times) {
         const pid_t process = ::fork();
         if (process == 0) {
             view_.OnProgress = [&] {
-                if (--files == 0)
+                if (--times == 0)
                     std::thread([] { ::kill(::getpid(), SIGKILL); }).detach(); // somewhere in what comes next
             };
             Install();
@@ -62,10 +62,10 @@ TEST_F(InstallDies, AtAnyMomentFilesAreWholeAndKnown) {
     AnalyseZip(parts);
     TickAll();
     int id = 0;
-    for (const int files : {1, 2, 7, 40, 99, 150}) {
-        DieAfter(files);
+    for (const int times : {1, 2, 7, 40, 99, 150}) {
+        DieAfter(times);
         const Journal journal = InstallJournal::Read();
-        ASSERT_EQ(journal.Entries.size(), std::size_t{1}) << files;
+        ASSERT_EQ(journal.Entries.size(), std::size_t{1}) << times;
         EXPECT_EQ(journal.Entries[0].How, JournalEntry::State::BrokenOff);
         EXPECT_GT(journal.Entries[0].Id, id);
         id = journal.Entries[0].Id;
@@ -78,7 +78,8 @@ TEST_F(InstallDies, AtAnyMomentFilesAreWholeAndKnown) {
         EXPECT_FALSE(going.isEmpty());
         EXPECT_EQ(Uninstall::Run(plan), QStringList());
         EXPECT_EQ(Standing(), QStringList());
-        for (const QString& folder : {Maps(), Of(0).ReplayPath}) { // what was aside, and folders that held it
+        EXPECT_EQ(Files::ListFolderFiles(Maps(), true).size(), std::size_t{0}) << "what was aside went with its folder";
+        for (const QString& folder : {Maps(), Of(0).ReplayPath}) { // in the game's own folder it stays
             for (const QString& name : Names(folder)) {
                 Files::DeleteFolder(folder + name);
                 Ignoring([&] { Files::DeleteForced(folder + name); });

@@ -144,6 +144,38 @@ TEST_F(InstallDisk, LinksThatLeadOutAreNoTargets) {
     EXPECT_EQ(Failures(), (QStringList{u"a/out.map"_s, u"b/m.tga"_s, u"S/shellmap1.map"_s}));
 }
 
+TEST_F(InstallDisk, LinksThatCameInTheMeantimeAreNoTargetsEither) {
+    struct Watch : RecordingWatch {
+        std::function<void()> Behind;
+
+        void Written(const QString&) override { Behind(); }
+    } watch;
+
+    const QString victim = Put(u"victim"_s, "old");
+    const QString folder = Maps() + u"m"_s;
+    const auto link = [&] { // once the first of the files is there
+        if (Files::IsLink(folder + u"\\m.txt"_s) || !Files::FileExists(folder + u"\\m.map"_s))
+            return;
+        Link(folder + u"\\m.tga"_s, victim);
+        Link(folder + u"\\m.txt"_s, folder + u"\\m.map"_s);
+    };
+    for (const bool isWatched : {false, true}) {
+        Files::DeleteFolder(folder);
+        AnalyseZip({{.Name = "M/m.map", .Content = "1"},
+                    {.Name = "M/m.tga", .Content = "2"},
+                    {.Name = "M/m.txt", .Content = "3"}});
+        TickAll();
+        watch.Behind = link;
+        if (!isWatched)
+            view_.OnProgress = link;
+        Install(0, {.Watch = isWatched ? &watch : nullptr});
+        view_.OnProgress = nullptr;
+        EXPECT_EQ(At(victim), "old");
+        EXPECT_EQ(Failures(), QStringList{u"M/m.tga"_s});
+        EXPECT_EQ(At(folder + u"\\m.map"_s), "3") << "by a link that stays inside";
+    }
+}
+
 TEST_F(InstallDisk, LinksThatLeadOutDoNotTravelWithAMap) {
     const QString secret = world_.WriteFile(u"elsewhere\\secret.txt"_s, "s");
     const QString path = Put(u"M\\m.map"_s);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/FileTime.h"
+#include "platform/CopiedTime.h"
 
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -10,7 +10,7 @@
 #include <QDateTime>
 #include <QFile>
 
-void FileTime::Keep(const QString& from, const QString& copy) {
+void CopiedTime::Keep(const QString& from, const QString& copy) {
     Ignoring([&] {
         QFile file(Paths::ToNativeAsGiven(copy));
         if (file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))

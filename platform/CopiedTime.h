@@ -5,10 +5,10 @@
 
 #include <QString>
 
-namespace FileTime {
+namespace CopiedTime {
 
 /// Gives a copy, at the inside path as it is given, the time that the file was last written: as a copy of the system's
 /// own has it. A copy that can't have it is whole without.
 void Keep(const QString& from, const QString& copy);
 
-} // namespace FileTime
+} // namespace CopiedTime

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/CopiedTime.h"
+
+#include "platform/Paths.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <array>
+
+void CopiedTime::Keep(const QString& from, const QString& copy) {
+    struct stat status {};
+
+    if (::stat(Paths::EncodeNative(Paths::ToNative(from)).constData(), &status) != 0)
+        return;
+    const std::array<timespec, 2> times{timespec{.tv_sec = 0, .tv_nsec = UTIME_OMIT}, status.st_mtim};
+    ::utimensat(AT_FDCWD, Paths::EncodeNative(Paths::ToNativeAsGiven(copy)).constData(), times.data(), 0);
+}
