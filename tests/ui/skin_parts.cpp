@@ -71,9 +71,13 @@ TEST(SkinGlyph, UnderThePointerAnOrangeRingOfTwoPixelsLiesInsideTheBorder) {
     EXPECT_EQ(box[2].Area, QRect(3, 3, 7, 7));
 }
 
-TEST(SkinBar, TheInnerPictureIsEightPixelsNarrower) {
-    EXPECT_EQ(Skin::InnerWidth(208), 200);
-    EXPECT_EQ(Skin::InnerWidth(5), 0);
+TEST(SkinBar, TheInnerPictureIsEightPixelsNarrowerAndTheEndsAreFlush) {
+    const auto [first, inner, second] = Skin::PartsOfBar({208, 20});
+    EXPECT_EQ(first, QRect(0, 0, 4, 20));
+    EXPECT_EQ(inner, QRect(4, 3, 200, 14));
+    EXPECT_EQ(second, QRect(204, 0, 4, 20));
+    EXPECT_EQ(Skin::PartsOfBar({5, 20}).Inner.width(), 0);
+    EXPECT_EQ(Skin::PartsOfBar({5, 20}).Second.x(), 1);
 }
 
 TEST(SkinBar, TheClipGrowsInWholeBlocks) {

@@ -40,14 +40,14 @@ const Skin::GlyphColours& Skin::ColoursOfGlyph(int frame) {
     return colours.at(static_cast<std::size_t>(frame % states));
 }
 
-std::vector<Skin::Fill> Skin::BoxOfGlyph(int frame) {
+std::vector<Skin::Fill> Skin::BoxOfGlyph(int frame, int side, int line) {
     const GlyphColours& parts = ColoursOfGlyph(frame);
-    QRect area(0, 0, GlyphSize, GlyphSize);
+    QRect area(0, 0, side, side);
     std::vector<Fill> fills{{area, parts.Border, parts.Border}};
-    area.adjust(1, 1, -1, -1);
+    area.adjust(line, line, -line, -line);
     if (parts.Ring) {
         fills.push_back({area, *parts.Ring, *parts.Ring});
-        area.adjust(2, 2, -2, -2);
+        area.adjust(2 * line, 2 * line, -2 * line, -2 * line);
     }
     fills.push_back({area, parts.Top, parts.Bottom});
     return fills;

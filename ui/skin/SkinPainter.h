@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// Draws the family's buttons, marks and bars: the one painter behind its own controls and behind the buttons that the
-/// toolkit makes. Pixel by pixel at scale 1, as curves at every other scale.
+/// toolkit makes. All of it on whole pixels of the screen; corners are pixels where a line is one, else curves.
 #pragma once
 
 #include "ui/skin/Face.h"
@@ -20,6 +20,9 @@ namespace Skin {
 QColor ToColour(Bgr colour);
 
 void PaintFace(QPainter& painter, const QRect& area, Look look);
+
+/// The same out of its three slices.
+void PaintSlices(QPainter& painter, const QRect& area, Look look);
 
 /// A check box's mark is drawn in a box, an option button's in a circle.
 enum class Mark { Tick, Dot };

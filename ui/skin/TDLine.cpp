@@ -4,6 +4,7 @@
 #include "ui/skin/TDLine.h"
 
 #include "ui/look/Style.h"
+#include "ui/skin/DevicePixels.h"
 
 #include <QPainter>
 
@@ -15,6 +16,8 @@ TDLine::TDLine(QWidget* parent) : QFrame(parent) {
 
 void TDLine::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.fillRect(0, 0, width(), 1, Style::Colour::DisabledBorder);
-    painter.fillRect(0, 1, width(), 1, Qt::white);
+    const Skin::DevicePixels pixels(painter, rect());
+    const int across = pixels.Area().width(), line = pixels.Line();
+    painter.fillRect(0, 0, across, line, Style::Colour::DisabledBorder);
+    painter.fillRect(0, line, across, line, Qt::white);
 }

@@ -24,7 +24,7 @@ UserControl1::UserControl1(QWidget* parent) : SkinButton(parent) {}
 void UserControl1::paintEvent(QPaintEvent* /*event*/) {
     constexpr int inset = 2;
     QPainter painter(this);
-    Skin::PaintFace(painter, rect(), Skin::UserControlLook(State()));
+    Skin::PaintSlices(painter, rect(), Skin::UserControlLook(State()));
     painter.setPen(palette().color(QPalette::ButtonText));
     painter.drawText(rect().adjusted(inset, inset, -inset, -inset), Qt::AlignCenter | Qt::TextShowMnemonic, text());
 }

@@ -5,6 +5,7 @@
 
 #include "ui/look/Style.h"
 #include "ui/skin/Bar.h"
+#include "ui/skin/DevicePixels.h"
 #include "ui/skin/SkinPainter.h"
 
 #include <QKeyEvent>
@@ -36,8 +37,8 @@ QSize xpMenu::sizeHint() const {
 void xpMenu::paintEvent(QPaintEvent* /*event*/) {
     constexpr int inset = 3;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     PaintBar(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
     QFont bold = font();
     bold.setBold(true);
     painter.setFont(bold);
@@ -51,17 +52,21 @@ void xpMenu::paintEvent(QPaintEvent* /*event*/) {
 // The two ends are round above; what is between them is stretched.
 void xpMenu::PaintBar(QPainter& painter) const {
     const auto [left, top, right] = Skin::PartsOfHeading(width());
-    QLinearGradient face(left.left(), 0, right.right(), 0);
+    const Skin::DevicePixels pixels(painter, rect());
+    const QRectF area = pixels.Area();
+    const qreal reach = Skin::HeadingEnd * pixels.Density();
+    QLinearGradient face(area.left(), 0, area.right(), 0);
     face.setColorAt(0, Qt::white);
     face.setColorAt(1, QColor(199, 212, 247));
     QPainterPath outline;
     outline.setFillRule(Qt::WindingFill);
-    for (const QRectF end : {left, right}) {
-        outline.addRoundedRect(end.adjusted(end.x() > 0 ? -end.width() : 0, 0, end.x() > 0 ? 0 : end.width(), 0),
-                               Skin::HeadingEnd, Skin::HeadingEnd);
-        outline.addRect(end.adjusted(0, Skin::HeadingEnd, 0, 0));
+    for (const QRectF end : {pixels.Of(left), pixels.Of(right)}) {
+        outline.addRoundedRect(end.adjusted(end.x() > 0 ? -end.width() : 0, 0, end.x() > 0 ? 0 : end.width(), 0), reach,
+                               reach);
+        outline.addRect(end.adjusted(0, reach, 0, 0));
     }
-    outline.addRect(top);
+    outline.addRect(pixels.Of(top));
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(outline.simplified(), face);
 }
 
