@@ -139,11 +139,15 @@ void TickControl<Control, Base>::paintEvent(QPaintEvent* /*event*/) {
         Skin::PaintFocus(painter, caption.adjusted(-2, -1, 2, 1).intersected(this->rect()));
 }
 
+// Whoever is told of an event may end the control, and its window with it.
 template <class Control, class Base>
 void TickControl<Control, Base>::keyPressEvent(QKeyEvent* event) {
+    const QPointer<TickControl> self(this);
     Q_EMIT Self().KeyDown(event->key(), event->modifiers());
-    if (!event->text().isEmpty())
+    if (self && !event->text().isEmpty())
         Q_EMIT Self().KeyPress(event->text());
+    if (!self)
+        return;
     if (const Skin::Step step = Skin::StepOf(event->key()); step != Skin::Step::None)
         this->focusNextPrevChild(step == Skin::Step::Forward);
     else
@@ -161,20 +165,24 @@ void TickControl<Control, Base>::keyReleaseEvent(QKeyEvent* event) {
 // Any button but the right one.
 template <class Control, class Base>
 void TickControl<Control, Base>::mousePressEvent(QMouseEvent* event) {
+    const QPointer<TickControl> self(this);
     if (event->button() != Qt::RightButton) {
         QMouseEvent left = Skin::AsLeft(*event);
         Base::mousePressEvent(&left);
     }
-    Q_EMIT Self().MouseDown(event->button(), event->modifiers(), event->pos().x(), event->pos().y());
+    if (self)
+        Q_EMIT Self().MouseDown(event->button(), event->modifiers(), event->pos().x(), event->pos().y());
 }
 
 template <class Control, class Base>
 void TickControl<Control, Base>::mouseMoveEvent(QMouseEvent* event) {
+    const QPointer<TickControl> self(this);
     if (event->buttons() != Qt::RightButton) {
         QMouseEvent left = Skin::AsLeft(*event);
         Base::mouseMoveEvent(&left);
     }
-    Q_EMIT Self().MouseMove(event->buttons(), event->modifiers(), event->pos().x(), event->pos().y());
+    if (self)
+        Q_EMIT Self().MouseMove(event->buttons(), event->modifiers(), event->pos().x(), event->pos().y());
 }
 
 template <class Control, class Base>

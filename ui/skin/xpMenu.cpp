@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 
 namespace {
 constexpr int captionLeft = 10, captionRight = 28;
@@ -22,6 +23,7 @@ xpMenu::xpMenu(QWidget* parent) : QAbstractButton(parent) {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
+    setMouseTracking(true);
     setFixedHeight(Skin::HeadingHeight);
 }
 
@@ -84,9 +86,46 @@ void xpMenu::PaintMark(QPainter& painter) const {
     }
 }
 
+// Whoever is told of an event may end the bar, and its window with it.
 void xpMenu::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
+    const QPointer<xpMenu> self(this);
+    Q_EMIT KeyDown(event->key(), event->modifiers());
+    if (self && !event->text().isEmpty())
+        Q_EMIT KeyPress(event->text());
+    if (self && !enter_.Takes(*event, *this))
         QAbstractButton::keyPressEvent(event);
+}
+
+void xpMenu::keyReleaseEvent(QKeyEvent* event) {
+    const QPointer<xpMenu> self(this);
+    if (!enter_.Takes(*event, *this))
+        QAbstractButton::keyReleaseEvent(event);
+    if (self)
+        Q_EMIT KeyUp(event->key(), event->modifiers());
+}
+
+void xpMenu::focusOutEvent(QFocusEvent* event) {
+    enter_.Takes(*event, *this);
+    QAbstractButton::focusOutEvent(event);
+}
+
+void xpMenu::mousePressEvent(QMouseEvent* event) {
+    const QPointer<xpMenu> self(this);
+    QAbstractButton::mousePressEvent(event);
+    if (self)
+        Q_EMIT MouseDown(event->button(), event->modifiers(), event->pos().x(), event->pos().y());
+}
+
+void xpMenu::mouseMoveEvent(QMouseEvent* event) {
+    const QPointer<xpMenu> self(this);
+    QAbstractButton::mouseMoveEvent(event);
+    if (self)
+        Q_EMIT MouseMove(event->buttons(), event->modifiers(), event->pos().x(), event->pos().y());
+}
+
+void xpMenu::mouseReleaseEvent(QMouseEvent* event) {
+    const QPointer<xpMenu> self(this);
+    QAbstractButton::mouseReleaseEvent(event);
+    if (self)
+        Q_EMIT MouseUp(event->button(), event->modifiers(), event->pos().x(), event->pos().y());
 }

@@ -3,10 +3,12 @@
 
 #include "tests/windows/WindowTests.h"
 #include "tests/windows/ui/Pixels.h"
+#include "ui/look/PictureButton.h"
 #include "ui/look/Style.h"
 #include "ui/skin/ProgressBar.h"
 #include "ui/skin/TDLine.h"
 #include "ui/skin/xpMenu.h"
+#include "ui/window/SideMenu.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -116,6 +118,66 @@ private Q_SLOTS:
         QVERIFY(heading.isChecked());
         QTest::keyClick(&heading, Qt::Key_Space);
         QVERIFY(!heading.isChecked());
+    }
+
+    void anEnterThatIsHeldFoldsAHeadingOnce() {
+        xpMenu heading;
+        const QSignalSpy folds(&heading, &xpMenu::toggled);
+        HoldEnter(heading);
+        QCOMPARE(folds.size(), 1);
+        QTest::keyPress(&heading, Qt::Key_Return);
+        QFocusEvent left(QEvent::FocusOut);
+        QCoreApplication::sendEvent(&heading, &left);
+        QTest::keyRelease(&heading, Qt::Key_Return);
+        QCOMPARE(folds.size(), 1);
+    }
+
+    void linksAndTextsOnPicturesTakeAHeldEnterForOneClick() {
+        SideLink link;
+        PictureButton text;
+        for (QAbstractButton* const button :
+             {static_cast<QAbstractButton*>(&link), static_cast<QAbstractButton*>(&text)}) {
+            const QSignalSpy clicks(button, &QAbstractButton::clicked);
+            QTest::keyPress(button, Qt::Key_Enter);
+            QCOMPARE(clicks.size(), 0);
+            QTest::keyRelease(button, Qt::Key_Enter);
+            QCOMPARE(clicks.size(), 1);
+            HoldEnter(*button);
+            QCOMPARE(clicks.size(), 2);
+            QTest::keyRelease(button, Qt::Key_Return); // pressed elsewhere
+            QCOMPARE(clicks.size(), 2);
+        }
+    }
+
+    void aHeadingTellsOfItsKeysAndOfTheMouseOnAllItsParts() {
+        xpMenu heading;
+        heading.resize(172, 26);
+        QStringList told;
+        connect(&heading, &xpMenu::KeyDown, this, [&](int key) { told += u"key down %1"_s.arg(QChar(key)); });
+        connect(&heading, &xpMenu::KeyPress, this, [&](const QString& text) { told += u"key "_s + text; });
+        connect(&heading, &xpMenu::KeyUp, this, [&] { told += u"key up"_s; });
+        const auto write = [&](const QString& what, Qt::KeyboardModifiers shift, int x, int y) {
+            told += u"%1 %2 %3 %4"_s.arg(what).arg(shift == Qt::ShiftModifier).arg(x).arg(y);
+        };
+        connect(&heading, &xpMenu::MouseDown, this,
+                [&](Qt::MouseButton, auto shift, int x, int y) { write(u"down"_s, shift, x, y); });
+        connect(&heading, &xpMenu::MouseMove, this,
+                [&](Qt::MouseButtons, auto shift, int x, int y) { write(u"move"_s, shift, x, y); });
+        connect(&heading, &xpMenu::MouseUp, this,
+                [&](Qt::MouseButton, auto shift, int x, int y) { write(u"up"_s, shift, x, y); });
+        QTest::keyClick(&heading, 'x');
+        QCOMPARE(told, (QStringList{u"key down X"_s, u"key x"_s, u"key up"_s}));
+        for (const int x : {1, 80, 170}) { // the left end, the middle, the right end
+            told.clear();
+            QTest::mousePress(&heading, Qt::LeftButton, Qt::ShiftModifier, {x, 4});
+            Drag(heading, {x, 5});
+            QTest::mouseRelease(&heading, Qt::LeftButton, {}, {x, 5});
+            QCOMPARE(told, (QStringList{u"down 1 %1 4"_s.arg(x), u"move 0 %1 5"_s.arg(x), u"up 0 %1 5"_s.arg(x)}));
+        }
+        told.clear();
+        QTest::mouseClick(&heading, Qt::RightButton, {}, {8, 8});
+        QCOMPARE(told, (QStringList{u"down 0 8 8"_s, u"up 0 8 8"_s}));
+        QVERIFY(heading.hasMouseTracking()); // moves with no button held are told, too
     }
 };
 

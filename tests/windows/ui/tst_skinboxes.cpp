@@ -10,7 +10,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalSpy>
+
+#include <functional>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -238,6 +242,26 @@ private Q_SLOTS:
         QTest::mouseClick(box_, Qt::LeftButton, {}, {3, 4});
         QCOMPARE(told, (QStringList{u"key down"_s, u"key x"_s, u"key up"_s, u"mouse down 3 4"_s, u"mouse move"_s,
                                     u"mouse up"_s, u"mouse down 3 4"_s, u"click"_s, u"mouse up"_s}));
+    }
+
+    void whoeverIsToldMayEndTheBox() {
+        const auto ends = [this](auto told, const std::function<void(TavelCheckBox*)>& act) {
+            auto* const box = new TavelCheckBox(window_.get());
+            box->setGeometry(10, 250, 100, 20);
+            box->show();
+            const QPointer<TavelCheckBox> gone(box);
+            connect(box, told, this, [box] { delete box; });
+            act(box);
+            return gone.isNull();
+        };
+        const auto press = [](TavelCheckBox* box) { QTest::mousePress(box, Qt::LeftButton); };
+        const auto type = [](TavelCheckBox* box) { QTest::keyPress(box, 'x'); };
+        QVERIFY(ends(&TavelCheckBox::pressed, press));
+        QVERIFY(ends(&TavelCheckBox::MouseDown, press));
+        QVERIFY(ends(&TavelCheckBox::MouseMove, [](TavelCheckBox* box) { Drag(*box, {4, 4}); }));
+        QVERIFY(ends(&TavelCheckBox::clicked, [](TavelCheckBox* box) { QTest::mouseClick(box, Qt::LeftButton); }));
+        QVERIFY(ends(&TavelCheckBox::KeyDown, type));
+        QVERIFY(ends(&TavelCheckBox::KeyPress, type));
     }
 
     void oneOfAGroupIsChosenAcrossTheWholeWindow() {
