@@ -3,6 +3,7 @@
 
 #include "ui/skin/CommandButton.h"
 
+#include "ui/look/Style.h"
 #include "ui/skin/Caption.h"
 #include "ui/skin/SkinPainter.h"
 
@@ -21,7 +22,6 @@ void CommandButton::SetForeColor(const QColor& colour) {
 }
 
 void CommandButton::paintEvent(QPaintEvent* /*event*/) {
-    constexpr Skin::Bgr disabledText = 0x94A2A5;
     QPainter painter(this);
     Skin::ButtonState state = State();
     state.Pressed = state.Pressed || clicking_;
@@ -30,7 +30,7 @@ void CommandButton::paintEvent(QPaintEvent* /*event*/) {
         return;
     const QFontMetrics metrics = fontMetrics();
     const auto widthOf = [&](const QString& words) { return metrics.size(Qt::TextShowMnemonic, words).width(); };
-    painter.setPen(isEnabled() ? foreColour_ : Skin::ToColour(disabledText));
+    painter.setPen(isEnabled() ? foreColour_ : Style::Colour::DisabledText);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic,
                      Skin::WrapWords(text(), width(), widthOf).join(u'\n'));
 }

@@ -41,36 +41,33 @@ struct Theme {
     std::array<Bgr, 4> Corners;
 };
 
-constexpr Bgr border = 0x733200;
-constexpr Bgr ground = 0xE7EBEF;
-constexpr Gradient body{0xE7EBEF, 0xF7F7F7};
-constexpr std::array<Bgr, 4> corners{0x845521, 0xAD967B, 0xA57D52, 0xDECFC6};
+using namespace Skin::Colour;
 
-constexpr Bgr disabledBorder = 0xBDC7CE;
-constexpr Bgr disabledGround = 0xEFF7F7;
+constexpr Gradient body{Face, FaceBright};
+constexpr std::array<Bgr, 4> corners{0x845521, 0xAD967B, 0xA57D52, 0xDECFC6};
 
 /// By Look.
 constexpr std::array<Theme, 5> themes{{
-    {border, ground, {{{-3, 1, 0xD6DFE7}, {-2, 1, 0xC6D3D6}}}, body, {}, corners},
-    {border,
-     ground,
-     {{{-3, 1, 0x31B2FF}, {-2, 1, 0x31B2FF}}},
+    {Border, Face, {{{-3, 1, 0xD6DFE7}, {-2, 1, 0xC6D3D6}}}, body, {}, corners},
+    {Border,
+     Face,
+     {{{-3, 1, Hover}, {-2, 1, Hover}}},
      body,
      Accent{{0xCEF3FF, 0x8CDBFF}, {0x30B6FF, 0x9CDFE1}},
      corners},
-    {border,
-     ground,
-     {{{-3, 1, 0xE7AE8C}, {-2, 1, 0xEF826B}}},
+    {Border,
+     Face,
+     {{{-3, 1, Focus}, {-2, 1, 0xEF826B}}},
      body,
-     Accent{{0xFFE7CE, 0xF7D7BD}, {0xE7AE8C, 0xF7D3BD}},
+     Accent{{0xFFE7CE, 0xF7D7BD}, {Focus, 0xF7D3BD}},
      corners},
-    {border, ground, {{{1, 1, 0xD6DFE7}, {-2, 1, 0xEFF3F7}}}, {}, {}, corners},
-    {disabledBorder,
-     disabledGround,
-     {{{-3, 1, disabledGround}, {-2, 1, disabledGround}}},
+    {Border, Face, {{{1, 1, 0xD6DFE7}, {-2, 1, 0xEFF3F7}}}, {}, {}, corners},
+    {DisabledBorder,
+     FaceDisabled,
+     {{{-3, 1, FaceDisabled}, {-2, 1, FaceDisabled}}},
      {},
      {},
-     {disabledBorder, disabledBorder, disabledBorder, disabledBorder}},
+     {DisabledBorder, DisabledBorder, DisabledBorder, DisabledBorder}},
 }};
 
 constexpr int slicesOfAFace = 3;

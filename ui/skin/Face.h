@@ -5,6 +5,8 @@
 /// are written 0xBBGGRR.
 #pragma once
 
+#include "ui/skin/Colours.h"
+
 #include <QPoint>
 #include <QRect>
 #include <QSize>
@@ -13,8 +15,6 @@
 #include <vector>
 
 namespace Skin {
-
-using Bgr = quint32;
 
 /// The colour of one line of a gradient: red, green and blue run each by itself from `first` (line 0) to `last` (line
 /// `lines` - 1).

@@ -8,15 +8,15 @@
 namespace {
 
 constexpr int states = 4;
-constexpr Skin::Bgr border = 0x733200;
-constexpr Skin::Bgr disabled = 0xBDC7CE;
+
+using namespace Skin::Colour;
 
 /// Normal, pointer over, pressed, disabled.
 constexpr std::array<Skin::GlyphColours, states> colours{{
-    {border, 0xE7EBEF, 0xFFFFFF, {}, border},
-    {border, 0xE7EBEF, 0xFFFFFF, 0x31B2FF, border},
-    {border, 0xC6D3D6, 0xE7EBEF, {}, border},
-    {disabled, 0xEFF7F7, 0xEFF7F7, {}, 0x94A2A5},
+    {Border, Face, 0xFFFFFF, {}, Border},
+    {Border, Face, 0xFFFFFF, Hover, Border},
+    {Border, 0xC6D3D6, Face, {}, Border},
+    {DisabledBorder, FaceDisabled, FaceDisabled, {}, DisabledText},
 }};
 
 } // namespace

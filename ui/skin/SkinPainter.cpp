@@ -16,17 +16,17 @@ namespace {
 
 using Skin::DevicePixels;
 using Skin::Fill;
-using Skin::ToColour;
+using Style::FromBgr;
 
 void PaintFill(QPainter& painter, const Fill& fill) {
     const QRect& area = fill.Area;
     if (fill.Top == fill.Bottom) {
-        painter.fillRect(area, ToColour(fill.Top));
+        painter.fillRect(area, FromBgr(fill.Top));
         return;
     }
     for (int line = 0; line < area.height(); ++line)
         painter.fillRect(area.x(), area.y() + line, area.width(), 1,
-                         ToColour(Skin::Between(fill.Top, fill.Bottom, line, area.height())));
+                         FromBgr(Skin::Between(fill.Top, fill.Bottom, line, area.height())));
 }
 
 void PaintFills(QPainter& painter, const std::vector<Fill>& fills) {
@@ -51,14 +51,14 @@ void PaintRing(QPainter& painter, const DevicePixels& pixels, const QColor& colo
 void PaintPlan(QPainter& painter, const DevicePixels& pixels, Skin::Look look) {
     const Skin::Face face = FaceOf(look, pixels.Area().size(), pixels.Line());
     if (pixels.Line() > 1) {
-        PaintRing(painter, pixels, ToColour(face.Border));
+        PaintRing(painter, pixels, FromBgr(face.Border));
         PaintFills(painter, face.Inside);
         return;
     }
     PaintFills(painter, face.Lines);
     PaintFills(painter, face.Inside);
     for (const auto& [place, colour] : face.Corners)
-        painter.fillRect(QRect(place, QSize(1, 1)), ToColour(colour));
+        painter.fillRect(QRect(place, QSize(1, 1)), FromBgr(colour));
 }
 
 void PaintTick(QPainter& painter, const QColor& colour) {
@@ -72,16 +72,16 @@ void PaintCircle(QPainter& painter, const DevicePixels& pixels, int frame) {
     const qreal line = pixels.Line(), half = line / 2;
     const QRectF middle = QRectF(pixels.Area()).adjusted(half, half, -half, -half); // of the border
     QLinearGradient ground(middle.topLeft(), middle.bottomLeft());
-    ground.setColorAt(0, ToColour(parts.Top));
-    ground.setColorAt(1, ToColour(parts.Bottom));
+    ground.setColorAt(0, FromBgr(parts.Top));
+    ground.setColorAt(1, FromBgr(parts.Bottom));
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(ToColour(parts.Border), line));
+    painter.setPen(QPen(FromBgr(parts.Border), line));
     painter.setBrush(ground);
     painter.drawEllipse(middle);
     if (parts.Ring) {
         const qreal inside = half + line;
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(ToColour(*parts.Ring), 2 * line));
+        painter.setPen(QPen(FromBgr(*parts.Ring), 2 * line));
         painter.drawEllipse(middle.adjusted(inside, inside, -inside, -inside));
     }
 }
@@ -103,12 +103,6 @@ void PaintMark(QPainter& painter, Skin::Mark mark, Skin::Ticked ticked, const QC
 }
 
 } // namespace
-
-QColor Skin::ToColour(Bgr colour) {
-    constexpr Bgr part = 0xFF;
-    return QColor(static_cast<int>(colour & part), static_cast<int>(colour >> 8 & part),
-                  static_cast<int>(colour >> 16 & part));
-}
 
 void Skin::PaintFace(QPainter& painter, const QRect& area, Look look) {
     const DevicePixels pixels(painter, area);
@@ -135,7 +129,7 @@ void Skin::PaintGlyph(QPainter& painter, const QPoint& place, Mark mark, const B
     if (ticked == Ticked::No)
         return;
     painter.scale(pixels.Area().width() / qreal(GlyphSize), pixels.Area().height() / qreal(GlyphSize));
-    PaintMark(painter, mark, ticked, ToColour(ColoursOfGlyph(frame).Mark));
+    PaintMark(painter, mark, ticked, FromBgr(ColoursOfGlyph(frame).Mark));
 }
 
 void Skin::PaintFocus(QPainter& painter, const QRect& area) {

@@ -7,8 +7,6 @@
 
 #include "ui/skin/Face.h"
 
-#include <QColor>
-
 class QFontMetrics;
 class QPainter;
 class QPalette;
@@ -16,8 +14,6 @@ class QRect;
 class QString;
 
 namespace Skin {
-
-QColor ToColour(Bgr colour);
 
 void PaintFace(QPainter& painter, const QRect& area, Look look);
 

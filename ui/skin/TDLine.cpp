@@ -6,9 +6,21 @@
 #include "ui/look/Style.h"
 #include "ui/skin/DevicePixels.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 
+namespace {
+
+QAccessibleInterface* MakeSeparator(const QString& /*className*/, QObject* object) {
+    auto* const line = qobject_cast<TDLine*>(object);
+    return line == nullptr ? nullptr : new QAccessibleWidget(line, QAccessible::Separator);
+}
+
+} // namespace
+
 TDLine::TDLine(QWidget* parent) : QFrame(parent) {
+    QAccessible::installFactory(MakeSeparator); // a second time changes nothing
     setFrameStyle(HLine | Plain);
     setFixedHeight(Rows);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

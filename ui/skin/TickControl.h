@@ -74,10 +74,15 @@ protected:
         Q_EMIT Self().ValueChanged(value);
     }
 
+    /// Whether a host has set the checked state since, and not StoreValue: the value follows in checkStateSet.
+    [[nodiscard]] bool IsTickedByHost() const { return this->isChecked() && value_ != 1; }
+
     void checkStateSet() override {
         Base::checkStateSet();
         if (this->isChecked())
             value_ = 1;
+        else if (value_ == 1)
+            value_ = 0;
     }
 
     [[nodiscard]] bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
@@ -129,8 +134,13 @@ void TickControl<Control, Base>::paintEvent(QPaintEvent* /*event*/) {
         .Enabled = this->isEnabled(), .Hover = pointer_.IsOver(*this), .Pressed = this->isDown()};
     Skin::PaintGlyph(painter, {0, Skin::GlyphTop(this->height())}, mark_, state,
                      this->isChecked() ? Skin::Ticked::Yes : Skin::Ticked::No);
-    if (this->text().isEmpty())
+    if (this->text().isEmpty()) {
+        constexpr int inside = 2; // there may be no room around it
+        const QRect glyph(0, Skin::GlyphTop(this->height()), Skin::GlyphSize, Skin::GlyphSize);
+        if (this->hasFocus())
+            Skin::PaintFocus(painter, glyph.adjusted(inside, inside, -inside, -inside));
         return;
+    }
     QRect caption({}, CaptionSize());
     caption.moveTo(Skin::GlyphSize + Skin::GlyphGap, (this->height() - caption.height()) / 2);
     painter.setPen(foreColour_.isValid() ? foreColour_ : this->palette().color(QPalette::ButtonText));

@@ -8,6 +8,8 @@
 #include "ui/skin/DevicePixels.h"
 #include "ui/skin/SkinPainter.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -15,9 +17,58 @@
 
 namespace {
 constexpr int captionLeft = 10, captionRight = 28;
+
+QAccessible::State StateOf(const xpMenu& heading) {
+    QAccessible::State state;
+    state.expandable = true;
+    state.expanded = heading.isChecked();
+    state.collapsed = !heading.isChecked();
+    return state;
+}
+
+/// A button that unfolds something; as a checkable button it would be told as a box to tick.
+class HeadingForReaders : public QAccessibleWidget {
+public:
+    explicit HeadingForReaders(xpMenu& heading) : QAccessibleWidget(&heading, QAccessible::Button), heading_(heading) {}
+
+    [[nodiscard]] QString text(QAccessible::Text which) const override {
+        const QString given = QAccessibleWidget::text(which);
+        return which == QAccessible::Name && given.isEmpty() ? heading_.text() : given;
+    }
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        const QAccessible::State own = StateOf(heading_);
+        state.expandable = own.expandable;
+        state.expanded = own.expanded;
+        state.collapsed = own.collapsed;
+        return state;
+    }
+
+    [[nodiscard]] QStringList actionNames() const override {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& action) override {
+        if (action == pressAction())
+            heading_.click();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    xpMenu& heading_;
+};
+
+QAccessibleInterface* MakeHeading(const QString& /*className*/, QObject* object) {
+    auto* const heading = qobject_cast<xpMenu*>(object);
+    return heading == nullptr ? nullptr : new HeadingForReaders(*heading);
+}
+
 } // namespace
 
 xpMenu::xpMenu(QWidget* parent) : QAbstractButton(parent) {
+    QAccessible::installFactory(MakeHeading); // a second time changes nothing
     setCheckable(true);
     setChecked(true);
     setCursor(Qt::PointingHandCursor);
@@ -25,6 +76,13 @@ xpMenu::xpMenu(QWidget* parent) : QAbstractButton(parent) {
     setAttribute(Qt::WA_Hover);
     setMouseTracking(true);
     setFixedHeight(Skin::HeadingHeight);
+    connect(this, &QAbstractButton::toggled, this, [this] {
+        QAccessible::State changed;
+        changed.expanded = true;
+        changed.collapsed = true;
+        QAccessibleStateChangeEvent told(this, changed);
+        QAccessible::updateAccessibility(&told);
+    });
 }
 
 void xpMenu::SetCaption(const QString& caption) {

@@ -87,6 +87,29 @@ private Q_SLOTS:
         }
     }
 
+    void aScreenReaderMeetsASeparator() {
+        TDLine line;
+        QCOMPARE(QAccessible::queryAccessibleInterface(&line)->role(), QAccessible::Separator);
+    }
+
+    void aScreenReaderMeetsAHeadingAsAButtonThatUnfolds() {
+        xpMenu heading;
+        heading.SetCaption(u"Actions"_s);
+        QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(&heading);
+        QCOMPARE(seen->role(), QAccessible::Button);
+        QCOMPARE(seen->text(QAccessible::Name), u"Actions"_s);
+        QVERIFY(seen->state().expandable);
+        QVERIFY(seen->state().expanded && !seen->state().collapsed);
+        QVERIFY(!seen->state().checkable && !seen->state().checked);
+        QVERIFY(seen->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+        seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QVERIFY(!heading.isChecked());
+        QVERIFY(seen->state().expandable);
+        QVERIFY(!seen->state().expanded && seen->state().collapsed);
+        heading.setAccessibleName(u"Given"_s);
+        QCOMPARE(seen->text(QAccessible::Name), u"Given"_s);
+    }
+
     void aHeadingTellsOfItsCaption() {
         xpMenu heading;
         const QSignalSpy changes(&heading, &xpMenu::CaptionChanged);

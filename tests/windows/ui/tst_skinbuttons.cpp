@@ -238,27 +238,6 @@ private Q_SLOTS:
             ends(&CommandButton::DblClick, [](CommandButton* button) { QTest::mouseDClick(button, Qt::LeftButton); }));
     }
 
-    void aDisabledPaintedButtonIgnoresItsColour() {
-        painted_->SetForeColor(Qt::red);
-        QVERIFY(HasColour(PictureOf(*painted_), Qt::red));
-        painted_->setEnabled(false);
-        QVERIFY(!HasColour(PictureOf(*painted_), Qt::red));
-        QVERIFY(HasColour(PictureOf(*painted_), QColor(165, 162, 148)));
-    }
-
-    void textIsTheSuitesOnADarkDesktopToo() {
-        QPalette dark(QColor(30, 30, 30));
-        dark.setColor(QPalette::ButtonText, Qt::white);
-        QApplication::setPalette(dark);
-        for (const char* name : {"QPushButton", "QAbstractButton"})
-            QApplication::setPalette(dark, name);
-        Style::Apply(*qApp);
-        UserControl1 button;
-        button.setText(u"Go"_s);
-        QCOMPARE(button.palette().color(QPalette::ButtonText), QColor(Qt::black));
-        QCOMPARE(button.palette().color(QPalette::Disabled, QPalette::ButtonText), Style::Colour::DisabledText);
-    }
-
     void enterClicksWhenItIsReleased() {
         const QSignalSpy clicks(slices_, &QPushButton::clicked);
         slices_->setFocus();
@@ -340,15 +319,6 @@ private Q_SLOTS:
         QCOMPARE(QApplication::focusWidget(), forward ? static_cast<QWidget*>(other_) : painted_);
     }
 
-    void withoutACaptionItShowsItsName() {
-        UserControl1 button;
-        button.setObjectName(u"UserControl11"_s);
-        QCOMPARE(button.text(), u"UserControl11"_s);
-        CommandButton other(u"Given"_s);
-        other.setObjectName(u"Command1"_s);
-        QCOMPARE(other.text(), u"Given"_s);
-    }
-
     void aScreenReaderMeetsAButtonWithItsName_data() { Both(); }
 
     void aScreenReaderMeetsAButtonWithItsName() {
@@ -358,20 +328,6 @@ private Q_SLOTS:
         QVERIFY(seen != nullptr);
         QCOMPARE(seen->role(), QAccessible::PushButton);
         QCOMPARE(seen->text(QAccessible::Name), u"Go"_s);
-    }
-
-    void theSizeLeavesRoomForEveryCaption_data() { Both(); }
-
-    void theSizeLeavesRoomForEveryCaption() {
-        QPushButton& button = Chosen();
-        for (const QString& caption : {u"OK"_s, u"Enregistrer la table sous un autre nom"_s, u"two\nlines"_s}) {
-            button.setText(caption);
-            const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, caption);
-            QVERIFY(button.sizeHint().width() >= text.width() + 16);
-            QVERIFY(button.sizeHint().height() >= text.height() + 4);
-            QCOMPARE(button.sizeHint().width() % 4, 0);
-            QCOMPARE(button.sizeHint().height() % 4, 0);
-        }
     }
 
 private:

@@ -52,7 +52,7 @@ FaceRows::Rows Rows(const QImage& picture, const FaceRows::Letters& letters) {
             const QColor seen = picture.pixelColor(x, y);
             char letter = seen == ground ? '.' : '?';
             for (const auto& [colour, name] : letters)
-                if (seen == Skin::ToColour(colour))
+                if (seen == Style::FromBgr(colour))
                     letter = name;
             row += letter;
         }
@@ -243,7 +243,7 @@ private Q_SLOTS:
                 QCOMPARE(picture.pixelColor(column, y), border);
             for (const int column : {1, 3, 10, 17, 18, 35, 38}) // the ends, the gaps, what has no block yet
                 QCOMPARE(picture.pixelColor(column, y), QColor(Qt::white));
-            const QColor block = Skin::ToColour(Skin::Between(0x8CD8FF, 0x008EF2, y - 3, 14));
+            const QColor block = Style::FromBgr(Skin::Between(0x8CD8FF, 0x008EF2, y - 3, 14));
             for (const int column : {4, 9, 11, 16})
                 QCOMPARE(picture.pixelColor(column, y), block);
         }
