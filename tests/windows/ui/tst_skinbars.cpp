@@ -12,7 +12,10 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QPointer>
 #include <QSignalSpy>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -170,6 +173,23 @@ private Q_SLOTS:
             QTest::keyRelease(button, Qt::Key_Return); // pressed elsewhere
             QCOMPARE(clicks.size(), 2);
         }
+    }
+
+    void whoeverIsToldMayEndAHeading() {
+        const auto ends = [](auto told, const std::function<void(xpMenu*)>& act) {
+            auto* const heading = new xpMenu;
+            const QPointer<xpMenu> gone(heading);
+            connect(heading, told, heading, [heading] { delete heading; });
+            act(heading);
+            return gone.isNull();
+        };
+        const auto type = [](xpMenu* heading) { QTest::keyClick(heading, Qt::Key_Return); };
+        const auto press = [](xpMenu* heading) { QTest::mousePress(heading, Qt::LeftButton); };
+        QVERIFY(ends(&xpMenu::KeyDown, type));
+        QVERIFY(ends(&xpMenu::KeyPress, type));
+        QVERIFY(ends(&xpMenu::clicked, type));
+        QVERIFY(ends(&xpMenu::pressed, press));
+        QVERIFY(ends(&xpMenu::clicked, [](xpMenu* heading) { QTest::mouseClick(heading, Qt::LeftButton); }));
     }
 
     void aHeadingTellsOfItsKeysAndOfTheMouseOnAllItsParts() {
