@@ -148,9 +148,10 @@ private:
         told_.clear();
         for (const auto& [name, option] :
              {std::pair{u"one"_s, one_}, std::pair{u"two"_s, two_}, std::pair{u"far"_s, far_}}) {
-            connect(option, &TavelOptionButton::ValueChanging, this, [this, name] { told_ += name + u" changes"_s; });
+            connect(option, &TavelOptionButton::ValueChanging, this,
+                    [this, name = name] { told_ += name + u" changes"_s; });
             connect(option, &TavelOptionButton::ValueChanged, this,
-                    [this, name](int value) { told_ += u"%1 %2"_s.arg(name).arg(value); });
+                    [this, name = name](int value) { told_ += u"%1 %2"_s.arg(name).arg(value); });
         }
         return told_;
     }

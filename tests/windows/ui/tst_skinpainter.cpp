@@ -106,8 +106,9 @@ private Q_SLOTS:
         QFETCH(const int, face);
         const auto [look, letters, rows] = FaceRows::All().at(static_cast<std::size_t>(face));
         QCOMPARE(Rows(FacePicture(FaceRows::Size, 1, QRect({}, FaceRows::Size), look), letters), rows);
-        const QImage slices = Painted(
-            FaceRows::Size, 1, [&](QPainter& painter) { Skin::PaintSlices(painter, QRect({}, FaceRows::Size), look); });
+        const QImage slices = Painted(FaceRows::Size, 1, [shown = look](QPainter& painter) {
+            Skin::PaintSlices(painter, QRect({}, FaceRows::Size), shown);
+        });
         QCOMPARE(Rows(slices, letters), rows);
     }
 
