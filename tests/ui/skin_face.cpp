@@ -1,29 +1,25 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "ui/skin/Face.h"
+#include "tests/ui/FaceRows.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <string>
-#include <vector>
-
+using FaceRows::Rows;
 using Skin::Between;
 using Skin::Bgr;
 using Skin::Look;
 
 namespace {
 
-using Rows = std::vector<std::string>;
-
 /// A face as text, a letter for each colour; '.' is not painted.
-Rows Painted(Look look, QSize size, const std::map<Bgr, char>& letters) {
-    Rows rows(static_cast<std::size_t>(size.height()), std::string(static_cast<std::size_t>(size.width()), '.'));
+Rows Painted(const FaceRows::Face& expected) {
+    Rows rows(static_cast<std::size_t>(FaceRows::Size.height()),
+              std::string(static_cast<std::size_t>(FaceRows::Size.width()), '.'));
     const auto dot = [&](int x, int y, Bgr colour) {
-        const auto letter = letters.find(colour);
+        const auto letter = expected.Colours.find(colour);
         rows.at(static_cast<std::size_t>(y)).at(static_cast<std::size_t>(x)) =
-            letter == letters.end() ? '?' : letter->second;
+            letter == expected.Colours.end() ? '?' : letter->second;
     };
     const auto fill = [&](const std::vector<Skin::Fill>& fills) {
         for (const auto& [area, top, bottom] : fills)
@@ -31,33 +27,13 @@ Rows Painted(Look look, QSize size, const std::map<Bgr, char>& letters) {
                 for (int x = area.left(); x <= area.right(); ++x)
                     dot(x, y, Between(top, bottom, y - area.top(), area.height()));
     };
-    const Skin::Face face = FaceOf(look, size);
+    const Skin::Face face = FaceOf(expected.Look, FaceRows::Size);
     fill(face.Lines);
     fill(face.Inside);
     for (const auto& [place, colour] : face.Corners)
         dot(place.x(), place.y(), colour);
     return rows;
 }
-
-/// What four of the faces have in common: border B and the corners 1, 2, 3 and 4.
-std::map<Bgr, char> With(std::map<Bgr, char> letters) {
-    letters.insert({{0x733200, 'B'}, {0x845521, '1'}, {0xAD967B, '2'}, {0xA57D52, '3'}, {0xDECFC6, '4'}});
-    return letters;
-}
-
-/// With the normal face's gradient in the three rows that a frame leaves of it.
-std::map<Bgr, char> WithFrame(std::map<Bgr, char> letters) {
-    letters.insert({{0xF7F7F7, 'a'}, {0xEFF1F3, 'c'}, {0xE7EBEF, 'e'}});
-    return With(letters);
-}
-
-/// A face that has a frame inside its border; the last row but two is its own.
-Rows Framed(const std::string& row) {
-    return {".41BBBBBB14.", "432hhhhhh234", "12iiiiiiii21", "BjjaaaaaajjB", "BkkcccccckkB", "BlleeeeeellB", row,
-            "432mmmmmm234", ".41BBBBBB14."};
-}
-
-constexpr QSize size{12, 9};
 
 } // namespace
 
@@ -70,76 +46,29 @@ TEST(SkinFace, AGradientRunsRedGreenAndBlueEachByItself) {
     EXPECT_EQ(Between(0x123456, 0xFFFFFF, 0, 1), 0x123456U);
 }
 
-// Five rows from F7F7F7 to E7EBEF: blue falls by 4 each, green by 3, red by 2.
 TEST(SkinFace, TheNormalFace) {
-    const auto letters = With({{0xF7F7F7, 'a'},
-                               {0xF3F4F5, 'b'},
-                               {0xEFF1F3, 'c'},
-                               {0xEBEEF1, 'd'},
-                               {0xE7EBEF, 'e'},
-                               {0xD6DFE7, 'f'},
-                               {0xC6D3D6, 'g'}});
-    const Rows expected{
-        ".41BBBBBB14.", //
-        "432aaaaaa234", //
-        "12bbbbbbbb21", //
-        "BccccccccccB", //
-        "BddddddddddB", //
-        "BeeeeeeeeeeB", //
-        "12ffffffff21", //
-        "432gggggg234", //
-        ".41BBBBBB14.",
-    };
-    EXPECT_EQ(Painted(Look::Normal, size, letters), expected);
+    EXPECT_EQ(Painted(FaceRows::Normal()), FaceRows::Normal().Pixels);
 }
 
-// Three rows between the lines: the middle one of each gradient is the mean, its halves towards the upper colour.
 TEST(SkinFace, TheFaceUnderThePointer) {
-    const auto letters = WithFrame(
-        {{0xCEF3FF, 'h'}, {0x8CDBFF, 'i'}, {0x9CDFE1, 'j'}, {0x66CBF0, 'k'}, {0x30B6FF, 'l'}, {0x31B2FF, 'm'}});
-    EXPECT_EQ(Painted(Look::Hover, size, letters), Framed("12mmmmmmmm21"));
+    EXPECT_EQ(Painted(FaceRows::Hover()), FaceRows::Hover().Pixels);
 }
 
 TEST(SkinFace, TheFaceWithTheFocus) {
-    const auto letters = WithFrame(
-        {{0xFFE7CE, 'h'}, {0xF7D7BD, 'i'}, {0xF7D3BD, 'j'}, {0xEFC1A5, 'k'}, {0xE7AE8C, 'l'}, {0xEF826B, 'm'}});
-    EXPECT_EQ(Painted(Look::Focus, size, letters), Framed("12llllllll21"));
+    EXPECT_EQ(Painted(FaceRows::Focus()), FaceRows::Focus().Pixels);
 }
 
 TEST(SkinFace, ThePressedFaceHasNoGradient) {
-    const auto letters = With({{0xD6DFE7, 'f'}, {0xE7EBEF, 'e'}, {0xEFF3F7, 'n'}});
-    const Rows expected{
-        ".41BBBBBB14.", //
-        "432ffffff234", //
-        "12eeeeeeee21", //
-        "BeeeeeeeeeeB", //
-        "BeeeeeeeeeeB", //
-        "BeeeeeeeeeeB", //
-        "12eeeeeeee21", //
-        "432nnnnnn234", //
-        ".41BBBBBB14.",
-    };
-    EXPECT_EQ(Painted(Look::Pressed, size, letters), expected);
+    EXPECT_EQ(Painted(FaceRows::Pressed()), FaceRows::Pressed().Pixels);
 }
 
 TEST(SkinFace, TheDisabledFaceHasOneColourForBorderAndCornersAndOneInside) {
-    const Rows expected{
-        ".xxxxxxxxxx.", //
-        "xxxyyyyyyxxx", //
-        "xxyyyyyyyyxx", //
-        "xyyyyyyyyyyx", //
-        "xyyyyyyyyyyx", //
-        "xyyyyyyyyyyx", //
-        "xxyyyyyyyyxx", //
-        "xxxyyyyyyxxx", //
-        ".xxxxxxxxxx.",
-    };
-    EXPECT_EQ(Painted(Look::Disabled, size, {{0xBDC7CE, 'x'}, {0xEFF7F7, 'y'}}), expected);
+    EXPECT_EQ(Painted(FaceRows::Disabled()), FaceRows::Disabled().Pixels);
 }
 
 TEST(SkinFace, CornersAreEightEightFourAndEightPixels) {
     std::map<Bgr, int> counts;
-    for (const auto& [place, colour] : FaceOf(Look::Normal, size).Corners)
+    for (const auto& [place, colour] : FaceOf(Look::Normal, FaceRows::Size).Corners)
         ++counts[colour];
     EXPECT_EQ(counts, (std::map<Bgr, int>{{0x845521, 8}, {0xAD967B, 8}, {0xA57D52, 4}, {0xDECFC6, 8}}));
 }
@@ -166,4 +95,45 @@ TEST(SkinFace, ThePaintedButtonsFaceIsChosenInItsOrder) {
         EXPECT_EQ(CommandButtonLook(one.State), one.Painted);
         EXPECT_EQ(UserControlLook(one.State), one.Slices);
     }
+}
+
+TEST(SkinFace, LinesOfThreePixelsTakeThreeOfEachRowAndLeaveTheCornersToCurves) {
+    const Skin::Face face = FaceOf(Look::Normal, {60, 36}, 3);
+    EXPECT_EQ(face.Lines.front().Area, QRect(9, 0, 42, 3));
+    EXPECT_EQ(face.Lines.back().Area, QRect(57, 9, 3, 18));
+    EXPECT_EQ(face.Inside.front().Area, QRect(3, 3, 54, 30));
+    EXPECT_EQ(face.Inside.at(1).Area, QRect(3, 27, 54, 3));
+    EXPECT_EQ(face.Inside.at(2).Area, QRect(3, 30, 54, 3));
+    EXPECT_EQ(face.Inside.back().Area, QRect(3, 3, 54, 24));
+    EXPECT_TRUE(face.Corners.empty());
+}
+
+TEST(SkinFace, AFaceIsCutIntoThreeSlicesOfItsOwnNumbers) {
+    struct Case {
+        Look State;
+        int Left;
+    };
+
+    for (const auto& [look, left] : std::vector<Case>{
+             {Look::Disabled, 12}, {Look::Pressed, 9}, {Look::Hover, 3}, {Look::Focus, 6}, {Look::Normal, 0}}) {
+        const auto [first, centre, right] = SlicesOf(look, 100);
+        EXPECT_EQ(first.Number, left);
+        EXPECT_EQ(centre.Number, left + 1);
+        EXPECT_EQ(right.Number, left + 2);
+        for (const int number : {first.Number, centre.Number, right.Number})
+            EXPECT_EQ(Skin::LookOfSlice(number), look);
+    }
+}
+
+TEST(SkinFace, TheCentreSliceIsStretchedBetweenTheTwoThatKeepTheirWidth) {
+    for (const int width : {100, 37, 8}) {
+        const auto [left, centre, right] = SlicesOf(Look::Normal, width);
+        EXPECT_EQ(left.X, 0);
+        EXPECT_EQ(left.Width, 4);
+        EXPECT_EQ(centre.X, 4);
+        EXPECT_EQ(centre.Width, width - 8);
+        EXPECT_EQ(right.X, width - 4);
+        EXPECT_EQ(right.Width, 4);
+    }
+    EXPECT_EQ(SlicesOf(Look::Normal, 5).at(1).Width, 0);
 }

@@ -33,6 +33,17 @@ TEST(SkinCaption, ABreakStandsBeforeSuchAWordOnlyBehindText) {
     EXPECT_EQ(Lines(u"enormously wide it is"_s, 8), (QStringList{u"enormously"_s, u"wide"_s, u"it is"_s}));
 }
 
+TEST(SkinCaption, ABlankInFrontBeginsNoLine) {
+    EXPECT_EQ(Lines(u" enormously"_s, 8), QStringList{u" enormously"_s});
+    EXPECT_EQ(Lines(u"  enormously wide"_s, 8), (QStringList{u"  enormously"_s, u"wide"_s}));
+}
+
+TEST(SkinCaption, TwoBlanksAreNoLineOfTheirOwn) {
+    EXPECT_EQ(Lines(u"a  b"_s, 12), QStringList{u"a  b"_s});
+    EXPECT_EQ(Lines(u"one  two"_s, 6), (QStringList{u"one "_s, u"two"_s}));
+    EXPECT_EQ(Lines(u"one "_s, 6), QStringList{u"one "_s});
+}
+
 TEST(SkinCaption, NothingHasOneEmptyLine) {
     EXPECT_EQ(Lines({}, 8), QStringList{QString()});
 }
@@ -71,9 +82,42 @@ TEST(SkinGlyph, UnderThePointerAnOrangeRingOfTwoPixelsLiesInsideTheBorder) {
     EXPECT_EQ(box[2].Area, QRect(3, 3, 7, 7));
 }
 
-TEST(SkinBar, TheInnerPictureIsEightPixelsNarrower) {
-    EXPECT_EQ(Skin::InnerWidth(208), 200);
-    EXPECT_EQ(Skin::InnerWidth(5), 0);
+TEST(SkinGlyph, EachFrameHasItsColours) {
+    for (const int marked : {0, 4}) {
+        const Skin::GlyphColours& normal = Skin::ColoursOfGlyph(marked);
+        EXPECT_EQ(normal.Border, 0x733200U);
+        EXPECT_EQ(normal.Top, 0xE7EBEFU);
+        EXPECT_EQ(normal.Bottom, 0xFFFFFFU);
+        EXPECT_FALSE(normal.Ring.has_value());
+        EXPECT_EQ(normal.Mark, 0x733200U);
+        EXPECT_EQ(Skin::ColoursOfGlyph(marked + 1).Ring, 0x31B2FFU);
+        const Skin::GlyphColours& pressed = Skin::ColoursOfGlyph(marked + 2);
+        EXPECT_EQ(pressed.Border, 0x733200U);
+        EXPECT_EQ(pressed.Top, 0xC6D3D6U);
+        EXPECT_EQ(pressed.Bottom, 0xE7EBEFU);
+        EXPECT_FALSE(pressed.Ring.has_value());
+        const Skin::GlyphColours& disabled = Skin::ColoursOfGlyph(marked + 3);
+        EXPECT_EQ(disabled.Border, 0xBDC7CEU);
+        EXPECT_EQ(disabled.Top, 0xEFF7F7U);
+        EXPECT_EQ(disabled.Bottom, 0xEFF7F7U);
+        EXPECT_FALSE(disabled.Ring.has_value());
+        EXPECT_EQ(disabled.Mark, 0x94A2A5U);
+    }
+}
+
+TEST(SkinGlyph, ABoxOfTwentySixPixelsHasLinesOfTwo) {
+    const std::vector<Skin::Fill> box = Skin::BoxOfGlyph(1, 26, 2);
+    EXPECT_EQ(box[1].Area, QRect(2, 2, 22, 22));
+    EXPECT_EQ(box[2].Area, QRect(6, 6, 14, 14));
+}
+
+TEST(SkinBar, TheInnerPictureIsEightPixelsNarrowerAndTheEndsAreFlush) {
+    const auto [first, inner, second] = Skin::PartsOfBar({208, 20});
+    EXPECT_EQ(first, QRect(0, 0, 4, 20));
+    EXPECT_EQ(inner, QRect(4, 3, 200, 14));
+    EXPECT_EQ(second, QRect(204, 0, 4, 20));
+    EXPECT_EQ(Skin::PartsOfBar({5, 20}).Inner.width(), 0);
+    EXPECT_EQ(Skin::PartsOfBar({5, 20}).Second.x(), 1);
 }
 
 TEST(SkinBar, TheClipGrowsInWholeBlocks) {

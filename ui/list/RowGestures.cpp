@@ -4,6 +4,7 @@
 #include "ui/list/RowGestures.h"
 
 #include "ui/list/RowListModel.h"
+#include "ui/skin/EnterKey.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -17,10 +18,6 @@ namespace {
 bool IsModifier(int key) {
     return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta ||
            key == Qt::Key_AltGr;
-}
-
-bool IsEnter(int key) {
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 } // namespace
@@ -84,7 +81,7 @@ bool RowGestures::KeyEvent(const QKeyEvent& event) {
         return false;
     const int key = event.key();
     const bool press = event.type() == QEvent::KeyPress;
-    if (press && IsEnter(key)) {
+    if (press && Skin::IsEnter(key)) {
         // A key that is held down opens a file once.
         if (!event.isAutoRepeat())
             Q_EMIT RowActivated(row.row());
@@ -93,7 +90,7 @@ bool RowGestures::KeyEvent(const QKeyEvent& event) {
     if (press && key == Qt::Key_Space && event.modifiers() == Qt::NoModifier && ToggleChecks())
         return true;
     // A key has moved the selection by the time it is let go of.
-    if (!press && !IsEnter(key) && key != Qt::Key_Delete && !IsModifier(key) && selection->isSelected(row))
+    if (!press && !Skin::IsEnter(key) && key != Qt::Key_Delete && !IsModifier(key) && selection->isSelected(row))
         Q_EMIT RowClicked(row.row());
     return false;
 }

@@ -5,7 +5,7 @@
 
 #include "ui/look/Style.h"
 
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace {
@@ -35,7 +35,7 @@ bool PictureButton::event(QEvent* event) {
     const bool ofPointer = event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress ||
                            event->type() == QEvent::MouseButtonRelease;
     if (isEnabled() || !ofPointer)
-        return QPushButton::event(event);
+        return enter_.Takes(*event, *this) || QPushButton::event(event);
     event->ignore();
     return false;
 }
@@ -57,11 +57,4 @@ void PictureButton::mouseMoveEvent(QMouseEvent* event) {
     QPushButton::mouseMoveEvent(event);
     event->accept();
     Q_EMIT MouseMoved();
-}
-
-void PictureButton::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
-        QPushButton::keyPressEvent(event);
 }

@@ -4,6 +4,8 @@
 /// A text on a picture that acts as a button: no face, only its caption in the colour of the moment.
 #pragma once
 
+#include "ui/skin/EnterKey.h"
+
 #include <QColor>
 #include <QPushButton>
 
@@ -27,8 +29,8 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QColor colour_ = Qt::white;
+    Skin::EnterKey enter_;
 };

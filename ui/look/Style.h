@@ -4,6 +4,8 @@
 /// The look of the family of windows: colours, fonts, and what the toolkit's own controls are dressed in.
 #pragma once
 
+#include "ui/skin/Colours.h"
+
 #include <QColor>
 #include <QFont>
 
@@ -11,17 +13,23 @@ class QApplication;
 
 namespace Style {
 
+constexpr QColor FromBgr(Skin::Bgr colour) {
+    constexpr Skin::Bgr part = 0xFF;
+    return {static_cast<int>(colour & part), static_cast<int>(colour >> 8 & part),
+            static_cast<int>(colour >> 16 & part)};
+}
+
 namespace Colour {
-inline constexpr QColor Border{0, 50, 115};
+inline constexpr QColor Border = FromBgr(Skin::Colour::Border);
 /// Of boxes with text and of lists; with the focus they have the border's colour.
 inline constexpr QColor FieldBorder{127, 157, 185};
 inline constexpr QColor GroupBorder{185, 205, 239};
-inline constexpr QColor DisabledBorder{206, 199, 189};
-inline constexpr QColor DisabledText{165, 162, 148};
-inline constexpr QColor Face{239, 235, 231};
-inline constexpr QColor FaceBright{247, 247, 247};
-inline constexpr QColor Hover{255, 178, 49};
-inline constexpr QColor Focus{140, 174, 231};
+inline constexpr QColor DisabledBorder = FromBgr(Skin::Colour::DisabledBorder);
+inline constexpr QColor DisabledText = FromBgr(Skin::Colour::DisabledText);
+inline constexpr QColor Face = FromBgr(Skin::Colour::Face);
+inline constexpr QColor FaceBright = FromBgr(Skin::Colour::FaceBright);
+inline constexpr QColor Hover = FromBgr(Skin::Colour::Hover);
+inline constexpr QColor Focus = FromBgr(Skin::Colour::Focus);
 inline constexpr QColor Selection{49, 106, 197};
 inline constexpr QColor Link{0, 34, 128};
 inline constexpr QColor Notice{255, 243, 220};

@@ -6,8 +6,11 @@
 #include <algorithm>
 #include <cmath>
 
-int Skin::InnerWidth(int width) {
-    return std::max(0, width - 2 * BarEnd);
+Skin::BarParts Skin::PartsOfBar(const QSize& size) {
+    constexpr int above = 3;
+    return {.First = {0, 0, BarEnd, size.height()},
+            .Inner = {BarEnd, above, std::max(0, size.width() - 2 * BarEnd), std::max(0, size.height() - 2 * above)},
+            .Second = {size.width() - BarEnd, 0, BarEnd, size.height()}};
 }
 
 int Skin::ClipWidth(int progress, int innerWidth) {

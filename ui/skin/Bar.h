@@ -13,8 +13,15 @@ inline constexpr int BlockWidth = 7;
 /// Each of the pictures at the bar's two ends.
 inline constexpr int BarEnd = 4;
 
-/// The width of the bar's inner picture in a control of that width; none below 0.
-int InnerWidth(int width);
+/// A progress bar's two ends and the inner picture, which hides what lies outside of it.
+struct BarParts {
+    QRect First;
+    QRect Inner;
+    QRect Second;
+};
+
+/// The inner picture is 8 pixels narrower than the bar; the second end lies 4 pixels from the right.
+BarParts PartsOfBar(const QSize& size);
 
 /// How far the blocks reach at `progress` percent: whole blocks, rounded (a half to the even one). May be wider than
 /// the inner picture, which hides the surplus.

@@ -8,14 +8,12 @@ constexpr int sideRoom = 3;
 } // namespace
 
 QStringList Skin::WrapWords(const QString& caption, int width, const std::function<int(const QString&)>& widthOf) {
-    QStringList lines;
-    for (const QString& word : caption.split(u' ')) {
-        if (lines.isEmpty()) {
-            lines += word;
-            continue;
-        }
+    const QStringList words = caption.split(u' ');
+    QStringList lines{words.first()};
+    for (const QString& word : words.sliced(1)) {
         const QString longer = lines.constLast() + u' ' + word;
-        if (widthOf(longer) > width - sideRoom)
+        const bool hasText = !lines.constLast().trimmed().isEmpty();
+        if (hasText && !word.isEmpty() && widthOf(longer) > width - sideRoom)
             lines += word;
         else
             lines.last() = longer;

@@ -12,7 +12,8 @@
 namespace Skin {
 
 /// The caption's lines: words, split at blanks, of which one goes to a new line when with it the line would be wider
-/// than the control's width less 3. A single word that is too wide stays in one line. `widthOf` measures a text in the
+/// than the control's width less 3. A single word that is too wide stays in one line, and no line begins before
+/// there is text in the one above. `widthOf` measures a text in the
 /// unit of `width`.
 QStringList WrapWords(const QString& caption, int width, const std::function<int(const QString&)>& widthOf);
 

@@ -37,4 +37,5 @@ protected:
 private:
     QColor foreColour_ = Qt::black;
     bool leftWhilePressed_ = false;
+    bool clicking_ = false; ///< while it is told of the click that a mouse button has ended
 };

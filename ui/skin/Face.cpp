@@ -3,6 +3,7 @@
 
 #include "ui/skin/Face.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -40,69 +41,69 @@ struct Theme {
     std::array<Bgr, 4> Corners;
 };
 
-constexpr Bgr border = 0x733200;
-constexpr Bgr ground = 0xE7EBEF;
-constexpr Gradient body{0xE7EBEF, 0xF7F7F7};
-constexpr std::array<Bgr, 4> corners{0x845521, 0xAD967B, 0xA57D52, 0xDECFC6};
+using namespace Skin::Colour;
 
-constexpr Bgr disabledBorder = 0xBDC7CE;
-constexpr Bgr disabledGround = 0xEFF7F7;
+constexpr Gradient body{Face, FaceBright};
+constexpr std::array<Bgr, 4> corners{0x845521, 0xAD967B, 0xA57D52, 0xDECFC6};
 
 /// By Look.
 constexpr std::array<Theme, 5> themes{{
-    {border, ground, {{{-3, 1, 0xD6DFE7}, {-2, 1, 0xC6D3D6}}}, body, {}, corners},
-    {border,
-     ground,
-     {{{-3, 1, 0x31B2FF}, {-2, 1, 0x31B2FF}}},
+    {Border, Face, {{{-3, 1, 0xD6DFE7}, {-2, 1, 0xC6D3D6}}}, body, {}, corners},
+    {Border,
+     Face,
+     {{{-3, 1, Hover}, {-2, 1, Hover}}},
      body,
      Accent{{0xCEF3FF, 0x8CDBFF}, {0x30B6FF, 0x9CDFE1}},
      corners},
-    {border,
-     ground,
-     {{{-3, 1, 0xE7AE8C}, {-2, 1, 0xEF826B}}},
+    {Border,
+     Face,
+     {{{-3, 1, Focus}, {-2, 1, 0xEF826B}}},
      body,
-     Accent{{0xFFE7CE, 0xF7D7BD}, {0xE7AE8C, 0xF7D3BD}},
+     Accent{{0xFFE7CE, 0xF7D7BD}, {Focus, 0xF7D3BD}},
      corners},
-    {border, ground, {{{1, 1, 0xD6DFE7}, {-2, 1, 0xEFF3F7}}}, {}, {}, corners},
-    {disabledBorder,
-     disabledGround,
-     {{{-3, 1, disabledGround}, {-2, 1, disabledGround}}},
+    {Border, Face, {{{1, 1, 0xD6DFE7}, {-2, 1, 0xEFF3F7}}}, {}, {}, corners},
+    {DisabledBorder,
+     FaceDisabled,
+     {{{-3, 1, FaceDisabled}, {-2, 1, FaceDisabled}}},
      {},
      {},
-     {disabledBorder, disabledBorder, disabledBorder, disabledBorder}},
+     {DisabledBorder, DisabledBorder, DisabledBorder, DisabledBorder}},
 }};
+
+constexpr int slicesOfAFace = 3;
+constexpr int sliceEnd = 4; // a corner and what goes on with it
 
 constexpr int accentWidth = 2;
 constexpr int innerLines = 2; // rows that the lines below take
 
-std::vector<Fill> BorderLines(Bgr colour, QSize size) {
-    constexpr int reach = Skin::CornerReach;
-    const int right = size.width() - 1, bottom = size.height() - 1;
+std::vector<Fill> BorderLines(Bgr colour, QSize size, int line) {
+    const int reach = Skin::CornerReach * line;
+    const int right = size.width() - line, bottom = size.height() - line;
     const int across = size.width() - 2 * reach, down = size.height() - 2 * reach;
-    return {{{reach, 0, across, 1}, colour, colour},
-            {{reach, bottom, across, 1}, colour, colour},
-            {{0, reach, 1, down}, colour, colour},
-            {{right, reach, 1, down}, colour, colour}};
+    return {{{reach, 0, across, line}, colour, colour},
+            {{reach, bottom, across, line}, colour, colour},
+            {{0, reach, line, down}, colour, colour},
+            {{right, reach, line, down}, colour, colour}};
 }
 
-std::vector<Fill> InsideOf(const Theme& theme, QSize size) {
-    const QRect inside = QRect(QPoint(), size).adjusted(1, 1, -1, -1);
+std::vector<Fill> InsideOf(const Theme& theme, QSize size, int line) {
+    const QRect inside = QRect(QPoint(), size).adjusted(line, line, -line, -line);
     std::vector<Fill> fills{{inside, theme.Ground, theme.Ground}};
-    for (const InnerLine& line : theme.InnerLines) {
-        const int row = line.First < 0 ? size.height() + line.First : line.First;
-        fills.push_back({{inside.x(), row, inside.width(), line.Rows}, line.Colour, line.Colour});
+    for (const InnerLine& inner : theme.InnerLines) {
+        const int row = (inner.First < 0 ? size.height() : 0) + inner.First * line;
+        fills.push_back({{inside.x(), row, inside.width(), inner.Rows * line}, inner.Colour, inner.Colour});
     }
-    QRect face = inside.adjusted(0, 0, 0, -innerLines);
+    QRect face = inside.adjusted(0, 0, 0, -innerLines * line);
     if (theme.Frame) {
         for (const Bgr colour : theme.Frame->TopLines) {
-            fills.push_back({{face.x(), face.y(), face.width(), 1}, colour, colour});
-            face.setTop(face.top() + 1);
+            fills.push_back({{face.x(), face.y(), face.width(), line}, colour, colour});
+            face.setTop(face.top() + line);
         }
         const Gradient& sides = theme.Frame->Sides;
-        fills.push_back({{face.x(), face.y(), accentWidth, face.height()}, sides.Upper, sides.Lower});
-        fills.push_back(
-            {{face.right() + 1 - accentWidth, face.y(), accentWidth, face.height()}, sides.Upper, sides.Lower});
-        face.adjust(accentWidth, 0, -accentWidth, 0);
+        const int accent = accentWidth * line;
+        fills.push_back({{face.x(), face.y(), accent, face.height()}, sides.Upper, sides.Lower});
+        fills.push_back({{face.right() + 1 - accent, face.y(), accent, face.height()}, sides.Upper, sides.Lower});
+        face.adjust(accent, 0, -accent, 0);
     }
     if (theme.Body)
         fills.push_back({face, theme.Body->Upper, theme.Body->Lower});
@@ -160,7 +161,19 @@ Look Skin::UserControlLook(const ButtonState& state) {
     return state.Focus ? Look::Focus : Look::Normal;
 }
 
-Skin::Face Skin::FaceOf(Look look, QSize size) {
+std::array<Skin::Slice, 3> Skin::SlicesOf(Look look, int width) {
+    const int left = static_cast<int>(look) * slicesOfAFace;
+    return {{{left, 0, sliceEnd},
+             {left + 1, sliceEnd, std::max(0, width - 2 * sliceEnd)},
+             {left + 2, width - sliceEnd, sliceEnd}}};
+}
+
+Look Skin::LookOfSlice(int number) {
+    return static_cast<Look>(number / slicesOfAFace);
+}
+
+Skin::Face Skin::FaceOf(Look look, QSize size, int line) {
     const Theme& theme = themes.at(static_cast<std::size_t>(look));
-    return {theme.Border, BorderLines(theme.Border, size), InsideOf(theme, size), CornersOf(theme, size)};
+    return {theme.Border, BorderLines(theme.Border, size, line), InsideOf(theme, size, line),
+            line == 1 ? CornersOf(theme, size) : std::vector<Dot>()};
 }

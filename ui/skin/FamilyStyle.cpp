@@ -5,15 +5,13 @@
 
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
+#include "ui/skin/DevicePixels.h"
 #include "ui/skin/Glyph.h"
 #include "ui/skin/SkinPainter.h"
 
 #include <QAbstractScrollArea>
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleOption>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -49,32 +47,33 @@ QColor FrameColour(const QStyleOption& option) {
     return option.state.testFlag(QStyle::State_HasFocus) ? Style::Colour::Border : Style::Colour::FieldBorder;
 }
 
-// The frame of a list or a text box, flush with its outer edge: on a screen of 125 or 150 % what the box holds covers a
-// part of a line that lies further in, and two of its sides were not seen.
-void PaintFrame(QPainter& painter, const QStyleOption& option) {
-    const qreal density = painter.deviceTransform().m11();
-    const QRectF outside = option.rect;
-    const qreal line = std::floor(density) / density;
-    QPainterPath frame;
-    frame.addRect(outside);
-    frame.addRect(outside.adjusted(line, line, -line, -line));
-    painter.fillPath(frame, FrameColour(option));
+// A line along the area's edge, flush with it: what a box holds covers a part of a line that lies further in.
+void PaintEdge(QPainter& painter, const QRect& area, const QColor& colour) {
+    const Skin::DevicePixels pixels(painter, area);
+    const int line = pixels.Line();
+    painter.setClipRegion(QRegion(pixels.Area()) - QRegion(pixels.Area().adjusted(line, line, -line, -line)),
+                          Qt::IntersectClip);
+    painter.fillRect(pixels.Area(), colour);
 }
 
 void PaintHint(QPainter& painter, const QStyleOption& option) {
-    painter.fillRect(option.rect, Style::Colour::Border);
-    painter.fillRect(option.rect.adjusted(1, 1, -1, -1), option.palette.toolTipBase());
+    painter.fillRect(option.rect, option.palette.toolTipBase());
+    PaintEdge(painter, option.rect, Style::Colour::Border);
 }
 
 // Half of the title stands above the frame, on the ground that interrupts it.
 constexpr int titleLeft = 8, titleRoom = 4, aboveFrame = 8;
 
 void PaintGroup(QPainter& painter, const QStyleOptionGroupBox& option) {
+    {
+        const Skin::DevicePixels pixels(painter, option.rect.adjusted(0, aboveFrame, 0, 0));
+        const qreal line = pixels.Line(), half = line / 2, reach = Skin::CornerReach * line;
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(Style::Colour::GroupBorder, line));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(pixels.Area()).adjusted(half, half, -half, -half), reach, reach);
+    }
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Style::Colour::GroupBorder, 1));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, aboveFrame + 0.5, -0.5, -0.5), 3, 3);
     if (!option.text.isEmpty()) {
         const QSize text = option.fontMetrics.size(Qt::TextShowMnemonic, option.text);
         const QRect title(option.rect.topLeft() + QPoint(titleLeft, 0),
@@ -142,7 +141,7 @@ void FamilyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         PaintIndicator(*painter, *option, Skin::Mark::Dot);
     else if (element == PE_FrameLineEdit ||
              (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr))
-        PaintFrame(*painter, *option);
+        PaintEdge(*painter, option->rect, FrameColour(*option));
     else if (element == PE_PanelButtonTool)
         PaintToolButton(*painter, *option);
     else if (element == PE_PanelTipLabel)

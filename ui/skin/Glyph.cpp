@@ -8,15 +8,15 @@
 namespace {
 
 constexpr int states = 4;
-constexpr Skin::Bgr border = 0x733200;
-constexpr Skin::Bgr disabled = 0xBDC7CE;
+
+using namespace Skin::Colour;
 
 /// Normal, pointer over, pressed, disabled.
 constexpr std::array<Skin::GlyphColours, states> colours{{
-    {border, 0xE7EBEF, 0xFFFFFF, {}, border},
-    {border, 0xE7EBEF, 0xFFFFFF, 0x31B2FF, border},
-    {border, 0xC6D3D6, 0xE7EBEF, {}, border},
-    {disabled, 0xEFF7F7, 0xEFF7F7, {}, 0x94A2A5},
+    {Border, Face, 0xFFFFFF, {}, Border},
+    {Border, Face, 0xFFFFFF, Hover, Border},
+    {Border, 0xC6D3D6, Face, {}, Border},
+    {DisabledBorder, FaceDisabled, FaceDisabled, {}, DisabledText},
 }};
 
 } // namespace
@@ -40,14 +40,14 @@ const Skin::GlyphColours& Skin::ColoursOfGlyph(int frame) {
     return colours.at(static_cast<std::size_t>(frame % states));
 }
 
-std::vector<Skin::Fill> Skin::BoxOfGlyph(int frame) {
+std::vector<Skin::Fill> Skin::BoxOfGlyph(int frame, int side, int line) {
     const GlyphColours& parts = ColoursOfGlyph(frame);
-    QRect area(0, 0, GlyphSize, GlyphSize);
+    QRect area(0, 0, side, side);
     std::vector<Fill> fills{{area, parts.Border, parts.Border}};
-    area.adjust(1, 1, -1, -1);
+    area.adjust(line, line, -line, -line);
     if (parts.Ring) {
         fills.push_back({area, *parts.Ring, *parts.Ring});
-        area.adjust(2, 2, -2, -2);
+        area.adjust(2 * line, 2 * line, -2 * line, -2 * line);
     }
     fills.push_back({area, parts.Top, parts.Bottom});
     return fills;

@@ -26,14 +26,14 @@ struct GlyphColours {
     Bgr Border;
     Bgr Top; ///< the ground, a gradient
     Bgr Bottom;
-    std::optional<Bgr> Ring; ///< two pixels inside the border
+    std::optional<Bgr> Ring; ///< two lines inside the border
     Bgr Mark;
 };
 
 /// The colours of a frame, with or without its mark.
 const GlyphColours& ColoursOfGlyph(int frame);
 
-/// The pixels of a check box's frame without its mark.
-std::vector<Fill> BoxOfGlyph(int frame);
+/// The pixels of a check box's frame without its mark, in a square of that side with lines `line` pixels wide.
+std::vector<Fill> BoxOfGlyph(int frame, int side = GlyphSize, int line = 1);
 
 } // namespace Skin

@@ -25,3 +25,19 @@ bool SkinButton::event(QEvent* event) {
     pointer_.Follow(*event, *this);
     return QPushButton::event(event);
 }
+
+// Whichever button it is. This is meant.
+void SkinButton::mousePressEvent(QMouseEvent* event) {
+    QMouseEvent left = Skin::AsLeft(*event);
+    QPushButton::mousePressEvent(&left);
+}
+
+void SkinButton::mouseMoveEvent(QMouseEvent* event) {
+    QMouseEvent left = Skin::AsLeft(*event);
+    QPushButton::mouseMoveEvent(&left);
+}
+
+void SkinButton::mouseReleaseEvent(QMouseEvent* event) {
+    QMouseEvent left = Skin::AsLeft(*event);
+    QPushButton::mouseReleaseEvent(&left);
+}

@@ -21,6 +21,9 @@ protected:
     [[nodiscard]] Skin::ButtonState State() const;
 
     bool event(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     Skin::Pointer pointer_;

@@ -5,6 +5,7 @@
 
 #include "ui/look/Style.h"
 #include "ui/skin/Bar.h"
+#include "ui/skin/DevicePixels.h"
 #include "ui/skin/Glyph.h"
 
 #include <QLinearGradient>
@@ -13,42 +14,19 @@
 
 namespace {
 
+using Skin::DevicePixels;
 using Skin::Fill;
-using Skin::ToColour;
-
-bool IsAtScale1(const QPainter& painter) {
-    return painter.deviceTransform().m11() == 1;
-}
-
-class Saved {
-public:
-    explicit Saved(QPainter& painter) : painter_(painter) { painter_.save(); }
-
-    Saved(const Saved&) = delete;
-    Saved& operator=(const Saved&) = delete;
-
-    ~Saved() { painter_.restore(); }
-
-private:
-    QPainter& painter_;
-};
+using Style::FromBgr;
 
 void PaintFill(QPainter& painter, const Fill& fill) {
     const QRect& area = fill.Area;
     if (fill.Top == fill.Bottom) {
-        painter.fillRect(area, ToColour(fill.Top));
-        return;
-    }
-    if (!IsAtScale1(painter)) {
-        QLinearGradient gradient(0, area.top(), 0, area.top() + area.height());
-        gradient.setColorAt(0, ToColour(fill.Top));
-        gradient.setColorAt(1, ToColour(fill.Bottom));
-        painter.fillRect(area, gradient);
+        painter.fillRect(area, FromBgr(fill.Top));
         return;
     }
     for (int line = 0; line < area.height(); ++line)
         painter.fillRect(area.x(), area.y() + line, area.width(), 1,
-                         ToColour(Skin::Between(fill.Top, fill.Bottom, line, area.height())));
+                         FromBgr(Skin::Between(fill.Top, fill.Bottom, line, area.height())));
 }
 
 void PaintFills(QPainter& painter, const std::vector<Fill>& fills) {
@@ -56,18 +34,31 @@ void PaintFills(QPainter& painter, const std::vector<Fill>& fills) {
         PaintFill(painter, fill);
 }
 
-/// Where there is more than a pixel to a unit: the border is a ring with round corners, and what lies inside is cut to
-/// the ring's inner edge.
-void PaintCurved(QPainter& painter, const Skin::Face& face, const QSize& size) {
-    const QRectF outside(QPointF(), size);
+/// A ring along the area's edge with round corners. What is painted next is cut to its inner edge.
+void PaintRing(QPainter& painter, const DevicePixels& pixels, const QColor& colour) {
+    const QRectF outside = pixels.Area();
+    const int line = pixels.Line(), reach = Skin::CornerReach * line;
     QPainterPath ring, hole;
-    ring.addRoundedRect(outside, Skin::CornerReach, Skin::CornerReach);
-    hole.addRoundedRect(outside.adjusted(1, 1, -1, -1), Skin::CornerReach - 1, Skin::CornerReach - 1);
+    ring.addRoundedRect(outside, reach, reach);
+    hole.addRoundedRect(outside.adjusted(line, line, -line, -line), reach - line, reach - line);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(ring, ToColour(face.Border));
+    painter.fillPath(ring, colour);
     painter.setClipPath(hole, Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+// Where a line is more than a pixel, blocks of pixels would make coarse corners.
+void PaintPlan(QPainter& painter, const DevicePixels& pixels, Skin::Look look) {
+    const Skin::Face face = FaceOf(look, pixels.Area().size(), pixels.Line());
+    if (pixels.Line() > 1) {
+        PaintRing(painter, pixels, FromBgr(face.Border));
+        PaintFills(painter, face.Inside);
+        return;
+    }
+    PaintFills(painter, face.Lines);
     PaintFills(painter, face.Inside);
+    for (const auto& [place, colour] : face.Corners)
+        painter.fillRect(QRect(place, QSize(1, 1)), FromBgr(colour));
 }
 
 void PaintTick(QPainter& painter, const QColor& colour) {
@@ -76,96 +67,104 @@ void PaintTick(QPainter& painter, const QColor& colour) {
     painter.drawPolyline(tick);
 }
 
-void PaintCircle(QPainter& painter, int frame, Skin::Ticked ticked) {
+void PaintCircle(QPainter& painter, const DevicePixels& pixels, int frame) {
     const Skin::GlyphColours& parts = Skin::ColoursOfGlyph(frame);
-    const QRectF outside(0.5, 0.5, Skin::GlyphSize - 1, Skin::GlyphSize - 1);
-    QLinearGradient ground(outside.topLeft(), outside.bottomLeft());
-    ground.setColorAt(0, ToColour(parts.Top));
-    ground.setColorAt(1, ToColour(parts.Bottom));
-    painter.setPen(QPen(ToColour(parts.Border), 1));
+    const qreal line = pixels.Line(), half = line / 2;
+    const QRectF middle = QRectF(pixels.Area()).adjusted(half, half, -half, -half); // of the border
+    QLinearGradient ground(middle.topLeft(), middle.bottomLeft());
+    ground.setColorAt(0, FromBgr(parts.Top));
+    ground.setColorAt(1, FromBgr(parts.Bottom));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(FromBgr(parts.Border), line));
     painter.setBrush(ground);
-    painter.drawEllipse(outside);
+    painter.drawEllipse(middle);
     if (parts.Ring) {
+        const qreal inside = half + line;
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(ToColour(*parts.Ring), 2));
-        painter.drawEllipse(outside.adjusted(1.5, 1.5, -1.5, -1.5));
+        painter.setPen(QPen(FromBgr(*parts.Ring), 2 * line));
+        painter.drawEllipse(middle.adjusted(inside, inside, -inside, -inside));
     }
-    if (ticked == Skin::Ticked::No)
-        return;
-    constexpr qreal radius = 2.5;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ToColour(parts.Mark));
-    painter.drawEllipse(outside.center(), radius, radius);
+}
+
+/// In units from the glyph's upper left corner.
+void PaintMark(QPainter& painter, Skin::Mark mark, Skin::Ticked ticked, const QColor& colour) {
+    constexpr int edge = 4;
+    constexpr qreal middle = Skin::GlyphSize / 2.0, radius = 2.5;
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (mark == Skin::Mark::Dot) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colour);
+        painter.drawEllipse(QPointF(middle, middle), radius, radius);
+    } else if (ticked == Skin::Ticked::Yes) {
+        PaintTick(painter, colour);
+    } else {
+        painter.fillRect(QRect(0, 0, Skin::GlyphSize, Skin::GlyphSize).adjusted(edge, edge, -edge, -edge), colour);
+    }
 }
 
 } // namespace
 
-QColor Skin::ToColour(Bgr colour) {
-    constexpr Bgr part = 0xFF;
-    return QColor(static_cast<int>(colour & part), static_cast<int>(colour >> 8 & part),
-                  static_cast<int>(colour >> 16 & part));
+void Skin::PaintFace(QPainter& painter, const QRect& area, Look look) {
+    const DevicePixels pixels(painter, area);
+    PaintPlan(painter, pixels, look);
 }
 
-void Skin::PaintFace(QPainter& painter, const QRect& area, Look look) {
-    const Saved saved(painter);
-    painter.translate(area.topLeft());
-    const Face face = FaceOf(look, area.size());
-    if (!IsAtScale1(painter)) {
-        PaintCurved(painter, face, area.size());
-        return;
+void Skin::PaintSlices(QPainter& painter, const QRect& area, Look look) {
+    const DevicePixels pixels(painter, area);
+    for (const auto& [number, x, width] : SlicesOf(look, area.width())) {
+        painter.save();
+        painter.setClipRect(pixels.Of({x, 0, width, area.height()}), Qt::IntersectClip);
+        PaintPlan(painter, pixels, LookOfSlice(number));
+        painter.restore();
     }
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    PaintFills(painter, face.Lines);
-    PaintFills(painter, face.Inside);
-    for (const auto& [place, colour] : face.Corners)
-        painter.fillRect(QRect(place, QSize(1, 1)), ToColour(colour));
 }
 
 void Skin::PaintGlyph(QPainter& painter, const QPoint& place, Mark mark, const ButtonState& state, Ticked ticked) {
-    const Saved saved(painter);
-    painter.translate(place);
+    const DevicePixels pixels(painter, QRect(place, QSize(GlyphSize, GlyphSize)));
     const int frame = GlyphFrame(state, ticked != Ticked::No);
-    const QColor colour = ToColour(ColoursOfGlyph(frame).Mark);
-    if (mark == Mark::Dot) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        PaintCircle(painter, frame, ticked);
+    if (mark == Mark::Dot)
+        PaintCircle(painter, pixels, frame);
+    else
+        PaintFills(painter, BoxOfGlyph(frame, pixels.Area().width(), pixels.Line()));
+    if (ticked == Ticked::No)
         return;
-    }
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    PaintFills(painter, BoxOfGlyph(frame));
-    painter.setRenderHint(QPainter::Antialiasing);
-    constexpr int edge = 4;
-    if (ticked == Ticked::Yes)
-        PaintTick(painter, colour);
-    else if (ticked == Ticked::Partly)
-        painter.fillRect(QRect(0, 0, GlyphSize, GlyphSize).adjusted(edge, edge, -edge, -edge), colour);
+    painter.scale(pixels.Area().width() / qreal(GlyphSize), pixels.Area().height() / qreal(GlyphSize));
+    PaintMark(painter, mark, ticked, FromBgr(ColoursOfGlyph(frame).Mark));
 }
 
 void Skin::PaintFocus(QPainter& painter, const QRect& area) {
-    const Saved saved(painter);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Style::Colour::Border, 1, Qt::DotLine));
-    painter.drawRect(area.adjusted(0, 0, -1, -1));
+    const DevicePixels pixels(painter, area);
+    const QRect& edge = pixels.Area();
+    const int dot = pixels.Line(), right = edge.width() - dot, bottom = edge.height() - dot;
+    for (int x = 0; x <= right; x += 2 * dot)
+        for (const int y : {0, bottom})
+            painter.fillRect(x, y, dot, dot, Style::Colour::Border);
+    for (int y = 0; y <= bottom; y += 2 * dot)
+        for (const int x : {0, right})
+            painter.fillRect(x, y, dot, dot, Style::Colour::Border);
 }
 
 void Skin::PaintProgress(QPainter& painter, const QRect& area, int progress) {
-    const Saved saved(painter);
-    painter.translate(area.topLeft());
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Style::Colour::Border, 1));
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(QRectF(QPointF(), area.size()).adjusted(0.5, 0.5, -0.5, -0.5), CornerReach, CornerReach);
-    const int inner = InnerWidth(area.width());
-    const int clip = ClipWidth(progress, inner);
-    if (clip <= 0)
-        return;
-    constexpr int above = 3, gap = 1;
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setClipRect(QRect(BarEnd, above, inner, area.height() - 2 * above), Qt::IntersectClip);
+    const DevicePixels pixels(painter, area);
+    const auto [first, inner, second] = PartsOfBar(area.size());
+    const QRect ground = pixels.Of({first.width(), 0, inner.width(), area.height()});
+    const int line = pixels.Line();
+    painter.fillRect(ground, Style::Colour::Border);
+    painter.fillRect(ground.adjusted(0, line, 0, -line), Qt::white);
+    for (const QRect& end : {first, second}) {
+        painter.save();
+        painter.setClipRect(pixels.Of(end), Qt::IntersectClip);
+        PaintRing(painter, pixels, Style::Colour::Border);
+        painter.fillRect(pixels.Area(), Qt::white);
+        painter.restore();
+    }
+    painter.setClipRect(pixels.Of(inner), Qt::IntersectClip);
     constexpr Bgr light = 0x8CD8FF, full = 0x008EF2;
-    for (int left = 0; left < clip; left += BlockWidth)
-        PaintFill(painter, {{BarEnd + left, above, BlockWidth - gap, area.height() - 2 * above}, light, full});
+    const int clip = ClipWidth(progress, inner.width());
+    for (int left = 0; left < clip; left += BlockWidth) {
+        const QRect block = pixels.Of({inner.x() + left, inner.y(), BlockWidth, inner.height()});
+        PaintFill(painter, {block.adjusted(0, 0, -line, 0), light, full}); // and a gap behind it
+    }
 }
 
 QSize Skin::ButtonSize(const QSize& caption) {

@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// Draws the family's buttons, marks and bars: the one painter behind its own controls and behind the buttons that the
-/// toolkit makes. Pixel by pixel at scale 1, as curves at every other scale.
+/// toolkit makes. All of it on whole pixels of the screen; corners are pixels where a line is one, else curves.
 #pragma once
 
 #include "ui/skin/Face.h"
-
-#include <QColor>
 
 class QFontMetrics;
 class QPainter;
@@ -17,9 +15,10 @@ class QString;
 
 namespace Skin {
 
-QColor ToColour(Bgr colour);
-
 void PaintFace(QPainter& painter, const QRect& area, Look look);
+
+/// The same out of its three slices.
+void PaintSlices(QPainter& painter, const QRect& area, Look look);
 
 /// A check box's mark is drawn in a box, an option button's in a circle.
 enum class Mark { Tick, Dot };

@@ -31,13 +31,15 @@ void TavelOptionButton::nextCheckState() {
 }
 
 void TavelOptionButton::checkStateSet() {
+    const bool byHost = IsTickedByHost(); // what stores a value has walked the group before
     TickControl::checkStateSet();
-    if (isChecked())
+    if (byHost)
         ClearOthers();
 }
 
 void TavelOptionButton::ClearOthers() {
+    // What a window owns has groups of its own.
     for (TavelOptionButton* const other : window()->findChildren<TavelOptionButton*>())
-        if (other != this && other->group_ == group_ && other->Value() != 0)
+        if (other != this && other->group_ == group_ && other->window() == window())
             other->SetValue(0);
 }

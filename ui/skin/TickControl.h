@@ -74,10 +74,15 @@ protected:
         Q_EMIT Self().ValueChanged(value);
     }
 
+    /// Whether a host has set the checked state since, and not StoreValue: the value follows in checkStateSet.
+    [[nodiscard]] bool IsTickedByHost() const { return this->isChecked() && value_ != 1; }
+
     void checkStateSet() override {
         Base::checkStateSet();
         if (this->isChecked())
             value_ = 1;
+        else if (value_ == 1)
+            value_ = 0;
     }
 
     [[nodiscard]] bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
@@ -129,8 +134,13 @@ void TickControl<Control, Base>::paintEvent(QPaintEvent* /*event*/) {
         .Enabled = this->isEnabled(), .Hover = pointer_.IsOver(*this), .Pressed = this->isDown()};
     Skin::PaintGlyph(painter, {0, Skin::GlyphTop(this->height())}, mark_, state,
                      this->isChecked() ? Skin::Ticked::Yes : Skin::Ticked::No);
-    if (this->text().isEmpty())
+    if (this->text().isEmpty()) {
+        constexpr int inside = 2; // there may be no room around it
+        const QRect glyph(0, Skin::GlyphTop(this->height()), Skin::GlyphSize, Skin::GlyphSize);
+        if (this->hasFocus())
+            Skin::PaintFocus(painter, glyph.adjusted(inside, inside, -inside, -inside));
         return;
+    }
     QRect caption({}, CaptionSize());
     caption.moveTo(Skin::GlyphSize + Skin::GlyphGap, (this->height() - caption.height()) / 2);
     painter.setPen(foreColour_.isValid() ? foreColour_ : this->palette().color(QPalette::ButtonText));
@@ -139,11 +149,15 @@ void TickControl<Control, Base>::paintEvent(QPaintEvent* /*event*/) {
         Skin::PaintFocus(painter, caption.adjusted(-2, -1, 2, 1).intersected(this->rect()));
 }
 
+// Whoever is told of an event may end the control, and its window with it.
 template <class Control, class Base>
 void TickControl<Control, Base>::keyPressEvent(QKeyEvent* event) {
+    const QPointer<TickControl> self(this);
     Q_EMIT Self().KeyDown(event->key(), event->modifiers());
-    if (!event->text().isEmpty())
+    if (self && !event->text().isEmpty())
         Q_EMIT Self().KeyPress(event->text());
+    if (!self)
+        return;
     if (const Skin::Step step = Skin::StepOf(event->key()); step != Skin::Step::None)
         this->focusNextPrevChild(step == Skin::Step::Forward);
     else
@@ -161,20 +175,24 @@ void TickControl<Control, Base>::keyReleaseEvent(QKeyEvent* event) {
 // Any button but the right one.
 template <class Control, class Base>
 void TickControl<Control, Base>::mousePressEvent(QMouseEvent* event) {
+    const QPointer<TickControl> self(this);
     if (event->button() != Qt::RightButton) {
         QMouseEvent left = Skin::AsLeft(*event);
         Base::mousePressEvent(&left);
     }
-    Q_EMIT Self().MouseDown(event->button(), event->modifiers(), event->pos().x(), event->pos().y());
+    if (self)
+        Q_EMIT Self().MouseDown(event->button(), event->modifiers(), event->pos().x(), event->pos().y());
 }
 
 template <class Control, class Base>
 void TickControl<Control, Base>::mouseMoveEvent(QMouseEvent* event) {
+    const QPointer<TickControl> self(this);
     if (event->buttons() != Qt::RightButton) {
         QMouseEvent left = Skin::AsLeft(*event);
         Base::mouseMoveEvent(&left);
     }
-    Q_EMIT Self().MouseMove(event->buttons(), event->modifiers(), event->pos().x(), event->pos().y());
+    if (self)
+        Q_EMIT Self().MouseMove(event->buttons(), event->modifiers(), event->pos().x(), event->pos().y());
 }
 
 template <class Control, class Base>

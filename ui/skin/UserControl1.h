@@ -4,6 +4,7 @@
 /// The push button of the family's windows.
 #pragma once
 
+#include "ui/skin/EnterKey.h"
 #include "ui/skin/SkinButton.h"
 
 class UserControl1 : public SkinButton {
@@ -12,11 +13,10 @@ public:
     explicit UserControl1(QWidget* parent = nullptr);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    bool enterIsDown_ = false;
+    Skin::EnterKey enter_;
 };

@@ -5,23 +5,84 @@
 
 #include "ui/look/Style.h"
 #include "ui/skin/Bar.h"
+#include "ui/skin/DevicePixels.h"
 #include "ui/skin/SkinPainter.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
 
 namespace {
 constexpr int captionLeft = 10, captionRight = 28;
+
+QAccessible::State StateOf(const xpMenu& heading) {
+    QAccessible::State state;
+    state.expandable = true;
+    state.expanded = heading.isChecked();
+    state.collapsed = !heading.isChecked();
+    return state;
+}
+
+/// A button that unfolds something; as a checkable button it would be told as a box to tick.
+class HeadingForReaders : public QAccessibleWidget {
+public:
+    explicit HeadingForReaders(xpMenu& heading) : QAccessibleWidget(&heading, QAccessible::Button), heading_(heading) {}
+
+    [[nodiscard]] QString text(QAccessible::Text which) const override {
+        const QString given = QAccessibleWidget::text(which);
+        return which == QAccessible::Name && given.isEmpty() ? heading_.text() : given;
+    }
+
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        const QAccessible::State own = StateOf(heading_);
+        state.expandable = own.expandable;
+        state.expanded = own.expanded;
+        state.collapsed = own.collapsed;
+        return state;
+    }
+
+    [[nodiscard]] QStringList actionNames() const override {
+        return QStringList(pressAction()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& action) override {
+        if (action == pressAction())
+            heading_.click();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    xpMenu& heading_;
+};
+
+QAccessibleInterface* MakeHeading(const QString& /*className*/, QObject* object) {
+    auto* const heading = qobject_cast<xpMenu*>(object);
+    return heading == nullptr ? nullptr : new HeadingForReaders(*heading);
+}
+
 } // namespace
 
 xpMenu::xpMenu(QWidget* parent) : QAbstractButton(parent) {
+    QAccessible::installFactory(MakeHeading); // a second time changes nothing
     setCheckable(true);
     setChecked(true);
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
+    setMouseTracking(true);
     setFixedHeight(Skin::HeadingHeight);
+    connect(this, &QAbstractButton::toggled, this, [this] {
+        QAccessible::State changed;
+        changed.expanded = true;
+        changed.collapsed = true;
+        QAccessibleStateChangeEvent told(this, changed);
+        QAccessible::updateAccessibility(&told);
+    });
 }
 
 void xpMenu::SetCaption(const QString& caption) {
@@ -36,8 +97,8 @@ QSize xpMenu::sizeHint() const {
 void xpMenu::paintEvent(QPaintEvent* /*event*/) {
     constexpr int inset = 3;
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     PaintBar(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
     QFont bold = font();
     bold.setBold(true);
     painter.setFont(bold);
@@ -51,17 +112,21 @@ void xpMenu::paintEvent(QPaintEvent* /*event*/) {
 // The two ends are round above; what is between them is stretched.
 void xpMenu::PaintBar(QPainter& painter) const {
     const auto [left, top, right] = Skin::PartsOfHeading(width());
-    QLinearGradient face(left.left(), 0, right.right(), 0);
+    const Skin::DevicePixels pixels(painter, rect());
+    const QRectF area = pixels.Area();
+    const qreal reach = Skin::HeadingEnd * pixels.Density();
+    QLinearGradient face(area.left(), 0, area.right(), 0);
     face.setColorAt(0, Qt::white);
     face.setColorAt(1, QColor(199, 212, 247));
     QPainterPath outline;
     outline.setFillRule(Qt::WindingFill);
-    for (const QRectF end : {left, right}) {
-        outline.addRoundedRect(end.adjusted(end.x() > 0 ? -end.width() : 0, 0, end.x() > 0 ? 0 : end.width(), 0),
-                               Skin::HeadingEnd, Skin::HeadingEnd);
-        outline.addRect(end.adjusted(0, Skin::HeadingEnd, 0, 0));
+    for (const QRectF end : {pixels.Of(left), pixels.Of(right)}) {
+        outline.addRoundedRect(end.adjusted(end.x() > 0 ? -end.width() : 0, 0, end.x() > 0 ? 0 : end.width(), 0), reach,
+                               reach);
+        outline.addRect(end.adjusted(0, reach, 0, 0));
     }
-    outline.addRect(top);
+    outline.addRect(pixels.Of(top));
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(outline.simplified(), face);
 }
 
@@ -79,9 +144,46 @@ void xpMenu::PaintMark(QPainter& painter) const {
     }
 }
 
+// Whoever is told of an event may end the bar, and its window with it.
 void xpMenu::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
+    const QPointer<xpMenu> self(this);
+    Q_EMIT KeyDown(event->key(), event->modifiers());
+    if (self && !event->text().isEmpty())
+        Q_EMIT KeyPress(event->text());
+    if (self && !enter_.Takes(*event, *this))
         QAbstractButton::keyPressEvent(event);
+}
+
+void xpMenu::keyReleaseEvent(QKeyEvent* event) {
+    const QPointer<xpMenu> self(this);
+    if (!enter_.Takes(*event, *this))
+        QAbstractButton::keyReleaseEvent(event);
+    if (self)
+        Q_EMIT KeyUp(event->key(), event->modifiers());
+}
+
+void xpMenu::focusOutEvent(QFocusEvent* event) {
+    enter_.Takes(*event, *this);
+    QAbstractButton::focusOutEvent(event);
+}
+
+void xpMenu::mousePressEvent(QMouseEvent* event) {
+    const QPointer<xpMenu> self(this);
+    QAbstractButton::mousePressEvent(event);
+    if (self)
+        Q_EMIT MouseDown(event->button(), event->modifiers(), event->pos().x(), event->pos().y());
+}
+
+void xpMenu::mouseMoveEvent(QMouseEvent* event) {
+    const QPointer<xpMenu> self(this);
+    QAbstractButton::mouseMoveEvent(event);
+    if (self)
+        Q_EMIT MouseMove(event->buttons(), event->modifiers(), event->pos().x(), event->pos().y());
+}
+
+void xpMenu::mouseReleaseEvent(QMouseEvent* event) {
+    const QPointer<xpMenu> self(this);
+    QAbstractButton::mouseReleaseEvent(event);
+    if (self)
+        Q_EMIT MouseUp(event->button(), event->modifiers(), event->pos().x(), event->pos().y());
 }

@@ -3,6 +3,8 @@
 
 #include "ui/text/CommentBox.h"
 
+#include "ui/skin/EnterKey.h"
+
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextCursor>
@@ -27,7 +29,7 @@ int CommentBox::Room() const {
 
 // The Enter keys would begin a new line; whatever types a character needs room for it.
 void CommentBox::keyPressEvent(QKeyEvent* event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isEnter = Skin::IsEnter(event->key());
     const bool types = !event->text().isEmpty() && event->text().front().isPrint();
     if (isEnter || (types && Room() <= 0))
         event->ignore();

@@ -6,14 +6,15 @@
 #include "core/mTraduction.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
+#include "ui/skin/EnterKey.h"
 #include "ui/text/Localisation.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QEvent>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QShortcut>
 #include <QTextLayout>
@@ -50,12 +51,10 @@ protected:
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
     }
 
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-            click();
-        else
-            QAbstractButton::keyPressEvent(event);
-    }
+    bool event(QEvent* event) override { return enter_.Takes(*event, *this) || QAbstractButton::event(event); }
+
+private:
+    Skin::EnterKey enter_;
 };
 
 class Link : public StripButton {

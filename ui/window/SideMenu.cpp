@@ -8,7 +8,7 @@
 #include "ui/skin/SkinPainter.h"
 #include "ui/skin/xpMenu.h"
 
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace {
@@ -16,10 +16,6 @@ namespace {
 constexpr int linkPicture = 16;
 constexpr int linkPadding = 4;
 constexpr int textIndent = linkPadding + linkPicture + 8;
-
-bool IsEnter(const QKeyEvent* event) {
-    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-}
 
 } // namespace
 
@@ -116,9 +112,6 @@ void SideLink::mouseMoveEvent(QMouseEvent* event) {
     Q_EMIT MouseMoved();
 }
 
-void SideLink::keyPressEvent(QKeyEvent* event) {
-    if (IsEnter(event))
-        click();
-    else
-        QAbstractButton::keyPressEvent(event);
+bool SideLink::event(QEvent* event) {
+    return enter_.Takes(*event, *this) || QAbstractButton::event(event);
 }

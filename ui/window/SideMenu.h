@@ -5,6 +5,7 @@
 #pragma once
 
 #include "ui/skin/Bar.h"
+#include "ui/skin/EnterKey.h"
 
 #include <QAbstractButton>
 #include <QWidget>
@@ -68,8 +69,9 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     bool underlined_ = false;
+    Skin::EnterKey enter_;
 };

@@ -67,7 +67,6 @@ void frmUpdate::Dress() {
     // One label is the other one's light edge.
     Colour(ui_->lblVersion2, Qt::white);
     Colour(ui_->lblVersion1, Style::Colour::DisabledText);
-    Colour(ui_->linVersion, Style::Colour::DisabledBorder);
     ui_->lblVersion2->setContentsMargins(0, 1, 0, 0);
     ui_->lblVersion1->setContentsMargins(0, 0, 1, 1);
     ui_->imgNoUpdate->setPixmap(Picture::Load(u"information"_s, devicePixelRatio()));

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QImage>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWidget>
 #include <QtTest/QTest>
@@ -51,4 +52,18 @@ inline void Drag(QWidget& control, QPoint place) {
     QMouseEvent move(QEvent::MouseMove, QPointF(place), control.mapTo(control.window(), QPointF(place)), global,
                      Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&control, &move);
+}
+
+/// Enter, held until it has repeated itself.
+inline void HoldEnter(QWidget& control) {
+    const auto send = [&](QEvent::Type type, bool repeated) {
+        QKeyEvent key(type, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), repeated);
+        QCoreApplication::sendEvent(&control, &key);
+    };
+    send(QEvent::KeyPress, false);
+    for (int i = 0; i < 3; ++i) {
+        send(QEvent::KeyRelease, true);
+        send(QEvent::KeyPress, true);
+    }
+    send(QEvent::KeyRelease, false);
 }

@@ -10,7 +10,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalSpy>
+
+#include <functional>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -196,8 +200,42 @@ private Q_SLOTS:
         QVERIFY(without != with);
         // Only around the caption: the glyph has none.
         QCOMPARE(without.copy(0, 0, 15, 20), with.copy(0, 0, 15, 20));
+        // The caption, and 2 columns and a row beside it, all of it in the border's colour.
+        const QSize text = box_->fontMetrics().size(Qt::TextShowMnemonic, box_->text());
+        const QRect caption(QPoint(19, (20 - text.height()) / 2), text);
+        QRect changed;
+        for (int y = 0; y < with.height(); ++y)
+            for (int x = 0; x < with.width(); ++x)
+                if (with.pixel(x, y) != without.pixel(x, y)) {
+                    changed |= QRect(x, y, 1, 1);
+                    QCOMPARE(with.pixelColor(x, y), border);
+                }
+        const QRect line = caption.adjusted(-2, -1, 2, 1).intersected(box_->rect());
+        QVERIFY(line.contains(changed));
+        QVERIFY(changed.width() >= line.width() - 1 && changed.height() >= line.height() - 1); // a dot, a gap
+        for (int i = 2; i < 12; i += 2) {
+            QCOMPARE(with.pixelColor(line.left() + i, line.top()), border);
+            QCOMPARE(with.pixelColor(line.left() + i, line.bottom()), border);
+            QCOMPARE(with.pixelColor(line.left(), line.top() + i), border);
+            QCOMPARE(with.pixelColor(line.right(), line.top() + i), border);
+        }
         other_->setFocus();
         QCOMPARE(PictureOf(*box_), without);
+    }
+
+    void withoutACaptionTheFocusIsDrawnWithinTheMark() {
+        for (QAbstractButton* const control :
+             {static_cast<QAbstractButton*>(box_), static_cast<QAbstractButton*>(one_)}) {
+            control->setText({});
+            control->resize(13, 13);
+            const QImage without = PictureOf(*control);
+            control->setFocus();
+            const QImage with = PictureOf(*control);
+            for (const QPoint place : {QPoint(2, 4), QPoint(10, 4), QPoint(4, 2), QPoint(4, 10)}) {
+                QVERIFY(without.pixelColor(place) != border);
+                QCOMPARE(with.pixelColor(place), border);
+            }
+        }
     }
 
     void theCaptionHasThePalettesColourAndItsOwnUntilItIsEnabledAgain() {
@@ -240,61 +278,27 @@ private Q_SLOTS:
                                     u"mouse up"_s, u"mouse down 3 4"_s, u"click"_s, u"mouse up"_s}));
     }
 
-    void oneOfAGroupIsChosenAcrossTheWholeWindow() {
-        QTest::mouseClick(one_, Qt::LeftButton);
-        QTest::mouseClick(far_, Qt::LeftButton); // another parent
-        QCOMPARE(one_->Value(), 0);
-        QCOMPARE(far_->Value(), 1);
-        QTest::mouseClick(far_, Qt::LeftButton);
-        QCOMPARE(far_->Value(), 1); // a second click takes nothing back
+    void whoeverIsToldMayEndTheBox() {
+        const auto ends = [this](auto told, const std::function<void(TavelCheckBox*)>& act) {
+            auto* const box = new TavelCheckBox(window_.get());
+            box->setGeometry(10, 250, 100, 20);
+            box->show();
+            const QPointer<TavelCheckBox> gone(box);
+            connect(box, told, this, [box] { delete box; });
+            act(box);
+            return gone.isNull();
+        };
+        const auto press = [](TavelCheckBox* box) { QTest::mousePress(box, Qt::LeftButton); };
+        const auto type = [](TavelCheckBox* box) { QTest::keyPress(box, 'x'); };
+        QVERIFY(ends(&TavelCheckBox::pressed, press));
+        QVERIFY(ends(&TavelCheckBox::MouseDown, press));
+        QVERIFY(ends(&TavelCheckBox::MouseMove, [](TavelCheckBox* box) { Drag(*box, {4, 4}); }));
+        QVERIFY(ends(&TavelCheckBox::clicked, [](TavelCheckBox* box) { QTest::mouseClick(box, Qt::LeftButton); }));
+        QVERIFY(ends(&TavelCheckBox::KeyDown, type));
+        QVERIFY(ends(&TavelCheckBox::KeyPress, type));
     }
 
-    void groupsLeaveEachOtherAlone() {
-        const QSignalSpy regrouped(far_, &TavelOptionButton::GroupChanged);
-        far_->SetGroup(7);
-        QCOMPARE(regrouped.size(), 1);
-        QTest::mouseClick(one_, Qt::LeftButton);
-        QTest::mouseClick(far_, Qt::LeftButton);
-        QCOMPARE(one_->Value(), 1);
-        QCOMPARE(far_->Value(), 1);
-    }
-
-    void settingOneWalksTheGroupAndTellsOfNoMouse() {
-        one_->SetValue(1);
-        const QSignalSpy changing(two_, &TavelOptionButton::ValueChanging);
-        const QSignalSpy mouse(two_, &TavelOptionButton::MouseUp);
-        const QSignalSpy cleared(one_, &TavelOptionButton::ValueChanged);
-        two_->SetValue(1);
-        QCOMPARE(changing.size(), 1);
-        QCOMPARE(mouse.size(), 0);
-        QCOMPARE(cleared.size(), 1);
-        QCOMPARE(one_->Value(), 0);
-        QCOMPARE(two_->Value(), 1);
-        two_->SetValue(0);
-        QCOMPARE(one_->Value(), 0);
-        one_->setChecked(true); // as a host of plain option buttons does
-        two_->setChecked(true);
-        QCOMPARE(one_->Value(), 0);
-    }
-
-    void theOthersLoseTheirValueBeforeTheChosenOneGainsIt() {
-        one_->SetValue(1);
-        QStringList order;
-        connect(one_, &TavelOptionButton::ValueChanged, this, [&](int value) { order += u"one %1"_s.arg(value); });
-        connect(two_, &TavelOptionButton::ValueChanged, this, [&](int value) { order += u"two %1"_s.arg(value); });
-        QTest::mouseClick(two_, Qt::LeftButton);
-        QCOMPARE(order, (QStringList{u"one 0"_s, u"two 1"_s}));
-    }
-
-    void theRoundMarkIsDrawnInTheMiddle() {
-        one_->SetValue(1);
-        const int middle = (one_->height() - 13) / 2 + 6;
-        QCOMPARE(PixelOf(*one_, {6, middle}), border);
-        QVERIFY(PixelOf(*two_, {6, middle}) != border);
-        QCOMPARE(PixelOf(*two_, {0, middle - 6}), window_->palette().color(QPalette::Window)); // round
-    }
-
-    void aScreenReaderMeetsABoxAndAnOptionWithNamesAndStates() {
+    void aScreenReaderMeetsABoxWithItsNameAndStates() {
         QAccessibleInterface* const box = QAccessible::queryAccessibleInterface(box_);
         QCOMPARE(box->role(), QAccessible::CheckBox);
         QCOMPARE(box->text(QAccessible::Name), u"Tick me"_s);
@@ -303,9 +307,6 @@ private Q_SLOTS:
         QVERIFY(box->state().checked);
         box->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         QCOMPARE(box_->Value(), 0);
-        QAccessibleInterface* const option = QAccessible::queryAccessibleInterface(one_);
-        QCOMPARE(option->role(), QAccessible::RadioButton);
-        QCOMPARE(option->text(QAccessible::Name), u"One"_s);
     }
 
     void theSizeLeavesRoomForTheCaption() {

@@ -5,6 +5,7 @@
 #include "tests/windows/ui/Pixels.h"
 #include "ui/look/Style.h"
 #include "ui/skin/CommandButton.h"
+#include "ui/skin/Face.h"
 #include "ui/skin/ProgressBar.h"
 #include "ui/skin/TavelCheckBox.h"
 #include "ui/skin/TavelOptionButton.h"
@@ -23,6 +24,9 @@
 #include <QTreeView>
 #include <QtMath>
 
+#include <algorithm>
+#include <cmath>
+
 class tst_style : public QObject {
     Q_OBJECT
 private:
@@ -33,6 +37,18 @@ private:
         picture.fill(Qt::red);
         widget.render(&picture);
         return picture;
+    }
+
+    /// How much lighter one colour is than the other, from 1 to 21.
+    static double Contrast(const QColor& one, const QColor& other) {
+        const auto light = [](const QColor& colour) {
+            const auto part = [](double share) {
+                return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+            };
+            return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+        };
+        const auto [darker, lighter] = std::minmax({light(one), light(other)});
+        return (lighter + 0.05) / (darker + 0.05);
     }
 
 private Q_SLOTS:
@@ -72,6 +88,24 @@ private Q_SLOTS:
                 for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
                     QVERIFY2(palette.color(QPalette::Active, role).lightness() > 200, part->metaObject()->className());
             }
+        }
+    }
+
+    void captionsStandOutFromEveryFace() {
+        Style::Apply(*qApp);
+        const QPalette palette = QApplication::palette();
+        for (const Skin::Look look : {Skin::Look::Normal, Skin::Look::Hover, Skin::Look::Focus, Skin::Look::Pressed})
+            for (const Skin::Fill& fill : Skin::FaceOf(look, {100, 28}).Inside)
+                if (fill.Area.contains(50, 14))
+                    for (const Skin::Bgr ground : {fill.Top, fill.Bottom})
+                        QVERIFY(Contrast(palette.color(QPalette::ButtonText), Style::FromBgr(ground)) >= 7);
+        QVERIFY(Contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window)) >= 7);
+        QVERIFY(Contrast(palette.color(QPalette::Text), palette.color(QPalette::Base)) >= 7);
+        QVERIFY(Contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)) >= 5);
+        for (const QColor& ground :
+             {palette.color(QPalette::Window), Style::Colour::SideMenuTop, Style::Colour::SideMenuBottom}) {
+            QVERIFY(Contrast(Style::Colour::Border, ground) >= 5);
+            QVERIFY(Contrast(Style::Colour::Link, ground) >= 5);
         }
     }
 

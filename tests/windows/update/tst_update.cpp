@@ -7,6 +7,7 @@
 #include "tests/windows/EditorTest.h"
 #include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
+#include "ui/skin/TDLine.h"
 #include "ui/window/BusyAnimation.h"
 #include "update/mUpdater.h"
 #include "update/window/frmUpdate.h"
@@ -63,6 +64,7 @@ private Q_SLOTS:
         QVERIFY(!Part<QPushButton>("cmdDownload")->isEnabled());
         QVERIFY(Part<QPushButton>("cmdCancel")->isEnabled());
         QCOMPARE(Panel(), u"picSearching"_s);
+        QCOMPARE(Part<TDLine>("linVersion")->height(), TDLine::Rows);
     }
 
     void eachControlHasItsKey_data() {
