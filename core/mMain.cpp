@@ -11,6 +11,7 @@
 #include "core/mLaunch.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
+#include "platform/Processes.h"
 #include "platform/RuntimeError.h"
 
 #include <cmath>
@@ -24,6 +25,7 @@ bool mMain::AddFileRequested = false;
 bool mMain::RestartRequested = false;
 bool mMain::CsfOpenedByHost = false;
 QString mMain::LanguageFileName;
+std::function<void()> mMain::EndProgram = [] { Processes::End(0); };
 
 namespace {
 
@@ -135,6 +137,12 @@ void mMain::Show(const Dispatched& dispatched) {
         ShowToolsMenu();
     else
         Ignoring([&] { ShowTool(dispatched); });
+}
+
+void mMain::ShowOptions(QObject* owner) {
+    Navigator::Current().ShowOptions(owner);
+    if (RestartRequested)
+        EndProgram();
 }
 
 QString mMain::VersionText() {

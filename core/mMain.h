@@ -13,6 +13,8 @@
 
 #include <functional>
 
+class QObject;
+
 namespace mMain {
 
 /// The raw command line without the executable's name.
@@ -20,7 +22,7 @@ extern QString CommandLine;
 /// What follows the leading switches.
 extern QString CommandFileArgument;
 extern bool AddFileRequested;
-/// Set by the options dialog; whoever opened it then ends the program.
+/// Set by the options dialog; ShowOptions then ends the program.
 extern bool RestartRequested;
 /// Set when a CSF file was handed over by another tool; tested when the CSF Editor closes.
 extern bool CsfOpenedByHost;
@@ -83,6 +85,11 @@ Dispatched Prepare(const QString& commandLine, const std::function<void()>& dete
 
 /// Shows what Prepare decided, through the Navigator, with the update checks before it.
 void Show(const Dispatched& dispatched);
+
+/// Shows the options, modal over `owner`, and ends the program for the restart that they may have begun.
+void ShowOptions(QObject* owner);
+/// How that ends the program; tests put something else in its place.
+extern std::function<void()> EndProgram;
 
 /// "3.5.4"
 QString VersionText();

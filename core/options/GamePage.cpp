@@ -50,7 +50,7 @@ void GamePage::Enter(GameIndex game) {
     game_ = game;
     stored_ = GameChoices::Stored(game);
     modTouched_ = modeTouched_ = false;
-    keptOptions_.clear();
+    keptOptions_.reset();
     keptMod_.reset();
     keptMode_.reset();
     ListMods(game);
@@ -123,8 +123,8 @@ GameChoices GamePage::Choices() const {
     for (const Option& option : Options)
         if (option.Checked)
             choices.StartupOptions += u" -"_s + option.Name;
-    if (!keptOptions_.isEmpty())
-        choices.StartupOptions += u' ' + keptOptions_;
+    if (keptOptions_)
+        choices.StartupOptions = KeptOptions();
     if (LoadsMod && Has(ModBigFiles, Mod))
         choices.LoadMod = ModBigFiles[Mod];
     if (Choice == ShellMapChoice::Random)

@@ -74,7 +74,7 @@ public:
     void KeepStored();
 
     // The steps of Enter.
-    /// Their numbers.
+    /// These two return how many there are.
     qsizetype ListMods(GameIndex game);
     qsizetype ListShellMaps(GameIndex game);
     void LoadGameOptions(GameIndex game);
@@ -82,6 +82,7 @@ public:
 private:
     void Adjust();
     void KeepOptions(const QStringList& words);
+    [[nodiscard]] QString KeptOptions() const;
     void KeepMod();
     void KeepMode();
 
@@ -89,7 +90,7 @@ private:
     GameChoices stored_;
     bool modTouched_ = false;
     bool modeTouched_ = false;
-    QString keptOptions_;
+    std::optional<QString> keptOptions_;
     std::optional<QString> keptMod_;
     std::optional<QString> keptMode_;
 };

@@ -9,18 +9,54 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
+#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A language names itself at the beginning of its file. A longer file that does not is not read to its end: five
-/// hundred of ten megabytes would take seconds.
+/// Looks for the section Infos in a file that comes in blocks, in whichever encoding: the zeros that UTF-16 has between
+/// these letters count as nothing. What is found is for the INI reader to judge, which would hold a long file whole.
+class SectionSearch {
+public:
+    /// Whether a bracket, blanks and the section's name have come by.
+    bool IsIn(QByteArrayView block) {
+        constexpr QByteArrayView name("infos");
+        for (qsizetype at = 0; matched_ < name.size(); ++at) {
+            if (matched_ < 0)
+                at = block.indexOf('[', at);
+            if (at < 0 || at >= block.size())
+                return false;
+            Take(block[at], name);
+        }
+        return true;
+    }
+
+private:
+    void Take(char byte, QByteArrayView name) {
+        const bool blank = byte == ' ' || (byte >= '\t' && byte <= '\r') || byte == '\x1A';
+        if (byte == '[')
+            matched_ = 0;
+        else if (matched_ >= 0 && byte != '\0' && (matched_ > 0 || !blank))
+            matched_ = (byte | 0x20) == name[matched_] ? matched_ + 1 : -1;
+    }
+
+    qsizetype matched_ = -1; ///< letters of the name; -1 before a bracket
+};
+
 bool MayNameLanguage(const QString& path) {
-    constexpr qint64 beginning = 65536;
-    const QByteArray bytes = File::Open(path, File::Access::Read).Read(0, beginning);
-    return bytes.size() < beginning || bytes.toLower().contains("[infos]");
+    constexpr qint64 block = 65536;
+    const File file = File::Open(path, File::Access::Read);
+    std::array<char, block> bytes{};
+    SectionSearch search;
+    qint64 at = 0;
+    for (qint64 count = block; count == block; at += count) {
+        count = file.ReadInto(at, bytes.data(), block);
+        if (search.IsIn({bytes.data(), static_cast<qsizetype>(count)}))
+            return true;
+    }
+    return false;
 }
 
 void AddTo(std::vector<LanguageFile>& found, const QString& name) {

@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
@@ -24,23 +25,36 @@ using mTraduction::GetText;
 namespace {
 
 /// In the order in which they are put back.
-const std::array<QString, 12>& SnapshotKeys() {
+const OptionsPlan::Snapshot& SnapshotKeys() {
     using namespace SettingKeys;
-    static const std::array<QString, 12> keys{
-        StartupOptions(0), StartupOptions(1), StartupOptions(2), ShellMapMode(0), ShellMapMode(1), ShellMapMode(2),
-        LoadMod(0),        LoadMod(1),        LoadMod(2),        LoadMod(3),      ShellMapMode(3), StartupOptions(3)};
+    static const OptionsPlan::Snapshot keys{StartupOptions(0), StartupOptions(1), StartupOptions(2), ShellMapMode(0),
+                                            ShellMapMode(1),   ShellMapMode(2),   LoadMod(0),        LoadMod(1),
+                                            LoadMod(2),        LoadMod(3),        ShellMapMode(3),   StartupOptions(3)};
     return keys;
 }
 
-/// A box stays clear for an empty text, also where that counts as on. This is meant.
-bool IsTicked(QLatin1String key) {
+std::optional<double> NumberIn(const QString& text) {
     bool isNumber = false;
-    const double number = ReadSetting(key).toDouble(&isNumber);
-    return isNumber && std::isfinite(number) && std::nearbyint(number) == 1.0;
+    const double number = text.toDouble(&isNumber);
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
-void StoreTick(QLatin1String key, bool ticked) {
-    WriteSetting(key, ticked ? u"1"_s : u"0"_s);
+/// Whether the automatic check counts as on. The box stays clear for a text that is no number, also where that counts
+/// as on. This is meant.
+bool IsWholeOne(const QString& text) {
+    return std::trunc(NumberIn(text).value_or(0)) == 1;
+}
+
+/// Whether any other switch counts as on.
+bool IsOne(const QString& text) {
+    return text == u"1";
+}
+
+/// A box's text. One that is as it was found stores the number that it was found as.
+QString TickText(bool ticked, const QString& before, bool (*isOn)(const QString&)) {
+    if (isOn(before) == ticked && NumberIn(before))
+        return before;
+    return ticked ? u"1"_s : u"0"_s;
 }
 
 /// The program's executable, which lies in its folder unless another folder was named.
@@ -55,9 +69,12 @@ QString OwnProgram() {
 OptionsPlan::OptionsPlan() {
     Ignoring([&] { Load(); });
     Ignoring([&] {
-        viewsIcons_ = IsTicked(SettingKeys::ViewFileIcons);
-        ChecksForUpdates = IsTicked(SettingKeys::AutoCheckForUpdates);
-        ExactOffsets = IsTicked(SettingKeys::ExactOffsets);
+        before_ = {.Updates = ReadSetting(SettingKeys::AutoCheckForUpdates),
+                   .Icons = ReadSetting(SettingKeys::ViewFileIcons),
+                   .Exact = ReadSetting(SettingKeys::ExactOffsets)};
+        viewsIcons_ = IsOne(before_.Icons);
+        ChecksForUpdates = IsWholeOne(before_.Updates);
+        ExactOffsets = IsOne(before_.Exact);
     });
     Ignoring([&] { AddTabs(); });
     std::ranges::transform(SnapshotKeys(), snapshot_.begin(), ReadSetting);
@@ -117,14 +134,19 @@ Notice OptionsPlan::LossNotice(const std::function<void()>& kept) {
 
 bool OptionsPlan::Accept() {
     SaveSelected();
-    StoreTick(SettingKeys::AutoCheckForUpdates, ChecksForUpdates);
-    StoreTick(SettingKeys::ExactOffsets, ExactOffsets);
+    WriteSetting(SettingKeys::AutoCheckForUpdates, TickText(ChecksForUpdates, before_.Updates, IsWholeOne));
+    WriteSetting(SettingKeys::ExactOffsets, TickText(ExactOffsets, before_.Exact, IsOne));
     if (!restartNeeded_)
         return true;
     // With No, the new choice of language and icons is lost. This is meant.
     const Host::Answer answer =
         Host::Current().Message(GetText(u"RebootConfirm"_s), Host::Icon::Question, Host::Buttons::YesNo);
-    return answer != Host::Answer::Yes || Restart();
+    if (answer != Host::Answer::Yes || Restart())
+        return true;
+    // The dialog that stays may still be cancelled, which puts back nothing but the games' settings.
+    WriteSetting(SettingKeys::AutoCheckForUpdates, before_.Updates);
+    WriteSetting(SettingKeys::ExactOffsets, before_.Exact);
+    return false;
 }
 
 // All questions come first: a restart is stored whole or not at all.
@@ -135,7 +157,7 @@ bool OptionsPlan::Restart() {
     }
     if (!Navigator::Current().MayEndProgram())
         return false;
-    StoreTick(SettingKeys::ViewFileIcons, viewsIcons_);
+    WriteSetting(SettingKeys::ViewFileIcons, TickText(viewsIcons_, before_.Icons, IsOne));
     WriteSetting(SettingKeys::TradFileName, languages_.at(static_cast<std::size_t>(language_)).FileName);
     Processes::StartCommand(u'"' + OwnProgram() + u'"', Processes::FirstWindow::Minimised);
     mMain::RestartRequested = true;

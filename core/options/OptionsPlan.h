@@ -24,6 +24,9 @@ public:
         GameIndex Game = -1; ///< -1: the general page
     };
 
+    /// The games' settings, as they are put back.
+    using Snapshot = std::array<QString, 12>;
+
     /// Reads all settings. A step that fails is passed over.
     OptionsPlan();
 
@@ -68,13 +71,19 @@ private:
     void SaveSelected() const;
     bool Restart();
 
-    static constexpr std::size_t SnapshotSize = 12;
+    /// What is stored for the program's boxes when the dialog opens.
+    struct Boxes {
+        QString Updates;
+        QString Icons;
+        QString Exact;
+    };
 
     std::vector<Tab> tabs_;
     std::vector<LanguageFile> languages_;
     int language_ = -1;
+    Boxes before_;
     bool viewsIcons_ = false;
     bool restartNeeded_ = false;
     GameIndex game_ = -1;
-    std::array<QString, SnapshotSize> snapshot_;
+    Snapshot snapshot_;
 };

@@ -8,6 +8,7 @@
 #include "ui/look/Style.h"
 #include "ui/text/Localisation.h"
 #include "ui/text/Mnemonics.h"
+#include "ui/window/ScreenKeeper.h"
 #include "ui_frmOptions.h"
 
 #include <QApplication>
@@ -104,14 +105,16 @@ void frmOptions::ShowTabs() {
     }
 }
 
-// Four long names side by side take more than a small screen has.
+// Four long names side by side take more than a small screen has. They are never cut where 800 pixels hold them.
 void frmOptions::FitScreen() {
-    constexpr QSize frame(16, 48); // about what title and borders take
-    const QSize room = screen()->availableSize() - frame;
+    const QSize room = screen()->availableSize().shrunkBy(ScreenKeeper::Frame);
     if (sizeHint().width() > room.width()) {
         for (int tab = 0; tab < ui_->Tab1->count(); ++tab)
             ui_->Tab1->setTabText(tab, InTwoLines(ui_->Tab1->tabText(tab)));
     }
+    constexpr int smallest = 800;
+    const QMargins frame = ScreenKeeper::Frame + layout()->contentsMargins();
+    ui_->Tab1->setMinimumWidth(std::min(ui_->Tab1->sizeHint().width(), smallest - frame.left() - frame.right()));
     resize(size().expandedTo(sizeHint()).boundedTo(room));
 }
 
@@ -235,7 +238,7 @@ void frmOptions::ShowOptions() {
         auto* const item = new QListWidgetItem(option.Name, ui_->lstOptions);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(option.Checked ? Qt::Checked : Qt::Unchecked);
-        const QString description = DisplayText(GetText(option.Name));
+        const QString& description = Description(option.Name);
         item->setData(Qt::AccessibleDescriptionRole, description);
         high = std::max(high, fontMetrics().boundingRect(room, Qt::TextWordWrap, description).height());
     }
@@ -245,7 +248,13 @@ void frmOptions::ShowOptions() {
 
 void frmOptions::ShowDescription(int option) {
     const QListWidgetItem* const item = ui_->lstOptions->item(option);
-    ui_->lblOption->setText(item == nullptr ? QString() : DisplayText(GetText(item->text())));
+    ui_->lblOption->setText(item == nullptr ? QString() : Description(item->text()));
+}
+
+// Each is looked up once: one that is missing is a record in the log each time.
+const QString& frmOptions::Description(const QString& option) {
+    const auto found = descriptions_.constFind(option);
+    return found != descriptions_.constEnd() ? *found : *descriptions_.insert(option, DisplayText(GetText(option)));
 }
 
 // One that was closed stays closed until there is something else to tell.

@@ -8,6 +8,7 @@
 #include "core/options/OptionsPlan.h"
 
 #include <QDialog>
+#include <QHash>
 #include <QStringListModel>
 
 #include <memory>
@@ -48,10 +49,12 @@ private:
     void ShowPage();
     void ShowOptions();
     void ShowDescription(int option);
+    const QString& Description(const QString& option);
     void ShowNotice();
 
     std::unique_ptr<Ui::frmOptions> ui_;
     OptionsPlan plan_;
+    QHash<QString, QString> descriptions_; ///< by their options
     QStringListModel mods_;
     QStringListModel shellMaps_;
     bool filling_ = false; ///< the page is being shown: nothing that changes in it is the user's

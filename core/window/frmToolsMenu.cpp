@@ -5,7 +5,6 @@
 
 #include "core/Navigator.h"
 #include "core/mMain.h"
-#include "platform/Processes.h"
 #include "platform/RuntimeError.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
@@ -97,17 +96,11 @@ void frmToolsMenu::EntryClicked(int index) {
     static constexpr std::array<bool (Navigator::*)(), 3> tools{&Navigator::ShowBigEditor, &Navigator::ShowCSFEditor,
                                                                 &Navigator::ShowPersonalFiles};
     if (index == 3)
-        ShowOptions();
+        mMain::ShowOptions(this);
     else if (index == 4)
         EndProgram();
     else if ((Navigator::Current().*tools.at(static_cast<std::size_t>(index)))())
         close();
-}
-
-void frmToolsMenu::ShowOptions() {
-    Navigator::Current().ShowOptions(this);
-    if (mMain::RestartRequested)
-        Processes::End(0);
 }
 
 // This window goes last: it stays where a tool keeps its document, and no tool that closes brings up another menu.

@@ -35,7 +35,6 @@ private:
     void EntryClicked(int index);
     void EntryHovered(int index);
     void PaintEntriesWhite();
-    void ShowOptions();
     void EndProgram();
 
     std::unique_ptr<Ui::frmToolsMenu> ui_;

@@ -81,7 +81,40 @@ TEST_F(KeptChoices, OptionsBeyondTheListAreKeptBesideThoseThatAreChosen) {
     EXPECT_EQ(ReadSetting(u"GenStartupOptions"_s), u" -nologo -xres 1024"_s);
     page_.CheckOption(0, false);
     page_.CheckOption(1, true);
-    EXPECT_EQ(page_.Choices().StartupOptions, u" -noshellmap -xres 1024"_s);
+    EXPECT_EQ(page_.Choices().StartupOptions, u" -xres 1024 -noshellmap"_s);
+}
+
+TEST_F(KeptChoices, KeptOptionsStayAsTheyAreWrittenButForTheWordsThatChange) {
+    for (const auto& [stored, without, with] :
+         {std::tuple(u" -mod \"a  b\""_s, u" -mod \"a  b\""_s, u" -mod \"a  b\" -nologo"_s),
+          {u" -xres 1024 -nologo"_s, u" -xres 1024"_s, u" -xres 1024 -nologo"_s},
+          {u" -nologos -nologo"_s, u" -nologos"_s, u" -nologos -nologo"_s},
+          {u"-nologo  -xres 1024 "_s, u"  -xres 1024 "_s, u"-nologo  -xres 1024 "_s},
+          {u" -nologo -x  -nologo -y"_s, u" -x -y"_s, u" -nologo -x  -nologo -y"_s},
+          {u" -mod \"a -nologo b\""_s, u" -mod \"a -nologo b\""_s, u" -mod \"a -nologo b\" -nologo"_s}}) {
+        WriteSetting(u"GenStartupOptions"_s, stored);
+        VisitAndKeep(0);
+        EXPECT_EQ(ReadSetting(u"GenStartupOptions"_s), stored);
+        page_.CheckOption(0, false);
+        EXPECT_EQ(page_.Choices().StartupOptions, without);
+        page_.CheckOption(0, true);
+        EXPECT_EQ(page_.Choices().StartupOptions, with);
+    }
+}
+
+TEST_F(KeptChoices, AnOptionThatWasChangedBeforeItIsKeptStaysChanged) {
+    WriteSetting(u"GenStartupOptions"_s, u" -xres 1024 -nologo"_s);
+    page_.Enter(0);
+    page_.CheckOption(0, false);
+    page_.CheckOption(1, true);
+    page_.KeepStored();
+    EXPECT_EQ(page_.Choices().StartupOptions, u" -xres 1024 -noshellmap"_s);
+}
+
+TEST_F(KeptChoices, ABlankBetweenQuotesPartsNoWord) {
+    WriteSetting(u"GenStartupOptions"_s, u" -mod \"a  b\" -nologo"_s);
+    page_.Enter(0);
+    EXPECT_EQ(page_.Replaced().Options, (QStringList{u"-mod"_s, u"\"a  b\""_s}));
 }
 
 TEST_F(KeptChoices, AnOptionThatWasOnlyAPartOfAWordIsNotAdded) {

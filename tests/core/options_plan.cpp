@@ -17,6 +17,10 @@ const QStringList AllKeys{u"GenStartupOptions"_s, u"ZHStartupOptions"_s,  u"BFME
 
 class OptionsPlans : public OptionsTest {
 protected:
+    void AddOther() const {
+        world_.WriteFile(u"program\\Other.lng"_s, "[Infos]\r\nLanguage=Other\r\nVersion=2005\r\n");
+    }
+
     static QStringList TabKeys(const OptionsPlan& plan) {
         QStringList keys;
         for (const OptionsPlan::Tab& tab : plan.Tabs())
@@ -78,16 +82,30 @@ TEST_F(OptionsPlans, CancelBringsBackEveryGamesSettings) {
         EXPECT_EQ(ReadSetting(key), u"before "_s + key);
 }
 
+TEST_F(OptionsPlans, CancelBringsThemBackInOneOrder) {
+    OptionsPlan().Cancel();
+    const QByteArray registry = World::ReadFile(world_.Root() + u"\\registry.reg"_s);
+    qsizetype behind = 0; // a value that was not there is put at the end
+    for (const QString& key : AllKeys) {
+        const qsizetype found = registry.indexOf('"' + key.toLatin1() + '"');
+        EXPECT_GT(found, behind) << key.toStdString();
+        behind = found;
+    }
+}
+
 TEST_F(OptionsPlans, CancelTouchesNoSettingOfTheProgram) {
+    const QStringList keys{u"AutoCheckForUpdates"_s, u"ViewFileIcons"_s, u"ExactOffsets"_s, u"TradFileName"_s};
+    AddOther();
     OptionsPlan plan;
-    for (const QString& key : {u"AutoCheckForUpdates"_s, u"ViewFileIcons"_s, u"ExactOffsets"_s})
+    ASSERT_EQ(plan.Language(), 1);
+    for (const QString& key : keys)
         WriteSetting(key, u"meanwhile"_s);
     plan.ChecksForUpdates = true;
     plan.ExactOffsets = true;
     plan.ShowIcons(true);
     plan.ChooseLanguage(0);
     plan.Cancel();
-    for (const QString& key : {u"AutoCheckForUpdates"_s, u"ViewFileIcons"_s, u"ExactOffsets"_s})
+    for (const QString& key : keys)
         EXPECT_EQ(ReadSetting(key), u"meanwhile"_s);
     EXPECT_TRUE(host_.Messages.empty());
 }
@@ -124,6 +142,35 @@ TEST_F(OptionsPlans, TheProgramsBoxesAreSetByTheNumberOneAndClearForAllElse) {
     EXPECT_TRUE(plan.ChecksForUpdates && plan.ViewsIcons() && plan.ExactOffsets);
 }
 
+TEST_F(OptionsPlans, ABoxShowsWhatItsNumberCountsAsAndOneThatStaysKeepsTheNumber) {
+    for (const auto& [text, updates] : {std::pair(u"1.9"_s, true),
+                                        {u"1.5"_s, true},
+                                        {u"1"_s, true},
+                                        {u"0.5"_s, false},
+                                        {u"0.9"_s, false},
+                                        {u"2"_s, false},
+                                        {u"-1"_s, false}}) {
+        WriteSetting(u"AutoCheckForUpdates"_s, text);
+        WriteSetting(u"ExactOffsets"_s, text);
+        OptionsPlan plan;
+        EXPECT_EQ(plan.ChecksForUpdates, updates) << text.toStdString();
+        EXPECT_EQ(plan.ChecksForUpdates, mMain::AutomaticCheckWanted()) << text.toStdString();
+        EXPECT_EQ(plan.ExactOffsets, text == u"1") << text.toStdString();
+        EXPECT_TRUE(plan.Accept());
+        EXPECT_EQ(ReadSetting(u"AutoCheckForUpdates"_s), text);
+        EXPECT_EQ(ReadSetting(u"ExactOffsets"_s), text);
+        plan.ChecksForUpdates = !plan.ChecksForUpdates;
+        EXPECT_TRUE(plan.Accept());
+        EXPECT_EQ(ReadSetting(u"AutoCheckForUpdates"_s), updates ? u"0"_s : u"1"_s);
+    }
+}
+
+TEST_F(OptionsPlans, ABoxThatStaysClearForATextThatIsNoNumberStoresZero) {
+    WriteSetting(u"AutoCheckForUpdates"_s, u"yes"_s);
+    EXPECT_TRUE(OptionsPlan().Accept());
+    EXPECT_EQ(ReadSetting(u"AutoCheckForUpdates"_s), u"0"_s);
+}
+
 TEST_F(OptionsPlans, OkStoresUpdatesAndExactOffsetsWithoutARestart) {
     OptionsPlan plan;
     plan.ExactOffsets = true;
@@ -135,7 +182,7 @@ TEST_F(OptionsPlans, OkStoresUpdatesAndExactOffsetsWithoutARestart) {
 }
 
 TEST_F(OptionsPlans, WithNoTheNewLanguageAndTheIconsAreLost) {
-    world_.WriteFile(u"program\\Other.lng"_s, "[Infos]\r\nLanguage=Other\r\nVersion=2005\r\n");
+    AddOther();
     OptionsPlan plan;
     ASSERT_EQ(plan.Languages().size(), 2U);
     EXPECT_EQ(plan.Language(), 1);
@@ -148,10 +195,28 @@ TEST_F(OptionsPlans, WithNoTheNewLanguageAndTheIconsAreLost) {
     EXPECT_EQ(host_.Messages[0].Title, u"Brindock 2005"_s);
     EXPECT_EQ(host_.Messages[0].Sign, Host::Icon::Question);
     EXPECT_EQ(host_.Messages[0].Choice, Host::Buttons::YesNo);
+    EXPECT_EQ(plan.Language(), 0) << "the list keeps what was selected";
     EXPECT_EQ(ReadSetting(u"TradFileName"_s), u"Test.lng"_s);
     EXPECT_EQ(ReadSetting(u"ViewFileIcons"_s), QString());
     EXPECT_FALSE(mMain::RestartRequested);
     EXPECT_TRUE(navigator_.Calls.isEmpty());
+}
+
+TEST_F(OptionsPlans, PageAndBoxesAreStoredBeforeTheQuestion) {
+    OptionsPlan plan;
+    plan.ChecksForUpdates = true;
+    plan.ExactOffsets = true;
+    plan.ShowIcons(true);
+    plan.SelectTab(u"Generals"_s);
+    plan.Page.CheckOption(0, true);
+    host_.Answers = {Host::Answer::No};
+    host_.OnMessage = [] {
+        EXPECT_EQ(ReadSetting(u"GenStartupOptions"_s), u" -nologo"_s);
+        EXPECT_EQ(ReadSetting(u"AutoCheckForUpdates"_s), u"1"_s);
+        EXPECT_EQ(ReadSetting(u"ExactOffsets"_s), u"1"_s);
+    };
+    EXPECT_TRUE(plan.Accept());
+    EXPECT_EQ(host_.Messages.size(), 1U);
 }
 
 TEST_F(OptionsPlans, ARestartWithoutALanguageIsRefusedAndStoresNothing) {
@@ -163,7 +228,8 @@ TEST_F(OptionsPlans, ARestartWithoutALanguageIsRefusedAndStoresNothing) {
     EXPECT_FALSE(plan.Accept());
     ASSERT_EQ(host_.Messages.size(), 2U);
     EXPECT_EQ(host_.Messages[1].Text, u"SelectLanguage"_s);
-    EXPECT_EQ(ReadSetting(u"ViewFileIcons"_s), QString());
+    for (const QString& key : {u"ViewFileIcons"_s, u"AutoCheckForUpdates"_s, u"ExactOffsets"_s})
+        EXPECT_EQ(ReadSetting(key), QString()) << key.toStdString();
     EXPECT_EQ(ReadSetting(u"TradFileName"_s), u"Gone.lng"_s);
     EXPECT_FALSE(mMain::RestartRequested);
     EXPECT_TRUE(navigator_.Calls.isEmpty()) << "no tool is asked for nothing";
@@ -171,7 +237,10 @@ TEST_F(OptionsPlans, ARestartWithoutALanguageIsRefusedAndStoresNothing) {
 
 TEST_F(OptionsPlans, AToolThatStaysKeepsTheDialogWhichCanStillBeCancelled) {
     WriteSetting(u"GenStartupOptions"_s, u" -before"_s);
+    WriteSetting(u"AutoCheckForUpdates"_s, u"1"_s);
     OptionsPlan plan;
+    plan.ChecksForUpdates = false;
+    plan.ExactOffsets = true;
     plan.SelectTab(u"Generals"_s);
     plan.ChooseLanguage(0);
     plan.ShowIcons(true);
@@ -184,6 +253,20 @@ TEST_F(OptionsPlans, AToolThatStaysKeepsTheDialogWhichCanStillBeCancelled) {
     EXPECT_FALSE(mMain::RestartRequested);
     plan.Cancel();
     EXPECT_EQ(ReadSetting(u"GenStartupOptions"_s), u" -before"_s);
+    EXPECT_EQ(ReadSetting(u"AutoCheckForUpdates"_s), u"1"_s);
+    EXPECT_EQ(ReadSetting(u"ExactOffsets"_s), QString());
+}
+
+TEST_F(OptionsPlans, ARefusedRestartCanStillBeAcceptedWithoutOne) {
+    OptionsPlan plan;
+    plan.ChecksForUpdates = true;
+    plan.ShowIcons(true);
+    navigator_.ProgramMayEnd = false;
+    host_.Answers = {Host::Answer::Yes, Host::Answer::No};
+    EXPECT_FALSE(plan.Accept());
+    EXPECT_EQ(ReadSetting(u"AutoCheckForUpdates"_s), QString());
+    EXPECT_TRUE(plan.Accept());
+    EXPECT_EQ(ReadSetting(u"AutoCheckForUpdates"_s), u"1"_s);
 }
 
 TEST_F(OptionsPlans, TheNoticeStandsForTheGamesPageAndItsLinkKeeps) {

@@ -63,6 +63,8 @@ ScriptedHost::~ScriptedHost() {
 Host::Answer ScriptedHost::Message(const QString& text, Icon icon, Buttons buttons, const QString& title,
                                    std::optional<Answer> defaultAnswer) {
     Messages.push_back({text, title, icon, buttons, ProgressShown, TimerRunning, defaultAnswer});
+    if (OnMessage)
+        OnMessage();
     return buttons == Buttons::Ok ? Answer::Ok : Next(Answers, text);
 }
 

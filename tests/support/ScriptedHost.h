@@ -32,6 +32,7 @@ public:
     std::deque<std::optional<QString>> FileNames;  ///< for OpenFileName and SaveFileName
     std::deque<std::optional<QString>> Folders;    ///< for ChooseFolder
     std::vector<Shown> Messages;                   ///< every message box, in order
+    std::function<void()> OnMessage;               ///< runs while each message box is shown
     std::vector<FileDialog> Dialogs; ///< every file dialog, in order; a folder chooser has only a title and a folder
     QStringList ProgressTexts;
     std::vector<int> ProgressValues;

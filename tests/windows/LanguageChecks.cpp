@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QTabBar>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -73,6 +74,18 @@ Need OfComboBox(const QComboBox& box) {
     return {box.currentText(), {box.sizeHint().width(), 0}};
 }
 
+/// All its captions side by side. Where they do not fit they are shortened, or scrolled.
+Need OfTabBar(const QTabBar& bar) {
+    constexpr int margins = 4;
+    QStringList texts;
+    int high = 0;
+    for (int tab = 0; tab < bar.count(); ++tab) {
+        texts += bar.tabText(tab);
+        high = qMax(high, bar.fontMetrics().size(Qt::TextShowMnemonic, bar.tabText(tab)).height() + margins);
+    }
+    return {texts.join(u' '), {bar.sizeHint().width(), high}};
+}
+
 Need OfWidget(const QWidget& widget) {
     if (const auto* const label = qobject_cast<const QLabel*>(&widget))
         return OfLabel(*label);
@@ -84,6 +97,8 @@ Need OfWidget(const QWidget& widget) {
         return OfMenuBar(*menuBar);
     if (const auto* const comboBox = qobject_cast<const QComboBox*>(&widget))
         return OfComboBox(*comboBox);
+    if (const auto* const tabBar = qobject_cast<const QTabBar*>(&widget))
+        return OfTabBar(*tabBar);
     return {};
 }
 

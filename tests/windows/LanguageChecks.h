@@ -6,9 +6,9 @@
 
 class QWidget;
 
-/// Whether no visible caption, button, heading, column, choice or menu bar of the window has less room than its text
-/// takes, or reaches out of its parent. Of each that does, the test's log gets the size that it needs, the size that it
-/// has, and the text. Captions that are shortened on purpose, with the whole text in their tip, are left out.
+/// Whether no visible caption, button, heading, column, tab, choice or menu bar of the window has less room than its
+/// text takes, or reaches out of its parent. Of each that does, the test's log gets the size that it needs, the size
+/// that it has, and the text. Captions that are shortened on purpose, with the whole text in their tip, are left out.
 bool AllTextsHaveRoom(const QWidget& window);
 
 /// Whether each entry of the window's menus, context menus too, has a letter that no other of the same menu has. The

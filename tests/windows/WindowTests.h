@@ -13,6 +13,9 @@
 
 using WindowTestMaker = std::function<std::unique_ptr<QObject>()>;
 
+/// Where this environment variable names a file (a native path), the executable makes that and ends.
+inline constexpr auto RestartTold = "BRINDOCK_TEST_RESTART_TOLD";
+
 /// The test objects of this executable, in no promised order.
 std::vector<WindowTestMaker>& WindowTests();
 

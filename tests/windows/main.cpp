@@ -5,6 +5,7 @@
 #include "tests/windows/WindowTests.h"
 
 #include <QApplication>
+#include <QFile>
 
 std::vector<WindowTestMaker>& WindowTests() {
     static std::vector<WindowTestMaker> tests;
@@ -38,6 +39,9 @@ int main(int argc, char** argv) {
     // The preview starts its own executable as the child that decodes: here that is the tests'.
     if (MediaChild::IsAsked(argc, argv))
         return MediaChild::Run(argc, argv);
+    // So does a restart of the program, in whose place the tests are; they are not run anew.
+    if (const QString told = qEnvironmentVariable(RestartTold); !told.isEmpty())
+        return QFile(told).open(QIODevice::WriteOnly) ? 0 : 1;
     const QApplication application(argc, argv);
     QStringList wanted = QApplication::arguments().mid(1);
     QStringList passedOn{QApplication::arguments().first()};

@@ -7,8 +7,11 @@
 
 void BusyAnimation::Load(const QString& path) {
     strip_ = FrameStrip::Read(path);
+    frame_ = 0;
+    timer_.stop();
     if (strip_)
-        startTimer(strip_->Milliseconds());
+        timer_.start(strip_->Milliseconds(), this);
+    update();
 }
 
 void BusyAnimation::timerEvent(QTimerEvent* /*event*/) {

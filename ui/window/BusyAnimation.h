@@ -6,6 +6,7 @@
 
 #include "ui/look/FrameStrip.h"
 
+#include <QBasicTimer>
 #include <QWidget>
 
 class BusyAnimation : public QWidget {
@@ -13,7 +14,8 @@ class BusyAnimation : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// `path` is an inside path; with a file that is missing or no moving picture the place stays empty.
+    /// Plays this file from its beginning. `path` is an inside path; with a file that is missing or no moving picture
+    /// the place stays empty.
     void Load(const QString& path);
 
     [[nodiscard]] bool PlaysFile() const { return strip_.has_value(); }
@@ -24,5 +26,6 @@ protected:
 
 private:
     std::optional<FrameStrip> strip_;
+    QBasicTimer timer_;
     int frame_ = 0;
 };

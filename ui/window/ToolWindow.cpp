@@ -5,7 +5,6 @@
 
 #include "core/Navigator.h"
 #include "core/mMain.h"
-#include "platform/Processes.h"
 #include "ui/text/Mnemonics.h"
 #include "ui/window/NoticeStrip.h"
 
@@ -21,7 +20,7 @@ void ToolWindow::Equip(const CommonEntries& common, std::vector<ToolCommand> com
     Mnemonics::AddTo(*menuBar());
     common.Exit->setShortcuts({common.Exit->shortcut(), QKeySequence(u"Alt+F4"_s)});
     commands.push_back({common.Exit, nullptr, u"exit"_s, [this] { close(); }});
-    commands.push_back({common.Options, nullptr, u"options"_s, [this] { ShowOptions(); }});
+    commands.push_back({common.Options, nullptr, u"options"_s, [this] { mMain::ShowOptions(this); }});
     commands.push_back(
         {common.CheckForUpdates, nullptr, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }});
     commands.push_back({common.About, nullptr, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }});
@@ -52,12 +51,6 @@ void ToolWindow::SetBusy(bool busy) {
 
 void ToolWindow::SetNotice(const Notice& notice) {
     notices_->ShowNotice(notice);
-}
-
-void ToolWindow::ShowOptions() {
-    Navigator::Current().ShowOptions(this);
-    if (mMain::RestartRequested)
-        Processes::End(0);
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

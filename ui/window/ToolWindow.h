@@ -51,7 +51,6 @@ protected:
 
 private:
     void MakePlaceForNotices();
-    void ShowOptions();
 
     NoticeStrip* notices_ = nullptr;
 };

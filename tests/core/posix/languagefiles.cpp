@@ -215,6 +215,11 @@ TEST_P(LanguageFiles, KeepPlaceholdersAndLineBreaks) {
     EXPECT_TRUE(english_[u"ProgressLbl"_s].contains(u"%3"_s));
 }
 
+// The dialog stays: OK is what restarts the program.
+TEST_P(LanguageFiles, NameTheButtonThatFollowsTheChoiceOfALanguage) {
+    EXPECT_TRUE(texts_[u"SelectLanguage"_s].contains(u' ' + texts_[u"OK"_s])) << At(u"SelectLanguage"_s);
+}
+
 TEST_P(LanguageFiles, EndInAColonOrDotsWhereTheEnglishTextDoes) {
     for (auto text = texts_.cbegin(); text != texts_.cend(); ++text)
         EXPECT_EQ(EndsOf(*text), EndsOf(english_[text.key()])) << At(text.key());

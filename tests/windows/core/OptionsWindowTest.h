@@ -36,7 +36,14 @@ protected:
             world_->InstallGame(game);
         world_->Start();
         // A restart that a test does not want must not start the tests anew.
-        world_->WriteFile(u"program\\"_s + Paths::LastPart(Paths::Executable()), "no program");
+        world_->WriteFile(ProgramFile(), "no program");
+    }
+
+    static QString ProgramFile() { return u"program\\"_s + Paths::LastPart(Paths::Executable()); }
+
+    void AddLanguage(const QByteArray& name) const {
+        world_->WriteFile(u"program\\"_s + QString::fromLatin1(name) + u".lng"_s,
+                          "[Infos]\r\nLanguage=" + name + "\r\nVersion=2005\r\nTranslator=B\r\n");
     }
 
     void Open() {

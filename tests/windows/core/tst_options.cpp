@@ -8,7 +8,9 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFile>
 #include <QRadioButton>
+#include <QScopeGuard>
 
 class tst_options : public OptionsWindowTest {
     Q_OBJECT
@@ -19,7 +21,7 @@ private Q_SLOTS:
     void cleanup() { End(); }
 
     void languagesAreListedAndTheOneInUseIsSelected() {
-        world_->WriteFile(u"program\\A.lng"_s, "[Infos]\r\nLanguage=A\r\nVersion=2005\r\nTranslator=B\r\n");
+        AddLanguage("A");
         Open();
         auto* const list = Part<QComboBox>("cmbLanguage");
         QCOMPARE(list->count(), 2);
@@ -189,6 +191,56 @@ private Q_SLOTS:
         QCOMPARE(ReadSetting(u"ViewFileIcons"_s), QString());
     }
 
+    void withNoTheListKeepsTheNewSelectionAndNothingIsStored() {
+        AddLanguage("A");
+        Open();
+        ChooseByKeyboard(Qt::Key_Up);
+        host_->Answers = {Host::Answer::No};
+        Part<QAbstractButton>("UserControl11")->click();
+        QVERIFY(!window_->isVisible());
+        QCOMPARE(Part<QComboBox>("cmbLanguage")->currentIndex(), 0);
+        QCOMPARE(ReadSetting(u"TradFileName"_s), u"Test.lng"_s);
+    }
+
+    void yesStoresTheLanguageAndStartsTheProgramAnew() {
+        QVERIFY(QFile::remove(Paths::ToNative(world_->Root() + u'\\' + ProgramFile()))); // the tests' own starts
+        const QString told = Paths::ToNative(world_->Root()) + u"/told"_s;
+        qputenv(RestartTold, told.toUtf8());
+        const auto untold = qScopeGuard([] { qunsetenv(RestartTold); });
+        AddLanguage("Zulu");
+        Open();
+        ChooseByKeyboard(Qt::Key_Down);
+        host_->Answers = {Host::Answer::Yes};
+        Part<QAbstractButton>("UserControl11")->click();
+        QVERIFY(!window_->isVisible());
+        QCOMPARE(window_->result(), static_cast<int>(QDialog::Accepted));
+        QCOMPARE(ReadSetting(u"TradFileName"_s), u"Zulu.lng"_s);
+        QVERIFY(mMain::RestartRequested);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(told), 30'000);
+    }
+
+    void iconsThatAreOnAlreadyNeedNoRestart() {
+        WriteSetting(u"ViewFileIcons"_s, u"1"_s);
+        Open();
+        QVERIFY(Part<QCheckBox>("ckViewIcons")->isChecked());
+        Part<QAbstractButton>("UserControl11")->click();
+        QVERIFY(!window_->isVisible());
+        QVERIFY(host_->Messages.empty());
+        QCOMPARE(ReadSetting(u"ViewFileIcons"_s), u"1"_s);
+    }
+
+    void aRefusedRestartStoresNoBoxAndCancelLeavesThemSo() {
+        Open();
+        Part<QCheckBox>("ckCheckForUpdates")->click();
+        Part<QCheckBox>("ckViewIcons")->click();
+        navigator_->ProgramMayEnd = false;
+        host_->Answers = {Host::Answer::Yes};
+        Part<QAbstractButton>("UserControl11")->click();
+        QVERIFY(window_->isVisible());
+        window_->close();
+        QCOMPARE(ReadSetting(u"AutoCheckForUpdates"_s), QString());
+    }
+
     void noLanguageAtTheRestartKeepsTheDialog() {
         WriteSetting(u"TradFileName"_s, u"Gone.lng"_s);
         Open();
@@ -277,6 +329,15 @@ private Q_SLOTS:
         QVERIFY(window_->width() < 784);
         Part<QAbstractButton>("UserControl12")->click();
         QCOMPARE(ReadSetting(u"GenShellMapMode"_s), mode);
+    }
+
+private:
+    void ChooseByKeyboard(Qt::Key key) {
+        auto* const list = Part<QComboBox>("cmbLanguage");
+        list->setFocus();
+        const int before = list->currentIndex();
+        QTest::keyClick(list, key);
+        QVERIFY(list->currentIndex() != before);
     }
 };
 

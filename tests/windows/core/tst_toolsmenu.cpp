@@ -11,6 +11,7 @@
 
 #include <QCloseEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QSignalSpy>
 
 #include <array>
@@ -150,6 +151,20 @@ private Q_SLOTS:
         QCOMPARE(navigator_->Calls, QStringList{u"ShowOptions"_s});
         QCOMPARE(navigator_->Owner, menu_.get());
         QVERIFY(menu_->isVisible());
+    }
+
+    void theProgramEndsBehindTheOptionsOnlyForARestart() {
+        Open();
+        int ends = 0;
+        const QScopedValueRollback<std::function<void()>> end(mMain::EndProgram, [&] { ++ends; });
+        QTest::mouseClick(Entry(3), Qt::LeftButton);
+        QCOMPARE(ends, 0);
+        navigator_->OnCall = [&](const QString&) {
+            QCOMPARE(ends, 0);
+            mMain::RestartRequested = true;
+        };
+        QTest::mouseClick(Entry(3), Qt::LeftButton);
+        QCOMPARE(ends, 1);
     }
 
     void theVersionOpensTheAboutBox() {

@@ -18,7 +18,9 @@
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSet>
 #include <QTimer>
+#include <QTimerEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -38,6 +40,18 @@ QByteArray Strip(const QMap<QString, QString>& other = {}) {
         writer.setText(field.key(), field.value());
     return writer.write(picture) ? bytes : QByteArray();
 }
+
+/// The timers that an object hears of.
+class TimerIds : public QObject {
+public:
+    QSet<int> Seen;
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Timer)
+            Seen.insert(static_cast<QTimerEvent*>(event)->timerId());
+        return false;
+    }
+};
 
 } // namespace
 
@@ -158,6 +172,27 @@ private Q_SLOTS:
         const auto shown = [&] { return QColor(animation->grab().toImage().pixel(middle)); };
         QTRY_COMPARE(shown(), QColor(Qt::red));
         QTRY_COMPARE(shown(), QColor(Qt::blue));
+    }
+
+    void anotherFileTakesThePlaceOfTheOneThatPlays() {
+        BusyAnimation animation;
+        TimerIds timers;
+        animation.installEventFilter(&timers);
+        const QString path = world_->WriteFile(u"x.rsc"_s, Strip());
+        animation.Load(path);
+        QTRY_COMPARE(timers.Seen.size(), 1);
+        const auto shown = [&] { return QColor(animation.grab().toImage().pixel(animation.rect().center())); };
+        QTRY_COMPARE(shown(), QColor(Qt::blue));
+        animation.Load(path);
+        QCOMPARE(shown(), QColor(Qt::red));
+        timers.Seen.clear();
+        QTest::qWait(200);
+        QCOMPARE(timers.Seen.size(), 1);
+        animation.Load(path + u".missing"_s);
+        QVERIFY(!animation.PlaysFile());
+        timers.Seen.clear();
+        QTest::qWait(200);
+        QCOMPARE(timers.Seen.size(), 0);
     }
 
     void aFileOfGarbageIsPassedOver_data() {

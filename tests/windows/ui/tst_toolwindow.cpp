@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "core/mMain.h"
 #include "tests/support/ScriptedNavigator.h"
 #include "tests/support/World.h"
 #include "tests/windows/WindowTests.h"
@@ -13,6 +14,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -95,6 +97,20 @@ private Q_SLOTS:
         window_->CheckForUpdates->trigger();
         QCOMPARE(navigator_->Calls, (QStringList{u"ShowOptions"_s, u"ShowAbout"_s, u"CheckForUpdates manual"_s}));
         QVERIFY(window_->isVisible());
+    }
+
+    void theProgramEndsBehindTheOptionsOnlyForARestart() {
+        int ends = 0;
+        const QScopedValueRollback<std::function<void()>> end(mMain::EndProgram, [&] { ++ends; });
+        window_->Options->trigger();
+        QCOMPARE(ends, 0);
+        navigator_->OnCall = [&](const QString&) {
+            QCOMPARE(ends, 0);
+            mMain::RestartRequested = true;
+        };
+        window_->Options->trigger();
+        QCOMPARE(ends, 1);
+        QCOMPARE(window_->Questions, 0);
     }
 
     void closingAsksOnceAndGoesBackToTheMenu() {
