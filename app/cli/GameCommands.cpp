@@ -97,13 +97,24 @@ void PrintSetting(const QString& key) {
     Print(ReadSetting(key));
 }
 
+/// Settings and INI files hold lines of eight-bit letters: what would become something else is refused.
+void RequireKept(const QString& place, const QStringList& texts) {
+    for (const QString& text : texts) {
+        if (text.contains(u'\n') || text.contains(u'\r') || text.contains(QChar(0)))
+            Fail(place, u"a text holds a line break"_s);
+        if (AnsiCodec::Decode(AnsiCodec::Encode(text)) != text)
+            Fail(place, u"a text holds a letter that would become '?'"_s);
+    }
+}
+
 void StoreSetting(const QString& key, const QString& value) {
+    const QString place = u"HKEY_CURRENT_USER\\"_s + QString::fromUtf16(SettingsKey) + u'\\' + key;
+    RequireKept(place, {key, value});
     mMain::UseRuntimes();
     WriteSetting(key, value);
     // Writing reports nothing, so a script learns from reading whether it was done.
-    if (ReadSetting(key) != AnsiCodec::Decode(AnsiCodec::Encode(value)))
-        Fail(u"HKEY_CURRENT_USER\\"_s + QString::fromUtf16(SettingsKey) + u'\\' + key,
-             u"The setting could not be stored."_s);
+    if (ReadSetting(key) != value)
+        Fail(place, u"The setting could not be stored."_s);
 }
 
 void PrintINI(const QString& section, const QString& key, const QString& file) {
@@ -111,6 +122,7 @@ void PrintINI(const QString& section, const QString& key, const QString& file) {
 }
 
 void StoreINI(const QString& section, const QString& key, const QString& value, const QString& file) {
+    RequireKept(Paths::ToNative(file), {section, key, value});
     if (INIRuntime().WriteINI(section, key, value, file) == u"0"_s)
         Fail(Paths::ToNative(file), u"The file could not be written."_s);
 }

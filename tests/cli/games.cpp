@@ -125,6 +125,26 @@ TEST_F(GameCommands, AnINIValueThatWasSetIsGot) {
     EXPECT_EQ(Output({u"ini"_s, u"get"_s, u"S"_s, u"Other"_s, Paths::ToNative(file)}), QByteArray("\n"));
 }
 
+TEST_F(GameCommands, WhatWouldBecomeSomethingElseIsNotStored) {
+    const QString file = world_.WriteFile(u"a.ini"_s, "[S]\r\nK=old\r\n");
+    Output({u"setting"_s, u"set"_s, u"GenLoadMod"_s, u"old"_s});
+    for (const QString& value : {u"Ж.big"_s, u"two\nlines"_s, u"two\rlines"_s, u"\U0001F600"_s}) {
+        const Outcome setting = RunCommand({u"setting"_s, u"set"_s, u"GenLoadMod"_s, value});
+        EXPECT_EQ(setting.Code, 1);
+        EXPECT_TRUE(setting.Error.contains("GenLoadMod: a text holds a l")) << setting.Error.constData();
+        EXPECT_EQ(ReadSetting(u"GenLoadMod"_s), u"old"_s);
+        for (const QStringList& texts :
+             {QStringList{value, u"K"_s, u"x"_s}, {u"S"_s, value, u"x"_s}, {u"S"_s, u"K"_s, value}}) {
+            const Outcome ini =
+                RunCommand(QStringList{u"ini"_s, u"set"_s} + texts + QStringList(Paths::ToNative(file)));
+            EXPECT_EQ(ini.Code, 1);
+            EXPECT_TRUE(ini.Error.startsWith("brindock-cli: " + Paths::ToNative(file).toUtf8() + ": a text holds"))
+                << ini.Error.constData();
+        }
+        EXPECT_EQ(World::ReadFile(file), QByteArray("[S]\r\nK=old\r\n"));
+    }
+}
+
 TEST_F(GameCommands, AnINIFileThatIsRefusedIsNamedOnOneLine) {
     const QString folder = Paths::ToNative(world_.Root());
     const Outcome outcome = RunCommand({u"ini"_s, u"set"_s, u"S"_s, u"K"_s, u"V"_s, folder});
