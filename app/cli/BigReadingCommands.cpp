@@ -6,6 +6,7 @@
 #include "app/cli/Output.h"
 #include "big/document/ArchiveExtractor.h"
 #include "platform/File.h"
+#include "platform/Files.h"
 #include "platform/Wildcards.h"
 
 #include <QJsonArray>
@@ -90,46 +91,37 @@ QString LastPart(const QString& name) {
     return name.sliced(std::max(name.lastIndexOf(u'\\'), name.lastIndexOf(u'/')) + 1);
 }
 
-/// What could not be extracted: the first reason and how many there were.
-class Failures {
-public:
-    void Add(const RuntimeError& error) {
-        if (count_++ == 0)
-            first_ = error.Description();
-    }
-
-    void Raise() const {
-        if (count_ == 0)
-            return;
-        throw RuntimeError(ErrorNumber::PathFileAccess,
-                           count_ == 1 ? first_ : u"%1 (and %2 more not extracted)"_s.arg(first_).arg(count_ - 1));
-    }
-
-private:
-    QString first_;
-    int count_ = 0;
-};
+/// Whether some of its bytes lie behind the archive's end, and come as zeros.
+bool IsCut(const BigEntry& entry, qint64 archiveLength) {
+    return entry.Size > 0 && qint64{entry.Offset} + entry.Size > archiveLength;
+}
 
 void Extract(const Arguments& given) {
     const Archive archive = ReadArchive(given.Path("ARCHIVE"));
     const auto entries = Chosen(archive, given.Texts("NAME"));
     const bool flat = given.Has("--flat");
+    const bool forced = given.Has("--force");
+    const qint64 length = Files::FileLength(archive.FileName);
     ArchiveExtractor extractor(archive.FileName, given.Path("FOLDER"));
     QSet<QString> written;
-    Failures failures;
+    bool isWhole = true;
     for (const BigEntry* entry : entries) {
         const QString name = flat ? LastPart(entry->Name) : entry->Name;
         try {
-            if (flat && written.contains(name.toCaseFolded()))
+            if ((flat || !forced) && written.contains(name.toCaseFolded()))
                 throw RuntimeError(ErrorNumber::FileAlreadyExists, entry->Name + u": another entry has that name"_s);
             extractor.Extract(*entry, name);
-            if (flat)
-                written.insert(name.toCaseFolded());
+            written.insert(name.toCaseFolded());
+            if (!forced && IsCut(*entry, length))
+                throw RuntimeError(ErrorNumber::PathFileAccess,
+                                   entry->Name + u": cut off, the archive ends before its data does"_s);
         } catch (const RuntimeError& error) {
-            failures.Add(error);
+            Report(error);
+            isWhole = false;
         }
     }
-    failures.Raise();
+    if (!isWhole)
+        EndWith(1);
 }
 
 } // namespace
@@ -144,6 +136,7 @@ std::vector<Command> BigReadingCommands() {
              {{Kind::Place, "ARCHIVE"},
               {Kind::Place, "FOLDER"},
               {Kind::Places, "NAME", "Names and patterns with * and ?; all entries without any"},
-              {Kind::Flag, "--flat", "Put all files into the folder itself"}},
+              {Kind::Flag, "--flat", "Put all files into the folder itself"},
+              {Kind::Flag, "--force", "Take cut entries, and of those that are one file the last, without a word"}},
              Extract}};
 }

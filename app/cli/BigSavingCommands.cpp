@@ -5,6 +5,7 @@
 #include "app/cli/BigCommands.h"
 #include "app/cli/Output.h"
 #include "big/format/ArchiveEdits.h"
+#include "platform/AnsiCodec.h"
 #include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -36,8 +37,9 @@ void Save(const Arguments& given) {
     SaveArchive(archive, given.Path("TARGET"), given);
 }
 
-/// The files of a folder as an archive's table, sorted by name; names that differ in case only are refused.
-std::vector<BigEntry> TableOf(const QString& folder, const QString& target) {
+/// The files of a folder as an archive's table, sorted by name; names that differ in case only are refused, and unless
+/// they may be changed those with letters that archives lack.
+std::vector<BigEntry> TableOf(const QString& folder, const QString& target, bool lossy) {
     std::vector<std::tuple<QString, QString, QString>> files; // folded name, name, path
     for (const Files::FoundFile& file : Files::ListFolderFilesStrict(folder, true)) {
         if (file.Path == target)
@@ -45,6 +47,9 @@ std::vector<BigEntry> TableOf(const QString& folder, const QString& target) {
         if (!file.IsPlain)
             Fail(Paths::ToNative(file.Path), u"no plain file"_s);
         QString name = file.Path.sliced(folder.size() + 1);
+        if (!lossy && AnsiCodec::Decode(AnsiCodec::Encode(name)) != name)
+            Fail(Paths::ToNative(file.Path),
+                 u"a letter of its name would become '?' (--lossy takes it all the same)"_s);
         files.emplace_back(name.toCaseFolded(), name, file.Path);
     }
     std::ranges::sort(files);
@@ -64,7 +69,8 @@ void Create(const Arguments& given) {
     const QString target = given.Path("TARGET");
     if (!Files::FolderExists(folder))
         Fail(folder, u"no such folder"_s);
-    SaveArchive({TableOf(folder, target), given.Number("--version").value_or(0), {}}, target, given);
+    SaveArchive({TableOf(folder, target, given.Has("--lossy")), given.Number("--version").value_or(0), {}}, target,
+                given);
 }
 
 Parameter Version(bool required) {
@@ -100,6 +106,10 @@ std::vector<Command> BigSavingCommands() {
              Save},
             {"create",
              "Make an archive of a folder's files, sorted by name",
-             {{Kind::Place, "TARGET"}, Version(true), {Kind::Place, "FOLDER"}, Exact()},
+             {{Kind::Place, "TARGET"},
+              Version(true),
+              {Kind::Place, "FOLDER"},
+              {Kind::Flag, "--lossy", "Take names with letters that become '?', too"},
+              Exact()},
              Create}};
 }

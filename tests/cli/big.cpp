@@ -80,7 +80,7 @@ TEST_F(BigCommands, ExtractFlatTakesTheLastParts) {
 }
 
 TEST_F(BigCommands, ExtractFlatRefusesASecondEntryOfTheSameLastPart) {
-    world_.WriteFile(u"same.big"_s, HeaderOf("BIGF", 2, 46) + Record(50, 1, "x\\n") + Record(51, 1, "y\\N") +
+    world_.WriteFile(u"same.big"_s, HeaderOf("BIGF", 2, 46) + Record(48, 1, "x\\n") + Record(49, 1, "y\\N") +
                                         Bytes("L225\0\0\0\0\0\0"
                                               "12"));
     EXPECT_TRUE(
@@ -97,14 +97,41 @@ TEST_F(BigCommands, ExtractTakesNamesAndPatterns) {
 }
 
 TEST_F(BigCommands, ExtractNeverLeavesTheFolderAndGoesOnWithTheRest) {
-    world_.WriteFile(u"evil.big"_s, HeaderOf("BIGF", 3, 70) + Record(81, 1, "..\\evil") + Record(82, 1, "nul.txt") +
-                                        Record(83, 1, "good") +
+    world_.WriteFile(u"evil.big"_s, HeaderOf("BIGF", 3, 70) + Record(71, 1, "..\\evil") + Record(72, 1, "nul.txt") +
+                                        Record(73, 1, "good") +
                                         Bytes("L225\0\0\0\0\0\0"
                                               "123"));
-    const QByteArray line = Failure({u"big"_s, u"extract"_s, Native(u"evil.big"_s), Native(u"out"_s)});
-    EXPECT_TRUE(line.contains("..\\evil") && line.contains("1 more")) << line.constData();
+    const Outcome outcome = RunCommand({u"big"_s, u"extract"_s, Native(u"evil.big"_s), Native(u"out"_s)});
+    EXPECT_EQ(outcome.Code, 1);
+    EXPECT_EQ(outcome.Error.count('\n'), 2) << outcome.Error.constData();
+    EXPECT_TRUE(outcome.Error.contains("..\\evil") && outcome.Error.contains("nul.txt")) << outcome.Error.constData();
     EXPECT_FALSE(Files::FileExists(At(u"evil"_s)));
     EXPECT_EQ(Files::ListFolder(At(u"out\\*.*"_s), true), QStringList{u"good"_s});
+}
+
+TEST_F(BigCommands, ExtractTellsOfEntriesThatAreOneFileAndOfCutOnes) {
+    world_.WriteFile(u"odd.big"_s, HeaderOf("BIGF", 3, 56) + Record(56, 1, "x") + Record(57, 1, "X") +
+                                       Record(58, 9, "cut") +
+                                       Bytes("L225\0\0\0\0"
+                                             "12345"));
+    const Outcome outcome = RunCommand({u"big"_s, u"extract"_s, Native(u"odd.big"_s), Native(u"out"_s)});
+    EXPECT_EQ(outcome.Code, 1);
+    EXPECT_EQ(outcome.Error, "brindock-cli: X: another entry has that name\n"
+                             "brindock-cli: cut: cut off, the archive ends before its data does\n");
+    EXPECT_EQ(World::ReadFile(At(u"out\\x"_s)), "1");
+    EXPECT_EQ(World::ReadFile(At(u"out\\cut"_s)), QByteArray("345\0\0\0\0\0\0", 9));
+    EXPECT_EQ(Output({u"big"_s, u"extract"_s, Native(u"odd.big"_s), Native(u"out"_s), u"--force"_s}), QByteArray());
+    EXPECT_EQ(World::ReadFile(At(u"out\\x"_s)), "2");
+}
+
+TEST_F(BigCommands, CreateRefusesNamesThatWouldBecomeOthers) {
+    world_.WriteFile(u"files\\a.txt"_s, "x");
+    world_.WriteFile(u"files\\Ж.txt"_s, "x");
+    EXPECT_TRUE(Failure({u"big"_s, u"create"_s, Native(u"new.big"_s), u"--version"_s, u"0"_s, Native(u"files"_s)})
+                    .contains("\xD0\x96.txt: a letter of its name would become '?'"));
+    EXPECT_FALSE(Files::FileExists(At(u"new.big"_s)));
+    Output({u"big"_s, u"create"_s, Native(u"new.big"_s), u"--version"_s, u"0"_s, Native(u"files"_s), u"--lossy"_s});
+    EXPECT_TRUE(World::ReadFile(At(u"new.big"_s)).contains("?.txt"));
 }
 
 TEST_F(BigCommands, AnEntryOfNoBytesBecomesAnEmptyFileAndTheRestFollows) {
