@@ -8,16 +8,62 @@
 #include "core/mTraduction.h"
 
 #include <limits>
+#include <set>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
+
+namespace {
+
+void AddEntriesOf(const QString& key, std::set<int>& entries) {
+    for (std::size_t index = 0; index < mBIG::BigEntries.size(); ++index)
+        if (!mBIG::BigEntries[index].Deleted && mBIG::BigEntries[index].Name.contains(key))
+            entries.insert(static_cast<int>(index));
+}
+
+} // namespace
+
+// The rows and folders as they are now. A table of one record keeps its folders' entry.
+EntryChanges::Leaving EntryChanges::WhatGoes() const {
+    const EditorState& state = panes_.State;
+    std::set<int> entries;
+    const auto add = [&](int node) {
+        if (mBIG::HighestIndex() >= 1 && node != FolderTree::Root && panes_.Tree.Has(node))
+            AddEntriesOf(panes_.Tree.Node(node).Key, entries);
+    };
+    int of = panes_.Tree.Has(state.SelectedNode) ? state.SelectedNode : static_cast<int>(FolderTree::Root);
+    if (state.FocusPane != FocusedPane::List) {
+        add(of);
+    } else {
+        const std::vector<int> places = panes_.View.SelectedRows();
+        for (const int place : places) {
+            if (place < 0 || place >= panes_.List.Count())
+                continue;
+            const FileRow& row = panes_.List.Row(place);
+            if (places.size() == 1 && !row.IsFolder)
+                return {panes_.List.Text(place), 1};
+            if (places.size() == 1)
+                of = row.Index;
+            if (row.IsFolder)
+                add(row.Index);
+            else
+                entries.insert(row.Index);
+        }
+    }
+    const QString folder = panes_.Tree.Has(of) ? panes_.Tree.Node(of).Text : QString();
+    return {GetText(u"DeletesOfFolder"_s).arg(folder, QString::number(entries.size())), entries.size()};
+}
 
 void EntryChanges::Delete() {
     if (EditorPanes::Locked())
         return;
     const EditorPanes::Command command(panes_);
-    const QString question = GetText(u"ConfirmDelete"_s);
-    if (Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNo) != Host::Answer::Yes)
+    const Leaving leaving = WhatGoes();
+    const QString question = GetText(u"ConfirmDelete"_s) + u"\r\n\r\n"_s + leaving.Text;
+    // Much is not lost by one key.
+    const Host::Answer usual = leaving.Count > 1 ? Host::Answer::No : Host::Answer::Yes;
+    if (Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNo, u"Brindock 2005"_s, usual) !=
+        Host::Answer::Yes)
         return;
     EditorState& state = panes_.State;
     if (state.FocusPane == FocusedPane::List) {

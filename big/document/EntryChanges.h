@@ -22,6 +22,13 @@ public:
     bool RenameRow(int place, const QString& text);
 
 private:
+    /// What the question about deleting names.
+    struct Leaving {
+        QString Text;          ///< the one entry's name, or the folder's and how many of its entries go
+        std::size_t Count = 0; ///< entries
+    };
+
+    [[nodiscard]] Leaving WhatGoes() const;
     void DeleteFolder(int node);
     void DeleteRows();
     void RenameFolder(int node, const QString& text);

@@ -50,12 +50,38 @@ TEST_F(EditorChanges, DeleteAsksFirstAndNoChangesNothing) {
     SelectRows({u"readme.txt"_s});
     Delete(Answer::No);
     ASSERT_EQ(Speaker.Messages.size(), 1U);
-    EXPECT_EQ(Speaker.Messages[0].Text, u"ConfirmDelete"_s);
+    EXPECT_EQ(Speaker.Messages[0].Text, u"ConfirmDelete\r\n\r\nreadme.txt"_s);
+    EXPECT_EQ(Speaker.Messages[0].Default, Answer::Yes);
     EXPECT_EQ(Speaker.Messages[0].Title, u"Brindock 2005"_s);
     EXPECT_EQ(Speaker.Messages[0].Sign, Host::Icon::Question);
     EXPECT_EQ(Speaker.Messages[0].Choice, Host::Buttons::YesNo);
     EXPECT_EQ(DeletedNames(), QStringList());
     EXPECT_FALSE(State().Modified);
+}
+
+TEST_F(EditorChanges, TheQuestionNamesWhatGoesAndMuchIsNotTheUsualAnswer) {
+    Place.UseLanguage("[LNG]\r\nConfirmDelete=Sure?\r\nDeletesOfFolder=%1: %2\r\n");
+    OpenArchive({{u"data\\ini\\1"_s, "1"},
+                 {u"data\\ini\\sub\\2"_s, "2"},
+                 {u"data\\3"_s, "3"},
+                 {u"Data\\capital"_s, "4"},
+                 {u"5"_s, "5"}});
+    const auto asked = [this](QStringView what, Answer usual) {
+        Delete(Answer::No);
+        EXPECT_EQ(Speaker.Messages.back().Text, u"Sure?\r\n\r\n"_s + what.toString());
+        EXPECT_EQ(Speaker.Messages.back().Default, usual);
+    };
+    Editor.ClickNode(NodeOf(u"data\\"_s));
+    asked(u"data: 3", Answer::No);
+    SelectRows({u"ini"_s});
+    asked(u"ini: 2", Answer::No);
+    SelectRows({u"ini"_s, u"3"_s});
+    asked(u"data: 3", Answer::No);
+    SelectRows({u"3"_s});
+    asked(u"3", Answer::Yes);
+    Editor.ClickNode(NodeOf(u"data\\ini\\sub\\"_s));
+    asked(u"sub: 1", Answer::Yes);
+    EXPECT_EQ(DeletedNames(), QStringList());
 }
 
 TEST_F(EditorChanges, DeleteInTheListMarksEverySelectedFile) {
