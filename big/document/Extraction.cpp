@@ -76,7 +76,8 @@ private:
     }
 
     static Host::Answer AskToReplace(const QString& path) {
-        const QString question = Paths::ToNative(path) + "\r\n\r\n"_L1 + GetText(u"FileAlreadyExists"_s);
+        const QString question = Paths::ToNative(path) + "\r\n\r\n"_L1 + GetText(u"FileAlreadyExists"_s) + "\r\n"_L1 +
+                                 GetText(u"NoWritesInto"_s);
         return Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNoCancel);
     }
 

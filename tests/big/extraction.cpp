@@ -49,7 +49,7 @@ protected:
 
     /// What is asked about a file that is there already.
     [[nodiscard]] QString Question(const QString& name) const {
-        return Paths::ToNative(At(u"out\\"_s)) + Paths::ToNative(name) + u"\r\n\r\nFileAlreadyExists"_s;
+        return Paths::ToNative(At(u"out\\"_s)) + Paths::ToNative(name) + u"\r\n\r\nFileAlreadyExists\r\nNoWritesInto"_s;
     }
 };
 
