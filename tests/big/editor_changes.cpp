@@ -61,6 +61,7 @@ TEST_F(EditorChanges, DeleteAsksFirstAndNoChangesNothing) {
 
 TEST_F(EditorChanges, TheQuestionNamesWhatGoesAndMuchIsNotTheUsualAnswer) {
     Place.UseLanguage("[LNG]\r\nConfirmDelete=Sure?\r\nDeletesOfFolder=%1: %2\r\n");
+    Place.Start();
     OpenArchive({{u"data\\ini\\1"_s, "1"},
                  {u"data\\ini\\sub\\2"_s, "2"},
                  {u"data\\3"_s, "3"},
