@@ -75,7 +75,7 @@ private:
 
     /// The emulated system starts programs of the one below, too, which know its files but not its pipes.
     QString system_ = QString::fromUtf8(Places::SystemIsEmulated ? "Z:" : "");
-    QTemporaryDir folder_{system_ + QStringLiteral("/tmp/brindock-XXXXXX")};
+    QTemporaryDir folder_{system_ + QStringLiteral("/tmp/brindock-")};
     QFile told_{folder_.filePath(QStringLiteral("told"))};
     QProcess process_;
     QString host_;
