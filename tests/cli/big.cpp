@@ -124,6 +124,15 @@ TEST_F(BigCommands, ExtractTellsOfEntriesThatAreOneFileAndOfCutOnes) {
     EXPECT_EQ(World::ReadFile(At(u"out\\x"_s)), "2");
 }
 
+TEST_F(BigCommands, ExtractTellsOfEntriesThatAreOneFileByEitherSeparator) {
+    world_.WriteFile(u"odd.big"_s, HeaderOf("BIGF", 2, 40) + Record(48, 1, "a/x") + Record(49, 1, "a\\x") +
+                                       Bytes("L225\0\0\0\0"
+                                             "12"));
+    const Outcome outcome = RunCommand({u"big"_s, u"extract"_s, Native(u"odd.big"_s), Native(u"out"_s)});
+    EXPECT_EQ(outcome.Code, 1);
+    EXPECT_EQ(outcome.Error, "brindock-cli: a\\x: another entry has that name\n");
+}
+
 TEST_F(BigCommands, CreateRefusesNamesThatWouldBecomeOthers) {
     world_.WriteFile(u"files\\a.txt"_s, "x");
     world_.WriteFile(u"files\\Ж.txt"_s, "x");
