@@ -15,8 +15,8 @@ public:
     ArchiveExtractor(const QString& archive, const QString& folder);
 
     /// Writes the entry's bytes to the file `name` below the folder, in one step over whatever file stands there. Bytes
-    /// behind the archive's end are zeros. Does not wait for the disk. Raises when the name is refused or the file can't
-    /// be written; the archive itself can't.
+    /// behind the archive's end are zeros. Does not wait for the disk. Raises when the name is refused or the file
+    /// can't be written; the archive itself can't.
     void Extract(const BigEntry& entry, const QString& name);
 
 private:
