@@ -23,8 +23,10 @@ namespace {
 /// No system takes a longer path, and each folder in a name costs as much memory as the name above it.
 constexpr qsizetype LongestName = 4095;
 
+/// A message has room for the beginning of a name that is longer than any.
 [[noreturn]] void Refuse(QStringView name, const QString& reason) {
-    throw RuntimeError(ErrorNumber::PathFileAccess, u"%1: %2"_s.arg(name, reason));
+    const QString shown = name.size() > LongestName ? name.first(LongestName).toString() + u'…' : name.toString();
+    throw RuntimeError(ErrorNumber::PathFileAccess, u"%1: %2"_s.arg(shown, reason));
 }
 
 bool IsDeviceName(QStringView component) {
@@ -127,7 +129,7 @@ FolderGateway::~FolderGateway() = default;
 QString FolderGateway::RefusalOf(QStringView name) {
     if (name.isEmpty())
         return u"has no name"_s;
-    if (name.size() > LongestName)
+    if (IsTooLong(name))
         return u"is longer than a path can be"_s;
     if (IsSeparator(name.front()))
         return u"begins at the root"_s;
@@ -141,6 +143,10 @@ QString FolderGateway::RefusalOf(QStringView name) {
             return refusal;
     }
     return {};
+}
+
+bool FolderGateway::IsTooLong(QStringView name) {
+    return name.size() > LongestName;
 }
 
 QString FolderGateway::RefusalOfFolder(QStringView name) {

@@ -42,6 +42,9 @@ public:
     /// names can't. Empty for a good name. Both separators count; the answer is the same on every system.
     static QString RefusalOf(QStringView name);
 
+    /// Whether no path can be as long as a name.
+    static bool IsTooLong(QStringView name);
+
     /// Why a name can't be one folder's; empty for a good one.
     static QString RefusalOfFolder(QStringView name);
 

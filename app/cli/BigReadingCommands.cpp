@@ -5,6 +5,7 @@
 #include "app/cli/BigCommands.h"
 #include "app/cli/Output.h"
 #include "big/document/ArchiveExtractor.h"
+#include "core/FolderGateway.h"
 #include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Wildcards.h"
@@ -113,10 +114,12 @@ void Extract(const Arguments& given) {
     for (const BigEntry* entry : entries) {
         const QString name = flat ? LastPart(entry->Name) : entry->Name;
         try {
-            if ((flat || !forced) && written.contains(FileKey(name)))
+            // A name that is refused is no file's.
+            const QString key = FolderGateway::RefusalOf(name).isEmpty() ? FileKey(name) : QString();
+            if ((flat || !forced) && written.contains(key))
                 throw RuntimeError(ErrorNumber::FileAlreadyExists, entry->Name + u": another entry has that name"_s);
             extractor.Extract(*entry, name);
-            written.insert(FileKey(name));
+            written.insert(key);
             if (!forced && IsCut(*entry, length))
                 throw RuntimeError(ErrorNumber::PathFileAccess,
                                    entry->Name + u": cut off, the archive ends before its data does"_s);

@@ -11,6 +11,8 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -86,6 +88,35 @@ CsfTable FromJson(const QByteArray& bytes) {
 
 } // namespace CsfFormats
 
+namespace {
+
+constexpr char16_t Deletion = 0x7F;
+constexpr int Hexadecimal = 16;
+constexpr int HexadecimalDigits = 2;
+
+/// What stands behind a backslash for a letter that a line has no room for.
+constexpr std::array<std::pair<char16_t, char16_t>, 4> Marks{
+    {{u'\n', u'n'}, {u'\t', u't'}, {u'\r', u'r'}, {u'\\', u'\\'}}};
+
+bool IsHexadecimal(QChar letter) {
+    const QChar lower = letter.toLower();
+    return (lower >= u'0' && lower <= u'9') || (lower >= u'a' && lower <= u'f');
+}
+
+/// Null where the letter has none.
+QChar MarkOf(QChar letter) {
+    const auto found = std::ranges::find(Marks, letter.unicode(), &std::pair<char16_t, char16_t>::first);
+    return found == Marks.end() ? QChar() : QChar(found->second);
+}
+
+/// Null for a mark that stands for none.
+QChar LetterOf(QChar mark) {
+    const auto found = std::ranges::find(Marks, mark.unicode(), &std::pair<char16_t, char16_t>::second);
+    return found == Marks.end() ? QChar() : QChar(found->first);
+}
+
+} // namespace
+
 namespace CsfExchange {
 
 std::optional<Format> FormatOf(const QString& path) {
@@ -123,10 +154,20 @@ CsfTable Import(const QByteArray& bytes, Format format) {
 }
 
 QString Escaped(const QString& text) {
-    const auto special = [](QChar letter) { return letter == u'\n' || letter == u'\t' || letter == u'\\'; };
+    const auto special = [](QChar letter) { return letter < u' ' || letter == Deletion || letter == u'\\'; };
     if (std::ranges::none_of(text, special))
         return text;
-    return QString(text).replace(u'\\', u"\\\\"_s).replace(u'\n', u"\\n"_s).replace(u'\t', u"\\t"_s);
+    QString escaped;
+    escaped.reserve(text.size());
+    for (const QChar letter : text) {
+        if (!special(letter))
+            escaped += letter;
+        else if (const QChar mark = MarkOf(letter); !mark.isNull())
+            escaped += QString(u'\\') + mark;
+        else
+            escaped += u"\\x%1"_s.arg(QString::number(letter.unicode(), Hexadecimal), HexadecimalDigits, u'0');
+    }
+    return escaped;
 }
 
 QString Unescaped(const QString& text) {
@@ -134,9 +175,16 @@ QString Unescaped(const QString& text) {
     plain.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar next = text[i] == u'\\' && i + 1 < text.size() ? text[i + 1] : QChar();
-        const bool escape = next == u'n' || next == u't' || next == u'\\';
-        plain += !escape ? text[i] : next == u'n' ? u'\n' : next == u't' ? u'\t' : u'\\';
-        i += escape ? 1 : 0;
+        const QStringView digits = QStringView(text).sliced(std::min(i + 2, text.size())).left(HexadecimalDigits);
+        if (next == u'x' && digits.size() == HexadecimalDigits && std::ranges::all_of(digits, IsHexadecimal)) {
+            plain += QChar(digits.toUShort(nullptr, Hexadecimal));
+            i += 1 + HexadecimalDigits;
+        } else if (const QChar letter = LetterOf(next); !letter.isNull()) {
+            plain += letter;
+            ++i;
+        } else {
+            plain += text[i];
+        }
     }
     return plain;
 }

@@ -28,7 +28,8 @@ QByteArray Export(const CsfTable& table, Format format);
 /// Raises 13 with the reason, and the line where there is one.
 CsfTable Import(const QByteArray& bytes, Format format);
 
-/// Line feed, tab and backslash as `\n`, `\t` and `\\`, for texts on one line.
+/// Line feed, tab, carriage return and backslash as `\n`, `\t`, `\r` and `\\`, other control characters as `\x1b`, for
+/// texts on one line.
 QString Escaped(const QString& text);
 /// The way back; any other backslash stands for itself.
 QString Unescaped(const QString& text);
