@@ -4,6 +4,7 @@
 #include "csf/exchange/CsfExchange.h"
 
 #include "csf/exchange/CsfFormats.h"
+#include "platform/AnsiCodec.h"
 #include "platform/RuntimeError.h"
 
 #include <QJsonArray>
@@ -59,8 +60,14 @@ int LanguageNumber(QStringView text, qsizetype line) {
 
 QByteArray ToJson(const CsfTable& table) {
     QJsonArray strings;
-    for (const CsfString& entry : table.Strings)
-        strings.append(QJsonObject{{u"name"_s, entry.Name}, {u"value"_s, entry.Value}});
+    for (const CsfString& entry : table.Strings) {
+        QJsonObject told{{u"name"_s, entry.Name}, {u"value"_s, entry.Value}};
+        if (entry.Extra)
+            told.insert(u"extra"_s, AnsiCodec::Decode(*entry.Extra));
+        if (entry.IsMore)
+            told.insert(u"more"_s, true);
+        strings.append(told);
+    }
     return QJsonDocument(QJsonObject{{u"language"_s, table.Language}, {u"strings"_s, strings}}).toJson();
 }
 
@@ -80,7 +87,11 @@ CsfTable FromJson(const QByteArray& bytes) {
     table.Strings.reserve(static_cast<std::size_t>(strings.size()));
     qsizetype index = 0;
     for (const auto& entry : strings) {
-        table.Strings.push_back({TextOf(entry, u"value"_s, index), TextOf(entry, u"name"_s, index)});
+        CsfString read{TextOf(entry, u"value"_s, index), TextOf(entry, u"name"_s, index)};
+        if (!entry[u"extra"_s].isUndefined())
+            read.Extra = AnsiCodec::Encode(TextOf(entry, u"extra"_s, index));
+        read.IsMore = entry[u"more"_s].toBool();
+        table.Strings.push_back(std::move(read));
         ++index;
     }
     return table;
@@ -126,6 +137,8 @@ std::optional<Format> FormatOf(const QString& path) {
         return Format::Csv;
     if (path.endsWith(u".po"_s, Qt::CaseInsensitive))
         return Format::Po;
+    if (path.endsWith(u".str"_s, Qt::CaseInsensitive))
+        return Format::Str;
     return std::nullopt;
 }
 
@@ -135,6 +148,8 @@ QByteArray Export(const CsfTable& table, Format format) {
         return CsfFormats::ToJson(table);
     case Format::Csv:
         return CsfFormats::ToCsv(table);
+    case Format::Str:
+        return CsfFormats::ToStr(table);
     case Format::Po:
         break;
     }
@@ -147,6 +162,8 @@ CsfTable Import(const QByteArray& bytes, Format format) {
         return CsfFormats::FromJson(bytes);
     case Format::Csv:
         return CsfFormats::FromCsv(DecodeUtf8(bytes));
+    case Format::Str:
+        return CsfFormats::FromStr(bytes);
     case Format::Po:
         break;
     }
