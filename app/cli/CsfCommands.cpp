@@ -37,7 +37,7 @@ void PrintLine(const QString& word, const QStringList& texts) {
 }
 
 void List(const Arguments& given) {
-    const CsfTable table = ReadTableArgument(given.Raw("FILE"));
+    const CsfTable table = ReadTableFile(given, "FILE").Table;
     if (given.Has("--json")) {
         Print(QString::fromUtf8(CsfExchange::Export(table, CsfExchange::Format::Json)).trimmed());
         return;
@@ -70,19 +70,22 @@ void DeleteName(CsfTable& table, const QString& file, const QString& name) {
         table.Strings.erase(table.Strings.begin() + static_cast<std::ptrdiff_t>(places.back()));
 }
 
-/// Tells on standard error when an entry loses a letter, as the games' texts are of eight bits here.
-void WarnOfLostLetters(const CsfString& entry) {
-    const auto loses = [](const QString& text) { return AnsiCodec::Decode(AnsiCodec::Encode(text)) != text; };
-    if (loses(entry.Name) || loses(entry.Value))
+bool FitsEightBits(const QString& text) {
+    return AnsiCodec::Decode(AnsiCodec::Encode(text)) == text;
+}
+
+/// Tells on standard error when an entry loses a letter: names are of eight bits, and texts too where that was asked.
+void WarnOfLostLetters(const Arguments& given, const CsfString& entry) {
+    if (!FitsEightBits(entry.Name) || (given.Has(EightBit().Name) && !FitsEightBits(entry.Value)))
         Console::WriteError(Paths::EncodeNative(u"a letter becomes '?'\t"_s + Escaped(entry.Name) + u'\n'));
 }
 
 /// Every entry of that name gets the value; without any, one is appended.
-void SetValue(CsfTable& table, const std::string& given) {
-    const auto split = given.find('=');
-    const QString name = ArgumentText(given.substr(0, split));
-    const QString value = CsfExchange::Unescaped(ArgumentText(given.substr(split + 1)));
-    WarnOfLostLetters({value, name});
+void SetValue(const Arguments& given, CsfTable& table, const std::string& set) {
+    const auto split = set.find('=');
+    const QString name = ArgumentText(set.substr(0, split));
+    const QString value = CsfExchange::Unescaped(ArgumentText(set.substr(split + 1)));
+    WarnOfLostLetters(given, {value, name});
     const std::vector<std::size_t> places = Named(table, name);
     for (const std::size_t place : places)
         table.Strings[place].Value = value;
@@ -91,28 +94,43 @@ void SetValue(CsfTable& table, const std::string& given) {
 }
 
 void SaveTable(const Arguments& given) {
-    CsfTable table = ReadTableArgument(given.Raw("FILE"));
+    TableFile file = ReadTableFile(given, "FILE");
+    CsfTable& table = file.Table;
     table.Language = given.Number("--language").value_or(table.Language);
     for (const QString& name : given.Texts("--delete"))
         DeleteName(table, Paths::ToNative(given.Path("FILE")), name);
     for (const std::string& set : given.Raws("--set"))
-        SetValue(table, set);
-    WriteTableFile(given.Path("TARGET"), table);
+        SetValue(given, table, set);
+    WriteTableFile(given, file);
 }
 
 CsfExchange::Format FormatOfArgument(const std::string& argument) {
     return CsfExchange::FormatOf(ArgumentText(argument)).value_or(CsfExchange::Format::Json);
 }
 
+/// Tells on standard error which entries the form of an export could not hold whole.
+void WarnOfMissing(const CsfTable& table, const CsfTable& held) {
+    QString lines;
+    for (std::size_t i = 0; i < table.Strings.size(); ++i) {
+        if (i >= held.Strings.size() || held.Strings[i] != table.Strings[i])
+            lines += u"not held whole\t"_s + Escaped(table.Strings[i].Name) + u'\n';
+    }
+    Console::WriteError(Paths::EncodeNative(lines));
+}
+
 void Export(const Arguments& given) {
-    const CsfTable table = ReadTableArgument(given.Raw("FILE"));
-    WriteWhole(given.Path("OUT"), CsfExchange::Export(table, FormatOfArgument(given.Raw("OUT"))));
+    const CsfTable table = ReadTableFile(given, "FILE").Table;
+    const CsfExchange::Format format = FormatOfArgument(given.Raw("OUT"));
+    const QByteArray bytes = CsfExchange::Export(table, format);
+    WriteWhole(given.Path("OUT"), bytes);
+    WarnOfMissing(table, CsfExchange::Import(bytes, format));
 }
 
 void Import(const Arguments& given) {
     const QString path = given.Path("IN");
     const QByteArray bytes = ReadWhole(path);
-    CsfTable table;
+    TableFile made;
+    CsfTable& table = made.Table;
     try {
         table = CsfExchange::Import(bytes, FormatOfArgument(given.Raw("IN")));
     } catch (const RuntimeError& error) {
@@ -120,13 +138,13 @@ void Import(const Arguments& given) {
     }
     table.Language = given.Number("--language").value_or(table.Language);
     for (const CsfString& entry : table.Strings)
-        WarnOfLostLetters(entry);
-    WriteTableFile(given.Path("TARGET"), table);
+        WarnOfLostLetters(given, entry);
+    WriteTableFile(given, made);
 }
 
 void Diff(const Arguments& given) {
-    const CsfTable before = ReadTableArgument(given.Raw("A"));
-    const CsfTable after = ReadTableArgument(given.Raw("B"));
+    const CsfTable before = ReadTableFile(given, "A").Table;
+    const CsfTable after = ReadTableFile(given, "B").Table;
     const auto differences = CsfCompare::Diff(before, after);
     const bool sameLanguage = before.Language == after.Language;
     if (!sameLanguage)
@@ -136,6 +154,8 @@ void Diff(const Arguments& given) {
             PrintLine(u"added"_s, {difference.Name, difference.After});
         else if (difference.What == CsfDifference::Kind::Removed)
             PrintLine(u"removed"_s, {difference.Name, difference.Before});
+        else if (difference.What == CsfDifference::Kind::Extra)
+            PrintLine(u"extra"_s, {difference.Name, difference.Before, difference.After});
         else
             PrintLine(u"changed"_s, {difference.Name, difference.Before, difference.After});
     }
@@ -144,11 +164,12 @@ void Diff(const Arguments& given) {
 }
 
 void Merge(const Arguments& given) {
-    const CsfTable base = ReadTableArgument(given.Raw("BASE"));
-    const CsfTable ours = ReadTableArgument(given.Raw("OURS"));
-    const CsfTable theirs = ReadTableArgument(given.Raw("THEIRS"));
-    CsfMerged merged = CsfCompare::Merge(base, ours, theirs);
-    WriteTableFile(given.Path("TARGET"), merged.Table);
+    const CsfTable base = ReadTableFile(given, "BASE").Table;
+    TableFile ours = ReadTableFile(given, "OURS");
+    const CsfTable theirs = ReadTableFile(given, "THEIRS").Table;
+    CsfMerged merged = CsfCompare::Merge(base, ours.Table, theirs);
+    ours.Table = std::move(merged.Table);
+    WriteTableFile(given, ours);
     QString conflicts;
     if (merged.LanguageConflict)
         conflicts += u"language\tchanged in both\n"_s;
@@ -161,11 +182,12 @@ void Merge(const Arguments& given) {
 }
 
 void Check(const Arguments& given) {
-    const CsfTable table = ReadTableArgument(given.Raw("FILE"));
+    const CsfTable table = ReadTableFile(given, "FILE").Table;
     CsfTable other;
-    CsfCompare::Checks checks{nullptr, given.Number("--max").value_or(0)};
+    CsfCompare::Checks checks{
+        .Against = nullptr, .Maximum = given.Number("--max").value_or(0), .EightBits = !given.Has(EightBit().Name)};
     if (given.Has("--against")) {
-        other = ReadTableArgument(given.Raw("--against"));
+        other = ReadTableFile(given, "--against").Table;
         checks.Against = &other;
     }
     const auto findings = CsfCompare::Check(table, checks);
@@ -176,6 +198,10 @@ void Check(const Arguments& given) {
             PrintLine(u"empty"_s, {finding.Name});
         else if (finding.What == CsfFinding::Kind::Placeholders)
             PrintLine(u"placeholders"_s, {finding.Name, finding.Here, finding.There});
+        else if (finding.What == CsfFinding::Kind::Letters)
+            PrintLine(u"letters"_s, {finding.Name});
+        else if (finding.What == CsfFinding::Kind::Extra)
+            PrintLine(u"extra"_s, {finding.Name});
         else
             PrintLine(u"long"_s, {finding.Name, finding.Here});
     }
@@ -187,7 +213,7 @@ void Check(const Arguments& given) {
 Parameter ExchangeFile(const std::string& name) {
     return {.Name = name, .Check = [](const std::string& given) {
                 return CsfExchange::FormatOf(ArgumentText(given)) ? std::string()
-                                                                  : std::string("must end in .json, .csv or .po");
+                                                                  : std::string("must end in .json, .csv, .po or .str");
             }};
 }
 
@@ -204,11 +230,10 @@ std::string ComplaintAboutSet(const std::string& given) {
 }
 
 Command ListCommand() {
-    return {
-        "list",
-        "Print the language, then an entry a line: name, tab, value, with \\n, \\t and \\\\ for what they stand for",
-        {{Kind::Place, "FILE"}, {Kind::Flag, "--json", "Print JSON"}},
-        List};
+    return {"list",
+            "Print the language, then an entry a line: name, tab, value, with escapes like \\n for what no line holds",
+            {{Kind::Place, "FILE"}, {Kind::Flag, "--json", "Print JSON"}, EightBit()},
+            List};
 }
 
 Command SaveCommand() {
@@ -224,7 +249,8 @@ Command SaveCommand() {
           .TypeName = "NAME=VALUE",
           .Check = ComplaintAboutSet},
          {Kind::List, "--delete", "Leave out the entries of that name", "NAME"},
-         Language()},
+         Language(),
+         EightBit()},
         SaveTable};
 }
 
@@ -237,27 +263,32 @@ Command CheckCommand() {
               .Name = "--max",
               .Description = "Report values of more than N characters",
               .TypeName = "N",
-              .Least = 1}},
+              .Least = 1},
+             EightBit()},
             Check};
 }
 
 } // namespace
 
 std::vector<Command> CsfCommands() {
-    return {ListCommand(),
-            {"diff",
-             "Print what B added, removed and changed; ends with 1 when they differ",
-             {{Kind::Place, "A"}, {Kind::Place, "B"}},
-             Diff},
-            CheckCommand(),
-            SaveCommand(),
-            {"export", "Write a table as JSON, CSV or PO", {{Kind::Place, "FILE"}, ExchangeFile("OUT")}, Export},
-            {"import",
-             "Make a table of JSON, CSV or PO",
-             {ExchangeFile("IN"), {Kind::Place, "TARGET"}, Language()},
-             Import},
-            {"merge",
-             "Merge two tables that come from one; conflicts keep ours, are listed and end with 1",
-             {{Kind::Place, "BASE"}, {Kind::Place, "OURS"}, {Kind::Place, "THEIRS"}, {Kind::Place, "TARGET"}},
-             Merge}};
+    return {
+        ListCommand(),
+        {"diff",
+         "Print what B added, removed and changed; ends with 1 when they differ",
+         {{Kind::Place, "A"}, {Kind::Place, "B"}, EightBit()},
+         Diff},
+        CheckCommand(),
+        SaveCommand(),
+        {"export",
+         "Write a table as JSON, CSV, PO or the games' own text; what that can't hold is named",
+         {{Kind::Place, "FILE"}, ExchangeFile("OUT"), EightBit()},
+         Export},
+        {"import",
+         "Make a table of JSON, CSV, PO or the games' own text",
+         {ExchangeFile("IN"), {Kind::Place, "TARGET"}, Language(), EightBit()},
+         Import},
+        {"merge",
+         "Merge two tables that come from one; conflicts keep ours, are listed and end with 1",
+         {{Kind::Place, "BASE"}, {Kind::Place, "OURS"}, {Kind::Place, "THEIRS"}, {Kind::Place, "TARGET"}, EightBit()},
+         Merge}};
 }

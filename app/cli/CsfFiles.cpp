@@ -6,6 +6,9 @@
 #include "app/cli/Output.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
+#include "platform/WriteAside.h"
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -15,20 +18,37 @@ constexpr int HighestLanguage = 255;
 
 } // namespace
 
-CsfTable ReadTableArgument(const std::string& argument) {
-    const QString path = ArgumentPath(argument);
+Parameter EightBit() {
+    return {.What = Parameter::Kind::Flag,
+            .Name = "--8-bit",
+            .Description = "Read and write as 8-bit editors do: any file that they open, and only what they keep"};
+}
+
+TableFile ReadTableFile(const Arguments& given, const std::string& place) {
+    const QString path = ArgumentPath(given.Raw(place));
     const QByteArray bytes = ReadWhole(path);
     try {
-        return CsfTable::Read(QByteArrayView(bytes));
+        if (given.Has(EightBit().Name))
+            return {CsfTable::Read(QByteArrayView(bytes)), std::nullopt};
+        CsfWhole whole = CsfWhole::Read(bytes);
+        CsfTable table = whole.Table();
+        return {std::move(table), std::move(whole)};
     } catch (const RuntimeError& error) {
         Fail(Paths::ToNative(path), u"not a CSF file that can be read: "_s + error.Description());
     }
 }
 
-void WriteTableFile(const QString& path, const CsfTable& table) {
+void WriteTableFile(const Arguments& given, const TableFile& file) {
+    const QString path = given.Path("TARGET");
     const QString shown = Paths::ToNative(path);
+    const CsfTable& table = file.Table;
     if (table.Strings.empty())
         Fail(shown, u"a table without strings can't be saved"_s);
+    if (!given.Has(EightBit().Name)) {
+        CsfWhole whole = file.Whole.value_or(CsfWhole());
+        whole.Take(table);
+        return WriteWhole(path, whole.Bytes());
+    }
     if (table.Strings.size() > CsfTable::MaximumStrings)
         Fail(shown, u"%1 strings; %2 are the most that can be read again"_s.arg(table.Strings.size())
                         .arg(CsfTable::MaximumStrings));

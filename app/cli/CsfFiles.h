@@ -4,14 +4,27 @@
 /// How the commands for string tables read and write their files. Each failure names the file.
 #pragma once
 
+#include "app/cli/Command.h"
 #include "csf/format/CsfTable.h"
+#include "csf/format/CsfWhole.h"
 
 #include <QString>
 
+#include <optional>
 #include <string>
 
-/// A string table.
-CsfTable ReadTableArgument(const std::string& argument);
+/// A string table, and what its file has besides.
+struct TableFile {
+    CsfTable Table;
+    std::optional<CsfWhole> Whole; ///< none of one that is read as 8-bit editors read it
+};
 
-/// Writes a string table; what no reader would take back is refused before any file is touched.
-void WriteTableFile(const QString& path, const CsfTable& table);
+/// The flag for tables as 8-bit editors read and write them.
+Parameter EightBit();
+
+/// Reads the file that a place of the command line names.
+TableFile ReadTableFile(const Arguments& given, const std::string& place);
+
+/// Writes a table: with all that its file had besides, or as 8-bit editors do where the flag is given. What no reader
+/// would take back is refused before any file is touched.
+void WriteTableFile(const Arguments& given, const TableFile& file);

@@ -31,6 +31,12 @@ QStringList Comparable(const QString& placeholders) {
     return list;
 }
 
+/// Whether each letter is as it was once its upper byte is gone.
+bool HasEightBits(const QString& text) {
+    constexpr char16_t highest = 0xFF;
+    return std::ranges::all_of(text, [](QChar letter) { return letter.unicode() <= highest; });
+}
+
 } // namespace
 
 namespace CsfCompare {
@@ -73,6 +79,10 @@ std::vector<CsfFinding> Check(const CsfTable& table, const Checks& checks) {
         }
         if (checks.Maximum > 0 && entry.Value.size() > checks.Maximum)
             findings.push_back({Kind::Long, entry.Name, QString::number(entry.Value.size()), {}});
+        if (checks.EightBits && !HasEightBits(entry.Value))
+            findings.push_back({Kind::Letters, entry.Name, {}, {}});
+        if (checks.EightBits && entry.Extra)
+            findings.push_back({Kind::Extra, entry.Name, {}, {}});
     }
     return findings;
 }

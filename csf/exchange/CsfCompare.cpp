@@ -3,6 +3,8 @@
 
 #include "csf/exchange/CsfCompare.h"
 
+#include "platform/AnsiCodec.h"
+
 #include <QHash>
 
 #include <utility>
@@ -36,7 +38,13 @@ private:
 };
 
 bool Same(const CsfString* left, const CsfString* right) {
-    return left == nullptr || right == nullptr ? left == right : left->Value == right->Value;
+    if (left == nullptr || right == nullptr)
+        return left == right;
+    return left->Value == right->Value && left->Extra == right->Extra;
+}
+
+QString ExtraOf(const CsfString& entry) {
+    return AnsiCodec::Decode(entry.Extra.value_or(QByteArray()));
 }
 
 /// The three sides of one entry; null where a side has none.
@@ -73,8 +81,10 @@ std::vector<CsfDifference> Diff(const CsfTable& before, const CsfTable& after) {
         const CsfString* const is = now.Find(key);
         if (is == nullptr)
             differences.push_back({Kind::Removed, key.first, was->Value, {}});
-        else if (!Same(was, is))
+        else if (was->Value != is->Value)
             differences.push_back({Kind::Changed, key.first, was->Value, is->Value});
+        else if (!Same(was, is))
+            differences.push_back({Kind::Extra, key.first, ExtraOf(*was), ExtraOf(*is)});
     }
     for (const Key& key : now.Keys()) {
         if (old.Find(key) == nullptr)

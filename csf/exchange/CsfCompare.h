@@ -12,12 +12,17 @@
 #include <vector>
 
 struct CsfDifference {
-    enum class Kind { Added, Removed, Changed };
+    enum class Kind {
+        Added,
+        Removed,
+        Changed,
+        Extra, ///< the value is the same, the extra data is not
+    };
 
     Kind What = Kind::Added;
     QString Name;
-    QString Before; ///< the value; empty for an added entry
-    QString After;  ///< the value; empty for a removed entry
+    QString Before; ///< the value, or the extra data as a text; empty for an added entry
+    QString After;  ///< the same; empty for a removed entry
 
     bool operator==(const CsfDifference&) const = default;
 };
@@ -36,7 +41,14 @@ struct CsfMerged {
 };
 
 struct CsfFinding {
-    enum class Kind { Duplicate, Empty, Placeholders, Long };
+    enum class Kind {
+        Duplicate,
+        Empty,
+        Placeholders,
+        Long,
+        Letters, ///< 8-bit editors lose letters of it
+        Extra,   ///< they lose its extra data
+    };
 
     Kind What = Kind::Duplicate;
     QString Name;
@@ -58,6 +70,7 @@ CsfMerged Merge(const CsfTable& base, const CsfTable& ours, const CsfTable& thei
 struct Checks {
     const CsfTable* Against = nullptr; ///< placeholders have to be those of the entry of that name, in any case
     qsizetype Maximum = 0;             ///< characters a value may have; 0 for any number
+    bool EightBits = false;            ///< tell what editors of 8 bits would lose of a table that was read whole
 };
 
 /// Names that come again without regard to case, empty values, and what `checks` asks for, in the table's order.

@@ -97,8 +97,14 @@ namespace CsfFormats {
 
 QByteArray ToStr(const CsfTable& table) {
     QString text;
-    for (const CsfString& entry : table.Strings)
-        text += entry.Name + u"\r\n"_s + Quoted(entry.Value) + u"\r\nEND\r\n\r\n"_s;
+    for (auto entry = table.Strings.begin(); entry != table.Strings.end(); ++entry) {
+        if (!entry->IsMore)
+            text += entry->Name + u"\r\n"_s;
+        text += Quoted(entry->Value) + u"\r\n"_s;
+        const auto next = entry + 1;
+        if (next == table.Strings.end() || !next->IsMore)
+            text += u"END\r\n\r\n"_s;
+    }
     const bool fits = AnsiCodec::Decode(AnsiCodec::Encode(text)) == text;
     return fits ? AnsiCodec::Encode(text) : Utf8Mark.toByteArray() + text.toUtf8();
 }

@@ -16,7 +16,7 @@ TEST_F(CsfCommands, ASaveThatFailsMidwayTellsWhereTheOldFileIs) {
         QByteArray told;
         {
             const FileLengthLimit limit(room);
-            told = Failure({u"save"_s, three, three, u"--set"_s, u"b=x"_s});
+            told = Failure({u"save"_s, three, three, u"--set"_s, u"b=x"_s, u"--8-bit"_s});
         }
         EXPECT_TRUE(told.startsWith("brindock-cli: " + three.toUtf8() + ": ")) << told.constData();
         EXPECT_EQ(told.count(three.toUtf8()), 2) << told.constData();
@@ -27,6 +27,17 @@ TEST_F(CsfCommands, ASaveThatFailsMidwayTellsWhereTheOldFileIs) {
         Put(u"three.csf"_s, before);
         Files::Delete(At(u"three.csf.sav"_s));
     }
+}
+
+TEST_F(CsfCommands, ASaveOfAllThatFailsMidwayKeepsWhatStoodThere) {
+    const QString three = Three();
+    const QByteArray before = Contents(u"three.csf"_s);
+    for (const rlim_t room : {0U, 23U, 24U, 60U}) {
+        const FileLengthLimit limit(room);
+        EXPECT_TRUE(Failure({u"save"_s, three, three, u"--set"_s, u"b=x"_s}).contains("three.csf: "));
+        EXPECT_EQ(Contents(u"three.csf"_s), before);
+    }
+    EXPECT_EQ(Files::ListFolder(At(u"~brindock*"_s)), QStringList{});
 }
 
 TEST_F(CsfCommands, ANewFileThatFailsMidwayHasNoOldOneToName) {
