@@ -5,7 +5,6 @@
 
 #include "app/cli/CsfFiles.h"
 #include "app/cli/Output.h"
-#include "csf/exchange/CsfCompare.h"
 #include "csf/exchange/CsfExchange.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Console.h"
@@ -25,16 +24,6 @@ using CsfExchange::Escaped;
 namespace {
 
 using Kind = Parameter::Kind;
-
-/// The exit code for "yes, there is something".
-constexpr int Findings = 1;
-
-void PrintLine(const QString& word, const QStringList& texts) {
-    QString line = word;
-    for (const QString& text : texts)
-        line += u'\t' + Escaped(text);
-    Print(line);
-}
 
 void List(const Arguments& given) {
     const CsfTable table = ReadTableFile(given, "FILE").Table;
@@ -142,73 +131,6 @@ void Import(const Arguments& given) {
     WriteTableFile(given, made);
 }
 
-void Diff(const Arguments& given) {
-    const CsfTable before = ReadTableFile(given, "A").Table;
-    const CsfTable after = ReadTableFile(given, "B").Table;
-    const auto differences = CsfCompare::Diff(before, after);
-    const bool sameLanguage = before.Language == after.Language;
-    if (!sameLanguage)
-        PrintLine(u"language"_s, {QString::number(before.Language), QString::number(after.Language)});
-    for (const CsfDifference& difference : differences) {
-        if (difference.What == CsfDifference::Kind::Added)
-            PrintLine(u"added"_s, {difference.Name, difference.After});
-        else if (difference.What == CsfDifference::Kind::Removed)
-            PrintLine(u"removed"_s, {difference.Name, difference.Before});
-        else if (difference.What == CsfDifference::Kind::Extra)
-            PrintLine(u"extra"_s, {difference.Name, difference.Before, difference.After});
-        else
-            PrintLine(u"changed"_s, {difference.Name, difference.Before, difference.After});
-    }
-    if (!sameLanguage || !differences.empty())
-        EndWith(Findings);
-}
-
-void Merge(const Arguments& given) {
-    const CsfTable base = ReadTableFile(given, "BASE").Table;
-    TableFile ours = ReadTableFile(given, "OURS");
-    const CsfTable theirs = ReadTableFile(given, "THEIRS").Table;
-    CsfMerged merged = CsfCompare::Merge(base, ours.Table, theirs);
-    ours.Table = std::move(merged.Table);
-    WriteTableFile(given, ours);
-    QString conflicts;
-    if (merged.LanguageConflict)
-        conflicts += u"language\tchanged in both\n"_s;
-    for (const CsfConflict& conflict : merged.Conflicts)
-        conflicts += u"conflict\t"_s + Escaped(conflict.Name) + u'\t' + conflict.Reason + u'\n';
-    if (conflicts.isEmpty())
-        return;
-    Console::WriteError(Paths::EncodeNative(conflicts));
-    EndWith(Findings);
-}
-
-void Check(const Arguments& given) {
-    const CsfTable table = ReadTableFile(given, "FILE").Table;
-    CsfTable other;
-    CsfCompare::Checks checks{
-        .Against = nullptr, .Maximum = given.Number("--max").value_or(0), .EightBits = !given.Has(EightBit().Name)};
-    if (given.Has("--against")) {
-        other = ReadTableFile(given, "--against").Table;
-        checks.Against = &other;
-    }
-    const auto findings = CsfCompare::Check(table, checks);
-    for (const CsfFinding& finding : findings) {
-        if (finding.What == CsfFinding::Kind::Duplicate)
-            PrintLine(u"duplicate"_s, {finding.Name});
-        else if (finding.What == CsfFinding::Kind::Empty)
-            PrintLine(u"empty"_s, {finding.Name});
-        else if (finding.What == CsfFinding::Kind::Placeholders)
-            PrintLine(u"placeholders"_s, {finding.Name, finding.Here, finding.There});
-        else if (finding.What == CsfFinding::Kind::Letters)
-            PrintLine(u"letters"_s, {finding.Name});
-        else if (finding.What == CsfFinding::Kind::Extra)
-            PrintLine(u"extra"_s, {finding.Name});
-        else
-            PrintLine(u"long"_s, {finding.Name, finding.Here});
-    }
-    if (!findings.empty())
-        EndWith(Findings);
-}
-
 /// A place for a file whose ending tells the format.
 Parameter ExchangeFile(const std::string& name) {
     return {.Name = name, .Check = [](const std::string& given) {
@@ -254,41 +176,17 @@ Command SaveCommand() {
         SaveTable};
 }
 
-Command CheckCommand() {
-    return {"check",
-            "Print what looks wrong in a table; ends with 1 when something does",
-            {{Kind::Place, "FILE"},
-             {Kind::Option, "--against", "Compare the printf-style placeholders with this table's", "OTHER"},
-             {.What = Kind::Number,
-              .Name = "--max",
-              .Description = "Report values of more than N characters",
-              .TypeName = "N",
-              .Least = 1},
-             EightBit()},
-            Check};
-}
-
 } // namespace
 
 std::vector<Command> CsfCommands() {
-    return {
-        ListCommand(),
-        {"diff",
-         "Print what B added, removed and changed; ends with 1 when they differ",
-         {{Kind::Place, "A"}, {Kind::Place, "B"}, EightBit()},
-         Diff},
-        CheckCommand(),
-        SaveCommand(),
-        {"export",
-         "Write a table as JSON, CSV, PO or the games' own text; what that can't hold is named",
-         {{Kind::Place, "FILE"}, ExchangeFile("OUT"), EightBit()},
-         Export},
-        {"import",
-         "Make a table of JSON, CSV, PO or the games' own text",
-         {ExchangeFile("IN"), {Kind::Place, "TARGET"}, Language(), EightBit()},
-         Import},
-        {"merge",
-         "Merge two tables that come from one; conflicts keep ours, are listed and end with 1",
-         {{Kind::Place, "BASE"}, {Kind::Place, "OURS"}, {Kind::Place, "THEIRS"}, {Kind::Place, "TARGET"}, EightBit()},
-         Merge}};
+    return {ListCommand(),
+            SaveCommand(),
+            {"export",
+             "Write a table as JSON, CSV, PO or the games' own text; what that can't hold is named",
+             {{Kind::Place, "FILE"}, ExchangeFile("OUT"), EightBit()},
+             Export},
+            {"import",
+             "Make a table of JSON, CSV, PO or the games' own text",
+             {ExchangeFile("IN"), {Kind::Place, "TARGET"}, Language(), EightBit()},
+             Import}};
 }

@@ -6,5 +6,9 @@
 
 #include "app/cli/Command.h"
 
-/// list, diff, check, save, export, import and merge.
+/// list, save, export and import.
 std::vector<Command> CsfCommands();
+
+/// diff, check and merge. They end with 0 for tables that are the same or clean, with 1 for what they found, and with 2
+/// when they could not look.
+std::vector<Command> CsfCompareCommands();

@@ -16,17 +16,7 @@ namespace {
 
 constexpr int HighestLanguage = 255;
 
-} // namespace
-
-Parameter EightBit() {
-    return {.What = Parameter::Kind::Flag,
-            .Name = "--8-bit",
-            .Description = "Read and write as 8-bit editors do: any file that they open, and only what they keep"};
-}
-
-TableFile ReadTableFile(const Arguments& given, const std::string& place) {
-    const QString path = ArgumentPath(given.Raw(place));
-    const QByteArray bytes = ReadWhole(path);
+TableFile TableOf(const Arguments& given, const QString& path, const QByteArray& bytes) {
     try {
         if (given.Has(EightBit().Name))
             return {CsfTable::Read(QByteArrayView(bytes)), std::nullopt};
@@ -36,6 +26,25 @@ TableFile ReadTableFile(const Arguments& given, const std::string& place) {
     } catch (const RuntimeError& error) {
         Fail(Paths::ToNative(path), u"not a CSF file that can be read: "_s + error.Description());
     }
+}
+
+} // namespace
+
+Parameter EightBit() {
+    return {.What = Parameter::Kind::Flag,
+            .Name = "--8-bit",
+            .Description = "Read and write as 8-bit editors do: any file that they open, and only what they keep"};
+}
+
+TableFile ReadTableFile(const Arguments& given, const std::string& place) {
+    const QString path = given.Path(place);
+    return TableOf(given, path, ReadWhole(path));
+}
+
+TableFile ReadTableOrNothing(const Arguments& given, const std::string& place) {
+    const QString path = given.Path(place);
+    const QByteArray bytes = ReadWhole(path);
+    return bytes.isEmpty() ? TableFile() : TableOf(given, path, bytes);
 }
 
 void WriteTableFile(const Arguments& given, const TableFile& file) {

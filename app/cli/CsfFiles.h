@@ -25,6 +25,9 @@ Parameter EightBit();
 /// Reads the file that a place of the command line names.
 TableFile ReadTableFile(const Arguments& given, const std::string& place);
 
+/// The same; a file of nothing is a table of nothing.
+TableFile ReadTableOrNothing(const Arguments& given, const std::string& place);
+
 /// Writes a table: with all that its file had besides, or as 8-bit editors do where the flag is given. What no reader
 /// would take back is refused before any file is touched.
 void WriteTableFile(const Arguments& given, const TableFile& file);

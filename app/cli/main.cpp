@@ -22,6 +22,13 @@
 
 namespace {
 
+CommandGroup Csf() {
+    CommandGroup group{"csf", "CSF string tables", CsfCommands()};
+    for (const Command& command : CsfCompareCommands())
+        group.Commands.push_back(command);
+    return group;
+}
+
 CommandGroup Big() {
     CommandGroup group{"big", "BIG archives", {}};
     for (const auto& commands :
@@ -36,7 +43,7 @@ int Run(const std::vector<std::string>& words) {
     const JournalFollower follower;
     std::vector<CommandGroup> groups = GameCommands();
     groups.push_back(Big());
-    groups.push_back({"csf", "CSF string tables", CsfCommands()});
+    groups.push_back(Csf());
     groups.push_back({"replays", "A game's replays", ReplayCommands()});
     groups.push_back({"maps", "A game's maps", MapCommands()});
     groups.push_back({"mods", "A game's mods", ModCommands()});

@@ -37,6 +37,20 @@ bool HasEightBits(const QString& text) {
     return std::ranges::all_of(text, [](QChar letter) { return letter.unicode() <= highest; });
 }
 
+/// What is between an entry and the other table's of that name, null where that has none. A text without letters needs
+/// no translation.
+void CheckAgainst(const CsfString& entry, const CsfString* other, std::vector<CsfFinding>& findings) {
+    using Kind = CsfFinding::Kind;
+    if (other == nullptr)
+        return findings.push_back({Kind::Extra, entry.Name, {}, {}});
+    const QString here = CsfCompare::Placeholders(entry.Value);
+    const QString there = CsfCompare::Placeholders(other->Value);
+    if (Comparable(here) != Comparable(there))
+        findings.push_back({Kind::Placeholders, entry.Name, here, there});
+    if (entry.Value == other->Value && std::ranges::any_of(entry.Value, [](QChar letter) { return letter.isLetter(); }))
+        findings.push_back({Kind::Untranslated, entry.Name, {}, {}});
+}
+
 } // namespace
 
 namespace CsfCompare {
@@ -71,18 +85,22 @@ std::vector<CsfFinding> Check(const CsfTable& table, const Checks& checks) {
         names.insert(name);
         if (entry.Value.isEmpty())
             findings.push_back({Kind::Empty, entry.Name, {}, {}});
-        if (const CsfString* const other = others.value(name); other != nullptr) {
-            const QString here = Placeholders(entry.Value);
-            const QString there = Placeholders(other->Value);
-            if (Comparable(here) != Comparable(there))
-                findings.push_back({Kind::Placeholders, entry.Name, here, there});
-        }
+        if (checks.Against != nullptr)
+            CheckAgainst(entry, others.value(name), findings);
         if (checks.Maximum > 0 && entry.Value.size() > checks.Maximum)
             findings.push_back({Kind::Long, entry.Name, QString::number(entry.Value.size()), {}});
         if (checks.EightBits && !HasEightBits(entry.Value))
             findings.push_back({Kind::Letters, entry.Name, {}, {}});
         if (checks.EightBits && entry.Extra)
-            findings.push_back({Kind::Extra, entry.Name, {}, {}});
+            findings.push_back({Kind::ExtraData, entry.Name, {}, {}});
+    }
+    if (checks.Against == nullptr)
+        return findings;
+    for (const CsfString& other : checks.Against->Strings) {
+        if (const QString name = other.Name.toCaseFolded(); !names.contains(name)) {
+            findings.push_back({Kind::Missing, other.Name, {}, {}});
+            names.insert(name);
+        }
     }
     return findings;
 }

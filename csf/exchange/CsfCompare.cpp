@@ -19,10 +19,11 @@ using Key = std::pair<QString, int>;
 /// The entries of a table by their keys.
 class Keyed {
 public:
-    explicit Keyed(const CsfTable& table) {
+    explicit Keyed(const CsfTable& table, Qt::CaseSensitivity names = Qt::CaseSensitive) {
         QHash<QString, int> occurrences;
         for (const CsfString& entry : table.Strings) {
-            keys_.emplace_back(entry.Name, occurrences[entry.Name]++);
+            const QString name = names == Qt::CaseSensitive ? entry.Name : entry.Name.toCaseFolded();
+            keys_.emplace_back(name, occurrences[name]++);
             entries_.insert(keys_.back(), &entry);
         }
     }
@@ -55,8 +56,17 @@ struct Sides {
 
     [[nodiscard]] bool IsConflict() const { return !Same(Base, Ours) && !Same(Base, Theirs) && !Same(Ours, Theirs); }
 
-    /// Ours, unless only theirs changed.
-    [[nodiscard]] const CsfString* Result() const { return Same(Base, Ours) ? Theirs : Ours; }
+    /// The side that changed, and of two that did the preferred one.
+    [[nodiscard]] const CsfString* Result(CsfCompare::Side preferred) const {
+        if (IsConflict())
+            return preferred == CsfCompare::Side::Ours ? Ours : Theirs;
+        return Same(Base, Ours) ? Theirs : Ours;
+    }
+
+    [[nodiscard]] CsfConflict Conflict() const {
+        const auto value = [](const CsfString* entry) { return entry == nullptr ? QString() : entry->Value; };
+        return {(Ours == nullptr ? Theirs : Ours)->Name, Reason(), value(Ours), value(Theirs)};
+    }
 
     [[nodiscard]] QString Reason() const {
         if (Ours == nullptr)
@@ -66,6 +76,22 @@ struct Sides {
         return Base == nullptr ? u"added in both"_s : u"changed in both"_s;
     }
 };
+
+/// Stands for what is before all entries.
+const Key NoKey{{}, -1};
+
+/// The entries that only theirs has, by the entry of ours that they stand behind there.
+QHash<Key, std::vector<Key>> AddedBehind(const Keyed& ours, const Keyed& theirs) {
+    QHash<Key, std::vector<Key>> added;
+    Key last = NoKey;
+    for (const Key& key : theirs.Keys()) {
+        if (ours.Find(key) != nullptr)
+            last = key;
+        else
+            added[last].push_back(key);
+    }
+    return added;
+}
 
 } // namespace
 
@@ -93,27 +119,47 @@ std::vector<CsfDifference> Diff(const CsfTable& before, const CsfTable& after) {
     return differences;
 }
 
-CsfMerged Merge(const CsfTable& base, const CsfTable& ours, const CsfTable& theirs) {
-    const Keyed baseKeys(base);
-    const Keyed ourKeys(ours);
-    const Keyed theirKeys(theirs);
+bool HaveSameOrder(const CsfTable& before, const CsfTable& after) {
+    const Keyed old(before);
+    const Keyed now(after);
+    const auto common = [](const Keyed& keyed, const Keyed& other) {
+        std::vector<Key> keys;
+        std::ranges::copy_if(keyed.Keys(), std::back_inserter(keys),
+                             [&](const Key& key) { return other.Find(key) != nullptr; });
+        return keys;
+    };
+    return common(old, now) == common(now, old);
+}
+
+CsfMerged Merge(const CsfTable& base, const CsfTable& ours, const CsfTable& theirs, Side preferred) {
+    const Keyed baseKeys(base, Qt::CaseInsensitive);
+    const Keyed ourKeys(ours, Qt::CaseInsensitive);
+    const Keyed theirKeys(theirs, Qt::CaseInsensitive);
     CsfMerged merged;
     const auto take = [&](const Key& key) {
         const Sides sides{baseKeys.Find(key), ourKeys.Find(key), theirKeys.Find(key)};
         if (sides.IsConflict())
-            merged.Conflicts.push_back({key.first, sides.Reason()});
-        if (const CsfString* const result = sides.Result(); result != nullptr)
+            merged.Conflicts.push_back(sides.Conflict());
+        if (const CsfString* const result = sides.Result(preferred); result != nullptr) {
             merged.Table.Strings.push_back(*result);
+            if (sides.Ours != nullptr)
+                merged.Table.Strings.back().Name = sides.Ours->Name;
+        }
     };
-    for (const Key& key : ourKeys.Keys())
-        take(key);
-    for (const Key& key : theirKeys.Keys()) {
-        if (ourKeys.Find(key) == nullptr)
+    const auto added = AddedBehind(ourKeys, theirKeys);
+    const auto takeAdded = [&](const Key& behind) {
+        for (const Key& key : added.value(behind))
             take(key);
+    };
+    takeAdded(NoKey);
+    for (const Key& key : ourKeys.Keys()) {
+        take(key);
+        takeAdded(key);
     }
-    merged.Table.Language = ours.Language == base.Language ? theirs.Language : ours.Language;
     merged.LanguageConflict =
         ours.Language != base.Language && theirs.Language != base.Language && ours.Language != theirs.Language;
+    const bool takesTheirs = ours.Language == base.Language || (merged.LanguageConflict && preferred == Side::Theirs);
+    merged.Table.Language = takesTheirs ? theirs.Language : ours.Language;
     return merged;
 }
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// Two string tables compared, three merged, one checked. Entries belong together by their name, letter by letter, and
-/// where a name comes again by how often it has come.
+/// Two string tables compared, three merged, one checked. Entries belong together by their name (letter by letter, in a
+/// merge without regard to case), and where a name comes again by how often it has come.
 #pragma once
 
 #include "csf/exchange/CsfExchange.h"
@@ -30,13 +30,15 @@ struct CsfDifference {
 struct CsfConflict {
     QString Name;
     QString Reason;
+    QString Ours;   ///< the value; empty where ours has no such entry
+    QString Theirs; ///< likewise
 
     bool operator==(const CsfConflict&) const = default;
 };
 
 struct CsfMerged {
     CsfTable Table;
-    std::vector<CsfConflict> Conflicts; ///< ours was kept in each
+    std::vector<CsfConflict> Conflicts; ///< the preferred side was kept in each
     bool LanguageConflict = false;
 };
 
@@ -46,8 +48,11 @@ struct CsfFinding {
         Empty,
         Placeholders,
         Long,
-        Letters, ///< 8-bit editors lose letters of it
-        Extra,   ///< they lose its extra data
+        Letters,      ///< 8-bit editors lose letters of it
+        ExtraData,    ///< they lose its extra data
+        Missing,      ///< only the other table has it
+        Extra,        ///< only this table has it
+        Untranslated, ///< its text is the other table's
     };
 
     Kind What = Kind::Duplicate;
@@ -64,16 +69,23 @@ namespace CsfCompare {
 /// the entries is no difference.
 std::vector<CsfDifference> Diff(const CsfTable& before, const CsfTable& after);
 
-/// What either side changed against `base`. The result has the order of `ours`; what only `theirs` added comes last.
-CsfMerged Merge(const CsfTable& base, const CsfTable& ours, const CsfTable& theirs);
+/// Whether the entries that both tables have come in the same order.
+bool HaveSameOrder(const CsfTable& before, const CsfTable& after);
+
+enum class Side { Ours, Theirs };
+
+/// What either side changed against `base`. The result has the order and the spelling of names of `ours`; what only
+/// `theirs` added stands behind what it stands behind there. Where both changed an entry, the preferred side counts.
+CsfMerged Merge(const CsfTable& base, const CsfTable& ours, const CsfTable& theirs, Side preferred = Side::Ours);
 
 struct Checks {
-    const CsfTable* Against = nullptr; ///< placeholders have to be those of the entry of that name, in any case
+    const CsfTable* Against = nullptr; ///< entries are compared with those of that name, in any case, of this table
     qsizetype Maximum = 0;             ///< characters a value may have; 0 for any number
     bool EightBits = false;            ///< tell what editors of 8 bits would lose of a table that was read whole
 };
 
-/// Names that come again without regard to case, empty values, and what `checks` asks for, in the table's order.
+/// Names that come again without regard to case, empty values, and what `checks` asks for, in the table's order; what
+/// is missing comes last, in the other table's order.
 std::vector<CsfFinding> Check(const CsfTable& table, const Checks& checks);
 
 /// The printf-style placeholders of a text, without width and precision, joined by blanks.

@@ -206,8 +206,21 @@ TEST_F(CsfCommands, DiffEndsWithOneWhenTheTablesDiffer) {
     EXPECT_EQ(Findings({u"diff"_s, three, other}), "language\t3\t2\n"
                                                    "changed\tb\t2\tx\n"
                                                    "removed\tA:x\t\xC3\xA9\\n\\t\\\\\n"
-                                                   "added\tc\t4\\n\n");
-    EXPECT_TRUE(Failure({u"diff"_s, three, Native(u"missing.csf"_s)}).contains("missing.csf: "));
+                                                   "added\tc\t4\\n\n"
+                                                   "order\n");
+    for (const QStringList& trouble : {QStringList{u"diff"_s, three, Native(u"missing.csf"_s)},
+                                       {u"check"_s, Native(u"missing.csf"_s)},
+                                       {u"merge"_s, three, Native(u"missing.csf"_s), three, three}})
+        EXPECT_TRUE(Failure(trouble, 2).contains("missing.csf: "));
+    const QString turned = Put(u"t.csf"_s, Head(3, 3) + Entry("A:x", "\xE9\n\t\\") + Entry("b", "2") + Entry("", "3"));
+    EXPECT_EQ(Findings({u"diff"_s, three, turned}), "order\n");
+    EXPECT_EQ(Output({u"diff"_s, three, turned, u"--ignore-order"_s}), QByteArray());
+    const QJsonObject told = QJsonDocument::fromJson(Findings({u"diff"_s, three, other, u"--json"_s})).object();
+    EXPECT_EQ(told[u"languages"_s].toArray(), (QJsonArray{3, 2}));
+    EXPECT_EQ(told[u"sameOrder"_s].toBool(true), false);
+    EXPECT_EQ(
+        told[u"differences"_s].toArray().at(0).toObject(),
+        (QJsonObject{{u"kind"_s, u"changed"_s}, {u"name"_s, u"b"_s}, {u"before"_s, u"2"_s}, {u"after"_s, u"x"_s}}));
 }
 
 TEST_F(CsfCommands, MergeTakesBothSides) {
@@ -225,8 +238,37 @@ TEST_F(CsfCommands, MergeListsConflictsAndKeepsOurs) {
     const Outcome outcome = RunCommand({u"csf"_s, u"merge"_s, base, ours, theirs, ours});
     EXPECT_EQ(outcome.Code, 1);
     EXPECT_EQ(outcome.Output, QByteArray());
-    EXPECT_EQ(outcome.Error, "language\tchanged in both\nconflict\ta\tchanged in both\n");
+    EXPECT_EQ(outcome.Error, "language\tchanged in both\nconflict\ta\tchanged in both\t2\t3\n");
     EXPECT_EQ(Contents(u"ours.csf"_s), Head(2, 2) + Entry("a", "2") + Entry("b", "3"));
+}
+
+TEST_F(CsfCommands, MergePrefersTheSideThatIsNamed) {
+    const QString base = Put(u"base.csf"_s, Head(1, 0) + Entry("a", "1"));
+    const QString ours = Put(u"ours.csf"_s, Head(1, 2) + Entry("A", "2"));
+    const QString theirs = Put(u"theirs.csf"_s, Head(1, 3) + Entry("a", "3"));
+    const auto merge = [&](const QString& flag) {
+        return RunCommand({u"csf"_s, u"merge"_s, base, ours, theirs, Native(u"out.csf"_s), flag});
+    };
+    EXPECT_EQ(merge(u"--theirs"_s).Code, 0);
+    EXPECT_EQ(Contents(u"out.csf"_s), Head(1, 3) + Entry("A", "3")) << "one name, spelt as ours";
+    EXPECT_EQ(merge(u"--ours"_s).Code, 0);
+    EXPECT_EQ(Contents(u"out.csf"_s), Contents(u"ours.csf"_s));
+    const Outcome json = merge(u"--json"_s);
+    EXPECT_EQ(json.Code, 1);
+    const QJsonObject told = QJsonDocument::fromJson(json.Output).object();
+    EXPECT_TRUE(told[u"languageConflict"_s].toBool());
+    EXPECT_EQ(
+        told[u"conflicts"_s].toArray().at(0).toObject(),
+        (QJsonObject{
+            {u"name"_s, u"A"_s}, {u"reason"_s, u"changed in both"_s}, {u"ours"_s, u"2"_s}, {u"theirs"_s, u"3"_s}}));
+}
+
+TEST_F(CsfCommands, AnEmptyBaseIsAnEmptyTable) {
+    const QString ours = Put(u"ours.csf"_s, Head(2, 3) + Entry("a", "1") + Entry("c", "1"));
+    const QString theirs = Put(u"theirs.csf"_s, Head(3, 3) + Entry("a", "1") + Entry("b", "2") + Entry("c", "1"));
+    Output({u"merge"_s, Put(u"base.csf"_s, ""), ours, theirs, Native(u"out.csf"_s)});
+    EXPECT_EQ(Contents(u"out.csf"_s), Contents(u"theirs.csf"_s)) << "their addition where it stood";
+    EXPECT_EQ(RunCommand({u"csf"_s, u"diff"_s, Native(u"base.csf"_s), ours}).Code, 2);
 }
 
 TEST_F(CsfCommands, CheckPrintsItsFindings) {
@@ -235,6 +277,15 @@ TEST_F(CsfCommands, CheckPrintsItsFindings) {
     EXPECT_EQ(Findings({u"check"_s, file}), "duplicate\tOK\nempty\tOK\n");
     const QString other = Put(u"o.csf"_s, Head(2, 0) + Entry("ok", "%s") + Entry("D", "too"));
     EXPECT_EQ(Findings({u"check"_s, file, u"--against"_s, other, u"--max"_s, u"4"_s}),
-              "placeholders\tOk\t%d\t%s\nduplicate\tOK\nempty\tOK\nplaceholders\tOK\t\t%s\nlong\tc\t5\n");
+              "placeholders\tOk\t%d\t%s\nduplicate\tOK\nempty\tOK\nplaceholders\tOK\t\t%s\nextra\tc\nlong\tc\t5\n");
+    const QString more = Put(u"m.csf"_s, Head(3, 0) + Entry("D", "fine") + Entry("new", "x") + Entry("c", "12345"));
+    EXPECT_EQ(Findings({u"check"_s, file, u"--against"_s, more}),
+              "extra\tOk\nduplicate\tOK\nempty\tOK\nextra\tOK\nuntranslated\td\nmissing\tnew\n");
+    const QJsonArray told =
+        QJsonDocument::fromJson(Findings({u"check"_s, file, u"--against"_s, other, u"--json"_s})).array();
+    EXPECT_EQ(
+        told.at(0).toObject(),
+        (QJsonObject{
+            {u"kind"_s, u"placeholders"_s}, {u"name"_s, u"Ok"_s}, {u"here"_s, u"%d"_s}, {u"against"_s, u"%s"_s}}));
     EXPECT_EQ(Output({u"check"_s, Three()}), QByteArray());
 }

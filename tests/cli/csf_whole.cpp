@@ -91,7 +91,7 @@ TEST_F(CsfCommands, TheGamesOwnTextIsImported) {
 
 TEST_F(CsfCommands, CheckTellsWhatEightBitEditorsWouldLose) {
     EXPECT_EQ(Findings({u"check"_s, Put(u"odd.csf"_s, Odd())}),
-              "letters\ta\nletters\tb\nextra\tb\nduplicate\tb\nempty\tb\n");
+              "letters\ta\nletters\tb\nextra-data\tb\nduplicate\tb\nempty\tb\n");
 }
 
 TEST_F(CsfCommands, ExtraDataThatChangedIsADifference) {
