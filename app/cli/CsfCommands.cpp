@@ -10,12 +10,15 @@
 #include "platform/Console.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
+#include "platform/Wildcards.h"
 #include "platform/WriteAside.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -51,8 +54,20 @@ std::vector<std::size_t> Named(const CsfTable& table, const QString& name) {
     return places;
 }
 
+/// The same for a pattern with * and ?, where no name is spelt so.
+std::vector<std::size_t> Fitting(const CsfTable& table, const QString& pattern) {
+    std::vector<std::size_t> places = Named(table, pattern);
+    if (!places.empty() || !IsPattern(pattern))
+        return places;
+    for (std::size_t i = 0; i < table.Strings.size(); ++i) {
+        if (FitsPattern(table.Strings[i].Name, pattern))
+            places.push_back(i);
+    }
+    return places;
+}
+
 void DeleteName(CsfTable& table, const QString& file, const QString& name) {
-    std::vector<std::size_t> places = Named(table, name);
+    std::vector<std::size_t> places = Fitting(table, name);
     if (places.empty())
         Fail(file, u"no entry is named %1"_s.arg(name));
     for (; !places.empty(); places.pop_back())
@@ -69,10 +84,18 @@ void WarnOfLostLetters(const Arguments& given, const CsfString& entry) {
         Console::WriteError(Paths::EncodeNative(u"a letter becomes '?'\t"_s + Escaped(entry.Name) + u'\n'));
 }
 
+/// Where the "=" behind the name stands: a name's own one has a backslash before it.
+std::string::size_type SplitOf(const std::string& set) {
+    auto split = set.find('=');
+    while (split != std::string::npos && split > 0 && set[split - 1] == '\\')
+        split = set.find('=', split + 1);
+    return split;
+}
+
 /// Every entry of that name gets the value; without any, one is appended.
 void SetValue(const Arguments& given, CsfTable& table, const std::string& set) {
-    const auto split = set.find('=');
-    const QString name = ArgumentText(set.substr(0, split));
+    const auto split = SplitOf(set);
+    const QString name = ArgumentText(set.substr(0, split)).replace(u"\\="_s, u"="_s);
     const QString value = CsfExchange::Unescaped(ArgumentText(set.substr(split + 1)));
     WarnOfLostLetters(given, {value, name});
     const std::vector<std::size_t> places = Named(table, name);
@@ -107,12 +130,43 @@ void WarnOfMissing(const CsfTable& table, const CsfTable& held) {
     Console::WriteError(Paths::EncodeNative(lines));
 }
 
+QChar SeparatorArgument(const Arguments& given) {
+    const std::string name = given.Raw("--separator");
+    if (name == "semicolon")
+        return u';';
+    return name == "tab" ? u'\t' : u',';
+}
+
 void Export(const Arguments& given) {
     const CsfTable table = ReadTableFile(given, "FILE").Table;
     const CsfExchange::Format format = FormatOfArgument(given.Raw("OUT"));
-    const QByteArray bytes = CsfExchange::Export(table, format);
+    const QByteArray bytes = CsfExchange::Export(table, format, SeparatorArgument(given));
     WriteWhole(given.Path("OUT"), bytes);
     WarnOfMissing(table, CsfExchange::Import(bytes, format));
+}
+
+/// Gives the entries of a table what another one holds of them, by name without regard to case and by how often that
+/// has come; the others of that one are appended.
+void PutInto(CsfTable& table, const CsfTable& changes) {
+    QHash<std::pair<QString, int>, std::size_t> places;
+    QHash<QString, int> seen;
+    for (std::size_t i = 0; i < table.Strings.size(); ++i) {
+        const QString name = table.Strings[i].Name.toCaseFolded();
+        places.insert({name, seen[name]++}, i);
+    }
+    seen.clear();
+    for (const CsfString& change : changes.Strings) {
+        const QString name = change.Name.toCaseFolded();
+        const std::size_t place = places.value({name, seen[name]++}, table.Strings.size());
+        if (place == table.Strings.size()) {
+            table.Strings.push_back(change);
+            continue;
+        }
+        CsfString& entry = table.Strings[place];
+        entry.Value = change.Value;
+        if (change.Extra)
+            entry.Extra = change.Extra;
+    }
 }
 
 void Import(const Arguments& given) {
@@ -120,15 +174,23 @@ void Import(const Arguments& given) {
     const QByteArray bytes = ReadWhole(path);
     TableFile made;
     CsfTable& table = made.Table;
+    QStringList notes;
     try {
-        table = CsfExchange::Import(bytes, FormatOfArgument(given.Raw("IN")));
+        table = CsfExchange::Import(bytes, FormatOfArgument(given.Raw("IN")), &notes);
     } catch (const RuntimeError& error) {
         Fail(Paths::ToNative(path), error.Description());
     }
+    for (const QString& note : notes)
+        Console::WriteError(Paths::EncodeNative(Paths::ToNative(path) + u": "_s + note + u'\n'));
     table.Language = given.Number("--language").value_or(table.Language);
     for (const CsfString& entry : table.Strings)
         WarnOfLostLetters(given, entry);
-    WriteTableFile(given, made);
+    if (!given.Has("--into"))
+        return WriteTableFile(given, made);
+    TableFile base = ReadTableFile(given, "--into");
+    PutInto(base.Table, table);
+    base.Table.Language = given.Number("--language").value_or(base.Table.Language);
+    WriteTableFile(given, base);
 }
 
 /// A place for a file whose ending tells the format.
@@ -148,7 +210,7 @@ Parameter Language() {
 }
 
 std::string ComplaintAboutSet(const std::string& given) {
-    return given.find('=') == std::string::npos ? "must be NAME=VALUE" : "";
+    return SplitOf(given) == std::string::npos ? "must be NAME=VALUE" : "";
 }
 
 Command ListCommand() {
@@ -159,21 +221,22 @@ Command ListCommand() {
 }
 
 Command SaveCommand() {
-    return {
-        "save",
-        "Write a table anew, in its order: deletes first, then sets",
-        {{Kind::Place, "FILE"},
-         {Kind::Place, "TARGET", "May be FILE itself"},
-         {.What = Kind::List,
-          .Name = "--set",
-          .Description = "NAME=VALUE: give every entry of that name the value, or add one; \\n, \\t and \\\\ as list "
-                         "prints them",
-          .TypeName = "NAME=VALUE",
-          .Check = ComplaintAboutSet},
-         {Kind::List, "--delete", "Leave out the entries of that name", "NAME"},
-         Language(),
-         EightBit()},
-        SaveTable};
+    return {"save",
+            "Write a table anew, in its order: deletes first, then sets",
+            {{Kind::Place, "FILE"},
+             {Kind::Place, "TARGET", "May be FILE itself"},
+             {.What = Kind::List,
+              .Name = "--set",
+              .Description = "NAME=VALUE: give every entry of that name the value, or add one; a name's own = is \\=; "
+                             "\\n, \\t and \\\\ as list "
+                             "prints them",
+              .TypeName = "NAME=VALUE",
+              .Check = ComplaintAboutSet},
+             {Kind::List, "--delete", "Leave out the entries of that name, or of those that fit a pattern with * and ?",
+              "NAME"},
+             Language(),
+             EightBit()},
+            SaveTable};
 }
 
 } // namespace
@@ -187,6 +250,10 @@ std::vector<Command> CsfCommands() {
              Export},
             {"import",
              "Make a table of JSON, CSV, PO or the games' own text",
-             {ExchangeFile("IN"), {Kind::Place, "TARGET"}, Language(), EightBit()},
+             {ExchangeFile("IN"),
+              {Kind::Place, "TARGET"},
+              {Kind::Option, "--into", "Change only what IN holds of this table, which TARGET may be", "BASE"},
+              Language(),
+              EightBit()},
              Import}};
 }

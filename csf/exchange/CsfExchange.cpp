@@ -10,6 +10,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStringDecoder>
 
 #include <algorithm>
 #include <array>
@@ -29,6 +30,13 @@ QString DecodeUtf8(const QByteArray& bytes) {
         at = end + 1;
     }
     return QString::fromUtf8(bytes);
+}
+
+/// UTF-16 where its mark begins the bytes.
+QString DecodeMarked(const QByteArray& bytes) {
+    if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
+        return QStringDecoder(QStringDecoder::Utf16)(bytes);
+    return DecodeUtf8(bytes);
 }
 
 [[noreturn]] void RefuseJson(const QString& reason) {
@@ -142,12 +150,12 @@ std::optional<Format> FormatOf(const QString& path) {
     return std::nullopt;
 }
 
-QByteArray Export(const CsfTable& table, Format format) {
+QByteArray Export(const CsfTable& table, Format format, QChar separator) {
     switch (format) {
     case Format::Json:
         return CsfFormats::ToJson(table);
     case Format::Csv:
-        return CsfFormats::ToCsv(table);
+        return CsfFormats::ToCsv(table, separator);
     case Format::Str:
         return CsfFormats::ToStr(table);
     case Format::Po:
@@ -156,12 +164,12 @@ QByteArray Export(const CsfTable& table, Format format) {
     return CsfFormats::ToPo(table);
 }
 
-CsfTable Import(const QByteArray& bytes, Format format) {
+CsfTable Import(const QByteArray& bytes, Format format, QStringList* notes) {
     switch (format) {
     case Format::Json:
         return CsfFormats::FromJson(bytes);
     case Format::Csv:
-        return CsfFormats::FromCsv(DecodeUtf8(bytes));
+        return CsfFormats::FromCsv(DecodeMarked(bytes), notes);
     case Format::Str:
         return CsfFormats::FromStr(bytes);
     case Format::Po:

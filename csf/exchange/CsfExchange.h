@@ -17,8 +17,8 @@ namespace CsfExchange {
 
 enum class Format {
     Json, ///< an object with "language" and "strings", those with "name", "value" and where they have it "extra"
-    Csv,  ///< RFC 4180: name, value, and extra data where any has it; the head's second field is "language" and its
-          ///< number
+    Csv,  ///< RFC 4180, or with semicolons or tabs, also in UTF-16: name, value, and extra data where any has it; the
+          ///< head's second field is "language" and its number
     Po,   ///< gettext: name as context, value as source text; a translation that is there and not fuzzy counts instead
     Str,  ///< the games' own: a name, the quoted value and END; without language and extra data, and names differ in
           ///< more than their case
@@ -27,10 +27,12 @@ enum class Format {
 /// By the extension of a file's name, in any case.
 std::optional<Format> FormatOf(const QString& path);
 
-QByteArray Export(const CsfTable& table, Format format);
+/// `separator` stands between the fields of a CSV.
+QByteArray Export(const CsfTable& table, Format format, QChar separator = u',');
 
-/// Raises 13 with the reason, and the line where there is one.
-CsfTable Import(const QByteArray& bytes, Format format);
+/// Raises 13 with the reason, and the line where there is one. What is passed over is told in `notes`, where there are
+/// any.
+CsfTable Import(const QByteArray& bytes, Format format, QStringList* notes = nullptr);
 
 /// Line feed, tab, carriage return and backslash as `\n`, `\t`, `\r` and `\\`, other control characters as `\x1b`, for
 /// texts on one line.

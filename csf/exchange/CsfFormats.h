@@ -11,12 +11,12 @@
 namespace CsfFormats {
 
 QByteArray ToJson(const CsfTable& table);
-QByteArray ToCsv(const CsfTable& table);
+QByteArray ToCsv(const CsfTable& table, QChar separator);
 QByteArray ToPo(const CsfTable& table);
 QByteArray ToStr(const CsfTable& table);
 
 CsfTable FromJson(const QByteArray& bytes);
-CsfTable FromCsv(const QString& text);
+CsfTable FromCsv(const QString& text, QStringList* notes);
 CsfTable FromPo(const QByteArray& bytes);
 CsfTable FromStr(const QByteArray& bytes);
 

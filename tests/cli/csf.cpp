@@ -133,7 +133,7 @@ TEST_F(CsfCommands, ExportAndImportGiveTheFileBack) {
 TEST_F(CsfCommands, AnExportReplacesTheFileThatStoodThere) {
     Put(u"out.csv"_s, "a much longer text than the one that comes");
     Output({u"export"_s, Put(u"one.csf"_s, Head(1, 0) + Entry("a", "b")), Native(u"out.csv"_s)});
-    EXPECT_EQ(Contents(u"out.csv"_s), "name,language 0\r\na,b\r\n");
+    EXPECT_EQ(Contents(u"out.csv"_s), "\xEF\xBB\xBFname,language 0\r\na,b\r\n");
     EXPECT_EQ(Files::ListFolder(At(u"~brindock*"_s)), QStringList{});
 }
 

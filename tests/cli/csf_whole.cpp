@@ -101,3 +101,25 @@ TEST_F(CsfCommands, ExtraDataThatChangedIsADifference) {
     Output({u"merge"_s, before, before, after, Native(u"out.csf"_s)});
     EXPECT_EQ(Contents(u"out.csf"_s), Contents(u"new.csf"_s));
 }
+
+TEST_F(CsfCommands, NamesMayHoldAnEqualsSignAndDeletesTakePatterns) {
+    Output({u"save"_s, Three(), Native(u"out.csf"_s), u"--set"_s, u"k\\=v=1=2"_s, u"--set"_s, u"=3"_s});
+    EXPECT_EQ(Contents(u"out.csf"_s),
+              Head(4, 3) + Entry("b", "2") + Entry("A:x", "\xE9\n\t\\") + Entry("", "3") + Entry("k=v", "1=2"));
+    Output({u"save"_s, Native(u"out.csf"_s), Native(u"out.csf"_s), u"--delete"_s, u"?:*"_s, u"--delete"_s, u"K=?"_s});
+    EXPECT_EQ(Contents(u"out.csf"_s), Head(2, 3) + Entry("b", "2") + Entry("", "3"));
+    EXPECT_FALSE(Failure({u"save"_s, u"a"_s, u"b"_s, u"--set"_s, u"k\\=v"_s}, 2).isEmpty());
+    const QString stars = Put(u"s.csf"_s, Head(2, 0) + Entry("*", "1") + Entry("b", "2"));
+    Output({u"save"_s, stars, stars, u"--delete"_s, u"*"_s});
+    EXPECT_EQ(Contents(u"s.csf"_s), Head(1, 0) + Entry("b", "2")) << "a name that is spelt so goes before";
+}
+
+TEST_F(CsfCommands, ImportIntoATableChangesOnlyWhatTheFileHolds) {
+    const QString base = Put(u"base.csf"_s, Odd());
+    const QString csv = Put(u"in.csv"_s, "name,language 5\nA,new\nb,\xD0\x96\nc,3\n");
+    Output({u"import"_s, csv, base, u"--into"_s, base});
+    EXPECT_EQ(Contents(u"base.csf"_s), " fsc" + Number(2) + Number(8) + Number(10) + Number(0xCAFE) + Number(0x10003) +
+                                           Label(0, "bare") + Label(1, "a") + " RTS" + Number(3) +
+                                           "\x91\xFF\x9A\xFF\x88\xFF" + Label(2, "b") + "wrts" + Number(1) +
+                                           "\xE9\xFB" + Number(3) + "xyz" + " RTS" + Number(0) + Entry("c", "3"));
+}

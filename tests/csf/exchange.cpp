@@ -122,7 +122,7 @@ TEST(CsfExchange, WritesJson) {
 
 TEST(CsfExchange, WritesCsvWithQuotesOnlyWhereTheyAreNeeded) {
     EXPECT_EQ(CsfExchange::Export(Small(), Format::Csv),
-              "name,language 3\r\nGUI:A,\"Caf\xC3\xA9\nnoir\"\r\n,\"say \"\"hi\"\", you\"\r\nGUI:A,\r\n");
+              "\xEF\xBB\xBFname,language 3\r\nGUI:A,\"Caf\xC3\xA9\nnoir\"\r\n,\"say \"\"hi\"\", you\"\r\nGUI:A,\r\n");
 }
 
 TEST(CsfExchange, ReadsCsvOfOtherPrograms) {

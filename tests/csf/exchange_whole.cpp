@@ -7,6 +7,8 @@
 #include "platform/RuntimeError.h"
 #include "tests/csf/Tables.h"
 
+#include <QStringEncoder>
+
 using namespace Qt::StringLiterals;
 using CsfExchange::Format;
 
@@ -52,14 +54,42 @@ TEST(ExchangeOfWholeTables, SeveralStringsOfALabelStayTogether) {
 
 TEST(ExchangeOfWholeTables, ExtraDataStandsWhereItIsLookedFor) {
     const CsfTable table{0, {{u"v"_s, u"n"_s, "a\"b"_ba, false}, {u"w"_s, u"o"_s}}};
-    EXPECT_EQ(CsfExchange::Export(table, Format::Csv), "name,language 0,extra\r\nn,v,\"a\"\"b\"\r\no,w\r\n");
+    EXPECT_EQ(CsfExchange::Export(table, Format::Csv),
+              "\xEF\xBB\xBFname,language 0,extra\r\nn,v,\"a\"\"b\"\r\no,w\r\n");
     EXPECT_TRUE(CsfExchange::Export(table, Format::Json).contains("\"extra\": \"a\\\"b\",\n"));
     EXPECT_TRUE(CsfExchange::Export(table, Format::Po).contains("\n\n#. extra: \"a\\\"b\"\nmsgctxt \"n\"\n"));
 }
 
-TEST(ExchangeOfWholeTables, AThirdColumnThatIsNoExtraDataIsRefused) {
-    EXPECT_THROW(CsfExchange::Import("name,value,note\na,b,c\n", Format::Csv), RuntimeError);
+TEST(ExchangeOfWholeTables, CsvIsReadAsSpreadsheetsSaveIt) {
+    const CsfTable expected{3, {{u"1;2"_s, u"a"_s}, {u""_s, u"b"_s}, {u"\u0416"_s, u"c"_s}}};
+    const QString rows = u"a%1\"1;2\"%1\r\nb%1%1\r\n\r\n%1%1\r\nc%1\u0416%1\r\n"_s;
+    for (const QChar separator : {u',', u';', u'\t'}) {
+        const QString text = u"Name%1LANGUAGE 3%1\r\n"_s.arg(separator) + rows.arg(separator);
+        QStringList notes;
+        EXPECT_EQ(CsfExchange::Import(text.toUtf8(), Format::Csv, &notes), expected);
+        EXPECT_EQ(notes, QStringList{u"2 blank rows are passed over"_s});
+        EXPECT_EQ(CsfExchange::Import("\xEF\xBB\xBF" + text.toUtf8(), Format::Csv), expected);
+        EXPECT_EQ(CsfExchange::Import(QStringEncoder(QStringEncoder::Utf16LE, QStringEncoder::Flag::WriteBom)(text),
+                                      Format::Csv),
+                  expected);
+        EXPECT_EQ(CsfExchange::Import(QStringEncoder(QStringEncoder::Utf16BE, QStringEncoder::Flag::WriteBom)(text),
+                                      Format::Csv),
+                  expected);
+        EXPECT_EQ(CsfExchange::Import(CsfExchange::Export(expected, Format::Csv, separator), Format::Csv), expected);
+    }
+}
+
+TEST(ExchangeOfWholeTables, FurtherColumnsAreLeftOutWithAWord) {
+    QStringList notes;
+    EXPECT_EQ(CsfExchange::Import("\"NAME\";value;Note;Extra\r\na;b;c;d\r\ne;f;g\r\n", Format::Csv, &notes),
+              (CsfTable{0, {{u"b"_s, u"a"_s, "d"_ba, false}, {u"f"_s, u"e"_s}}}));
+    EXPECT_EQ(notes, QStringList{u"the column \"Note\" is left out"_s});
     EXPECT_THROW(CsfExchange::Import("name,value\na,b,c\n", Format::Csv), RuntimeError);
+}
+
+TEST(ExchangeOfWholeTables, AnEntryOfNothingIsNoBlankRow) {
+    const CsfTable table{0, {{u""_s, u""_s}, {u"x"_s, u""_s}, {u""_s, u""_s, ""_ba, false}}};
+    EXPECT_EQ(There(table, Format::Csv), table);
 }
 
 TEST(ExchangeOfWholeTables, CommentsOfOtherProgramsAreNoExtraData) {
