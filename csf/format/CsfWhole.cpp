@@ -191,23 +191,37 @@ CsfTable CsfWhole::Table() const {
 
 /// For each of a changed table's strings the place of the record that it was; behind all for a new one.
 std::vector<std::size_t> CsfWhole::OriginsOf(const CsfTable& table) const {
-    QHash<QString, std::vector<std::size_t>> before;
+    std::vector<std::size_t> strings;
     for (std::size_t place = 0; place < records_.size(); ++place)
         if (records_[place].HasString)
-            before[records_[place].Entry.Name].push_back(place);
-    QHash<QString, std::vector<std::size_t>> after;
-    for (std::size_t place = 0; place < table.Strings.size(); ++place)
-        after[table.Strings[place].Name].push_back(place);
+            strings.push_back(place);
     std::vector<std::size_t> origins(table.Strings.size(), records_.size());
+    // Most tables have few changes: what stands before and behind these is told by its place.
+    const auto sameNames = [&](std::size_t old, std::size_t now) {
+        return records_[strings[old]].Entry.Name == table.Strings[now].Name;
+    };
+    std::size_t begin = 0;
+    for (; begin < std::min(strings.size(), origins.size()) && sameNames(begin, begin); ++begin)
+        origins[begin] = strings[begin];
+    std::size_t oldEnd = strings.size();
+    std::size_t end = origins.size();
+    for (; oldEnd > begin && end > begin && sameNames(oldEnd - 1, end - 1); --oldEnd, --end)
+        origins[end - 1] = strings[oldEnd - 1];
+    QHash<QString, std::vector<std::size_t>> before;
+    for (std::size_t old = begin; old < oldEnd; ++old)
+        before[records_[strings[old]].Entry.Name].push_back(strings[old]);
+    QHash<QString, std::vector<std::size_t>> after;
+    for (std::size_t now = begin; now < end; ++now)
+        after[table.Strings[now].Name].push_back(now);
     const auto isSame = [&](std::size_t old, std::size_t now) { return records_[old].Entry == table.Strings[now]; };
     for (auto name = after.cbegin(); name != after.cend(); ++name)
         Pair(before.value(name.key()), name.value(), origins, isSame);
     return origins;
 }
 
-/// What was read, with the string that it has now.
-CsfWhole::Record CsfWhole::Renewed(std::size_t origin, const CsfString& entry) const {
-    Record record = origin < records_.size() ? records_[origin] : Record();
+/// What was read, with the string that it has now. Its place has none any more.
+CsfWhole::Record CsfWhole::Renewed(std::size_t origin, const CsfString& entry) {
+    Record record = origin < records_.size() ? std::move(records_[origin]) : Record();
     record.Entry = entry;
     if (entry.Extra.has_value() != IsMark(record.StringMark, "wrts"))
         record.StringMark = entry.Extra ? MarkWithExtra : Record().StringMark;
@@ -253,7 +267,13 @@ CsfWhole::Counts CsfWhole::Counted() const {
 }
 
 QByteArray CsfWhole::Bytes() const {
+    constexpr qsizetype headerSize = 24;
+    constexpr qsizetype mostAround = 24; // marks and numbers of an entry
+    qsizetype size = headerSize;
+    for (const Record& record : records_)
+        size += mostAround + record.Entry.Name.size() + UnitSize * record.Entry.Value.size();
     QByteArray bytes;
+    bytes.reserve(size);
     Writer writer(bytes);
     writer.Mark(mark_);
     writer.Number(version_);

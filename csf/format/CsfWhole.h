@@ -59,7 +59,7 @@ private:
     };
 
     [[nodiscard]] std::vector<std::size_t> OriginsOf(const CsfTable& table) const;
-    [[nodiscard]] Record Renewed(std::size_t origin, const CsfString& entry) const;
+    [[nodiscard]] Record Renewed(std::size_t origin, const CsfString& entry);
     [[nodiscard]] Counts Counted() const;
 
     Mark mark_{' ', 'F', 'S', 'C'};
