@@ -14,7 +14,9 @@
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
-BigEditor::BigEditor(EditorView& view) : panes_(view) {}
+BigEditor::BigEditor(EditorView& view) : panes_(view) {
+    panes_.Selected = [this](int place) { details_.Follow(place); };
+}
 
 BigEditor::~BigEditor() {
     FileAdding::ForgetAdopted();
@@ -88,8 +90,21 @@ void BigEditor::OfferRow(int place) {
     if (place < 0 || place >= panes_.List.Count())
         return;
     panes_.State.FocusPane = FocusedPane::List;
+    details_.Follow(place);
     panes_.State.ModifyEnabled = !panes_.List.Row(place).IsFolder;
     panes_.View.StateChanged();
+}
+
+bool BigEditor::RenameNode(int node, const QString& text) {
+    const bool renamed = changes_.RenameNode(node, text);
+    details_.NamesChanged();
+    return renamed;
+}
+
+bool BigEditor::RenameRow(int place, const QString& text) {
+    const bool renamed = changes_.RenameRow(place, text);
+    details_.NamesChanged();
+    return renamed;
 }
 
 void BigEditor::Modify() {

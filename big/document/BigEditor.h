@@ -80,9 +80,8 @@ public:
 
     [[nodiscard]] bool MayRenameNode(int node) const { return changes_.MayRenameNode(node); }
 
-    bool RenameNode(int node, const QString& text) { return changes_.RenameNode(node, text); }
-
-    bool RenameRow(int place, const QString& text) { return changes_.RenameRow(place, text); }
+    bool RenameNode(int node, const QString& text);
+    bool RenameRow(int place, const QString& text);
 
     /// Copies the chosen entries into a folder that the user chooses.
     void Extract() { extraction_.Run(); }

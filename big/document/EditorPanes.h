@@ -11,6 +11,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class EditorPanes {
 public:
     /// The view outlives the panes.
@@ -22,14 +24,17 @@ public:
     FileList List;
     mBIG::Identity Shown; ///< the archive that the panes show
 
+    /// Told which row is selected (-1 for none) behind a change that made the list anew; may be empty.
+    std::function<void(int place)> Selected;
+
     /// Rebuilds the tree from the table and shows the root.
     void CreateDirs();
 
     /// Fills the list with a folder; the empty key is the root. Never fails.
     void ShowFolder(const QString& folderKey);
 
-    /// Fills the list with the selected node's folder anew.
-    void ShowSelected() { ShowFolder(SelectedKey()); }
+    /// Fills the list with the selected node's folder anew, and leaves the user where he is in it.
+    void ShowSelected();
 
     /// Shows a folder that was selected before the tree was made anew, in whatever case its key was; the root when it
     /// has gone.

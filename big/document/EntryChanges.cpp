@@ -3,6 +3,7 @@
 
 #include "big/document/EntryChanges.h"
 
+#include "big/document/KeptRows.h"
 #include "big/format/ArchiveEdits.h"
 #include "core/Host.h"
 #include "core/mTraduction.h"
@@ -66,6 +67,7 @@ void EntryChanges::Delete() {
         Host::Answer::Yes)
         return;
     EditorState& state = panes_.State;
+    KeptRows kept(panes_);
     if (state.FocusPane == FocusedPane::List) {
         DeleteRows();
     } else {
@@ -78,7 +80,8 @@ void EntryChanges::Delete() {
     }
     state.Modified = true;
     panes_.View.TreeChanged();
-    panes_.ShowSelected();
+    panes_.ShowFolder(panes_.SelectedKey());
+    kept.PutBack();
 }
 
 void EntryChanges::DeleteFolder(int node) {

@@ -3,6 +3,7 @@
 
 #include "big/document/FileAdding.h"
 
+#include "big/document/KeptRows.h"
 #include "big/document/ScratchFolders.h"
 #include "core/Host.h"
 #include "core/Sizes.h"
@@ -114,6 +115,7 @@ void FileAdding::Drop(const QStringList& paths) {
     const EditorPanes::Command command(panes_);
     const int highest = mBIG::HighestIndex();
     const QString last = NameAt(highest);
+    KeptRows kept(panes_);
     ArchiveEdits::DropResult result;
     {
         const mBIG::ArchiveLock lock;
@@ -126,7 +128,8 @@ void FileAdding::Drop(const QStringList& paths) {
     if (!result.Lost.isEmpty() || NameAt(highest).compare(last, Qt::CaseInsensitive) != 0)
         recordsLost_(highest);
     panes_.State.Modified = true;
-    panes_.ShowSelected();
+    panes_.ShowFolder(panes_.SelectedKey());
+    kept.PutBack();
     if (!result.IsQuiet())
         TellDrop(result);
 }

@@ -4,6 +4,7 @@
 #include "big/document/SaveCommand.h"
 
 #include "big/document/FileAdding.h"
+#include "big/document/KeptRows.h"
 #include "big/document/OffsetNotices.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
@@ -170,6 +171,7 @@ void SaveCommand::TellNotSaved() {
 void SaveCommand::ShowWritten(const QString& path, const OffsetShift::Shift& shift,
                               const std::vector<int>& newIndices) {
     const QString folderKey = panes_.SelectedKey();
+    KeptRows kept(panes_);
     // The table's offsets must be the written file's.
     if (Ignoring([&] { mBIG::Load(path); })) {
         originals_.Loaded(shift);
@@ -189,4 +191,5 @@ void SaveCommand::ShowWritten(const QString& path, const OffsetShift::Shift& shi
     details_.Clear();
     Ignoring([&] { panes_.Tree.SetRootText(Paths::LastPart(path)); });
     panes_.ShowAgain(folderKey);
+    kept.PutBack();
 }

@@ -158,6 +158,19 @@ std::vector<int> FileListView::SelectedRows() const {
     return details_->Gestures()->SelectedRows();
 }
 
+void FileListView::Select(const std::vector<int>& places, int current) {
+    QItemSelection rows;
+    for (auto first = places.begin(); first != places.end();) {
+        auto last = first;
+        while (last + 1 != places.end() && *(last + 1) == *last + 1)
+            ++last;
+        rows.select(model_->index(*first, 0), model_->index(*last, 0));
+        first = last + 1;
+    }
+    Selection()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    Selection()->setCurrentIndex(model_->index(current, 0), QItemSelectionModel::NoUpdate);
+}
+
 QHeaderView* FileListView::Header() const {
     return details_->header();
 }

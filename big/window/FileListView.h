@@ -39,6 +39,8 @@ public:
     [[nodiscard]] QItemSelectionModel* Selection() const;
     /// The places of the selected rows, in the order shown.
     [[nodiscard]] std::vector<int> SelectedRows() const;
+    /// Selects rows, in order, and gives another (-1 for none) the focus frame.
+    void Select(const std::vector<int>& places, int current);
     [[nodiscard]] QHeaderView* Header() const;
     /// The view that the mode shows.
     [[nodiscard]] QAbstractItemView* Current() const;

@@ -20,11 +20,27 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTimer>
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QPoint ScrollOf(const QAbstractItemView& view) {
+    return {view.horizontalScrollBar()->value(), view.verticalScrollBar()->value()};
+}
+
+/// The bars know how far they reach only when the rows are laid out.
+void Scroll(QAbstractItemView& view, QPoint place) {
+    view.doItemsLayout();
+    view.horizontalScrollBar()->setValue(place.x());
+    view.verticalScrollBar()->setValue(place.y());
+}
+
+} // namespace
 
 frmBigEditor::frmBigEditor(QWidget* parent)
     : ToolWindow(parent),
@@ -281,6 +297,19 @@ void frmBigEditor::ShowVersion() {
 
 std::vector<int> frmBigEditor::SelectedRows() const {
     return ui_->lvFiles->SelectedRows();
+}
+
+ViewPlace frmBigEditor::Where() const {
+    return {.Selected = SelectedRows(),
+            .Current = ui_->lvFiles->Selection()->currentIndex().row(),
+            .ListScroll = ScrollOf(*ui_->lvFiles->Current()),
+            .TreeScroll = ScrollOf(*ui_->tvDirs)};
+}
+
+void frmBigEditor::GoTo(const ViewPlace& place) {
+    ui_->lvFiles->Select(place.Selected, place.Current);
+    Scroll(*ui_->lvFiles->Current(), place.ListScroll);
+    Scroll(*ui_->tvDirs, place.TreeScroll);
 }
 
 void frmBigEditor::EditNode(int node) {
