@@ -255,6 +255,7 @@ void frmBigEditor::TreeChanged() {
 void frmBigEditor::ListChanged() {
     listModel_->Reset(editor_.State().FileIcons);
     ui_->lvFiles->RowsChanged();
+    ui_->lvFiles->Current()->scrollToTop();
     TellSelection();
 }
 
