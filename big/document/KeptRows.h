@@ -15,8 +15,9 @@ public:
     /// The panes, before the change; they outlive this.
     explicit KeptRows(EditorPanes& panes);
 
-    /// Behind the change. Rows are known by their texts. The neighbour of a current row that has gone is the current one
-    /// then, and the selected one when nothing else is left of the selection. In another folder nothing is selected.
+    /// Behind the change. Rows are known by their texts. The neighbour of a current row that has gone is the current
+    /// one then, and the selected one when nothing else is left of the selection. In another folder nothing is
+    /// selected.
     void PutBack();
 
 private:

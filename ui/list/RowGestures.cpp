@@ -107,7 +107,8 @@ bool RowGestures::KeyEvent(const QKeyEvent& event) {
     if (press && key == Qt::Key_Space && event.modifiers() == Qt::NoModifier && ToggleChecks())
         return true;
     // A key has moved the selection by the time it is let go of.
-    if (wasDown && !press && !Skin::IsEnter(key) && key != Qt::Key_Delete && !IsModifier(key) && selection->isSelected(row))
+    if (wasDown && !press && !Skin::IsEnter(key) && key != Qt::Key_Delete && !IsModifier(key) &&
+        selection->isSelected(row))
         Q_EMIT RowClicked(row.row());
     return false;
 }
@@ -118,8 +119,8 @@ bool RowGestures::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease:
         return KeyEvent(*static_cast<QKeyEvent*>(event));
     case QEvent::ContextMenu:
-        return watched == view_ &&
-               static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard && ShowMenuOfCurrent();
+        return watched == view_ && static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard &&
+               ShowMenuOfCurrent();
     case QEvent::FocusIn:
         if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
             watched == view_ && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason))
