@@ -37,8 +37,8 @@ public:
 class Host {
 public:
     enum class Icon { None, Critical, Exclamation, Question, Information };
-    enum class Buttons { Ok, YesNo, YesNoCancel };
-    enum class Answer { Ok, Yes, No, Cancel };
+    enum class Buttons { Ok, YesNo, YesNoCancel, SaveCancel };
+    enum class Answer { Ok, Yes, No, Cancel, Save };
 
     /// What an open or save dialog shows. Filters stand as "text|pattern|text|pattern".
     struct FileDialog {

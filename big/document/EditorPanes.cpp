@@ -78,5 +78,11 @@ void EditorPanes::TellUnmarked() {
         State.Modified = true;
         View.StateChanged();
     };
-    View.ShowNotice({.Text = GetText(u"NotMarkedAsChanged"_s), .Links = {{GetText(u"AskBeforeClosing"_s), mark}}});
+    const QString text = (Names.TakeTold() + u' ' + GetText(u"NotMarkedAsChanged"_s)).trimmed();
+    View.ShowNotice({.Text = text, .Links = {{GetText(u"AskBeforeClosing"_s), mark}}});
+}
+
+void EditorPanes::TellNames() {
+    if (const QString told = Names.TakeTold(); !told.isEmpty())
+        View.ShowNotice({.Text = told});
 }

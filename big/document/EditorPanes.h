@@ -8,6 +8,7 @@
 #include "big/document/EditorView.h"
 #include "big/document/FileList.h"
 #include "big/document/FolderTree.h"
+#include "big/document/StoredNames.h"
 
 #include <QString>
 
@@ -22,6 +23,7 @@ public:
     EditorState State;
     FolderTree Tree;
     FileList List;
+    StoredNames Names;
     mBIG::Identity Shown; ///< the archive that the panes show
 
     /// Told which row is selected (-1 for none) behind a change that made the list anew; may be empty.
@@ -64,6 +66,9 @@ public:
 
     /// Tells that something was changed that closing does not ask about, unless changes are asked about anyway.
     void TellUnmarked();
+
+    /// Tells of names that lost letters, if any did since it was told last.
+    void TellNames();
 
 private:
     int commands_ = 0;

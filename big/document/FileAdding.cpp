@@ -6,7 +6,7 @@
 #include "big/document/KeptRows.h"
 #include "big/document/ScratchFolders.h"
 #include "core/Host.h"
-#include "core/Sizes.h"
+#include "core/LostLetters.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
@@ -31,9 +31,14 @@ QString WithoutTrailingBackslash(const QString& path) {
     return path.endsWith(u'\\') ? path.chopped(1) : path;
 }
 
-bool MayReplace(const QString& name) {
-    const QString question = name + "\r\n\r\n"_L1 + GetText(u"FileAlreadyExists"_s);
-    return Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNo) == Host::Answer::Yes;
+bool MayReplace(StoredNames& names, const QString& name) {
+    QString question = name + "\r\n\r\n"_L1 + GetText(u"FileAlreadyExists"_s);
+    if (const QString more = names.Meet(); !more.isEmpty())
+        question += "\r\n"_L1 + more;
+    const bool may = Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNo) == Host::Answer::Yes;
+    if (!may)
+        names.Refused();
+    return may;
 }
 
 Source SourceOf(const QString& path) {
@@ -42,23 +47,18 @@ Source SourceOf(const QString& path) {
     return source;
 }
 
-void DropFolder(ArchiveEdits::Drop& drop, const QString& prefix, const QString& folder) {
+void DropFolder(ArchiveEdits::Drop& drop, StoredNames& names, const QString& prefix, const QString& folder) {
     // The root of all folders has no name to stand under.
     if (folder.isEmpty())
         return;
     for (const Files::FoundFile& file : Files::ListFolderFiles(folder, true))
-        drop.FileOfFolder(prefix + Paths::LastPart(folder) + file.Path.sliced(folder.size()),
+        drop.FileOfFolder(names.Take(prefix + Paths::LastPart(folder) + file.Path.sliced(folder.size())),
                           {.Path = file.Path, .Size = file.Size});
 }
 
 QString NameAt(int index) {
     const auto at = static_cast<std::size_t>(index);
     return at < mBIG::BigEntries.size() ? mBIG::BigEntries[at].Name : QString();
-}
-
-/// The one name of a list, or how many there are.
-QString NameOrCount(const QStringList& names) {
-    return names.size() == 1 ? names.front() : Sizes::Grouped(names.size());
 }
 
 } // namespace
@@ -76,16 +76,15 @@ void FileAdding::Add() {
 }
 
 void FileAdding::AddFile(const QString& path) {
-    const QString name = panes_.SelectedKey() + Paths::LastPart(path);
+    const QString name = panes_.Names.Take(panes_.SelectedKey() + Paths::LastPart(path));
     const int found = mBIG::FindEntry(name);
-    if (found >= 0 && !MayReplace(name))
-        return;
+    if (found >= 0 && !MayReplace(panes_.Names, name))
+        return panes_.TellNames();
     const bool replaces = found >= 0 && !mBIG::BigEntries[static_cast<std::size_t>(found)].Deleted;
     ArchiveEdits::Add(mBIG::Open(), name, SourceOf(path));
     panes_.State.Modified = true;
     panes_.ShowSelected();
-    if (replaces)
-        TellDrop({.Taken = 1, .Replaced = {name}, .Lost = {}, .Hidden = {}});
+    TellDrop({.Taken = 1, .Replaced = replaces ? QStringList{name} : QStringList(), .Lost = {}, .Hidden = {}});
 }
 
 QStringList FileAdding::AdoptDragged(QStringList paths) {
@@ -119,7 +118,7 @@ void FileAdding::Drop(const QStringList& paths) {
     ArchiveEdits::DropResult result;
     {
         const mBIG::ArchiveLock lock;
-        ArchiveEdits::Drop drop(mBIG::Open(), &MayReplace);
+        ArchiveEdits::Drop drop(mBIG::Open(), [this](const QString& name) { return MayReplace(panes_.Names, name); });
         DropPaths(paths, drop);
         result = drop.Result();
     }
@@ -130,8 +129,7 @@ void FileAdding::Drop(const QStringList& paths) {
     panes_.State.Modified = true;
     panes_.ShowFolder(panes_.SelectedKey());
     kept.PutBack();
-    if (!result.IsQuiet())
-        TellDrop(result);
+    TellDrop(result);
 }
 
 void FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
@@ -139,7 +137,7 @@ void FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
     const auto lastFolder = std::find_if(paths.rbegin(), paths.rend(), &Files::FolderExists).base();
     for (auto path = paths.begin(); path != paths.end(); ++path) {
         if (Files::FolderExists(*path)) {
-            Ignoring([&] { DropFolder(drop, prefix, WithoutTrailingBackslash(*path)); });
+            Ignoring([&] { DropFolder(drop, panes_.Names, prefix, WithoutTrailingBackslash(*path)); });
             // The tree is made anew and the root selected, where the paths behind go. This is meant. Only the last
             // folder's tree is ever seen.
             prefix.clear();
@@ -148,19 +146,22 @@ void FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
         } else if (Files::FileExists(*path)) {
             Source source = SourceOf(*path);
             source.Size = std::max<qint64>(source.Size, 0);
-            drop.File(prefix + Paths::LastPart(*path), source);
+            drop.File(panes_.Names.Take(prefix + Paths::LastPart(*path)), source);
         }
     }
 }
 
 void FileAdding::TellDrop(const ArchiveEdits::DropResult& result) {
     QStringList told;
+    if (const QString names = panes_.Names.TakeTold(); !names.isEmpty())
+        told += names;
     const auto tell = [&](QString text, const QStringList& names) {
         if (!names.isEmpty())
-            told += text.replace("%1"_L1, NameOrCount(names));
+            told += text.replace("%1"_L1, LostLetters::NameOrCount(names));
     };
     tell(GetText(u"DropLost"_s), result.Lost);
     tell(GetText(u"DropHidden"_s), result.Hidden);
     tell(GetText(u"DropReplaced"_s), result.Replaced);
-    panes_.View.ShowNotice({.Text = told.join(u' ')});
+    if (!told.isEmpty())
+        panes_.View.ShowNotice({.Text = told.join(u' ')});
 }

@@ -100,7 +100,7 @@ Saved SaveCommand::SaveTo(const QString& path, Bytes bytes) {
     const bool exact = panes_.State.ExactOffsets;
     const auto placement = exact ? Archives::Placement::Exact : Archives::Placement::Told;
     const bool writes = exact || mBIG::HighestIndex() > 0;
-    if (writes && !GoesOnWithoutSources())
+    if (writes && (!GoesOnWithoutSources() || !panes_.Names.MaySave()))
         return Saved::Cancelled;
     const std::vector<int> newIndices = Archives::IndicesAfterSave(mBIG::Open());
     copies_.BeforeSave();
@@ -186,6 +186,7 @@ void SaveCommand::ShowWritten(const QString& path, const OffsetShift::Shift& shi
     if (IsArchiveName(path))
         panes_.CreateDirs();
     FileAdding::ForgetAdopted();
+    panes_.Names.Forget();
     panes_.State.DetailsVisible = false;
     panes_.State.ModifyEnabled = false;
     details_.Clear();

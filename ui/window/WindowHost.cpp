@@ -64,11 +64,14 @@ struct Choice {
 QList<Choice> ChoicesOf(Host::Buttons buttons) {
     const Choice yes{QMessageBox::Yes, Host::Answer::Yes, u"Yes"_s};
     const Choice no{QMessageBox::No, Host::Answer::No, u"No"_s};
+    const Choice cancel{QMessageBox::Cancel, Host::Answer::Cancel, u"Cancel"_s};
     switch (buttons) {
     case Host::Buttons::YesNo:
         return {yes, no};
     case Host::Buttons::YesNoCancel:
-        return {yes, no, {QMessageBox::Cancel, Host::Answer::Cancel, u"Cancel"_s}};
+        return {yes, no, cancel};
+    case Host::Buttons::SaveCancel:
+        return {{QMessageBox::Save, Host::Answer::Save, u"Save"_s}, cancel};
     case Host::Buttons::Ok:
         break;
     }
