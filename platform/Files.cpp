@@ -5,6 +5,7 @@
 
 #include "platform/FolderEntries.h"
 #include "platform/ListedFolder.h"
+#include "platform/Paths.h"
 #include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Wildcards.h"
@@ -120,7 +121,7 @@ void CopyAsGiven(const QString& from, const QString& to) {
 void DeleteUnprotected(const QString& path) {
     // Of a link nothing goes but the link: what it leads to is not asked.
     if (!IsLink(path) && ReplacedFile::IsWriteProtected(path))
-        throw RuntimeError(ErrorNumber::PermissionDenied, QStringLiteral("%1: write-protected").arg(path));
+        throw RuntimeError(ErrorNumber::PermissionDenied, QStringLiteral("%1: write-protected").arg(Paths::ToNative(path)));
     DeleteForced(path);
 }
 
@@ -132,7 +133,7 @@ void Delete(const QString& pattern) {
     }
     const QStringList names = ListFolder(pattern);
     if (names.isEmpty())
-        throw RuntimeError(ErrorNumber::FileNotFound, QStringLiteral("%1: no such file").arg(pattern));
+        throw RuntimeError(ErrorNumber::FileNotFound, QStringLiteral("%1: no such file").arg(Paths::ToNative(pattern)));
     for (const QString& name : names)
         DeleteUnprotected(pattern.first(split) + name);
 }
