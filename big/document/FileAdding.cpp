@@ -47,11 +47,9 @@ Source SourceOf(const QString& path) {
     return source;
 }
 
-void DropFolder(ArchiveEdits::Drop& drop, StoredNames& names, const QString& prefix, const QString& folder) {
-    // The root of all folders has no name to stand under.
-    if (folder.isEmpty())
-        return;
-    for (const Files::FoundFile& file : Files::ListFolderFiles(folder, true))
+void DropFolder(ArchiveEdits::Drop& drop, StoredNames& names, const QString& prefix, const QString& folder,
+                QStringList& leftOut) {
+    for (const Files::FoundFile& file : Files::ListFolderFiles(folder, true, &leftOut))
         drop.FileOfFolder(names.Take(prefix + Paths::LastPart(folder) + file.Path.sliced(folder.size())),
                           {.Path = file.Path, .Size = file.Size});
 }
@@ -116,10 +114,11 @@ void FileAdding::Drop(const QStringList& paths) {
     const QString last = NameAt(highest);
     KeptRows kept(panes_);
     ArchiveEdits::DropResult result;
+    QStringList leftOut;
     {
         const mBIG::ArchiveLock lock;
         ArchiveEdits::Drop drop(mBIG::Open(), [this](const QString& name) { return MayReplace(panes_.Names, name); });
-        DropPaths(paths, drop);
+        leftOut = DropPaths(paths, drop);
         result = drop.Result();
     }
     // While record 0 is blank a new record takes the place of the last one, of a deleted one too, which is no loss to
@@ -130,14 +129,22 @@ void FileAdding::Drop(const QStringList& paths) {
     panes_.ShowFolder(panes_.SelectedKey());
     kept.PutBack();
     TellDrop(result);
+    if (!leftOut.isEmpty())
+        Host::Current().MessageWithList(GetText(u"LeftOut2"_s), leftOut);
 }
 
-void FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
+QStringList FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
+    QStringList leftOut;
     QString prefix = panes_.SelectedKey();
     const auto lastFolder = std::find_if(paths.rbegin(), paths.rend(), &Files::FolderExists).base();
     for (auto path = paths.begin(); path != paths.end(); ++path) {
         if (Files::FolderExists(*path)) {
-            Ignoring([&] { DropFolder(drop, panes_.Names, prefix, WithoutTrailingBackslash(*path)); });
+            const QString folder = WithoutTrailingBackslash(*path);
+            // The root of all folders has no name to stand under.
+            if (folder.isEmpty())
+                leftOut += Paths::ToNative(*path);
+            else
+                Ignoring([&] { DropFolder(drop, panes_.Names, prefix, folder, leftOut); });
             // The tree is made anew and the root selected, where the paths behind go. This is meant. Only the last
             // folder's tree is ever seen.
             prefix.clear();
@@ -147,8 +154,11 @@ void FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
             Source source = SourceOf(*path);
             source.Size = std::max<qint64>(source.Size, 0);
             drop.File(panes_.Names.Take(prefix + Paths::LastPart(*path)), source);
+        } else {
+            leftOut += Paths::ToNative(*path);
         }
     }
+    return leftOut;
 }
 
 void FileAdding::TellDrop(const ArchiveEdits::DropResult& result) {

@@ -22,6 +22,22 @@ namespace {
 
 constexpr int mostNamesShown = 10;
 
+/// What a save of the table can't write, a line each.
+QStringList LeftOutOf(const OriginalBytes& originals, bool fromOriginals) {
+    QStringList lines;
+    for (const int index : Archives::MissingSources(mBIG::Open()))
+        lines += mBIG::BigEntries[static_cast<std::size_t>(index)].Name + u": "_s + GetText(u"LeftOutGone"_s);
+    const qint64 length = mBIG::LengthOnDisk();
+    for (std::size_t index = 0; index < mBIG::BigEntries.size() && !fromOriginals; ++index) {
+        const BigEntry& entry = mBIG::BigEntries[index];
+        const bool endsBehind =
+            !entry.Deleted && !entry.IsNew && entry.Size > 0 && qint64{entry.Offset} + entry.Size > length;
+        if (endsBehind || originals.IsCut(index))
+            lines += entry.Name + u": "_s + GetText(u"LeftOutCut"_s);
+    }
+    return lines;
+}
+
 } // namespace
 
 bool SaveCommand::IsArchiveName(const QString& path) {
@@ -104,12 +120,13 @@ Saved SaveCommand::SaveTo(const QString& path, Bytes bytes) {
         return Saved::Cancelled;
     const std::vector<int> newIndices = Archives::IndicesAfterSave(mBIG::Open());
     copies_.BeforeSave();
+    const bool fromOriginals = bytes == Bytes::Original || (exact && originals_.AreOfASave());
+    const QStringList leftOut = LeftOutOf(originals_, fromOriginals && originals_.AreKnown());
     std::optional<OffsetShift::Shift> shift;
     try {
-        shift = mBIG::Save(path, {.Kept = copies_.Kept(),
-                                  .Place = placement,
-                                  .Originals = &originals_,
-                                  .FromOriginals = bytes == Bytes::Original || (exact && originals_.AreOfASave())});
+        shift = mBIG::Save(
+            path,
+            {.Kept = copies_.Kept(), .Place = placement, .Originals = &originals_, .FromOriginals = fromOriginals});
     } catch (const RuntimeError& error) {
         Host::Current().Message(GetText(u"SaveFailed"_s) + "\r\n"_L1 + error.Description(), Host::Icon::Critical);
         return Saved::Failed;
@@ -127,6 +144,8 @@ Saved SaveCommand::SaveTo(const QString& path, Bytes bytes) {
         return Saved::Yes;
     }
     TellWritten(*shift);
+    if (!leftOut.isEmpty())
+        Host::Current().MessageWithList(GetText(u"LeftOut2"_s), leftOut);
     return Saved::Yes;
 }
 

@@ -6,6 +6,7 @@
 #include "core/mTraduction.h"
 #include "ui/text/Localisation.h"
 #include "ui/window/FileChooser.h"
+#include "ui/window/frmLeftOut.h"
 #include "ui/window/frmProgress.h"
 
 #include <QApplication>
@@ -163,6 +164,10 @@ Host::Answer WindowHost::Message(const QString& text, Icon icon, Buttons buttons
             return choice.Means;
     }
     return choices.constLast().Means; // the program ends below the box
+}
+
+void WindowHost::MessageWithList(const QString& text, const QStringList& lines) {
+    frmLeftOut(text, lines, Owner()).exec();
 }
 
 std::optional<QString> WindowHost::InputBox(const QString& prompt, const QString& title, const QString& text) {
