@@ -62,9 +62,10 @@ private Q_SLOTS:
         auto* const list = Part<QPlainTextEdit>("txtList");
         list->setFocus();
         QTest::keyClick(list, Qt::Key_Home, Qt::ControlModifier);
-        QTest::keyClick(list, Qt::Key_End, Qt::ShiftModifier);
+        QTest::keyClick(list, Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(list->textCursor().selectedText(), u"a: gone"_s + QChar::ParagraphSeparator);
         QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
-        QCOMPARE(QApplication::clipboard()->text(), u"a: gone"_s);
+        QCOMPARE(QApplication::clipboard()->text(), u"a: gone\n"_s);
     }
 
     void enterEscapeAndOkClose() {
