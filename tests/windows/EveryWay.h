@@ -11,30 +11,40 @@
 #include <QMenu>
 #include <QTest>
 
+#include <algorithm>
 #include <functional>
 #include <vector>
+
+namespace EveryWay {
+
+enum Way { ByMenu, ByLink, ByKey };
+
+} // namespace EveryWay
 
 struct CommandWays {
     const char* Action;
     int Link; ///< of the array Label2; -1 where there is none
     std::function<void()> Prepare;
     std::function<bool()> Done;
+    std::vector<int> Without{}; ///< ways that the command lacks
 };
 
 namespace EveryWay {
-
-enum Way { ByMenu, ByLink, ByKey };
 
 /// A row for each command and way, for tests whose columns are "command" and "way".
 inline void AddRows(const std::vector<CommandWays>& commands) {
     QTest::addColumn<int>("command");
     QTest::addColumn<int>("way");
     for (std::size_t command = 0; command < commands.size(); ++command) {
-        const char* const name = commands[command].Action;
-        QTest::addRow("%s by menu", name) << static_cast<int>(command) << static_cast<int>(ByMenu);
-        QTest::addRow("%s by key", name) << static_cast<int>(command) << static_cast<int>(ByKey);
+        const auto add = [&](Way way, const char* text) {
+            const CommandWays& ways = commands[command];
+            if (std::ranges::find(ways.Without, way) == ways.Without.end())
+                QTest::addRow("%s %s", ways.Action, text) << static_cast<int>(command) << static_cast<int>(way);
+        };
+        add(ByMenu, "by menu");
+        add(ByKey, "by key");
         if (commands[command].Link >= 0)
-            QTest::addRow("%s by link", name) << static_cast<int>(command) << static_cast<int>(ByLink);
+            add(ByLink, "by link");
     }
 }
 
