@@ -151,8 +151,11 @@ TEST_F(KeptPlace, TheCurrentRowNeedNotBeASelectedOne) {
     Be(4, {1, 2});
     Add(u"new.txt"_s);
     ExpectAt(4, {1, 2});
-    Be(-1, {});
+    Be(3, {});
     Add(u"newer.txt"_s);
+    ExpectAt(3, {});
+    Be(-1, {});
+    Add(u"newest.txt"_s);
     ExpectAt(-1, {});
 }
 
@@ -288,6 +291,18 @@ TEST_F(KeptPlace, AnotherNameOfTheFolderIsToldByTheDetails) {
     ASSERT_TRUE(Editor.RenameNode(NodeOf(u"data\\"_s), u"Maps"_s));
     EXPECT_EQ(State().StatusText, u"Maps\\b"_s);
     EXPECT_EQ(Detailed(), u"b"_s);
+}
+
+TEST_F(KeptPlace, ARowThatASortPutsElsewhereStaysTheSelectedOne) {
+    OpenData();
+    Editor.List().SortBy(FileList::Size);
+    ASSERT_EQ(Shown(), QStringList({u"sub"_s, u"a.csf"_s, u"b.csf"_s, u"c.csf"_s, u"d.csf"_s}));
+    Be(1, {1, 2});
+    Speaker.Answers = {Answer::Yes};
+    Speaker.FileNames = {Place.WriteFile(u"a.csf"_s, "much more")};
+    Editor.Add();
+    ASSERT_EQ(Shown(), QStringList({u"sub"_s, u"b.csf"_s, u"c.csf"_s, u"d.csf"_s, u"a.csf"_s}));
+    ExpectAt(4, {1, 4});
 }
 
 TEST_F(KeptPlace, DroppedFilesAndFoldersLeaveTheUserWhereHeIs) {
