@@ -11,6 +11,8 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
@@ -84,6 +86,12 @@ void BigEditor::ClickNode(int node) {
 void BigEditor::EnterList() {
     if (panes_.State.ArchiveOpen)
         panes_.State.FocusPane = FocusedPane::List;
+}
+
+void BigEditor::FollowSelection() {
+    const std::vector<int> places = panes_.View.SelectedRows();
+    if (!places.empty() && !std::ranges::any_of(places, [this](int place) { return details_.Tells(place); }))
+        details_.Follow(places.front());
 }
 
 void BigEditor::OfferRow(int place) {

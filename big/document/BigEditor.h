@@ -110,6 +110,8 @@ public:
 
     /// The list was clicked, or reached with the keyboard: the commands act on its rows.
     void EnterList();
+    /// Rows were selected without a click on one: details that are shown tell one of them.
+    void FollowSelection();
     /// The menu is asked for on a row, which is the selected one then.
     void OfferRow(int place);
     /// A double click on a row, or the Enter key: a folder row opens its folder, a file row is modified.

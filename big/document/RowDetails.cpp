@@ -62,6 +62,11 @@ void RowDetails::Hide() {
     panes_.State.DetailsVisible = false;
 }
 
+bool RowDetails::Tells(int place) const {
+    return place >= 0 && place < panes_.List.Count() && !panes_.List.Row(place).IsFolder &&
+           panes_.List.Row(place).Index == shown_;
+}
+
 void RowDetails::Follow(int place) {
     if (!panes_.State.DetailsVisible || mBIG::ArchiveLock::IsHeld())
         return;

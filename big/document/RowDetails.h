@@ -26,6 +26,9 @@ public:
     /// They go when it has none, or `place` is no row.
     void Follow(int place);
 
+    /// Whether that row is the one that was shown last.
+    [[nodiscard]] bool Tells(int place) const;
+
     /// Entries or rows have other names: details that are shown tell them.
     void NamesChanged();
 

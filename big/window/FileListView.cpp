@@ -92,6 +92,7 @@ void FileListView::Follow(QAbstractItemView* view, RowGestures* gestures) {
     connect(gestures, &RowGestures::RowClicked, this, &FileListView::RowClicked);
     connect(gestures, &RowGestures::RowActivated, this, &FileListView::RowActivated);
     connect(gestures, &RowGestures::Entered, this, &FileListView::Entered);
+    connect(gestures, &RowGestures::FrameDrawn, this, &FileListView::FrameDrawn);
     connect(gestures, &RowGestures::MenuWanted, this, &FileListView::MenuWanted);
 }
 

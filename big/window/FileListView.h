@@ -58,6 +58,8 @@ Q_SIGNALS:
     void RowActivated(int place);
     /// The list was clicked beside its rows, or reached with the Tab key.
     void Entered();
+    /// A frame was drawn over rows.
+    void FrameDrawn();
     /// The context menu is asked for: over a row, which is then the only one selected, or beside them (-1).
     void MenuWanted(int place, QPoint globalPlace);
     /// The selected rows begin to be dragged.

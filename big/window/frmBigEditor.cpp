@@ -164,6 +164,7 @@ void frmBigEditor::ConnectList() {
     connect(list, &FileListView::RowActivated, this,
             [this](int place) { Later([this, place] { editor_.ActivateRow(place); }); });
     connect(list, &FileListView::Entered, this, [this] { editor_.EnterList(); });
+    connect(list, &FileListView::FrameDrawn, this, [this] { editor_.FollowSelection(); });
     connect(list, &FileListView::MenuWanted, this, &frmBigEditor::ShowMenu);
     connect(list, &FileListView::DragStarted, this, &frmBigEditor::DragOut);
     // The program that the files come from waits for the end of the drop: the work begins behind it.
@@ -192,10 +193,13 @@ void frmBigEditor::DragOut() {
         return;
     editor_.EnterList();
     const auto picture = listModel_->index(places.front(), 0).data(Qt::DecorationRole).value<QIcon>();
+    const QPointer<frmBigEditor> alive(this);
     DragRows(this, picture.pixmap(32),
              {.Names = [this] { return editor_.DragNames(); },
               .Extract = [this] { return editor_.ExtractForDrag(); },
               .Ended = [] { BigEditor::DragEnded(); }});
+    if (alive != nullptr)
+        editor_.FollowSelection();
 }
 
 // The list may have the keyboard without having been clicked since the archive was opened.

@@ -274,6 +274,24 @@ TEST_F(KeptPlace, TheMenusRowIsToldByTheDetails) {
     EXPECT_FALSE(State().ModifyEnabled);
 }
 
+TEST_F(KeptPlace, RowsThatAreSelectedWithoutAClickAreToldByTheDetails) {
+    OpenData();
+    Be(2, {2, 3});
+    Editor.FollowSelection();
+    EXPECT_FALSE(State().DetailsVisible) << "Only a click shows them.";
+    Click(1);
+    Be(1, {1, 2, 3});
+    Editor.FollowSelection();
+    EXPECT_EQ(Detailed(), u"a.csf"_s);
+    Be(1, {2, 3});
+    Editor.FollowSelection();
+    EXPECT_EQ(Detailed(), u"b.csf"_s);
+    EXPECT_EQ(State().StatusText, u"Data\\b.csf"_s);
+    Be(1, {});
+    Editor.FollowSelection();
+    EXPECT_EQ(Detailed(), u"b.csf"_s) << "No row is selected that they could tell.";
+}
+
 TEST_F(KeptPlace, AnotherNameIsToldByTheDetails) {
     OpenData();
     Click(2);

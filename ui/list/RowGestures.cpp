@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -127,9 +128,14 @@ bool RowGestures::eventFilter(QObject* watched, QEvent* event) {
             Q_EMIT Entered();
         return false;
     case QEvent::MouseButtonPress:
-        if (watched == view_->viewport() &&
-            !view_->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint()).isValid())
+        drawing_ = watched == view_->viewport() &&
+                   !view_->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint()).isValid();
+        if (drawing_)
             Q_EMIT Entered();
+        return false;
+    case QEvent::MouseButtonRelease:
+        if (std::exchange(drawing_, false))
+            Q_EMIT FrameDrawn();
         return false;
     default:
         return QObject::eventFilter(watched, event);

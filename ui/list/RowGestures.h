@@ -30,6 +30,8 @@ Q_SIGNALS:
     void RowActivated(int place);
     /// The view was clicked beside its rows, or reached with the Tab key.
     void Entered();
+    /// A frame was drawn over the rows, from beside them, and let go of.
+    void FrameDrawn();
     /// The context menu is asked for: over a row, which is then the only one selected, or beside them (-1); by its key
     /// for the current row, which leaves a selection that the row is in.
     void MenuWanted(int place, QPoint globalPlace);
@@ -45,5 +47,6 @@ private:
     [[nodiscard]] bool IsEditing() const;
 
     QAbstractItemView* view_;
-    QSet<int> pressed_; ///< the keys that went down here: those of a shortcut, or of a box that has closed, did not
+    bool drawing_ = false; ///< the mouse button went down beside the rows
+    QSet<int> pressed_;    ///< the keys that went down here: those of a shortcut, or of a box that has closed, did not
 };

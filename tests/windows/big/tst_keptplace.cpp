@@ -202,6 +202,29 @@ private Q_SLOTS:
         QCOMPARE(Status(), u"Data\\"_s + NameOf(0));
     }
 
+    void rowsUnderADrawnFrameAreToldByTheDetails() {
+        Work();
+        ViewItem(1)->trigger();
+        Select(u"data\\"_s);
+        ClickText(u"map.tga"_s);
+        Select({});
+        host_->FileNames = {world_->WriteFile(u"b.txt"_s, "b")};
+        Part<QAction>("mnuAdd")->trigger();
+        ClickText(u"b.txt"_s);
+        QCOMPARE(Detailed(), u"b.txt"_s);
+        QWidget* const ground = List()->viewport();
+        const QPoint below(20, ground->height() - 5);
+        const QPoint row = List()->visualRect(Row(u"readme.txt"_s)).center();
+        QTest::mousePress(ground, Qt::LeftButton, {}, below);
+        QMouseEvent move(QEvent::MouseMove, row, ground->mapToGlobal(row), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(ground, &move);
+        Files()->Selection()->select(Row(u"readme.txt"_s),
+                                     QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        QTest::mouseRelease(ground, Qt::LeftButton, {}, row);
+        QCOMPARE(Detailed(), u"readme.txt"_s);
+        QCOMPARE(Status(), u"readme.txt"_s);
+    }
+
     void theMenuKeyKeepsTheSelection_data() { thePlaceStays_data(); }
 
     void theMenuKeyKeepsTheSelection() {
