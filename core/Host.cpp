@@ -18,6 +18,10 @@ Host* inUse = nullptr;
 
 } // namespace
 
+void Host::MessageWithList(const QString& text, const QStringList& lines) {
+    Message(text + "\r\n"_L1 + lines.join("\r\n"_L1), Icon::Exclamation);
+}
+
 bool Host::WaitUntil(const std::function<bool()>& condition) {
     if (condition())
         return true;

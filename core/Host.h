@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -37,8 +38,8 @@ public:
 class Host {
 public:
     enum class Icon { None, Critical, Exclamation, Question, Information };
-    enum class Buttons { Ok, YesNo, YesNoCancel };
-    enum class Answer { Ok, Yes, No, Cancel };
+    enum class Buttons { Ok, YesNo, YesNoCancel, SaveCancel };
+    enum class Answer { Ok, Yes, No, Cancel, Save };
 
     /// What an open or save dialog shows. Filters stand as "text|pattern|text|pattern".
     struct FileDialog {
@@ -59,6 +60,9 @@ public:
     virtual Answer Message(const QString& text, Icon icon, Buttons buttons = Buttons::Ok,
                            const QString& title = QStringLiteral("Brindock 2005"),
                            std::optional<Answer> defaultAnswer = {}) = 0;
+
+    /// A modal box with a list of any length below a text, which can be copied. A host that has none shows a message.
+    virtual void MessageWithList(const QString& text, const QStringList& lines);
 
     /// A line of text; nothing when cancelled.
     virtual std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& text) = 0;

@@ -5,6 +5,7 @@
 
 #include "platform/FolderEntries.h"
 #include "platform/ListedFolder.h"
+#include "platform/Paths.h"
 #include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
 #include "platform/Wildcards.h"
@@ -21,18 +22,24 @@ namespace {
 /// Walks one folder for ListFolderFiles. Each folder is entered once, so that links can't lead around in a circle.
 class Walk {
 public:
-    Walk(bool recursive, bool strict) : recursive_(recursive), strict_(strict) {}
+    Walk(bool recursive, bool strict, QStringList* unlisted = nullptr)
+        : recursive_(recursive),
+          strict_(strict),
+          unlisted_(unlisted) {}
 
     void Enter(const QString& folder) {
         const QByteArray identity = FolderIdentity(folder);
-        if (entered_.contains(identity) || (identity.isEmpty() && !strict_))
+        if (entered_.contains(identity) || (identity.isEmpty() && !strict_)) {
+            if (identity.isEmpty() && unlisted_ != nullptr)
+                *unlisted_ += Paths::ToNative(folder);
             return;
+        }
         entered_.insert(identity);
         std::vector<QString> below;
         if (strict_)
             List(folder, below);
         else
-            Ignoring([&] { List(folder, below); });
+            ListAsFarAsPossible(folder, below);
         if (recursive_) {
             for (const QString& path : below)
                 Enter(path);
@@ -42,6 +49,15 @@ public:
     std::vector<Files::FoundFile> Found() && { return std::move(found_); }
 
 private:
+    void ListAsFarAsPossible(const QString& folder, std::vector<QString>& below) {
+        try {
+            List(folder, below);
+        } catch (const RuntimeError& error) {
+            if (unlisted_ != nullptr)
+                *unlisted_ += error.Description();
+        }
+    }
+
     void List(const QString& folder, std::vector<QString>& below) {
         for (const FolderEntry& entry : FolderEntries(folder)) {
             const QString path = folder + u'\\' + entry.Name;
@@ -54,6 +70,7 @@ private:
 
     bool recursive_;
     bool strict_;
+    QStringList* unlisted_; ///< may be null
     QSet<QByteArray> entered_;
     std::vector<Files::FoundFile> found_;
 };
@@ -86,8 +103,8 @@ QStringList ListFolder(const QString& pattern, bool withFolders) {
     return names;
 }
 
-std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive) {
-    Walk walk(recursive, false);
+std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive, QStringList* unlisted) {
+    Walk walk(recursive, false, unlisted);
     walk.Enter(WithoutTrailingBackslash(folder));
     return std::move(walk).Found();
 }
@@ -120,7 +137,8 @@ void CopyAsGiven(const QString& from, const QString& to) {
 void DeleteUnprotected(const QString& path) {
     // Of a link nothing goes but the link: what it leads to is not asked.
     if (!IsLink(path) && ReplacedFile::IsWriteProtected(path))
-        throw RuntimeError(ErrorNumber::PermissionDenied, QStringLiteral("%1: write-protected").arg(path));
+        throw RuntimeError(ErrorNumber::PermissionDenied,
+                           QStringLiteral("%1: write-protected").arg(Paths::ToNative(path)));
     DeleteForced(path);
 }
 
@@ -132,7 +150,7 @@ void Delete(const QString& pattern) {
     }
     const QStringList names = ListFolder(pattern);
     if (names.isEmpty())
-        throw RuntimeError(ErrorNumber::FileNotFound, QStringLiteral("%1: no such file").arg(pattern));
+        throw RuntimeError(ErrorNumber::FileNotFound, QStringLiteral("%1: no such file").arg(Paths::ToNative(pattern)));
     for (const QString& name : names)
         DeleteUnprotected(pattern.first(split) + name);
 }

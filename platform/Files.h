@@ -93,8 +93,8 @@ struct FoundFile {
 };
 
 /// The files of a folder, with those of all its subfolders when `recursive`; failures are ignored. A link to a folder
-/// is followed once, never around in a circle.
-std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive);
+/// is followed once, never around in a circle. `unlisted` gets why each folder that can't be listed can't.
+std::vector<FoundFile> ListFolderFiles(const QString& folder, bool recursive, QStringList* unlisted = nullptr);
 
 /// The same, but raises 76 with the name of a folder that can't be listed.
 std::vector<FoundFile> ListFolderFilesStrict(const QString& folder, bool recursive);

@@ -11,10 +11,14 @@
 #include "platform/Files.h"
 #include "platform/RuntimeError.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
-BigEditor::BigEditor(EditorView& view) : panes_(view) {}
+BigEditor::BigEditor(EditorView& view) : panes_(view) {
+    panes_.Selected = [this](int place) { details_.Follow(place); };
+}
 
 BigEditor::~BigEditor() {
     FileAdding::ForgetAdopted();
@@ -84,12 +88,31 @@ void BigEditor::EnterList() {
         panes_.State.FocusPane = FocusedPane::List;
 }
 
+void BigEditor::FollowSelection() {
+    const std::vector<int> places = panes_.View.SelectedRows();
+    if (!places.empty() && !std::ranges::any_of(places, [this](int place) { return details_.Tells(place); }))
+        details_.Follow(places.front());
+}
+
 void BigEditor::OfferRow(int place) {
     if (place < 0 || place >= panes_.List.Count())
         return;
     panes_.State.FocusPane = FocusedPane::List;
+    details_.Follow(place);
     panes_.State.ModifyEnabled = !panes_.List.Row(place).IsFolder;
     panes_.View.StateChanged();
+}
+
+bool BigEditor::RenameNode(int node, const QString& text) {
+    const bool renamed = changes_.RenameNode(node, text);
+    details_.NamesChanged();
+    return renamed;
+}
+
+bool BigEditor::RenameRow(int place, const QString& text) {
+    const bool renamed = changes_.RenameRow(place, text);
+    details_.NamesChanged();
+    return renamed;
 }
 
 void BigEditor::Modify() {

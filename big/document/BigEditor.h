@@ -80,9 +80,8 @@ public:
 
     [[nodiscard]] bool MayRenameNode(int node) const { return changes_.MayRenameNode(node); }
 
-    bool RenameNode(int node, const QString& text) { return changes_.RenameNode(node, text); }
-
-    bool RenameRow(int place, const QString& text) { return changes_.RenameRow(place, text); }
+    bool RenameNode(int node, const QString& text);
+    bool RenameRow(int place, const QString& text);
 
     /// Copies the chosen entries into a folder that the user chooses.
     void Extract() { extraction_.Run(); }
@@ -111,6 +110,8 @@ public:
 
     /// The list was clicked, or reached with the keyboard: the commands act on its rows.
     void EnterList();
+    /// Rows were selected without a click on one: details that are shown tell one of them.
+    void FollowSelection();
     /// The menu is asked for on a row, which is the selected one then.
     void OfferRow(int place);
     /// A double click on a row, or the Enter key: a folder row opens its folder, a file row is modified.

@@ -3,6 +3,7 @@
 
 #include "big/document/EditorPanes.h"
 
+#include "big/document/KeptRows.h"
 #include "core/Host.h"
 #include "core/SettingKeys.h"
 #include "core/Settings.h"
@@ -34,6 +35,12 @@ void EditorPanes::ShowFolder(const QString& folderKey) {
     List.ShowFolder(Tree, State.SelectedNode, folderKey, mBIG::BigEntries, GetText(u"Folder"_s), State.ShowsOnlyEntry);
     View.ListChanged();
     View.StateChanged();
+}
+
+void EditorPanes::ShowSelected() {
+    KeptRows kept(*this);
+    ShowFolder(SelectedKey());
+    kept.PutBack();
 }
 
 void EditorPanes::ShowAgain(const QString& folderKey) {
@@ -71,5 +78,11 @@ void EditorPanes::TellUnmarked() {
         State.Modified = true;
         View.StateChanged();
     };
-    View.ShowNotice({.Text = GetText(u"NotMarkedAsChanged"_s), .Links = {{GetText(u"AskBeforeClosing"_s), mark}}});
+    const QString text = (Names.TakeTold() + u' ' + GetText(u"NotMarkedAsChanged"_s)).trimmed();
+    View.ShowNotice({.Text = text, .Links = {{GetText(u"AskBeforeClosing"_s), mark}}});
+}
+
+void EditorPanes::TellNames() {
+    if (const QString told = Names.TakeTold(); !told.isEmpty())
+        View.ShowNotice({.Text = told});
 }

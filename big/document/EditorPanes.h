@@ -8,8 +8,11 @@
 #include "big/document/EditorView.h"
 #include "big/document/FileList.h"
 #include "big/document/FolderTree.h"
+#include "big/document/StoredNames.h"
 
 #include <QString>
+
+#include <functional>
 
 class EditorPanes {
 public:
@@ -20,7 +23,11 @@ public:
     EditorState State;
     FolderTree Tree;
     FileList List;
+    StoredNames Names;
     mBIG::Identity Shown; ///< the archive that the panes show
+
+    /// Told which row is selected (-1 for none) behind a change that made the list anew; may be empty.
+    std::function<void(int place)> Selected;
 
     /// Rebuilds the tree from the table and shows the root.
     void CreateDirs();
@@ -28,8 +35,8 @@ public:
     /// Fills the list with a folder; the empty key is the root. Never fails.
     void ShowFolder(const QString& folderKey);
 
-    /// Fills the list with the selected node's folder anew.
-    void ShowSelected() { ShowFolder(SelectedKey()); }
+    /// Fills the list with the selected node's folder anew, and leaves the user where he is in it.
+    void ShowSelected();
 
     /// Shows a folder that was selected before the tree was made anew, in whatever case its key was; the root when it
     /// has gone.
@@ -59,6 +66,9 @@ public:
 
     /// Tells that something was changed that closing does not ask about, unless changes are asked about anyway.
     void TellUnmarked();
+
+    /// Tells of names that lost letters, if any did since it was told last.
+    void TellNames();
 
 private:
     int commands_ = 0;

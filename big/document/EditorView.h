@@ -8,9 +8,18 @@
 #include "big/document/FolderTree.h"
 #include "core/Document.h"
 
+#include <QPoint>
 #include <QString>
 
 #include <vector>
+
+/// Where the user is in the views. Places are those of the list's rows, -1 for none; scrolling is in pixels.
+struct ViewPlace {
+    std::vector<int> Selected;
+    int Current = -1; ///< the row with the focus, which may be none of the selected ones
+    QPoint ListScroll;
+    QPoint TreeScroll;
+};
 
 /// What the archive asks of its window besides.
 class EditorView : public DocumentView {
@@ -23,6 +32,9 @@ public:
     virtual void ShowVersion() = 0;
     /// The places of the list's selected rows, in the order shown.
     [[nodiscard]] virtual std::vector<int> SelectedRows() const = 0;
+    [[nodiscard]] virtual ViewPlace Where() const = 0;
+    /// Selects rows and scrolls; that is no click on any of them.
+    virtual void GoTo(const ViewPlace& place) = 0;
     /// Shows a node and starts the edit of its label.
     virtual void EditNode(int node) = 0;
     /// Ends the edit of a name as the Enter key does: what was typed counts.

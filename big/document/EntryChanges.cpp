@@ -3,8 +3,10 @@
 
 #include "big/document/EntryChanges.h"
 
+#include "big/document/KeptRows.h"
 #include "big/format/ArchiveEdits.h"
 #include "core/Host.h"
+#include "core/LostLetters.h"
 #include "core/mTraduction.h"
 
 #include <limits>
@@ -66,6 +68,7 @@ void EntryChanges::Delete() {
         Host::Answer::Yes)
         return;
     EditorState& state = panes_.State;
+    KeptRows kept(panes_);
     if (state.FocusPane == FocusedPane::List) {
         DeleteRows();
     } else {
@@ -78,7 +81,8 @@ void EntryChanges::Delete() {
     }
     state.Modified = true;
     panes_.View.TreeChanged();
-    panes_.ShowSelected();
+    panes_.ShowFolder(panes_.SelectedKey());
+    kept.PutBack();
 }
 
 void EntryChanges::DeleteFolder(int node) {
@@ -144,6 +148,7 @@ bool EntryChanges::RenameNode(int node, const QString& text) {
     if (EditorPanes::Locked() || text.isEmpty() || !MayRenameNode(node))
         return false;
     RenameFolder(node, text);
+    panes_.TellNames();
     panes_.View.StateChanged();
     return true;
 }
@@ -156,20 +161,28 @@ bool EntryChanges::RenameRow(int place, const QString& text) {
     if (row.IsFolder ? !MayRenameNode(row.Index) : static_cast<std::size_t>(row.Index) >= mBIG::BigEntries.size())
         return false;
     panes_.State.Modified = true;
+    const QString stored = LostLetters::AsStored(text);
     // A folder part with the same text changes too. This is meant.
-    if (row.IsFolder)
+    if (row.IsFolder) {
         RenameFolder(row.Index, text);
-    else
-        ArchiveEdits::RenameEntry(mBIG::Open(), row.Index, list.Text(place), text);
-    list.SetText(place, text);
+    } else {
+        ArchiveEdits::RenameEntry(mBIG::Open(), row.Index, list.Text(place), stored);
+        if (stored != text)
+            panes_.Names.Typed(text, mBIG::BigEntries[static_cast<std::size_t>(row.Index)].Name);
+    }
+    list.SetText(place, stored);
+    panes_.TellNames();
     panes_.View.StateChanged();
     return true;
 }
 
 void EntryChanges::RenameFolder(int node, const QString& text) {
     const QString oldKey = panes_.Tree.Node(node).Key;
-    const QString newKey = ArchiveEdits::RenamedKey(oldKey, text);
-    panes_.Tree.Rename(node, newKey, text);
+    const QString stored = LostLetters::AsStored(text);
+    const QString newKey = ArchiveEdits::RenamedKey(oldKey, stored);
+    panes_.Tree.Rename(node, newKey, stored);
+    if (stored != text)
+        panes_.Names.Typed(text, newKey);
     // A folder that no entry lies in is in no file either, whatever its name.
     if (ArchiveEdits::RenameFolder(mBIG::Open(), oldKey, newKey) > 0 && newKey != oldKey)
         panes_.TellUnmarked();

@@ -48,15 +48,28 @@ std::vector<qint32> ExtractCommand::Chosen() const {
     return extractList;
 }
 
+void ExtractCommand::TellNothing() {
+    panes_.View.ShowNotice({.Text = mTraduction::GetText(u"NothingToExtract"_s)});
+}
+
 void ExtractCommand::Run() {
+    // An only entry is not extracted. This is meant.
+    if (mBIG::HighestIndex() == 0 && !Archives::IsBlank(mBIG::Open()))
+        return TellNothing();
     if (mBIG::HighestIndex() == 0 || EditorPanes::Locked())
         return;
     const EditorPanes::Command command(panes_);
     const mBIG::ArchiveLock lock;
+    const QString status = panes_.State.StatusText;
     panes_.State.StatusText = mTraduction::GetText(u"BuildingFileList"_s);
     panes_.View.StateChanged();
     const std::vector<qint32> extractList = Chosen();
-    if (extractList.empty() || Refuses(extractList))
+    if (extractList.empty()) {
+        panes_.State.StatusText = status;
+        panes_.View.StateChanged();
+        return TellNothing();
+    }
+    if (Refuses(extractList))
         return;
     const ExtractionTarget target = panes_.View.AskForFolder();
     // The chooser may have stood there for long.

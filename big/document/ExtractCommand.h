@@ -18,6 +18,7 @@ public:
 
 private:
     [[nodiscard]] std::vector<qint32> Chosen() const;
+    void TellNothing();
 
     EditorPanes& panes_;
 };

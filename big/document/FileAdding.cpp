@@ -3,9 +3,10 @@
 
 #include "big/document/FileAdding.h"
 
+#include "big/document/KeptRows.h"
 #include "big/document/ScratchFolders.h"
 #include "core/Host.h"
-#include "core/Sizes.h"
+#include "core/LostLetters.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
@@ -30,9 +31,14 @@ QString WithoutTrailingBackslash(const QString& path) {
     return path.endsWith(u'\\') ? path.chopped(1) : path;
 }
 
-bool MayReplace(const QString& name) {
-    const QString question = name + "\r\n\r\n"_L1 + GetText(u"FileAlreadyExists"_s);
-    return Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNo) == Host::Answer::Yes;
+bool MayReplace(StoredNames& names, const QString& name) {
+    QString question = name + "\r\n\r\n"_L1 + GetText(u"FileAlreadyExists"_s);
+    if (const QString more = names.Meet(); !more.isEmpty())
+        question += "\r\n"_L1 + more;
+    const bool may = Host::Current().Message(question, Host::Icon::Question, Host::Buttons::YesNo) == Host::Answer::Yes;
+    if (!may)
+        names.Refused();
+    return may;
 }
 
 Source SourceOf(const QString& path) {
@@ -41,23 +47,16 @@ Source SourceOf(const QString& path) {
     return source;
 }
 
-void DropFolder(ArchiveEdits::Drop& drop, const QString& prefix, const QString& folder) {
-    // The root of all folders has no name to stand under.
-    if (folder.isEmpty())
-        return;
-    for (const Files::FoundFile& file : Files::ListFolderFiles(folder, true))
-        drop.FileOfFolder(prefix + Paths::LastPart(folder) + file.Path.sliced(folder.size()),
+void DropFolder(ArchiveEdits::Drop& drop, StoredNames& names, const QString& prefix, const QString& folder,
+                QStringList& leftOut) {
+    for (const Files::FoundFile& file : Files::ListFolderFiles(folder, true, &leftOut))
+        drop.FileOfFolder(names.Take(prefix + Paths::LastPart(folder) + file.Path.sliced(folder.size())),
                           {.Path = file.Path, .Size = file.Size});
 }
 
 QString NameAt(int index) {
     const auto at = static_cast<std::size_t>(index);
     return at < mBIG::BigEntries.size() ? mBIG::BigEntries[at].Name : QString();
-}
-
-/// The one name of a list, or how many there are.
-QString NameOrCount(const QStringList& names) {
-    return names.size() == 1 ? names.front() : Sizes::Grouped(names.size());
 }
 
 } // namespace
@@ -75,16 +74,15 @@ void FileAdding::Add() {
 }
 
 void FileAdding::AddFile(const QString& path) {
-    const QString name = panes_.SelectedKey() + Paths::LastPart(path);
+    const QString name = panes_.Names.Take(panes_.SelectedKey() + Paths::LastPart(path));
     const int found = mBIG::FindEntry(name);
-    if (found >= 0 && !MayReplace(name))
-        return;
+    if (found >= 0 && !MayReplace(panes_.Names, name))
+        return panes_.TellNames();
     const bool replaces = found >= 0 && !mBIG::BigEntries[static_cast<std::size_t>(found)].Deleted;
     ArchiveEdits::Add(mBIG::Open(), name, SourceOf(path));
     panes_.State.Modified = true;
     panes_.ShowSelected();
-    if (replaces)
-        TellDrop({.Taken = 1, .Replaced = {name}, .Lost = {}, .Hidden = {}});
+    TellDrop({.Taken = 1, .Replaced = replaces ? QStringList{name} : QStringList(), .Lost = {}, .Hidden = {}});
 }
 
 QStringList FileAdding::AdoptDragged(QStringList paths) {
@@ -114,11 +112,13 @@ void FileAdding::Drop(const QStringList& paths) {
     const EditorPanes::Command command(panes_);
     const int highest = mBIG::HighestIndex();
     const QString last = NameAt(highest);
+    KeptRows kept(panes_);
     ArchiveEdits::DropResult result;
+    QStringList leftOut;
     {
         const mBIG::ArchiveLock lock;
-        ArchiveEdits::Drop drop(mBIG::Open(), &MayReplace);
-        DropPaths(paths, drop);
+        ArchiveEdits::Drop drop(mBIG::Open(), [this](const QString& name) { return MayReplace(panes_.Names, name); });
+        leftOut = DropPaths(paths, drop);
         result = drop.Result();
     }
     // While record 0 is blank a new record takes the place of the last one, of a deleted one too, which is no loss to
@@ -126,17 +126,25 @@ void FileAdding::Drop(const QStringList& paths) {
     if (!result.Lost.isEmpty() || NameAt(highest).compare(last, Qt::CaseInsensitive) != 0)
         recordsLost_(highest);
     panes_.State.Modified = true;
-    panes_.ShowSelected();
-    if (!result.IsQuiet())
-        TellDrop(result);
+    panes_.ShowFolder(panes_.SelectedKey());
+    kept.PutBack();
+    TellDrop(result);
+    if (!leftOut.isEmpty())
+        Host::Current().MessageWithList(GetText(u"LeftOut2"_s), leftOut);
 }
 
-void FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
+QStringList FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
+    QStringList leftOut;
     QString prefix = panes_.SelectedKey();
     const auto lastFolder = std::find_if(paths.rbegin(), paths.rend(), &Files::FolderExists).base();
     for (auto path = paths.begin(); path != paths.end(); ++path) {
         if (Files::FolderExists(*path)) {
-            Ignoring([&] { DropFolder(drop, prefix, WithoutTrailingBackslash(*path)); });
+            const QString folder = WithoutTrailingBackslash(*path);
+            // The root of all folders has no name to stand under.
+            if (folder.isEmpty())
+                leftOut += Paths::ToNative(*path);
+            else
+                Ignoring([&] { DropFolder(drop, panes_.Names, prefix, folder, leftOut); });
             // The tree is made anew and the root selected, where the paths behind go. This is meant. Only the last
             // folder's tree is ever seen.
             prefix.clear();
@@ -145,19 +153,25 @@ void FileAdding::DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop) {
         } else if (Files::FileExists(*path)) {
             Source source = SourceOf(*path);
             source.Size = std::max<qint64>(source.Size, 0);
-            drop.File(prefix + Paths::LastPart(*path), source);
+            drop.File(panes_.Names.Take(prefix + Paths::LastPart(*path)), source);
+        } else {
+            leftOut += Paths::ToNative(*path);
         }
     }
+    return leftOut;
 }
 
 void FileAdding::TellDrop(const ArchiveEdits::DropResult& result) {
     QStringList told;
+    if (const QString names = panes_.Names.TakeTold(); !names.isEmpty())
+        told += names;
     const auto tell = [&](QString text, const QStringList& names) {
         if (!names.isEmpty())
-            told += text.replace("%1"_L1, NameOrCount(names));
+            told += text.replace("%1"_L1, LostLetters::NameOrCount(names));
     };
     tell(GetText(u"DropLost"_s), result.Lost);
     tell(GetText(u"DropHidden"_s), result.Hidden);
     tell(GetText(u"DropReplaced"_s), result.Replaced);
-    panes_.View.ShowNotice({.Text = told.join(u' ')});
+    if (!told.isEmpty())
+        panes_.View.ShowNotice({.Text = told.join(u' ')});
 }

@@ -29,7 +29,8 @@ public:
 
 private:
     void AddFile(const QString& path);
-    void DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop);
+    /// Returns what did not come in.
+    QStringList DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop);
     void TellDrop(const ArchiveEdits::DropResult& result);
 
     EditorPanes& panes_;

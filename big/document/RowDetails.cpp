@@ -20,6 +20,19 @@ qint64 CurrentSize(const BigEntry& entry) {
     return size;
 }
 
+bool IsEntry(int index) {
+    return index >= 0 && static_cast<std::size_t>(index) < mBIG::BigEntries.size();
+}
+
+BigEntry& EntryAt(int index) {
+    return mBIG::BigEntries[static_cast<std::size_t>(index)];
+}
+
+/// A record that is gone counts as one whose file is gone: the test for it fails, and a failing test holds.
+bool IsGone(int index) {
+    return !IsEntry(index) || (EntryAt(index).IsNew && !Files::FileExists(EntryAt(index).SourcePath));
+}
+
 } // namespace
 
 RowDetails::RowDetails(EditorPanes& panes) : panes_(panes), preview_([&panes] { panes.View.StateChanged(); }) {}
@@ -35,9 +48,7 @@ void RowDetails::Show(int place) {
     }
     const FileRow row = panes_.List.Row(place);
     if (row.IsFolder) {
-        preview_.ShowFolderRow();
-        state.ModifyEnabled = false;
-        state.DetailsVisible = false;
+        Hide();
         state.FocusPane = FocusedPane::List;
     } else if (!ShowFile(row.Index, panes_.List.Text(place))) {
         return;
@@ -45,18 +56,54 @@ void RowDetails::Show(int place) {
     panes_.View.StateChanged();
 }
 
+void RowDetails::Hide() {
+    preview_.ShowFolderRow();
+    panes_.State.ModifyEnabled = false;
+    panes_.State.DetailsVisible = false;
+}
+
+bool RowDetails::Tells(int place) const {
+    return place >= 0 && place < panes_.List.Count() && !panes_.List.Row(place).IsFolder &&
+           panes_.List.Row(place).Index == shown_;
+}
+
+void RowDetails::Follow(int place) {
+    if (!panes_.State.DetailsVisible || mBIG::ArchiveLock::IsHeld())
+        return;
+    const FocusedPane pane = panes_.State.FocusPane;
+    if (place < 0 || place >= panes_.List.Count() || panes_.List.Row(place).IsFolder ||
+        IsGone(panes_.List.Row(place).Index))
+        Hide();
+    else if (const int index = panes_.List.Row(place).Index; index != shown_ || EntryAt(index) != shownEntry_)
+        Show(place);
+    panes_.State.FocusPane = pane;
+    panes_.View.StateChanged();
+}
+
+void RowDetails::NamesChanged() {
+    const FileList& list = panes_.List;
+    for (int place = 0; panes_.State.DetailsVisible && place < list.Count(); ++place) {
+        if (list.Row(place).IsFolder || list.Row(place).Index != shown_ || IsGone(shown_))
+            continue;
+        shownEntry_ = EntryAt(shown_);
+        panes_.State.StatusText = shownEntry_.Name;
+        panes_.State.DetailsName = list.Text(place);
+        return panes_.View.StateChanged();
+    }
+}
+
 bool RowDetails::ShowFile(int index, const QString& rowText) {
     EditorState& state = panes_.State;
-    // A record that is gone counts as one whose file is gone: the test for it fails, and a failing test holds.
-    const bool there = static_cast<std::size_t>(index) < mBIG::BigEntries.size();
-    BigEntry missing;
-    BigEntry& entry = there ? mBIG::BigEntries[static_cast<std::size_t>(index)] : missing;
-    if (!there || (entry.IsNew && !Files::FileExists(entry.SourcePath))) {
+    if (IsGone(index)) {
         Host::Current().Message(GetText(u"FileNotFound"_s), Host::Icon::Critical);
-        entry.Deleted = true;
+        if (IsEntry(index))
+            EntryAt(index).Deleted = true;
         panes_.ShowSelected();
         return false;
     }
+    const BigEntry& entry = EntryAt(index);
+    shown_ = index;
+    shownEntry_ = entry;
     state.ModifyEnabled = true;
     state.DetailsVisible = true;
     state.StatusText = entry.Name;

@@ -22,6 +22,16 @@ public:
     /// A click on a row, or its selection by a key.
     void Show(int place);
 
+    /// Another row may be selected, or the same entry be another one, without a click: details that are shown tell it.
+    /// They go when it has none, or `place` is no row.
+    void Follow(int place);
+
+    /// Whether that row is the one that was shown last.
+    [[nodiscard]] bool Tells(int place) const;
+
+    /// Entries or rows have other names: details that are shown tell them.
+    void NamesChanged();
+
     /// No row is shown any more.
     void Clear() { preview_.Clear(); }
 
@@ -31,6 +41,10 @@ public:
 private:
     bool ShowFile(int index, const QString& rowText);
 
+    void Hide();
+
     EditorPanes& panes_;
     Preview preview_;
+    int shown_ = -1;      ///< the index of the entry that the details tell
+    BigEntry shownEntry_; ///< as it was then
 };

@@ -4,6 +4,7 @@
 #include "big/document/SaveCommand.h"
 
 #include "big/document/FileAdding.h"
+#include "big/document/KeptRows.h"
 #include "big/document/OffsetNotices.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
@@ -20,6 +21,22 @@ using mTraduction::GetText;
 namespace {
 
 constexpr int mostNamesShown = 10;
+
+/// What a save of the table can't write, a line each.
+QStringList LeftOutOf(const OriginalBytes& originals, bool fromOriginals) {
+    QStringList lines;
+    for (const int index : Archives::MissingSources(mBIG::Open()))
+        lines += mBIG::BigEntries[static_cast<std::size_t>(index)].Name + u": "_s + GetText(u"LeftOutGone"_s);
+    const qint64 length = mBIG::LengthOnDisk();
+    for (std::size_t index = 0; index < mBIG::BigEntries.size() && !fromOriginals; ++index) {
+        const BigEntry& entry = mBIG::BigEntries[index];
+        const bool endsBehind =
+            !entry.Deleted && !entry.IsNew && entry.Size > 0 && qint64{entry.Offset} + entry.Size > length;
+        if (endsBehind || originals.IsCut(index))
+            lines += entry.Name + u": "_s + GetText(u"LeftOutCut"_s);
+    }
+    return lines;
+}
 
 } // namespace
 
@@ -99,16 +116,17 @@ Saved SaveCommand::SaveTo(const QString& path, Bytes bytes) {
     const bool exact = panes_.State.ExactOffsets;
     const auto placement = exact ? Archives::Placement::Exact : Archives::Placement::Told;
     const bool writes = exact || mBIG::HighestIndex() > 0;
-    if (writes && !GoesOnWithoutSources())
+    if (writes && (!GoesOnWithoutSources() || !panes_.Names.MaySave()))
         return Saved::Cancelled;
     const std::vector<int> newIndices = Archives::IndicesAfterSave(mBIG::Open());
     copies_.BeforeSave();
+    const bool fromOriginals = bytes == Bytes::Original || (exact && originals_.AreOfASave());
+    const QStringList leftOut = LeftOutOf(originals_, fromOriginals && originals_.AreKnown());
     std::optional<OffsetShift::Shift> shift;
     try {
-        shift = mBIG::Save(path, {.Kept = copies_.Kept(),
-                                  .Place = placement,
-                                  .Originals = &originals_,
-                                  .FromOriginals = bytes == Bytes::Original || (exact && originals_.AreOfASave())});
+        shift = mBIG::Save(
+            path,
+            {.Kept = copies_.Kept(), .Place = placement, .Originals = &originals_, .FromOriginals = fromOriginals});
     } catch (const RuntimeError& error) {
         Host::Current().Message(GetText(u"SaveFailed"_s) + "\r\n"_L1 + error.Description(), Host::Icon::Critical);
         return Saved::Failed;
@@ -126,6 +144,8 @@ Saved SaveCommand::SaveTo(const QString& path, Bytes bytes) {
         return Saved::Yes;
     }
     TellWritten(*shift);
+    if (!leftOut.isEmpty())
+        Host::Current().MessageWithList(GetText(u"LeftOut2"_s), leftOut);
     return Saved::Yes;
 }
 
@@ -170,6 +190,7 @@ void SaveCommand::TellNotSaved() {
 void SaveCommand::ShowWritten(const QString& path, const OffsetShift::Shift& shift,
                               const std::vector<int>& newIndices) {
     const QString folderKey = panes_.SelectedKey();
+    KeptRows kept(panes_);
     // The table's offsets must be the written file's.
     if (Ignoring([&] { mBIG::Load(path); })) {
         originals_.Loaded(shift);
@@ -184,9 +205,11 @@ void SaveCommand::ShowWritten(const QString& path, const OffsetShift::Shift& shi
     if (IsArchiveName(path))
         panes_.CreateDirs();
     FileAdding::ForgetAdopted();
+    panes_.Names.Forget();
     panes_.State.DetailsVisible = false;
     panes_.State.ModifyEnabled = false;
     details_.Clear();
     Ignoring([&] { panes_.Tree.SetRootText(Paths::LastPart(path)); });
     panes_.ShowAgain(folderKey);
+    kept.PutBack();
 }

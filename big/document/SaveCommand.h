@@ -28,7 +28,10 @@ public:
     bool GoOnWithoutChanges();
 
     /// Another archive is open: what was kept of the one before goes.
-    void ForgetOriginals() { originals_.Forget(); }
+    void ForgetOriginals() {
+        originals_.Forget();
+        panes_.Names.Forget();
+    }
 
     /// Tells what there is to tell of an archive that was opened.
     void TellOpened();

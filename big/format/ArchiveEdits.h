@@ -39,9 +39,6 @@ struct DropResult {
     QStringList Replaced; ///< names of entries that have the bytes of a dropped file now
     QStringList Lost;     ///< names of records whose place a new one took
     QStringList Hidden;   ///< names of deleted entries that have a dropped file's bytes now and stay deleted
-
-    /// Whether somebody may miss something.
-    [[nodiscard]] bool IsQuiet() const { return Replaced.isEmpty() && Lost.isEmpty() && Hidden.isEmpty(); }
 };
 
 /// A drop of any number of files, in time proportional to it. As long as it lives nothing else may change the table.

@@ -38,6 +38,9 @@ public:
     /// How many entries the last save has cut off.
     [[nodiscard]] int CutCount() const { return cutCount_; }
 
+    /// Whether a save of the table as it is, from where its offsets lead, cuts that entry off.
+    [[nodiscard]] bool IsCut(std::size_t index) const;
+
     /// Gives the open archive's entries the offsets at which their bytes lie, where that is in its own file. What was
     /// known is forgotten then.
     void ReadBack();
@@ -72,7 +75,6 @@ private:
         FileState State; ///< when it was kept
     };
 
-    [[nodiscard]] bool IsCut(std::size_t index) const;
     void DropUnused();
 
     mBIG::Identity archive_;

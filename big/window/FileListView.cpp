@@ -92,6 +92,7 @@ void FileListView::Follow(QAbstractItemView* view, RowGestures* gestures) {
     connect(gestures, &RowGestures::RowClicked, this, &FileListView::RowClicked);
     connect(gestures, &RowGestures::RowActivated, this, &FileListView::RowActivated);
     connect(gestures, &RowGestures::Entered, this, &FileListView::Entered);
+    connect(gestures, &RowGestures::FrameDrawn, this, &FileListView::FrameDrawn);
     connect(gestures, &RowGestures::MenuWanted, this, &FileListView::MenuWanted);
 }
 
@@ -156,6 +157,19 @@ QItemSelectionModel* FileListView::Selection() const {
 
 std::vector<int> FileListView::SelectedRows() const {
     return details_->Gestures()->SelectedRows();
+}
+
+void FileListView::Select(const std::vector<int>& places, int current) {
+    QItemSelection rows;
+    for (auto first = places.begin(); first != places.end();) {
+        auto last = first;
+        while (last + 1 != places.end() && *(last + 1) == *last + 1)
+            ++last;
+        rows.select(model_->index(*first, 0), model_->index(*last, 0));
+        first = last + 1;
+    }
+    Selection()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    Selection()->setCurrentIndex(model_->index(current, 0), QItemSelectionModel::NoUpdate);
 }
 
 QHeaderView* FileListView::Header() const {

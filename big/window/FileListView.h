@@ -39,6 +39,8 @@ public:
     [[nodiscard]] QItemSelectionModel* Selection() const;
     /// The places of the selected rows, in the order shown.
     [[nodiscard]] std::vector<int> SelectedRows() const;
+    /// Selects rows, in order, and gives another (-1 for none) the focus frame.
+    void Select(const std::vector<int>& places, int current);
     [[nodiscard]] QHeaderView* Header() const;
     /// The view that the mode shows.
     [[nodiscard]] QAbstractItemView* Current() const;
@@ -56,6 +58,8 @@ Q_SIGNALS:
     void RowActivated(int place);
     /// The list was clicked beside its rows, or reached with the Tab key.
     void Entered();
+    /// A frame was drawn over rows.
+    void FrameDrawn();
     /// The context menu is asked for: over a row, which is then the only one selected, or beside them (-1).
     void MenuWanted(int place, QPoint globalPlace);
     /// The selected rows begin to be dragged.

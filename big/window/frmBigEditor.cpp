@@ -20,11 +20,27 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTimer>
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QPoint ScrollOf(const QAbstractItemView& view) {
+    return {view.horizontalScrollBar()->value(), view.verticalScrollBar()->value()};
+}
+
+/// The bars know how far they reach only when the rows are laid out.
+void Scroll(QAbstractItemView& view, QPoint place) {
+    view.doItemsLayout();
+    view.horizontalScrollBar()->setValue(place.x());
+    view.verticalScrollBar()->setValue(place.y());
+}
+
+} // namespace
 
 frmBigEditor::frmBigEditor(QWidget* parent)
     : ToolWindow(parent),
@@ -148,6 +164,7 @@ void frmBigEditor::ConnectList() {
     connect(list, &FileListView::RowActivated, this,
             [this](int place) { Later([this, place] { editor_.ActivateRow(place); }); });
     connect(list, &FileListView::Entered, this, [this] { editor_.EnterList(); });
+    connect(list, &FileListView::FrameDrawn, this, [this] { editor_.FollowSelection(); });
     connect(list, &FileListView::MenuWanted, this, &frmBigEditor::ShowMenu);
     connect(list, &FileListView::DragStarted, this, &frmBigEditor::DragOut);
     // The program that the files come from waits for the end of the drop: the work begins behind it.
@@ -176,10 +193,13 @@ void frmBigEditor::DragOut() {
         return;
     editor_.EnterList();
     const auto picture = listModel_->index(places.front(), 0).data(Qt::DecorationRole).value<QIcon>();
+    const QPointer<frmBigEditor> alive(this);
     DragRows(this, picture.pixmap(32),
              {.Names = [this] { return editor_.DragNames(); },
               .Extract = [this] { return editor_.ExtractForDrag(); },
               .Ended = [] { BigEditor::DragEnded(); }});
+    if (alive != nullptr)
+        editor_.FollowSelection();
 }
 
 // The list may have the keyboard without having been clicked since the archive was opened.
@@ -239,6 +259,7 @@ void frmBigEditor::TreeChanged() {
 void frmBigEditor::ListChanged() {
     listModel_->Reset(editor_.State().FileIcons);
     ui_->lvFiles->RowsChanged();
+    ui_->lvFiles->Current()->scrollToTop();
     TellSelection();
 }
 
@@ -281,6 +302,19 @@ void frmBigEditor::ShowVersion() {
 
 std::vector<int> frmBigEditor::SelectedRows() const {
     return ui_->lvFiles->SelectedRows();
+}
+
+ViewPlace frmBigEditor::Where() const {
+    return {.Selected = SelectedRows(),
+            .Current = ui_->lvFiles->Selection()->currentIndex().row(),
+            .ListScroll = ScrollOf(*ui_->lvFiles->Current()),
+            .TreeScroll = ScrollOf(*ui_->tvDirs)};
+}
+
+void frmBigEditor::GoTo(const ViewPlace& place) {
+    ui_->lvFiles->Select(place.Selected, place.Current);
+    Scroll(*ui_->lvFiles->Current(), place.ListScroll);
+    Scroll(*ui_->tvDirs, place.TreeScroll);
 }
 
 void frmBigEditor::EditNode(int node) {

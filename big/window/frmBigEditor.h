@@ -58,6 +58,8 @@ private:
     void ShowNotice(const Notice& notice) override { SetNotice(notice); }
 
     [[nodiscard]] std::vector<int> SelectedRows() const override;
+    [[nodiscard]] ViewPlace Where() const override;
+    void GoTo(const ViewPlace& place) override;
     void EditNode(int node) override;
     void CommitEdit() override;
     ExtractionTarget AskForFolder() override;

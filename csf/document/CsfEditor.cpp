@@ -4,6 +4,7 @@
 #include "csf/document/CsfEditor.h"
 
 #include "core/Host.h"
+#include "core/LostLetters.h"
 #include "core/Sizes.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
@@ -104,18 +105,30 @@ void CsfEditor::ClickHeader(LabelList::Column column) {
 void CsfEditor::NameTyped(const QString& text) {
     if (!list_.Has(state_.SelectedRow))
         return;
-    list_.SetName(state_.SelectedRow, text);
-    state_.Modified = true;
-    view_.RowChanged(state_.SelectedRow);
-    view_.StateChanged();
+    const QString stored = LostLetters::AsStored(text);
+    list_.SetName(state_.SelectedRow, stored);
+    Typed(stored != text ? &state_.NameText : nullptr, stored);
 }
 
 void CsfEditor::ValueTyped(const QString& text) {
     if (!list_.Has(state_.SelectedRow))
         return;
-    list_.SetValue(state_.SelectedRow, QString(text).replace(u"\r\n"_s, u"\n"_s));
+    const QString stored = LostLetters::AsStored(text);
+    list_.SetValue(state_.SelectedRow, QString(stored).replace(u"\r\n"_s, u"\n"_s));
+    Typed(stored != text ? &state_.ValueText : nullptr, stored);
+}
+
+// A box whose text is stored as another one shows that at once.
+void CsfEditor::Typed(QString* box, const QString& stored) {
+    const int place = state_.SelectedRow;
     state_.Modified = true;
-    view_.RowChanged(state_.SelectedRow);
+    view_.RowChanged(place);
+    if (box != nullptr) {
+        *box = stored;
+        view_.BoxChanged(box == &state_.NameText);
+        list_.SetLostLetters(place);
+        view_.ShowNotice({.Text = LostLetters::Told({list_.Row(place).Name})});
+    }
     view_.StateChanged();
 }
 

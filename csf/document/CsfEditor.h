@@ -32,6 +32,9 @@ public:
     virtual void ScrollToRow(int place) = 0;
     /// Both boxes get the state's NameText and ValueText; that is no change by the user.
     virtual void BoxesChanged() = 0;
+    /// The box that is being typed into, txtName or txtValue, gets the state's text; its cursor stays behind what was
+    /// typed. That is no change by the user.
+    virtual void BoxChanged(bool isName) = 0;
 };
 
 struct CsfEditorState {
@@ -121,6 +124,7 @@ private:
     Document::Saved Write();
     void TellFailedSave() const;
     void SelectAndClick(int place, bool focus);
+    void Typed(QString* box, const QString& stored);
     void ShowBoxes(bool enabled, const QString& name, const QString& value);
 
     CsfEditorView& view_;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "core/Host.h"
+#include "core/LostLetters.h"
 #include "core/mTraduction.h"
 #include "csf/document/CsfEditor.h"
 #include "csf/format/mCSF.h"
@@ -75,12 +76,16 @@ void CsfEditor::SaveAs() {
 Saved CsfEditor::SaveToFileOrName() {
     if (list_.Count() == 0)
         return Saved::NothingToSave;
-    return state_.Path == NewName() ? SaveUnderName() : Write();
+    if (state_.Path == NewName())
+        return SaveUnderName();
+    return LostLetters::MaySave(list_.NamesOfLost()) ? Write() : Saved::Cancelled;
 }
 
 Saved CsfEditor::SaveUnderName() {
     if (list_.Count() == 0)
         return Saved::NothingToSave;
+    if (!LostLetters::MaySave(list_.NamesOfLost()))
+        return Saved::Cancelled;
     const auto path = Host::Current().SaveFileName(TableDialog(state_.Path));
     if (!path)
         return Saved::Cancelled;
@@ -100,6 +105,8 @@ Saved CsfEditor::Write() {
             state_.SizeText = QString::number(Files::FileLength(state_.Path) / 1024) + u' ' + GetText(u"KiloBytes"_s);
         });
         state_.Modified = !written;
+        if (written)
+            list_.ForgetLost();
         view_.StateChanged();
     }
     if (!written)

@@ -38,6 +38,19 @@ std::vector<CsfString> LabelList::Table() const {
     return table;
 }
 
+QStringList LabelList::NamesOfLost() const {
+    QStringList names;
+    for (const LabelRow& row : rows_)
+        if (row.LostLetters)
+            names += row.Name;
+    return names;
+}
+
+void LabelList::ForgetLost() {
+    for (LabelRow& row : rows_)
+        row.LostLetters = false;
+}
+
 QString LabelList::Text(int place, int column) const {
     return column == Name ? Row(place).Name : Row(place).Value;
 }

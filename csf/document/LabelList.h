@@ -9,13 +9,15 @@
 #include "csf/format/CsfTable.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
 struct LabelRow {
-    QString Name;   ///< the row's text
-    QString Value;  ///< sub-item 1 and the row's tip; line breaks are line feeds
-    int Index = -1; ///< in the table at load; -1 for a row that was added since
+    QString Name;             ///< the row's text
+    QString Value;            ///< sub-item 1 and the row's tip; line breaks are line feeds
+    int Index = -1;           ///< in the table at load; -1 for a row that was added since
+    bool LostLetters = false; ///< what was typed had letters that the file lacks; not saved since
 };
 
 class LabelList final : public RowSource {
@@ -51,6 +53,14 @@ public:
     void SetName(int place, const QString& name) { rows_[static_cast<std::size_t>(place)].Name = name; }
 
     void SetValue(int place, const QString& value) { rows_[static_cast<std::size_t>(place)].Value = value; }
+
+    void SetLostLetters(int place) { rows_[static_cast<std::size_t>(place)].LostLetters = true; }
+
+    /// The names of the rows that lost letters.
+    [[nodiscard]] QStringList NamesOfLost() const;
+
+    /// What was lost is saved.
+    void ForgetLost();
 
     /// Puts a row at the end, whatever the order.
     void Add(const QString& name, const QString& value) { rows_.push_back({name, value}); }

@@ -3,12 +3,19 @@
 
 #include "csf/window/ValueText.h"
 
+#include "core/LostLetters.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr QChar returnSign = u'\u240D';
+
+/// Whether a character of the box is one of the value too.
+bool IsText(QChar character) {
+    return character != returnSign && character != QChar::ParagraphSeparator && character != QChar::LineSeparator;
+}
 
 /// Whether a line is longer than words can be sought in: the time for a line without blanks grows with its square.
 bool HasEndlessLine(const QString& text) {
@@ -23,6 +30,29 @@ void ShowValue(QPlainTextEdit& box, const QString& value) {
     shown.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', returnSign);
     box.setWordWrapMode(HasEndlessLine(shown) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
     box.setPlainText(shown);
+}
+
+void ShowAsStored(QPlainTextEdit& box) {
+    const QString text = box.document()->toRawText();
+    QTextCursor cursor(box.document());
+    cursor.beginEditBlock();
+    const auto isLost = [&](qsizetype at) {
+        // Half of a letter of two units is a lost one, too.
+        return text[at].isSurrogate() || (IsText(text[at]) && LostLetters::AsStored(text[at]) != text[at]);
+    };
+    for (qsizetype end = text.size(); end > 0; --end) {
+        if (!isLost(end - 1))
+            continue;
+        qsizetype begin = end;
+        while (begin > 0 && isLost(begin - 1))
+            --begin;
+        cursor.setPosition(static_cast<int>(begin));
+        cursor.setPosition(static_cast<int>(end), QTextCursor::KeepAnchor);
+        cursor.insertText(LostLetters::AsStored(text.sliced(begin, end - begin)));
+        end = begin + 1;
+    }
+    cursor.endEditBlock();
+    box.document()->clearUndoRedoStacks();
 }
 
 QString ShownValue(const QPlainTextEdit& box) {

@@ -9,5 +9,9 @@
 /// Shows a value with CR LF line breaks. A carriage return by itself shows as its sign, which no value can hold.
 void ShowValue(QPlainTextEdit& box, const QString& value);
 
+/// Puts '?' in place of the letters that tables lack. What was typed before can't be taken back: it would bring them
+/// again.
+void ShowAsStored(QPlainTextEdit& box);
+
 /// What the box holds, with CR LF line breaks.
 QString ShownValue(const QPlainTextEdit& box);

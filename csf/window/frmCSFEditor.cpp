@@ -3,6 +3,7 @@
 
 #include "csf/window/frmCSFEditor.h"
 
+#include "core/LostLetters.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "csf/window/ValueText.h"
@@ -176,6 +177,17 @@ void frmCSFEditor::BoxesChanged() {
     const QScopedValueRollback following(following_, true);
     ui_->txtName->setText(editor_.State().NameText);
     ShowValue(*ui_->txtValue, editor_.State().ValueText);
+}
+
+void frmCSFEditor::BoxChanged(bool isName) {
+    const QScopedValueRollback following(following_, true);
+    if (isName) {
+        const QString before = ui_->txtName->text().first(ui_->txtName->cursorPosition());
+        ui_->txtName->setText(editor_.State().NameText);
+        ui_->txtName->setCursorPosition(static_cast<int>(LostLetters::AsStored(before).size()));
+    } else {
+        ShowAsStored(*ui_->txtValue);
+    }
 }
 
 void frmCSFEditor::StateChanged() {

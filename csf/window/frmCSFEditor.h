@@ -41,6 +41,7 @@ private:
     void SelectRow(int place, bool focus) override;
     void ScrollToRow(int place) override;
     void BoxesChanged() override;
+    void BoxChanged(bool isName) override;
     void StateChanged() override;
 
     void ShowBusy(bool busy) override { SetBusy(busy); }

@@ -214,7 +214,8 @@ void Replace(const QString& from, const QString& to) {
     if (::rename(source.Path(), Native(to).Path()) != 0) {
         const int error = errno;
         if (error == ENOENT && !ParentExists(to))
-            throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: path not found").arg(to));
+            throw RuntimeError(ErrorNumber::PathNotFound,
+                               QStringLiteral("%1: path not found").arg(Paths::ToNative(to)));
         source.Raise(error);
     }
 }

@@ -100,6 +100,19 @@ public:
 
     [[nodiscard]] std::vector<int> SelectedRows() const override { return Selected; }
 
+    ViewPlace Place; ///< where the user is, the selected rows excepted
+
+    [[nodiscard]] ViewPlace Where() const override {
+        ViewPlace place = Place;
+        place.Selected = Selected;
+        return place;
+    }
+
+    void GoTo(const ViewPlace& place) override {
+        Place = place;
+        Selected = place.Selected;
+    }
+
     void EditNode(int node) override { Edited = node; }
 
     ExtractionTarget AskForFolder() override {

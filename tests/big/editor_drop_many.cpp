@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// Dropping many files gives the table that a search from the first record on gives for each of them.
+#include "core/LostLetters.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "tests/big/document_fixture.h"
@@ -32,7 +33,8 @@ public:
         mBIG::BigEntries = std::move(table);
     }
 
-    void DropFile(const QString& name, const QString& path, qint64 size, bool bringsBack) {
+    void DropFile(const QString& ownName, const QString& path, qint64 size, bool bringsBack) {
+        const QString name = LostLetters::AsStored(ownName);
         const int found = mBIG::FindEntry(name);
         std::vector<BigEntry>& table = mBIG::BigEntries;
         if (found >= 0) {

@@ -79,12 +79,13 @@ TEST_F(Extracting, ANodesKeyIsComparedExactlyAndAnywhereInTheName) {
     EXPECT_EQ(FilesBelow(u"out"_s), (QStringList{u"data\\a"_s, u"more\\data\\c"_s}));
 }
 
-TEST_F(Extracting, ANodeWithoutEntriesDoesNothingButTellsThatItLooked) {
+TEST_F(Extracting, ANodeWithoutEntriesDoesNothingAndTheStripSaysSo) {
     OpenSample();
     Editor.ClickNode(NodeOf(u"data\\"_s)); // the entries are in "Data\"
     Editor.Extract();
     EXPECT_EQ(View.FolderQuestions, 0);
-    EXPECT_EQ(State().StatusText, u"BuildingFileList"_s);
+    EXPECT_EQ(State().StatusText, u"data\\"_s);
+    EXPECT_EQ(View.Told.Text, u"NothingToExtract"_s);
     EXPECT_TRUE(View.Enabled.empty());
 }
 
@@ -94,8 +95,14 @@ TEST_F(Extracting, ATableOfOneRecordDoesNothingAtAll) {
     Editor.Extract();
     EXPECT_EQ(View.FolderQuestions, 0);
     EXPECT_EQ(State().StatusText, before);
+    EXPECT_EQ(View.Told.Text, u"NothingToExtract"_s);
+    View.Told = {};
+    mBIG::BigEntries.assign(1, {});
+    Editor.Extract();
+    EXPECT_EQ(View.Told.Text, QString()) << "The blank record is none to tell of.";
     mBIG::BigEntries.clear();
     Editor.Extract();
+    EXPECT_EQ(View.Told.Text, QString());
     EXPECT_EQ(View.FolderQuestions, 0);
 }
 

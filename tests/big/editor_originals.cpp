@@ -244,6 +244,10 @@ TEST_F(EditorOriginals, NothingIsPromisedThatCanNotBeKept) {
         EXPECT_TRUE(View.Told.Text.startsWith(u"Saved"_s));
         EXPECT_EQ(View.Told.Links.empty(), save == OriginalBytes::MostKept) << save;
     }
+    // What is lost does not come back by another save.
+    AddFile(u"last"_s, "1234");
+    Editor.Save();
+    EXPECT_TRUE(View.Told.Links.empty());
 }
 
 TEST_F(EditorOriginals, AnExactSaveThatFailsLeavesTheLink) {

@@ -185,3 +185,15 @@ TEST(OffsetShift, OfManyTablesEveryOneReadsBackWhole) {
     }
     EXPECT_GT(shifted, 200);
 }
+
+TEST(OffsetShift, ReadingBackReachesTheFirstByteAndNothingBeforeIt) {
+    Archive archive;
+    archive.Entries.resize(2);
+    archive.Entries[0].Offset = 4;
+    archive.Entries[1].Offset = 3;
+    Shift shift;
+    shift.Distances = {-4, -4};
+    const Archive read = ReadShiftedBack(archive, shift);
+    EXPECT_EQ(read.Entries[0].Offset, 0);
+    EXPECT_EQ(read.Entries[1].Offset, 3);
+}

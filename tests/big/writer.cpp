@@ -94,6 +94,42 @@ TEST_F(Writer, AlignedVariantsAgreeForTheOtherRemainders) {
     EXPECT_EQ(SavedAs(0).sliced(39), Bytes("L225\0\0\0\0\0xyz\0w"));
 }
 
+TEST_F(Writer, EveryAlignedVariantPutsFieldOffsetAndBytesByItsOwnRule) {
+    struct Expected {
+        qint32 Version;
+        qsizetype NameLength; ///< of the first entry: 24 + 9 + this + 10 leaves another remainder each time
+        int Field;
+        int Data;
+    };
+
+    // The directory says 48 for all of them. Variants 0 and 1 slip by four bytes behind a header of 45.
+    for (const Expected& expected : std::vector<Expected>{{0, 2, 45, 44},
+                                                          {0, 3, 46, 48},
+                                                          {0, 4, 47, 48},
+                                                          {0, 5, 48, 48},
+                                                          {1, 2, 45, 44},
+                                                          {1, 3, 46, 48},
+                                                          {1, 4, 47, 48},
+                                                          {1, 5, 48, 48},
+                                                          {3, 2, 47, 48},
+                                                          {3, 3, 47, 48},
+                                                          {3, 4, 47, 48},
+                                                          {3, 5, 47, 48}}) {
+        BigEntries.clear();
+        AddNew(QString(expected.NameLength, u'n'), "xyz");
+        AddNew(u"c"_s, "w");
+        const QByteArray saved = SavedAs(expected.Version);
+        const auto at = [&](qsizetype offset) { return static_cast<int>(static_cast<uchar>(saved[offset + 3])); };
+        const std::string which =
+            "variant " + std::to_string(expected.Version) + ", name of " + std::to_string(expected.NameLength);
+        EXPECT_EQ(at(12), expected.Field) << which;
+        EXPECT_EQ(at(16), 48) << which;
+        EXPECT_EQ(saved.indexOf("xyz"), expected.Data) << which;
+        EXPECT_EQ(saved.indexOf('w', expected.Data), expected.Data + 4) << which;
+        EXPECT_EQ(saved.size(), expected.Data + 5) << which;
+    }
+}
+
 TEST_F(Writer, EntriesOfTheOpenArchiveAreCopiedAndGapsAreZeros) {
     Open(TwoEntries());
     const QByteArray saved = SavedAs(0);

@@ -43,6 +43,10 @@ public:
 
     void BoxesChanged() override { ++BoxChanges; }
 
+    std::vector<bool> Replaced; ///< the boxes of BoxChanged: whether each was that of the name
+
+    void BoxChanged(bool isName) override { Replaced.push_back(isName); }
+
     void StateChanged() override { ++StateChanges; }
 
     void ShowBusy(bool busy) override { Busy += busy ? 1 : -1; }

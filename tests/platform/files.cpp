@@ -137,6 +137,24 @@ TEST_F(FilesTest, DeletesByPatternAndRaises53WhenNothingFits) {
     EXPECT_EQ(NumberRaisedBy([&] { Files::Delete(At(u"missing"_s)); }), 53);
 }
 
+TEST_F(FilesTest, FailuresNameTheSystemsPath) {
+    const QString path = Make(u"a.tmp"_s, "1");
+    QFile::setPermissions(Paths::ToNative(path), QFile::ReadOwner);
+    const auto toldBy = [](const auto& act) {
+        try {
+            act();
+        } catch (const RuntimeError& error) {
+            return error.Description();
+        }
+        return QString();
+    };
+    EXPECT_EQ(toldBy([&] { Files::DeleteUnprotected(path); }), Paths::ToNative(path) + u": write-protected"_s);
+    EXPECT_EQ(toldBy([&] { Files::Delete(At(u"*.none"_s)); }), Paths::ToNative(At(u"*.none"_s)) + u": no such file"_s);
+    const QString missing = At(u"none\\to"_s);
+    EXPECT_TRUE(toldBy([&] { Files::Replace(path, missing); }).startsWith(Paths::ToNative(missing)));
+    QFile::setPermissions(Paths::ToNative(path), QFile::ReadOwner | QFile::WriteOwner);
+}
+
 TEST_F(FilesTest, AWriteProtectedFileIsDeletedByForceOnly) {
     const QString path = Make(u"a.tmp"_s, "1");
     QFile::setPermissions(Paths::ToNative(path), QFile::ReadOwner);

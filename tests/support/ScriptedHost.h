@@ -32,6 +32,7 @@ public:
     std::deque<std::optional<QString>> FileNames;  ///< for OpenFileName and SaveFileName
     std::deque<std::optional<QString>> Folders;    ///< for ChooseFolder
     std::vector<Shown> Messages;                   ///< every message box, in order
+    QStringList Listed;                            ///< the text of the last list that can be copied, and its lines
     std::function<void()> OnMessage;               ///< runs while each message box is shown
     std::vector<FileDialog> Dialogs; ///< every file dialog, in order; a folder chooser has only a title and a folder
     QStringList ProgressTexts;
@@ -50,6 +51,9 @@ public:
 
     Answer Message(const QString& text, Icon icon, Buttons buttons, const QString& title,
                    std::optional<Answer> defaultAnswer) override;
+
+    void MessageWithList(const QString& text, const QStringList& lines) override { Listed = QStringList{text} + lines; }
+
     std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& text) override;
     void Beep() override;
     std::optional<QString> OpenFileName(const FileDialog& dialog) override;

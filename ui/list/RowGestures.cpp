@@ -8,10 +8,12 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -52,13 +54,26 @@ bool RowGestures::IsEditing() const {
     return focus != nullptr && focus != view_ && view_->isAncestorOf(focus);
 }
 
-// A row under the pointer becomes the only selected one; the menu key asks for the current row.
+// A row under the pointer becomes the only selected one.
 void RowGestures::ShowMenu(QPoint place) {
     const QModelIndex row = view_->indexAt(place);
     if (row.isValid())
         view_->selectionModel()->setCurrentIndex(row.siblingAtColumn(0),
                                                  QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     Q_EMIT MenuWanted(row.row(), view_->viewport()->mapToGlobal(place));
+}
+
+// False without a current row in sight: then the menu is asked for where the toolkit thinks best.
+bool RowGestures::ShowMenuOfCurrent() {
+    QItemSelectionModel* const selection = view_->selectionModel();
+    const QModelIndex row = selection == nullptr ? QModelIndex() : selection->currentIndex();
+    const QRect place = view_->visualRect(row).intersected(view_->viewport()->rect());
+    if (!row.isValid() || place.isEmpty() || IsEditing())
+        return false;
+    if (!selection->isSelected(row))
+        selection->select(row, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    Q_EMIT MenuWanted(row.row(), view_->viewport()->mapToGlobal(place.center()));
+    return true;
 }
 
 // All selected rows get the mark that the current one has not.
@@ -77,10 +92,13 @@ bool RowGestures::ToggleChecks() {
 bool RowGestures::KeyEvent(const QKeyEvent& event) {
     const QItemSelectionModel* const selection = view_->selectionModel();
     const QModelIndex row = selection == nullptr ? QModelIndex() : selection->currentIndex();
-    if (!row.isValid() || IsEditing())
-        return false;
     const int key = event.key();
     const bool press = event.type() == QEvent::KeyPress;
+    const bool wasDown = pressed_.remove(key);
+    if (press && !IsEditing())
+        pressed_.insert(key);
+    if (!row.isValid() || IsEditing())
+        return false;
     if (press && Skin::IsEnter(key)) {
         // A key that is held down opens a file once.
         if (!event.isAutoRepeat())
@@ -90,7 +108,8 @@ bool RowGestures::KeyEvent(const QKeyEvent& event) {
     if (press && key == Qt::Key_Space && event.modifiers() == Qt::NoModifier && ToggleChecks())
         return true;
     // A key has moved the selection by the time it is let go of.
-    if (!press && !Skin::IsEnter(key) && key != Qt::Key_Delete && !IsModifier(key) && selection->isSelected(row))
+    if (wasDown && !press && !Skin::IsEnter(key) && key != Qt::Key_Delete && !IsModifier(key) &&
+        selection->isSelected(row))
         Q_EMIT RowClicked(row.row());
     return false;
 }
@@ -100,15 +119,23 @@ bool RowGestures::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
         return KeyEvent(*static_cast<QKeyEvent*>(event));
+    case QEvent::ContextMenu:
+        return watched == view_ && static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard &&
+               ShowMenuOfCurrent();
     case QEvent::FocusIn:
         if (const auto reason = static_cast<QFocusEvent*>(event)->reason();
             watched == view_ && (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason))
             Q_EMIT Entered();
         return false;
     case QEvent::MouseButtonPress:
-        if (watched == view_->viewport() &&
-            !view_->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint()).isValid())
+        drawing_ = watched == view_->viewport() &&
+                   !view_->indexAt(static_cast<QMouseEvent*>(event)->position().toPoint()).isValid();
+        if (drawing_)
             Q_EMIT Entered();
+        return false;
+    case QEvent::MouseButtonRelease:
+        if (std::exchange(drawing_, false))
+            Q_EMIT FrameDrawn();
         return false;
     default:
         return QObject::eventFilter(watched, event);

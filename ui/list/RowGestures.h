@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QSet>
 
 #include <vector>
 
@@ -29,7 +30,10 @@ Q_SIGNALS:
     void RowActivated(int place);
     /// The view was clicked beside its rows, or reached with the Tab key.
     void Entered();
-    /// The context menu is asked for: over a row, which is then the only one selected, or beside them (-1).
+    /// A frame was drawn over the rows, from beside them, and let go of.
+    void FrameDrawn();
+    /// The context menu is asked for: over a row, which is then the only one selected, or beside them (-1); by its key
+    /// for the current row, which leaves a selection that the row is in.
     void MenuWanted(int place, QPoint globalPlace);
 
 protected:
@@ -37,9 +41,12 @@ protected:
 
 private:
     void ShowMenu(QPoint place);
+    bool ShowMenuOfCurrent();
     bool KeyEvent(const QKeyEvent& event);
     bool ToggleChecks();
     [[nodiscard]] bool IsEditing() const;
 
     QAbstractItemView* view_;
+    bool drawing_ = false; ///< the mouse button went down beside the rows
+    QSet<int> pressed_;    ///< the keys that went down here: those of a shortcut, or of a box that has closed, did not
 };

@@ -6,6 +6,7 @@
 #include "core/mTraduction.h"
 #include "ui/text/Localisation.h"
 #include "ui/window/FileChooser.h"
+#include "ui/window/frmLeftOut.h"
 #include "ui/window/frmProgress.h"
 
 #include <QApplication>
@@ -64,11 +65,14 @@ struct Choice {
 QList<Choice> ChoicesOf(Host::Buttons buttons) {
     const Choice yes{QMessageBox::Yes, Host::Answer::Yes, u"Yes"_s};
     const Choice no{QMessageBox::No, Host::Answer::No, u"No"_s};
+    const Choice cancel{QMessageBox::Cancel, Host::Answer::Cancel, u"Cancel"_s};
     switch (buttons) {
     case Host::Buttons::YesNo:
         return {yes, no};
     case Host::Buttons::YesNoCancel:
-        return {yes, no, {QMessageBox::Cancel, Host::Answer::Cancel, u"Cancel"_s}};
+        return {yes, no, cancel};
+    case Host::Buttons::SaveCancel:
+        return {{QMessageBox::Save, Host::Answer::Save, u"Save"_s}, cancel};
     case Host::Buttons::Ok:
         break;
     }
@@ -160,6 +164,10 @@ Host::Answer WindowHost::Message(const QString& text, Icon icon, Buttons buttons
             return choice.Means;
     }
     return choices.constLast().Means; // the program ends below the box
+}
+
+void WindowHost::MessageWithList(const QString& text, const QStringList& lines) {
+    frmLeftOut(text, lines, Owner()).exec();
 }
 
 std::optional<QString> WindowHost::InputBox(const QString& prompt, const QString& title, const QString& text) {

@@ -17,6 +17,7 @@ public:
 
     Answer Message(const QString& text, Icon icon, Buttons buttons, const QString& title,
                    std::optional<Answer> defaultAnswer) override;
+    void MessageWithList(const QString& text, const QStringList& lines) override;
     std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& text) override;
     void Beep() override;
     std::optional<QString> OpenFileName(const FileDialog& dialog) override;

@@ -4,6 +4,7 @@
 #include "core/mMain.h"
 #include "platform/AnsiCodec.h"
 #include "tests/windows/csf/CsfEditorWindow.h"
+#include "ui/window/NoticeStrip.h"
 
 #include <QAbstractItemModelTester>
 #include <QComboBox>
@@ -134,6 +135,30 @@ private Q_SLOTS:
         QTest::keyClicks(ValueBox(), u"?"_s);
         QTest::keyClick(ValueBox(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(Cell(0, 1), u"1\u21B5lines"_s);
+    }
+
+    void lettersThatTablesLackAreShownAsTheyWillBeStored() {
+        OpenThree();
+        NameBox()->setFocus();
+        NameBox()->setCursorPosition(1);
+        QInputMethodEvent name(QString(), {});
+        name.setCommitString(u"\u65E5\U0001F5FAx"_s);
+        QApplication::sendEvent(NameBox(), &name);
+        QCOMPARE(NameBox()->text(), u"a??xlpha"_s);
+        QCOMPARE(NameBox()->cursorPosition(), 4);
+        QCOMPARE(Cell(0, 0), u"a??xlpha"_s);
+        QCOMPARE(window_->findChild<NoticeStrip*>()->Text(), u"LettersLost"_s);
+
+        ValueBox()->setFocus();
+        ValueBox()->moveCursor(QTextCursor::End);
+        ValueBox()->insertPlainText(u" one\ntwo"_s);
+        ValueBox()->moveCursor(QTextCursor::StartOfLine);
+        ValueBox()->insertPlainText(u"\u65E5\U0001F5FA\u672C\u20AC\u56FE"_s);
+        QCOMPARE(ValueBox()->toPlainText(), u"1\nlines one\n???\u20AC?two"_s);
+        QCOMPARE(ValueBox()->textCursor().positionInBlock(), 5);
+        QCOMPARE(Cell(0, 1), u"1\u21B5lines one\u21B5???\u20AC?two"_s);
+        ValueBox()->undo();
+        QCOMPARE(ValueBox()->toPlainText(), u"1\nlines one\n???\u20AC?two"_s);
     }
 
     void takingBackNeverReachesTheRowBefore() {

@@ -45,7 +45,8 @@ private Q_SLOTS:
     void init() {
         QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         world_ = std::make_unique<World>();
-        world_->UseLanguage("[LNG]\r\nYes=Oui\r\nNo=Non\r\nCancel=Annuler\r\nOK=D'accord\r\n");
+        world_->UseLanguage("[LNG]\r\nYes=Oui\r\nNo=Non\r\nCancel=Annuler\r\nOK=D'accord\r\n"
+                            "Save=Enregistrer\r\n");
         world_->Start();
         host_ = std::make_unique<WindowHost>();
     }
@@ -97,11 +98,27 @@ private Q_SLOTS:
         QCOMPARE(host_->Message(u"?"_s, Host::Icon::Question, Host::Buttons::YesNoCancel, u"t"_s), answer);
     }
 
+    void saveAndCancelGiveTheirAnswers() {
+        for (const auto& [button, answer] :
+             {std::pair(QMessageBox::Save, Host::Answer::Save), std::pair(QMessageBox::Cancel, Host::Answer::Cancel)}) {
+            QStringList texts;
+            WhenUp<QMessageBox>([&, button = button](QMessageBox* box) {
+                for (const QAbstractButton* choice : box->buttons())
+                    texts += choice->text();
+                box->button(button)->click();
+            });
+            QCOMPARE(host_->Message(u"?"_s, Host::Icon::Exclamation, Host::Buttons::SaveCancel, u"t"_s), answer);
+            texts.sort();
+            QCOMPARE(texts, QStringList({u"Annuler"_s, u"Enregistrer"_s}));
+        }
+    }
+
     void closingABoxWithoutAChoiceIsItsMildestAnswer_data() {
         QTest::addColumn<Host::Buttons>("buttons");
         QTest::addColumn<Host::Answer>("answer");
         QTest::newRow("ok") << Host::Buttons::Ok << Host::Answer::Ok;
         QTest::newRow("with cancel") << Host::Buttons::YesNoCancel << Host::Answer::Cancel;
+        QTest::newRow("save") << Host::Buttons::SaveCancel << Host::Answer::Cancel;
     }
 
     void closingABoxWithoutAChoiceIsItsMildestAnswer() {

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+/// Every menu entry, link and key of the CSF Editor, what stays where it was behind a save, and the search.
+#include "platform/Files.h"
+#include "tests/windows/EveryWay.h"
+#include "tests/windows/csf/CsfEditorWindow.h"
+
+#include <QPushButton>
+#include <QScrollBar>
+
+using namespace Qt::StringLiterals;
+using Answer = Host::Answer;
+
+class tst_csfeditorways : public CsfEditorWindow {
+    Q_OBJECT
+private:
+    QString NewPath() { return world_->Root() + u"\\new.csf"_s; }
+
+    CommandWays Call(const char* action, const QString& call) {
+        return {action, -1, [] {}, [this, call] { return navigator_->Calls.contains(call); }};
+    }
+
+    std::vector<CommandWays> All() {
+        return {
+            {"mnuNew", 2, [] {}, [this] { return Names().isEmpty() && !NameBox()->isEnabled(); }},
+            {"mnuOpen", 3,
+             [this] {
+                 CsfTable{0, {{u"v"_s, u"other"_s}}}.Write(NewPath());
+                 host_->FileNames = {NewPath()};
+             },
+             [this] { return Names() == QStringList{u"other"_s}; }},
+            {"mnuSave", 4, [this] { Part<QAction>("mnuAdd")->trigger(); },
+             [this] { return !window_->isWindowModified() && CsfTable::Read(path_).Strings.size() == 4; }},
+            {"mnuSaveAs", -1, [this] { host_->FileNames = {NewPath()}; },
+             [this] { return Files::FileExists(NewPath()); }},
+            {"mnuExit", -1, [] {}, [this] { return !window_->isVisible(); }},
+            {"mnuAdd", 0, [] {}, [this] { return Names().size() == 4 && window_->isWindowModified(); }},
+            {"mnuDelete", 1, [] {},
+             [this] {
+                 return Names() == QStringList({u"beta"_s, u"Gamma"_s});
+             }},
+            {"mnuFind", -1, [] {}, [this] { return FindBox()->hasFocus(); }},
+            Call("mnuOptions", u"ShowOptions"_s),
+            Call("mnuCheckForUpdates", u"CheckForUpdates manual"_s),
+            Call("mnuAbout", u"ShowAbout"_s),
+        };
+    }
+
+private Q_SLOTS:
+
+    void init() { Begin(); }
+
+    void cleanup() { End(); }
+
+    void everyWayIsTried() {
+        OpenThree();
+        QCOMPARE(EveryWay::Unlisted(*window_, All()), QStringList());
+    }
+
+    void everyWayRunsItsCommand_data() { EveryWay::AddRows(All()); }
+
+    void everyWayRunsItsCommand() {
+        QFETCH(int, command);
+        QFETCH(int, way);
+        const CommandWays used = All()[static_cast<std::size_t>(command)];
+        OpenThree();
+        List()->setFocus();
+        used.Prepare();
+        EveryWay::Use(*window_, used, way);
+        QVERIFY(used.Done());
+        QVERIFY(host_->FileNames.empty());
+    }
+
+    void theNextMatchIsFoundByButtonEnterAndF3_data() {
+        QTest::addColumn<QString>("how");
+        for (const char* how : {"button", "Enter", "F3", "F3 in the list", "Enter of the pad"})
+            QTest::newRow(how) << QString::fromLatin1(how);
+    }
+
+    void theNextMatchIsFoundByButtonEnterAndF3() {
+        QFETCH(QString, how);
+        OpenThree();
+        FindBox()->setFocus();
+        QTest::keyClicks(FindBox(), u"gam"_s);
+        if (how == "button"_L1)
+            QTest::mouseClick(Part<QPushButton>("cmdFindNext"), Qt::LeftButton);
+        else if (how == "F3 in the list"_L1)
+            QTest::keyClick(List(), Qt::Key_F3);
+        else
+            QTest::keyClick(FindBox(), how == "F3"_L1      ? Qt::Key_F3
+                                       : how == "Enter"_L1 ? Qt::Key_Return
+                                                           : Qt::Key_Enter);
+        QCOMPARE(List()->currentIndex().row(), 2);
+        QCOMPARE(NameBox()->text(), u"Gamma"_s);
+    }
+
+    void aSaveLeavesRowScrollAndSelection() {
+        std::vector<CsfString> table;
+        for (int row = 0; row < 500; ++row)
+            table.push_back({u"value"_s, u"name %1"_s.arg(row, 3, 10, QChar(u'0'))});
+        Open(table);
+        List()->scrollTo(List()->model()->index(250, 0), QAbstractItemView::PositionAtCenter);
+        ClickRow(250);
+        const int scrolled = List()->verticalScrollBar()->value();
+        QVERIFY(scrolled > 100);
+        QTest::keyClick(List(), Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(List()->verticalScrollBar()->value(), scrolled);
+        QCOMPARE(List()->selectionModel()->selectedRows().size(), 1);
+        QCOMPARE(List()->currentIndex().row(), 250);
+        QCOMPARE(NameBox()->text(), u"name 250"_s);
+        QTest::keyClick(List(), Qt::Key_Delete);
+        QCOMPARE(List()->verticalScrollBar()->value(), scrolled);
+        QCOMPARE(List()->currentIndex().row(), 250);
+        QCOMPARE(NameBox()->text(), u"name 251"_s);
+    }
+};
+
+WINDOW_TEST(tst_csfeditorways)
+
+#include "tst_csfeditorways.moc"
