@@ -23,9 +23,16 @@ QString ForBox(QString value) {
 
 } // namespace
 
-CsfEditor::CsfEditor(CsfEditorView& view) : view_(view) {
-    state_.Path = GetText(u"New"_s) + u"CSF.csf"_s;
+CsfEditor::CsfEditor(CsfEditorView& view)
+    : view_(view),
+      rescue_([this] { return Rescued(); },
+              [this](const QString& reason) {
+                  view_.ShowNotice({.Text = GetText(u"RescueFailed"_s).replace("%1"_L1, reason)});
+              }),
+      offers_(view, ForOffers()) {
+    state_.Path = NewName();
     state_.FindText = GetText(u"Find"_s);
+    rescue_.Opened();
 }
 
 QStringList CsfEditor::Languages() {
@@ -47,6 +54,7 @@ void CsfEditor::OpenCSFFile(const QString& path) {
 }
 
 void CsfEditor::Load(const QString& path, qint32 language) {
+    KeepRescue(); // of what nobody was asked about
     // A number beyond the list leaves the list as it was. This is meant.
     if (language < Languages().size())
         state_.LanguageShown = language;
@@ -66,8 +74,10 @@ void CsfEditor::Load(const QString& path, qint32 language) {
     state_.ActionsVisible = true;
     SelectAndClick(0, true);
     state_.Modified = false;
+    rescue_.Opened();
     view_.StateChanged();
     view_.ShowWindow();
+    offers_.TellBeside(path);
 }
 
 void CsfEditor::SelectAndClick(int place, bool focus) {
