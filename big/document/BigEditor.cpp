@@ -14,7 +14,9 @@
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
-BigEditor::BigEditor(EditorView& view) : panes_(view) {}
+BigEditor::BigEditor(EditorView& view) : panes_(view), offers_(view, ForOffers()) {
+    saves_.OnWritten([this] { rescue_.Saved(); });
+}
 
 BigEditor::~BigEditor() {
     FileAdding::ForgetAdopted();
@@ -39,13 +41,19 @@ bool BigEditor::LoadBig(const QString& path) {
     const Busy busy(panes_.View);
     if (!Ignoring([&] { mBIG::Load(path); }))
         return false;
+    rescue_.Opened(ArchiveRescue::Origin::File);
+    TakeNewArchive();
+    panes_.State.StatusText = GetText(u"Ready"_s);
+    return true;
+}
+
+/// What was known of the archive that was open before is forgotten, and the root shown.
+void BigEditor::TakeNewArchive() {
     panes_.Shown = mBIG::CurrentIdentity();
     saves_.ForgetOriginals();
     copies_.EntriesGone();
     panes_.State.ShowsOnlyEntry = false;
     panes_.CreateDirs();
-    panes_.State.StatusText = GetText(u"Ready"_s);
-    return true;
 }
 
 void BigEditor::ResetAfterOpen() {
@@ -54,6 +62,7 @@ void BigEditor::ResetAfterOpen() {
     panes_.State.ExactOffsets = OffsetNotices::IsExactByDefault();
     ArchiveOpened();
     saves_.TellOpened();
+    offers_.TellBeside(mBIG::BigFileName);
 }
 
 void BigEditor::ArchiveOpened() {
@@ -108,7 +117,16 @@ void BigEditor::ActivateRow(int place) {
 
 /// The questions that come before another archive takes the place of the open one.
 bool BigEditor::MayLeaveArchive() {
-    return copies_.TakeInChanged() && saves_.GoOnWithoutChanges();
+    if (!copies_.TakeInChanged())
+        return false;
+    const bool asks = panes_.State.Modified;
+    if (!saves_.GoOnWithoutChanges())
+        return false;
+    if (asks)
+        rescue_.GivenUp();
+    else
+        rescue_.KeepWhole();
+    return true;
 }
 
 bool BigEditor::MayEnd() {
@@ -139,11 +157,8 @@ void BigEditor::New() {
     panes_.State.ExactOffsets = OffsetNotices::IsExactByDefault();
     panes_.View.ShowVersion();
     mBIG::New(*path, mBIG::BigVersion);
-    panes_.Shown = mBIG::CurrentIdentity();
-    saves_.ForgetOriginals();
-    copies_.EntriesGone();
-    panes_.State.ShowsOnlyEntry = false;
-    panes_.CreateDirs();
+    rescue_.Opened(ArchiveRescue::Origin::Fresh);
+    TakeNewArchive();
     panes_.View.ShowNotice({});
     // The flag for unsaved changes and the details stay as they were. This is meant.
     ArchiveOpened();

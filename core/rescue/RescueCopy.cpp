@@ -149,6 +149,12 @@ void RescueCopy::Discard() {
     RemoveUnlocked(folder);
 }
 
+void RescueCopy::Withdraw() {
+    if (!std::exchange(kept_, false))
+        return;
+    Ignoring([&] { Files::DeleteForced(StateFile(folder_)); });
+}
+
 void RescueCopy::LetGo() {
     if (!kept_)
         return Discard();

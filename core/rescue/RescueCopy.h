@@ -49,6 +49,9 @@ public:
     /// Nothing is to be rescued any more.
     void Discard();
 
+    /// The same for as long as nothing is kept anew, but what lies beside in the folder stays as long as this lives.
+    void Withdraw();
+
     /// Leaves what is kept as if the process had died; what comes next is another document's.
     void LetGo();
 
