@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/Application.h"
-#include "core/rescue/RescuedDocument.h"
 #include "platform/RuntimeError.h"
 #include "tests/support/ScriptedHost.h"
+#include "tests/support/UnsavedDocument.h"
 
 #include <gtest/gtest.h>
 
@@ -43,32 +43,6 @@ void RunWith(const Failure& failure) {
 
 } // namespace
 
-namespace {
-
-/// A document with more than one part to be kept.
-class Unsaved : public RescuedDocument {
-protected:
-    bool KeepSome() override {
-        std::fputs("kept ", stderr);
-        return ++parts_ < 2;
-    }
-
-    void TellFailed(const QString& /*reason*/) override {}
-
-private:
-    int parts_ = 0;
-};
-
-/// One that can't be kept.
-class Unkept : public RescuedDocument {
-protected:
-    bool KeepSome() override { throw std::bad_alloc(); }
-
-    void TellFailed(const QString& /*reason*/) override { std::fputs("told ", stderr); }
-};
-
-} // namespace
-
 class UncaughtDeathTest : public testing::Test {
 protected:
     void SetUp() override { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
@@ -89,8 +63,8 @@ TEST_F(UncaughtDeathTest, AnIndexOutOfRangeIsShownAndEndsTheProgram) {
 
 TEST_F(UncaughtDeathTest, WhatIsUnsavedIsKeptToTheEndBeforeTheMessage) {
     const auto run = [] {
-        const Unkept unkept;
-        const Unsaved unsaved;
+        const UnkeptDocument unkept;
+        const UnsavedDocument unsaved;
         RunWith(RuntimeError(ErrorNumber::Subscript, u"No row."_s));
     };
     EXPECT_EXIT(run(), testing::ExitedWithCode(1), "kept kept 9  No row\\.");
