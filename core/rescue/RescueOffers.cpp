@@ -8,6 +8,7 @@
 #include "core/rescue/LeftBeside.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
 
 #include <QLocale>
@@ -42,7 +43,7 @@ void RescueOffers::TellLeft() {
 }
 
 void RescueOffers::TellBeside(const QString& path) {
-    if (!LiesBeside(path))
+    if (LeftBy(path).isEmpty())
         return;
     Remove(path);
     offers_.push_front({.Path = path});
@@ -53,9 +54,14 @@ void RescueOffers::Remove(const QString& path) {
     std::erase_if(offers_, [&](const Offer& offer) { return !offer.Rescue && offer.Path == path; });
 }
 
-bool RescueOffers::LiesBeside(const QString& path) const {
-    const QString left = path + editor_.Beside;
-    return Files::FileExists(left) && editor_.IsWhole(left);
+/// A save through a link leaves it beside what the link leads to, or beside the link.
+QString RescueOffers::LeftBy(const QString& path) const {
+    for (const QString& saved : {ReplacedFile::BehindLinks(path), path}) {
+        QString left = saved + editor_.Beside;
+        if (Files::FileExists(left) && editor_.IsWhole(left))
+            return left;
+    }
+    return {};
 }
 
 void RescueOffers::ShowNext() {
@@ -80,13 +86,14 @@ bool RescueOffers::Show(const Offer& offer) {
                                    {GetText(u"ThrowAway"_s), [this, offer] { ThrowAway(offer); }}}});
         return true;
     }
-    if (!LiesBeside(offer.Path))
-        return false;
     const QString path = offer.Path;
-    const QString left = Paths::ToNative(path + editor_.Beside);
-    const QString text = GetText(u"LeftBeside"_s).replace("%2"_L1, left).replace("%1"_L1, Paths::ToNative(path));
-    const auto showFolder = [this, path] {
-        view_.OpenFolder(Paths::Folder(path));
+    const QString left = LeftBy(path);
+    if (left.isEmpty())
+        return false;
+    const QString text =
+        GetText(u"LeftBeside"_s).replace("%2"_L1, Paths::ToNative(left)).replace("%1"_L1, Paths::ToNative(path));
+    const auto showFolder = [this, left] {
+        view_.OpenFolder(Paths::Folder(left));
         ShowNext();
     };
     view_.ShowOffer({.Text = text,
@@ -123,8 +130,8 @@ void RescueOffers::TellKept(const QString& kept) {
 
 void RescueOffers::PutBack(const QString& path) {
     QString kept;
-    const bool done =
-        editor_.MayReplace(path) && Telling([&] { kept = LeftBeside::PutBack(path, path + editor_.Beside); });
+    const bool done = editor_.MayReplace(path) &&
+                      Telling([&] { kept = LeftBeside::PutBack(ReplacedFile::BehindLinks(path), LeftBy(path)); });
     if (!done)
         return ShowNext();
     editor_.Replaced(path);
@@ -135,7 +142,7 @@ void RescueOffers::PutBack(const QString& path) {
 
 void RescueOffers::KeepBoth(const QString& path) {
     QString kept;
-    if (Telling([&] { kept = LeftBeside::KeepBoth(path, path + editor_.Beside); }))
+    if (Telling([&] { kept = LeftBeside::KeepBoth(path, LeftBy(path)); }))
         Remove(path);
     ShowNext();
     TellKept(kept);

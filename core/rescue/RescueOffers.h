@@ -57,7 +57,7 @@ private:
     void ThrowAway(const Offer& offer);
     void PutBack(const QString& path);
     void KeepBoth(const QString& path);
-    [[nodiscard]] bool LiesBeside(const QString& path) const;
+    [[nodiscard]] QString LeftBy(const QString& path) const;
     void Remove(const QString& path);
     void TellKept(const QString& kept);
 
