@@ -26,13 +26,24 @@ BigEditor::~BigEditor() {
 }
 
 void BigEditor::OpenBigFile(const QString& path) {
-    if (!Files::FileExists(path) || EditorPanes::Locked())
+    const bool isThere = Files::FileExists(path);
+    if (isThere && EditorPanes::Locked())
         return;
-    panes_.View.ShowWindow();
+    if (isThere) {
+        panes_.View.ShowWindow();
+        LoadOrBeep(path);
+    } else if (offers_.TellBeside(path)) {
+        // A save that was killed may have left nothing else.
+        panes_.View.ShowWindow();
+    }
+}
+
+void BigEditor::LoadOrBeep(const QString& path) {
     if (LoadBig(path))
         ResetAfterOpen();
     else
         Host::Current().Beep();
+    offers_.TellBeside(path);
 }
 
 bool BigEditor::LoadBig(const QString& path) {
@@ -62,7 +73,6 @@ void BigEditor::ResetAfterOpen() {
     panes_.State.ExactOffsets = OffsetNotices::IsExactByDefault();
     ArchiveOpened();
     saves_.TellOpened();
-    offers_.TellBeside(mBIG::BigFileName);
 }
 
 void BigEditor::ArchiveOpened() {
@@ -173,10 +183,7 @@ void BigEditor::Open() {
     const auto path = Host::Current().OpenFileName(SaveCommand::ArchiveDialog());
     if (!path)
         return;
-    if (LoadBig(*path))
-        ResetAfterOpen();
-    else
-        Host::Current().Beep();
+    LoadOrBeep(*path);
 }
 
 bool BigEditor::ExtractBigFile(const QString& path) {

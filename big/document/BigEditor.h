@@ -135,6 +135,7 @@ public:
 
 private:
     bool MayLeaveArchive();
+    void LoadOrBeep(const QString& path);
     void ResetAfterOpen();
     void ArchiveOpened();
     void TakeNewArchive();

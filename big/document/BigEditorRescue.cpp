@@ -57,19 +57,13 @@ RescueOffers::Editor BigEditor::ForOffers() {
             .IsWhole = IsWhole,
             .Open = [this](const Rescues::Left& left) { return OpenRescue(left); },
             .MayReplace =
-                [this](const QString& path) {
-                    if (path != mBIG::BigFileName)
-                        return true;
+                [this] {
                     if (EditorPanes::Locked())
                         return false;
                     const EditorPanes::Command command(panes_);
                     return MayLeaveArchive();
                 },
-            .Replaced =
-                [this](const QString& path) {
-                    if (path == mBIG::BigFileName)
-                        OpenBigFile(path);
-                }};
+            .Replaced = [this](const QString& path) { OpenBigFile(path); }};
 }
 
 /// Opens what the rescue goes with. A file that is no archive any more is not to be saved over: what is left of the

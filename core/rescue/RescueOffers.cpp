@@ -42,12 +42,13 @@ void RescueOffers::TellLeft() {
     ShowNext();
 }
 
-void RescueOffers::TellBeside(const QString& path) {
+bool RescueOffers::TellBeside(const QString& path) {
     if (LeftBy(path).isEmpty())
-        return;
+        return false;
     Remove(path);
     offers_.push_front({.Path = path});
     ShowNext();
+    return true;
 }
 
 void RescueOffers::Remove(const QString& path) {
@@ -91,7 +92,7 @@ bool RescueOffers::Show(const Offer& offer) {
     if (left.isEmpty())
         return false;
     const QString text =
-        GetText(u"LeftBeside"_s).replace("%2"_L1, Paths::ToNative(left)).replace("%1"_L1, Paths::ToNative(path));
+        GetText(u"LeftBeside"_s).replace("%2"_L1, Paths::LastPart(left)).replace("%1"_L1, Paths::ToNative(path));
     const auto showFolder = [this, left] {
         view_.OpenFolder(Paths::Folder(left));
         ShowNext();
@@ -130,7 +131,7 @@ void RescueOffers::TellKept(const QString& kept) {
 
 void RescueOffers::PutBack(const QString& path) {
     QString kept;
-    const bool done = editor_.MayReplace(path) &&
+    const bool done = editor_.MayReplace() &&
                       Telling([&] { kept = LeftBeside::PutBack(ReplacedFile::BehindLinks(path), LeftBy(path)); });
     if (!done)
         return ShowNext();

@@ -26,9 +26,9 @@ public:
         std::function<bool(const QString& path)> IsWhole;
         /// Opens a rescue; false when the document that is open stays, and the offer with it.
         std::function<bool(const Rescues::Left&)> Open;
-        /// Asks about unsaved changes when the file of that path is open; false when it stays as it is.
-        std::function<bool(const QString& path)> MayReplace;
-        /// The file of that path is another one: it is to be opened anew when it is open.
+        /// Asks about unsaved changes of the document that is open; false when it stays open.
+        std::function<bool()> MayReplace;
+        /// Opens the file that was put back.
         std::function<void(const QString& path)> Replaced;
     };
 
@@ -41,8 +41,8 @@ public:
     /// At the start of the editor: what is left for it.
     void TellLeft();
 
-    /// Behind the opening of a file: what a save left beside it.
-    void TellBeside(const QString& path);
+    /// Behind the opening of a file, also one that failed: what a save left beside it. Whether there is something.
+    bool TellBeside(const QString& path);
 
 private:
     struct Offer {

@@ -47,10 +47,15 @@ bool CsfEditor::Locked() const {
 }
 
 void CsfEditor::OpenCSFFile(const QString& path) {
-    if (!Files::FileExists(path) || Locked())
+    const bool isThere = Files::FileExists(path);
+    if (isThere && Locked())
         return;
-    if (const qint32 language = mCSF::ReadCSF(path); language != mCSF::Refused)
+    const qint32 language = isThere ? mCSF::ReadCSF(path) : mCSF::Refused;
+    if (language != mCSF::Refused)
         Load(path, language);
+    // A save that was killed may have left nothing else.
+    if (offers_.TellBeside(path) && language == mCSF::Refused)
+        view_.ShowWindow();
 }
 
 void CsfEditor::Load(const QString& path, qint32 language) {
@@ -77,7 +82,6 @@ void CsfEditor::Load(const QString& path, qint32 language) {
     rescue_.Opened();
     view_.StateChanged();
     view_.ShowWindow();
-    offers_.TellBeside(path);
 }
 
 void CsfEditor::SelectAndClick(int place, bool focus) {

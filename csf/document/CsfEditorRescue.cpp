@@ -17,15 +17,8 @@ RescueOffers::Editor CsfEditor::ForOffers() {
             .Text = {},
             .IsWhole = [](const QString& path) { return Ignoring([&] { CsfTable::Read(path); }); },
             .Open = [this](const Rescues::Left& left) { return OpenRescue(left); },
-            .MayReplace =
-                [this](const QString& path) {
-                    return path != state_.Path || (!Locked() && GoOnWithoutChanges(Paths::LastPart(path)));
-                },
-            .Replaced =
-                [this](const QString& path) {
-                    if (path == state_.Path)
-                        OpenCSFFile(path);
-                }};
+            .MayReplace = [this] { return !Locked() && GoOnWithoutChanges(Paths::LastPart(state_.Path)); },
+            .Replaced = [this](const QString& path) { OpenCSFFile(path); }};
 }
 
 TableRescue::Document CsfEditor::Rescued() const {

@@ -48,3 +48,23 @@ TEST_F(EditorLeftBeside, TheNextStartKnowsWhatASaveLeftBesideARescuedArchive) {
     EXPECT_EQ(Archives::Read(At(u"t (2).big"_s)).Entries.front().Name, u"old.txt"_s);
     EXPECT_EQ(Archives::Read(At(u"t.big"_s)).Entries.front().Name, u"readme.txt"_s);
 }
+
+TEST_F(EditorLeftBeside, WhatASaveLeftIsOfferedThoughItsArchiveCanNotBeOpened) {
+    const QByteArray old = ArchiveOf({{u"old.txt"_s, "old"}, {u"b.txt"_s, "b"}});
+    for (const bool isThere : {true, false}) {
+        Place.WriteFile(u"a.big.tmp"_s, old);
+        if (isThere)
+            Place.WriteFile(u"a.big"_s, "half");
+        View.Shown = 0;
+        Editor.OpenBigFile(At(u"a.big"_s));
+        EXPECT_EQ(View.Told.Text, u"LeftBeside"_s);
+        EXPECT_EQ(View.Shown, 1);
+        ClickLink(View, 0);
+        EXPECT_EQ(mBIG::BigFileName, At(u"a.big"_s)) << "it is opened";
+        EXPECT_EQ(World::ReadFile(At(u"a.big"_s)), old);
+        Files::DeleteForced(At(u"a.big"_s));
+    }
+    View.Shown = 0;
+    Editor.OpenBigFile(At(u"a.big"_s));
+    EXPECT_EQ(View.Shown, 0) << "there is nothing to be offered";
+}

@@ -361,3 +361,24 @@ TEST_F(CsfEditorRescue, WhatIsNoTableIsNotOffered) {
     OpenTable({{"new", "2"}});
     EXPECT_EQ(View.Told.Text, QString());
 }
+
+TEST_F(CsfEditorRescue, WhatASaveLeftIsOfferedThoughItsFileCanNotBeOpened) {
+    const QByteArray old = CsfHeader(1) + EntryRecords("old", "1");
+    for (const bool isThere : {true, false}) {
+        Put(u"a.csf.sav"_s, old);
+        if (isThere)
+            Put(u"a.csf"_s, old.chopped(3));
+        RecordingCsfView view;
+        CsfEditor editor(view);
+        editor.OpenCSFFile(At(u"a.csf"_s));
+        EXPECT_EQ(view.Told.Text, u"LeftBeside"_s);
+        EXPECT_EQ(view.Shown, 1);
+        ClickLink(view, 0);
+        EXPECT_EQ(editor.State().NameText, u"old"_s) << "it is opened";
+        EXPECT_EQ(World::ReadFile(At(u"a.csf"_s)), old);
+        Files::DeleteForced(At(u"a.csf"_s));
+    }
+    RecordingCsfView view;
+    CsfEditor(view).OpenCSFFile(At(u"a.csf"_s));
+    EXPECT_EQ(view.Shown, 0) << "there is nothing to be offered";
+}
