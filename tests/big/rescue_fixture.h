@@ -27,6 +27,7 @@ protected:
         const QStringList folders = Files::ListFolder(Rescues::Folder() + QStringLiteral("\\*"), true);
         EXPECT_LE(folders.size(), 1);
         QStringList names = Files::ListFolder(Rescues::Folder() + u'\\' + folders.value(0) + QStringLiteral("\\*"));
+        names.removeAll(QStringLiteral("~brindock.lock")); // where a lock is a file
         names.sort();
         return names;
     }
