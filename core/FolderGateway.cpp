@@ -5,9 +5,11 @@
 
 #include "core/CaseFolding.h"
 #include "platform/Files.h"
-#include "platform/FolderEntries.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+
+#include <QScopeGuard>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -21,8 +23,10 @@ namespace {
 /// No system takes a longer path, and each folder in a name costs as much memory as the name above it.
 constexpr qsizetype LongestName = 4095;
 
+/// A message has room for the beginning of a name that is longer than any.
 [[noreturn]] void Refuse(QStringView name, const QString& reason) {
-    throw RuntimeError(ErrorNumber::PathFileAccess, u"%1: %2"_s.arg(name, reason));
+    const QString shown = name.size() > LongestName ? name.first(LongestName).toString() + u'…' : name.toString();
+    throw RuntimeError(ErrorNumber::PathFileAccess, u"%1: %2"_s.arg(shown, reason));
 }
 
 bool IsDeviceName(QStringView component) {
@@ -68,17 +72,35 @@ qsizetype LastComponent(QStringView name) {
 
 } // namespace
 
-/// One folder below the root: its path in the disk's own case, and the names in it by their case-folded form.
+/// One folder that was looked at or made, and the names in it by their case-folded form.
 struct FolderGateway::Folder {
-    explicit Folder(QString folderPath) : Path(std::move(folderPath)) {}
+    struct Entry {
+        QString Name; ///< in the disk's own case
+        std::unique_ptr<Folder> Known;
+    };
 
-    void ReadNames() {
-        for (const FolderEntry& entry : FolderEntries(Path))
-            Names.insert_or_assign(CaseFolded(entry.Name), entry.Name);
+    explicit Folder(Folder* above, QString name) : Above(above), Name(std::move(name)) {}
+
+    void Take(const QStringList& names) {
+        for (const QString& name : names)
+            Entries.insert_or_assign(CaseFolded(name), Entry{name, nullptr});
     }
 
-    QString Path;                               ///< with a trailing backslash
-    std::unordered_map<QString, QString> Names; ///< mostly few
+    /// Its path behind the root, with a trailing backslash, links followed; empty for the root.
+    [[nodiscard]] QString Below() const {
+        QStringList parts;
+        for (const Folder* folder = this; folder->Above != nullptr; folder = folder->Above) {
+            parts.prepend(folder->LinkedTo.value_or(folder->Name + u'\\'));
+            if (folder->LinkedTo)
+                break;
+        }
+        return parts.join(QString());
+    }
+
+    Folder* Above; ///< null for the root
+    QString Name;
+    std::optional<QString> LinkedTo;            ///< for a link, where it leads: a path as Below gives it
+    std::unordered_map<QString, Entry> Entries; ///< mostly few
 };
 
 FolderGateway::FolderGateway(const QString& folder) {
@@ -88,9 +110,18 @@ FolderGateway::FolderGateway(const QString& folder) {
         throw RuntimeError(ErrorNumber::PathNotFound, u"%1: no such folder"_s.arg(Paths::ToNative(folder)));
     if (!root_.endsWith(u'\\'))
         root_ += u'\\';
-    auto top = std::make_shared<Folder>(root_);
-    top->ReadNames();
-    folders_.insert(QString(), top);
+    top_ = std::make_shared<HeldFolder>(root_);
+    Forget();
+}
+
+/// What was known stands on the disk, and is looked at again when it is asked for.
+void FolderGateway::Forget() {
+    last_ = nullptr;
+    held_.reset();
+    heldFolder_ = nullptr;
+    known_ = 0;
+    topFolder_ = std::make_unique<Folder>(nullptr, QString());
+    topFolder_->Take(top_->Names());
 }
 
 FolderGateway::~FolderGateway() = default;
@@ -98,7 +129,7 @@ FolderGateway::~FolderGateway() = default;
 QString FolderGateway::RefusalOf(QStringView name) {
     if (name.isEmpty())
         return u"has no name"_s;
-    if (name.size() > LongestName)
+    if (IsTooLong(name))
         return u"is longer than a path can be"_s;
     if (IsSeparator(name.front()))
         return u"begins at the root"_s;
@@ -114,45 +145,86 @@ QString FolderGateway::RefusalOf(QStringView name) {
     return {};
 }
 
+bool FolderGateway::IsTooLong(QStringView name) {
+    return name.size() > LongestName;
+}
+
 QString FolderGateway::RefusalOfFolder(QStringView name) {
     return std::ranges::any_of(name, IsSeparator) ? u"holds a separator"_s : RefusalOf(name);
 }
 
-bool FolderGateway::IsInside(const QString& path) const {
-    const QString real = Paths::Real(path);
-    return (real + u'\\').startsWith(root_) && !real.isEmpty();
+/// Where a path really leads, behind the root; nothing for one that leads elsewhere or nowhere.
+std::optional<QString> FolderGateway::InsidePart(const QString& path) const {
+    const QString real = Paths::Real(path) + u'\\';
+    if (!real.startsWith(root_))
+        return std::nullopt;
+    return real.sliced(root_.size());
+}
+
+/// What was opened and has been removed since is opened anew: another folder may stand there.
+const std::shared_ptr<const HeldFolder>& FolderGateway::Hold(const Folder& folder) {
+    const bool isHeld = heldFolder_ == &folder && held_->Lives();
+    if (isHeld)
+        return held_;
+    const bool isStep = heldFolder_ != nullptr && heldFolder_ == folder.Above && !folder.LinkedTo && held_->Lives();
+    const QString below = isStep ? folder.Name : folder.Below();
+    if (below.isEmpty())
+        held_ = top_;
+    else
+        held_ = std::make_shared<HeldFolder>(isStep ? *held_ : *top_, below);
+    heldFolder_ = &folder;
+    return held_;
 }
 
 FolderGateway::Folder& FolderGateway::FolderFor(QStringView relative) {
-    if (last_ == nullptr || lastName_ != relative) {
-        Folder& folder = FindOrMake(relative);
-        lastName_ = relative.toString();
-        last_ = &folder;
+    if (last_ != nullptr && lastName_ == relative)
+        return *last_;
+    constexpr std::size_t mostKnown = 10'000; // names that lead through many folders cost no memory for each of these
+    if (known_ > mostKnown)
+        Forget();
+    Folder* folder = topFolder_.get();
+    for (qsizetype begin = 0; begin < relative.size();) {
+        const qsizetype end = std::find_if(relative.begin() + begin, relative.end(), IsSeparator) - relative.begin();
+        folder = &FindOrMake(*folder, relative.sliced(begin, end - begin), relative.first(end));
+        begin = end + 1;
     }
-    return *last_;
+    lastName_ = relative.toString();
+    last_ = folder;
+    return *folder;
 }
 
-FolderGateway::Folder& FolderGateway::FindOrMake(QStringView relative) {
-    const QString key = CaseFolded(relative.toString()).replace(u'/', u'\\');
-    if (const auto known = folders_.constFind(key); known != folders_.constEnd())
-        return **known;
-    const qsizetype last = LastComponent(relative);
-    Folder& parent = FolderFor(relative.first(std::max<qsizetype>(last - 1, 0)));
-    const QString name = relative.sliced(last).toString();
-    const auto standing = parent.Names.find(CaseFolded(name));
-    const QString found = standing == parent.Names.end() ? QString() : standing->second;
-    auto folder = std::make_shared<Folder>(parent.Path + (found.isEmpty() ? name : found) + u'\\');
-    if (found.isEmpty()) {
-        Files::MakeFolderAsGiven(folder->Path);
-        parent.Names.emplace(CaseFolded(name), name);
-        if (Made)
-            Made(folder->Path);
-    } else if (IsInside(folder->Path)) {
-        folder->ReadNames();
+FolderGateway::Folder& FolderGateway::FindOrMake(Folder& parent, QStringView name, QStringView relative) {
+    const QString key = CaseFolded(name.toString());
+    const auto standing = parent.Entries.find(key);
+    const bool isThere = standing != parent.Entries.end();
+    if (isThere && standing->second.Known != nullptr)
+        return *standing->second.Known;
+    auto folder = std::make_unique<Folder>(&parent, isThere ? standing->second.Name : name.toString());
+    if (isThere) {
+        Find(*folder, relative);
     } else {
-        Refuse(relative, u"leads out of its folder"_s);
+        const HeldFolder& above = *Hold(parent);
+        above.MakeFolder(folder->Name);
+        if (Made)
+            Made(above.Path() + folder->Name + u'\\');
     }
-    return **folders_.insert(key, folder);
+    ++known_;
+    Folder::Entry& entry = parent.Entries[key];
+    entry = {folder->Name, std::move(folder)};
+    return *entry.Known;
+}
+
+/// Looks at a folder that stands there already.
+void FolderGateway::Find(Folder& folder, QStringView relative) {
+    const HeldFolder& above = *Hold(*folder.Above);
+    if (above.StandingOf(folder.Name) == HeldFolder::Standing::Link) {
+        folder.LinkedTo = InsidePart(above.Path() + folder.Name);
+        if (!folder.LinkedTo)
+            Refuse(relative, u"leads out of its folder"_s);
+    }
+    auto forget = qScopeGuard([this] { heldFolder_ = nullptr; });
+    folder.Take(Hold(folder)->Names());
+    forget.dismiss();
 }
 
 void FolderGateway::MakeFolder(const QString& name) {
@@ -161,7 +233,7 @@ void FolderGateway::MakeFolder(const QString& name) {
     FolderFor(QStringView(name).chopped(IsSeparator(name.back()) ? 1 : 0));
 }
 
-QString FolderGateway::TargetFor(const QString& name) {
+FilePlace FolderGateway::PlaceFor(const QString& name) {
     if (const QString refusal = RefusalOf(name); !refusal.isEmpty())
         Refuse(name, refusal);
     const qsizetype last = LastComponent(name);
@@ -169,19 +241,15 @@ QString FolderGateway::TargetFor(const QString& name) {
     const QString file = name.sliced(last);
     if (file.isEmpty())
         Refuse(name, u"is a folder"_s);
-    const auto [found, isNew] = folder.Names.try_emplace(CaseFolded(file), file);
-    QString path = folder.Path + found->second;
-    if (isNew)
-        return path;
-    switch (Files::StandingAsGiven(path)) {
-    case Files::Standing::Nothing: // a name that was handed out before
-        break;
-    case Files::Standing::LinkToNowhere:
+    const auto [found, isNew] = folder.Entries.try_emplace(CaseFolded(file), Folder::Entry{file, nullptr});
+    FilePlace place{Hold(folder), found->second.Name};
+    if (isNew || place.Folder->StandingOf(place.Name) != HeldFolder::Standing::Link)
+        return place;
+    // What a link that comes later leads to does not matter: it is replaced itself.
+    const QString path = place.Path();
+    if (Files::StandingAsGiven(path) == Files::Standing::LinkToNowhere)
         Refuse(name, u"is a link that leads nowhere"_s);
-    case Files::Standing::File:
-    case Files::Standing::Folder:
-        if (!IsInside(path))
-            Refuse(name, u"leads out of its folder"_s);
-    }
-    return path;
+    if (!InsidePart(path))
+        Refuse(name, u"leads out of its folder"_s);
+    return place;
 }

@@ -17,9 +17,8 @@ constexpr qint64 PieceSize = 1'048'576;
 
 } // namespace
 
-void WatchedCopy(const QString& from, const File& source, const QString& to,
-                 const std::function<void(qint64)>& copied) {
-    WriteAside target(to, WriteAside::Names::AsGiven);
+void WatchedCopy(const File& source, const FilePlace& to, const std::function<void(qint64)>& copied) {
+    WriteAside target(to);
     const qint64 length = source.Length();
     for (qint64 done = 0; done < length;) {
         const qint64 piece = std::min(PieceSize, length - done);
@@ -28,6 +27,6 @@ void WatchedCopy(const QString& from, const File& source, const QString& to,
         done += piece;
         copied(piece);
     }
+    CopiedTime::Keep(source, target.Out());
     target.Commit(false);
-    CopiedTime::Keep(from, to);
 }

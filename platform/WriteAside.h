@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/File.h"
+#include "platform/HeldFolder.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -22,6 +23,15 @@ public:
     /// in no folder, before anything is written.
     explicit WriteAside(const QString& target, Names names = Names::LookedUp);
 
+    enum class Old {
+        Kept,    ///< the new file gets what the old one has, and a write-protected one is refused
+        Dropped, ///< as if it were not there
+    };
+
+    /// The same for a name in a folder that is held: in no other one anything is written, and a link that stands there
+    /// is replaced itself. Raises 70 and 75 as above, and 76 for a folder that has been removed.
+    explicit WriteAside(const FilePlace& target, Old old = Old::Kept);
+
     /// Removes what was not committed.
     ~WriteAside();
     WriteAside(const WriteAside&) = delete;
@@ -35,15 +45,18 @@ public:
     /// Without `flush` all this is not waited for to be on the disk. To be called once.
     void Commit(bool flush = true);
 
-    /// Where the bytes are until then, an inside path: for those who must name it.
+    /// Where the bytes are until then, an inside path, of a target that was given by one: for those who must name it.
     [[nodiscard]] QString AsidePath() const;
 
 private:
     [[noreturn]] void Raise(long error) const;
+    void MakeAside();
 
+    std::shared_ptr<const HeldFolder> folder_; ///< null where the paths below are whole ones
+    bool isOldDropped_ = false;
     QString name_;   ///< the target as messages name it
-    QString target_; ///< the system's path, links followed
-    QString aside_;  ///< the system's path
+    QString target_; ///< the system's path, links followed; without its folder where that is held
+    QString aside_;  ///< likewise
     File out_;
 };
 

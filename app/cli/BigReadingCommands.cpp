@@ -5,6 +5,7 @@
 #include "app/cli/BigCommands.h"
 #include "app/cli/Output.h"
 #include "big/document/ArchiveExtractor.h"
+#include "core/FolderGateway.h"
 #include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Wildcards.h"
@@ -91,6 +92,11 @@ QString LastPart(const QString& name) {
     return name.sliced(std::max(name.lastIndexOf(u'\\'), name.lastIndexOf(u'/')) + 1);
 }
 
+/// The same for all names that are one file's: both separators count, and case does not.
+QString FileKey(const QString& name) {
+    return name.toCaseFolded().replace(u'/', u'\\');
+}
+
 /// Whether some of its bytes lie behind the archive's end, and come as zeros.
 bool IsCut(const BigEntry& entry, qint64 archiveLength) {
     return entry.Size > 0 && qint64{entry.Offset} + entry.Size > archiveLength;
@@ -108,10 +114,12 @@ void Extract(const Arguments& given) {
     for (const BigEntry* entry : entries) {
         const QString name = flat ? LastPart(entry->Name) : entry->Name;
         try {
-            if ((flat || !forced) && written.contains(name.toCaseFolded()))
+            // A name that is refused is no file's.
+            const QString key = FolderGateway::RefusalOf(name).isEmpty() ? FileKey(name) : QString();
+            if ((flat || !forced) && written.contains(key))
                 throw RuntimeError(ErrorNumber::FileAlreadyExists, entry->Name + u": another entry has that name"_s);
             extractor.Extract(*entry, name);
-            written.insert(name.toCaseFolded());
+            written.insert(key);
             if (!forced && IsCut(*entry, length))
                 throw RuntimeError(ErrorNumber::PathFileAccess,
                                    entry->Name + u": cut off, the archive ends before its data does"_s);

@@ -37,23 +37,57 @@ void Append(QByteArray& bytes, QStringView text) {
     std::transform(text.begin(), text.end(), bytes.begin() + before, [](QChar unit) { return unit.toLatin1(); });
 }
 
-void EndLine() {
-    QByteArray& bytes = Gathered();
-    bytes += '\n';
-    if (bytes.size() >= GatheredBytes)
+void FlushMuch() {
+    if (Gathered().size() >= GatheredBytes)
         Flush();
+}
+
+/// A long text goes out piece by piece: no second one of its length is made.
+void Gather(QStringView text) {
+    while (text.size() > GatheredBytes) {
+        // The two halves of a letter stay together.
+        const qsizetype piece = GatheredBytes - (text[GatheredBytes - 1].isHighSurrogate() ? 1 : 0);
+        Append(Gathered(), text.first(piece));
+        text = text.sliced(piece);
+        FlushMuch();
+    }
+    Append(Gathered(), text);
+}
+
+void EndLine() {
+    Gathered() += '\n';
+    FlushMuch();
+}
+
+bool IsControl(QChar letter) {
+    constexpr char16_t deletion = 0x7F;
+    return letter < u' ' || letter == deletion;
 }
 
 } // namespace
 
-void Print(QByteArrayView head, const QString& line) {
+void Print(QByteArrayView head, const QString& name) {
     Gathered() += head;
-    Append(Gathered(), line);
+    Gather(InLine(name));
     EndLine();
 }
 
 void Print(const QString& line) {
-    Print({}, line);
+    Gather(line);
+    EndLine();
+}
+
+QString InLine(const QString& name) {
+    if (std::ranges::none_of(name, IsControl))
+        return name;
+    QString shown;
+    for (const QChar letter : name) {
+        if (IsControl(letter))
+            shown += u"\\x%1"_s.arg(QString::number(letter.unicode(), 16).toUpper(), 2, u'0');
+        else
+            shown += letter;
+    }
+    return shown;
 }
 
 void PrintRow(std::span<const QStringView> columns) {
@@ -88,9 +122,9 @@ void Fail(const QString& file, const QString& reason) {
 }
 
 int Report(const RuntimeError& error) {
-    QString line = u"brindock-cli: "_s + error.Description();
+    QString line = error.Description();
     line.replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ');
-    Console::WriteError(Paths::EncodeNative(line) + '\n');
+    Console::WriteError("brindock-cli: " + Paths::EncodeNative(InLine(line)) + '\n');
     return 1;
 }
 

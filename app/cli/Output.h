@@ -18,8 +18,12 @@
 /// gathered: Flush hands over the last ones.
 void Print(const QString& line);
 
-/// The same for a line that begins with plain letters, which are at hand as bytes.
-void Print(QByteArrayView head, const QString& line);
+/// Prints a name behind plain letters, which are at hand as bytes; a name's control characters come out as InLine has
+/// them.
+void Print(QByteArrayView head, const QString& name);
+
+/// A name as it stands in a line: a line break or another control character in it comes out as "\x0A".
+QString InLine(const QString& name);
 
 /// Prints a row: its columns with tabs between them. A tab, a line break or another control character in a column comes
 /// out as a blank, so that a row stays a line.

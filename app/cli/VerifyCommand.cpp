@@ -51,7 +51,7 @@ void PrintLines(const Archive& archive, const std::vector<Finding>& findings, qs
         if (!withNotes && !IsFault(finding))
             continue;
         const QString index = finding.Index < 0 ? u"-"_s : QString::number(finding.Index);
-        Print(QStringList{Verification::Word(finding.What), index, NameOf(archive, finding), finding.Text}.join(u'\t'));
+        PrintRow({Verification::Word(finding.What), index, InLine(NameOf(archive, finding)), finding.Text});
     }
     Print(u"%1 entries, %2 faults, %3 notes"_s.arg(archive.Entries.size())
               .arg(faults)

@@ -45,33 +45,43 @@ private:
         const QString name = target_.RecreateFolders ? entry.Name : Paths::LastPart(entry.Name);
         if (gateway_ == nullptr)
             return true;
-        const QString path = gateway_->TargetFor(prefix_ + name);
-        if (Files::StandingAsGiven(path) == Files::Standing::File) {
-            if (IsNeeded(path))
+        const FilePlace place = gateway_->PlaceFor(prefix_ + name);
+        mBIG::OldFile old = mBIG::OldFile::Replaced;
+        if (IsFileThere(place)) {
+            if (IsNeeded(place))
                 return true;
-            switch (AskToReplace(target_.ExtractFolder + name)) {
-            case Host::Answer::Cancel:
+            const Host::Answer answer = AskToReplace(target_.ExtractFolder + name);
+            if (answer == Host::Answer::Cancel)
                 return false;
-            case Host::Answer::Yes:
-                Ignoring([&] { Files::DeleteForced(path); });
-                break;
-            default: // runs over the file as it stands; a longer one keeps its tail. This is meant.
-                break;
-            }
+            // No runs over the file as it stands; a longer one keeps its tail. This is meant.
+            if (answer != Host::Answer::Yes)
+                old = mBIG::OldFile::WrittenOver;
         }
-        mBIG::ExtractEntryAsGiven(index, mBIG::BigFileName, path);
+        mBIG::ExtractEntryTo(index, mBIG::BigFileName, place, old);
         return true;
     }
 
+    /// A link to a file counts: what is asked about is what is seen there.
+    static bool IsFileThere(const FilePlace& place) {
+        switch (place.Folder->StandingOf(place.Name)) {
+        case HeldFolder::Standing::File:
+            return true;
+        case HeldFolder::Standing::Link:
+            return Files::StandingAsGiven(place.Path()) == Files::Standing::File;
+        default:
+            return false;
+        }
+    }
+
     /// The open archive and the sources of new entries can't be targets: they would be gone before they are read.
-    bool IsNeeded(const QString& path) {
+    bool IsNeeded(const FilePlace& place) {
         if (needed_.isEmpty()) {
             needed_ += StateOf(mBIG::BigFileName).Identity;
             for (const BigEntry& entry : mBIG::BigEntries)
                 if (entry.IsNew)
                     needed_ += StateOf(entry.SourcePath).Identity;
         }
-        const QByteArray target = StateOf(path).Identity;
+        const QByteArray target = place.Folder->StateOf(place.Name).Identity;
         return !target.isEmpty() && needed_.contains(target);
     }
 

@@ -194,7 +194,7 @@ private:
                 refusal = u"is a folder"_s;
             if (!refusal.isEmpty())
                 Found(Kind::Name, index, refusal);
-            const QString folded = entry.Name.toCaseFolded();
+            const QString folded = FolderGateway::IsTooLong(entry.Name) ? entry.Name : entry.Name.toCaseFolded();
             if (const auto first = known.constFind(folded); first != known.constEnd())
                 Found(Kind::Collision, index, u"has the name of entry %1"_s.arg(*first));
             else

@@ -8,7 +8,9 @@
 #include "platform/Files.h"
 #include "platform/NumberedFiles.h"
 #include "platform/RuntimeError.h"
+#include "platform/WriteAside.h"
 
+#include <QScopeGuard>
 #include <QtEndian>
 
 #include <algorithm>
@@ -18,14 +20,26 @@ using NumberedFiles::Access;
 namespace {
 
 /// Fills the target with zeros from `from` to `to`, without writing behind its end more than its length.
-void ZeroTail(int number, qint64 from, qint64 to) {
+void ZeroTail(File& target, qint64 from, qint64 to) {
     constexpr qint64 step = 65536;
-    const qint64 length = NumberedFiles::Length(number);
+    const qint64 length = target.Length();
     const QByteArray zeros(step, '\0');
     for (qint64 at = from; at < std::min(to, length); at += step)
-        NumberedFiles::Write(number, at, QByteArrayView(zeros).first(std::min(step, std::min(to, length) - at)));
+        target.Write(at, QByteArrayView(zeros).first(std::min(step, std::min(to, length) - at)));
     if (length < to)
-        NumberedFiles::SetLength(number, to);
+        target.SetLength(to);
+}
+
+/// Raises 9 for an entry of size 0: without a byte to size the buffer to, the routine ends with the files open. This is
+/// meant.
+void RequireBytes(const BigEntry& entry) {
+    if (entry.Size == 0)
+        throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("%1: nothing to extract").arg(entry.Name));
+}
+
+void CopyEntry(const BigEntry& entry, File& target) {
+    const File& archive = NumberedFiles::Of(FileNumbers::ExtractArchive);
+    ZeroTail(target, target.CopyFrom(0, archive, entry.Offset, entry.Size), entry.Size);
 }
 
 using OpenTarget = void (*)(int number, const QString& path, Access access);
@@ -39,13 +53,9 @@ void ExtractFromArchive(const BigEntry& entry, const QString& archivePath, const
         NumberedFiles::Close(FileNumbers::ExtractArchive);
         throw;
     }
-    // Without a byte to size the buffer to, the routine ends here with both files open. This is meant.
-    if (entry.Size == 0)
-        throw RuntimeError(ErrorNumber::Subscript, QStringLiteral("%1: nothing to extract").arg(entry.Name));
+    RequireBytes(entry);
     try {
-        const qint64 there =
-            NumberedFiles::Copy(FileNumbers::ExtractTarget, 0, FileNumbers::ExtractArchive, entry.Offset, entry.Size);
-        ZeroTail(FileNumbers::ExtractTarget, there, entry.Size);
+        CopyEntry(entry, NumberedFiles::Of(FileNumbers::ExtractTarget));
     } catch (const RuntimeError&) {
         Ignoring([] { NumberedFiles::Close(FileNumbers::ExtractTarget); });
         NumberedFiles::Close(FileNumbers::ExtractArchive);
@@ -53,6 +63,24 @@ void ExtractFromArchive(const BigEntry& entry, const QString& archivePath, const
     }
     NumberedFiles::Close(FileNumbers::ExtractArchive);
     NumberedFiles::Close(FileNumbers::ExtractTarget);
+}
+
+void CopyAll(const File& source, File& target) {
+    const qint64 length = source.Length();
+    if (target.CopyFrom(0, source, 0, length) != length)
+        throw RuntimeError(ErrorNumber::DeviceError, QStringLiteral("%1: breaks off").arg(source.Name()));
+}
+
+/// An entry of the archive that is open to be extracted from.
+void ExtractAside(const BigEntry& entry, const FilePlace& target, mBIG::OldFile old) {
+    const bool isWrittenOver =
+        old == mBIG::OldFile::WrittenOver && target.Folder->StandingOf(target.Name) == HeldFolder::Standing::File;
+    WriteAside aside(target, isWrittenOver ? WriteAside::Old::Kept : WriteAside::Old::Dropped);
+    if (isWrittenOver)
+        CopyAll(target.Folder->OpenToRead(target.Name), aside.Out());
+    if (entry.Size != 0)
+        CopyEntry(entry, aside.Out());
+    aside.Commit(false);
 }
 
 } // namespace
@@ -73,6 +101,22 @@ void ExtractEntryAsGiven(int index, const QString& archivePath, const QString& t
         Files::CopyAsGiven(entry.SourcePath, targetPath);
     else
         ExtractFromArchive(entry, archivePath, targetPath, NumberedFiles::OpenAsGiven);
+}
+
+void ExtractEntryTo(int index, const QString& archivePath, const FilePlace& target, OldFile old) {
+    const BigEntry entry = BigEntries.at(static_cast<std::size_t>(index));
+    if (entry.IsNew) {
+        const File source = File::Open(entry.SourcePath, Access::Read);
+        WriteAside aside(target, old == OldFile::WrittenOver ? WriteAside::Old::Kept : WriteAside::Old::Dropped);
+        CopyAll(source, aside.Out());
+        return aside.Commit(false);
+    }
+    NumberedFiles::Open(FileNumbers::ExtractArchive, archivePath, Access::Read);
+    auto close = qScopeGuard([] { Ignoring([] { NumberedFiles::Close(FileNumbers::ExtractArchive); }); });
+    ExtractAside(entry, target, old);
+    if (entry.Size == 0)
+        close.dismiss();
+    RequireBytes(entry);
 }
 
 void CloseExtraction() {

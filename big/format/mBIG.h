@@ -6,6 +6,7 @@
 #pragma once
 
 #include "big/format/Archive.h"
+#include "platform/HeldFolder.h"
 
 #include <QByteArray>
 #include <QString>
@@ -93,6 +94,16 @@ void ExtractEntry(int index, const QString& archivePath, const QString& targetPa
 
 /// The same for a target path whose case is known to be right: nothing is looked up.
 void ExtractEntryAsGiven(int index, const QString& archivePath, const QString& targetPath);
+
+/// What becomes of a file that stands where an entry is extracted to.
+enum class OldFile {
+    Replaced,    ///< as if it were not there
+    WrittenOver, ///< the entry's bytes come over its first ones, a longer one keeps its tail
+};
+
+/// The same for a place in a folder that is held, in one step: what stands there is whole until the new file is. A link
+/// is replaced itself.
+void ExtractEntryTo(int index, const QString& archivePath, const FilePlace& target, OldFile old);
 
 /// Closes what an entry of size 0 left open.
 void CloseExtraction();

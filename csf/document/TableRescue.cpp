@@ -36,7 +36,7 @@ QByteArray RescuedTable::Encoded() const {
     out.setVersion(streamVersion);
     out << LanguageText << LanguageShown << static_cast<qint64>(Rows.size());
     for (const CsfString& row : Rows)
-        out << row.Name << row.Value;
+        out << row.Name << row.Value << row.Extra.has_value() << row.Extra.value_or(QByteArray()) << row.IsMore;
     return bytes;
 }
 
@@ -49,7 +49,11 @@ RescuedTable RescuedTable::Decoded(const QByteArray& bytes) {
     // A row takes its two lengths at least.
     for (qint64 row = 0; row < count && in.status() == QDataStream::Ok; ++row) {
         CsfString entry;
-        in >> entry.Name >> entry.Value;
+        QByteArray extra;
+        bool hasExtra = false;
+        in >> entry.Name >> entry.Value >> hasExtra >> extra >> entry.IsMore;
+        if (hasExtra)
+            entry.Extra = extra;
         table.Rows.push_back(std::move(entry));
     }
     if (in.status() != QDataStream::Ok || count < 0)

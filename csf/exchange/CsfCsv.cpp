@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "csf/exchange/CsfFormats.h"
+#include "platform/AnsiCodec.h"
 
 #include <QStringList>
 
@@ -84,11 +85,18 @@ private:
 namespace CsfFormats {
 
 QByteArray ToCsv(const CsfTable& table) {
-    QString text = u"name,"_s + LanguageHead + QString::number(table.Language) + u"\r\n"_s;
+    const bool hasExtra =
+        std::ranges::any_of(table.Strings, [](const CsfString& entry) { return entry.Extra.has_value(); });
+    QString text = u"name,"_s + LanguageHead + QString::number(table.Language);
+    text += hasExtra ? u",extra\r\n"_s : u"\r\n"_s;
     for (const CsfString& entry : table.Strings) {
         AppendField(text, entry.Name);
         text += u',';
         AppendField(text, entry.Value);
+        if (entry.Extra) { // a row without has two fields
+            text += u',';
+            AppendField(text, AnsiCodec::Decode(*entry.Extra));
+        }
         text += u"\r\n"_s;
     }
     return text.toUtf8();
@@ -97,7 +105,8 @@ QByteArray ToCsv(const CsfTable& table) {
 CsfTable FromCsv(const QString& text) {
     Parser parser(text);
     const QStringList head = parser.AtEnd() ? QStringList() : parser.Record();
-    if (head.size() != 2 || head[0] != u"name"_s)
+    const bool hasExtra = head.size() == 3 && head[2] == u"extra"_s;
+    if ((head.size() != 2 && !hasExtra) || head[0] != u"name"_s)
         Refuse(1, u"the head is not \"name,value\" or \"name,language\" and a number"_s);
     CsfTable table;
     if (head[1].startsWith(LanguageHead))
@@ -106,9 +115,11 @@ CsfTable FromCsv(const QString& text) {
         const QStringList fields = parser.Record();
         if (fields == QStringList{QString()}) // a blank line
             continue;
-        if (fields.size() != 2)
+        if (fields.size() != 2 && !(hasExtra && fields.size() == 3))
             Refuse(parser.Line(), u"%1 fields, not 2"_s.arg(fields.size()));
         table.Strings.push_back({fields[1], fields[0]});
+        if (fields.size() == 3)
+            table.Strings.back().Extra = AnsiCodec::Encode(fields[2]);
     }
     return table;
 }

@@ -4,6 +4,7 @@
 #include "csf/exchange/CsfExchange.h"
 
 #include "csf/exchange/CsfFormats.h"
+#include "platform/AnsiCodec.h"
 #include "platform/RuntimeError.h"
 
 #include <QJsonArray>
@@ -11,6 +12,8 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -57,8 +60,14 @@ int LanguageNumber(QStringView text, qsizetype line) {
 
 QByteArray ToJson(const CsfTable& table) {
     QJsonArray strings;
-    for (const CsfString& entry : table.Strings)
-        strings.append(QJsonObject{{u"name"_s, entry.Name}, {u"value"_s, entry.Value}});
+    for (const CsfString& entry : table.Strings) {
+        QJsonObject told{{u"name"_s, entry.Name}, {u"value"_s, entry.Value}};
+        if (entry.Extra)
+            told.insert(u"extra"_s, AnsiCodec::Decode(*entry.Extra));
+        if (entry.IsMore)
+            told.insert(u"more"_s, true);
+        strings.append(told);
+    }
     return QJsonDocument(QJsonObject{{u"language"_s, table.Language}, {u"strings"_s, strings}}).toJson();
 }
 
@@ -78,13 +87,46 @@ CsfTable FromJson(const QByteArray& bytes) {
     table.Strings.reserve(static_cast<std::size_t>(strings.size()));
     qsizetype index = 0;
     for (const auto& entry : strings) {
-        table.Strings.push_back({TextOf(entry, u"value"_s, index), TextOf(entry, u"name"_s, index)});
+        CsfString read{TextOf(entry, u"value"_s, index), TextOf(entry, u"name"_s, index)};
+        if (!entry[u"extra"_s].isUndefined())
+            read.Extra = AnsiCodec::Encode(TextOf(entry, u"extra"_s, index));
+        read.IsMore = entry[u"more"_s].toBool();
+        table.Strings.push_back(std::move(read));
         ++index;
     }
     return table;
 }
 
 } // namespace CsfFormats
+
+namespace {
+
+constexpr char16_t Deletion = 0x7F;
+constexpr int Hexadecimal = 16;
+constexpr int HexadecimalDigits = 2;
+
+/// What stands behind a backslash for a letter that a line has no room for.
+constexpr std::array<std::pair<char16_t, char16_t>, 4> Marks{
+    {{u'\n', u'n'}, {u'\t', u't'}, {u'\r', u'r'}, {u'\\', u'\\'}}};
+
+bool IsHexadecimal(QChar letter) {
+    const QChar lower = letter.toLower();
+    return (lower >= u'0' && lower <= u'9') || (lower >= u'a' && lower <= u'f');
+}
+
+/// Null where the letter has none.
+QChar MarkOf(QChar letter) {
+    const auto found = std::ranges::find(Marks, letter.unicode(), &std::pair<char16_t, char16_t>::first);
+    return found == Marks.end() ? QChar() : QChar(found->second);
+}
+
+/// Null for a mark that stands for none.
+QChar LetterOf(QChar mark) {
+    const auto found = std::ranges::find(Marks, mark.unicode(), &std::pair<char16_t, char16_t>::second);
+    return found == Marks.end() ? QChar() : QChar(found->first);
+}
+
+} // namespace
 
 namespace CsfExchange {
 
@@ -95,6 +137,8 @@ std::optional<Format> FormatOf(const QString& path) {
         return Format::Csv;
     if (path.endsWith(u".po"_s, Qt::CaseInsensitive))
         return Format::Po;
+    if (path.endsWith(u".str"_s, Qt::CaseInsensitive))
+        return Format::Str;
     return std::nullopt;
 }
 
@@ -104,6 +148,8 @@ QByteArray Export(const CsfTable& table, Format format) {
         return CsfFormats::ToJson(table);
     case Format::Csv:
         return CsfFormats::ToCsv(table);
+    case Format::Str:
+        return CsfFormats::ToStr(table);
     case Format::Po:
         break;
     }
@@ -116,6 +162,8 @@ CsfTable Import(const QByteArray& bytes, Format format) {
         return CsfFormats::FromJson(bytes);
     case Format::Csv:
         return CsfFormats::FromCsv(DecodeUtf8(bytes));
+    case Format::Str:
+        return CsfFormats::FromStr(bytes);
     case Format::Po:
         break;
     }
@@ -123,10 +171,20 @@ CsfTable Import(const QByteArray& bytes, Format format) {
 }
 
 QString Escaped(const QString& text) {
-    const auto special = [](QChar letter) { return letter == u'\n' || letter == u'\t' || letter == u'\\'; };
+    const auto special = [](QChar letter) { return letter < u' ' || letter == Deletion || letter == u'\\'; };
     if (std::ranges::none_of(text, special))
         return text;
-    return QString(text).replace(u'\\', u"\\\\"_s).replace(u'\n', u"\\n"_s).replace(u'\t', u"\\t"_s);
+    QString escaped;
+    escaped.reserve(text.size());
+    for (const QChar letter : text) {
+        if (!special(letter))
+            escaped += letter;
+        else if (const QChar mark = MarkOf(letter); !mark.isNull())
+            escaped += QString(u'\\') + mark;
+        else
+            escaped += u"\\x%1"_s.arg(QString::number(letter.unicode(), Hexadecimal), HexadecimalDigits, u'0');
+    }
+    return escaped;
 }
 
 QString Unescaped(const QString& text) {
@@ -134,9 +192,16 @@ QString Unescaped(const QString& text) {
     plain.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar next = text[i] == u'\\' && i + 1 < text.size() ? text[i + 1] : QChar();
-        const bool escape = next == u'n' || next == u't' || next == u'\\';
-        plain += !escape ? text[i] : next == u'n' ? u'\n' : next == u't' ? u'\t' : u'\\';
-        i += escape ? 1 : 0;
+        const QStringView digits = QStringView(text).sliced(std::min(i + 2, text.size())).left(HexadecimalDigits);
+        if (next == u'x' && digits.size() == HexadecimalDigits && std::ranges::all_of(digits, IsHexadecimal)) {
+            plain += QChar(digits.toUShort(nullptr, Hexadecimal));
+            i += 1 + HexadecimalDigits;
+        } else if (const QChar letter = LetterOf(next); !letter.isNull()) {
+            plain += letter;
+            ++i;
+        } else {
+            plain += text[i];
+        }
     }
     return plain;
 }

@@ -13,10 +13,12 @@ namespace CsfFormats {
 QByteArray ToJson(const CsfTable& table);
 QByteArray ToCsv(const CsfTable& table);
 QByteArray ToPo(const CsfTable& table);
+QByteArray ToStr(const CsfTable& table);
 
 CsfTable FromJson(const QByteArray& bytes);
 CsfTable FromCsv(const QString& text);
 CsfTable FromPo(const QByteArray& bytes);
+CsfTable FromStr(const QByteArray& bytes);
 
 /// Raises 13 for a line, counted from 1.
 [[noreturn]] void Refuse(qsizetype line, const QString& reason);

@@ -3,6 +3,7 @@
 
 #include "csf/exchange/CsfFormats.h"
 #include "csf/exchange/CsfPoText.h"
+#include "platform/AnsiCodec.h"
 
 #include <QHash>
 
@@ -39,6 +40,14 @@ void AppendText(QString& po, QLatin1StringView keyword, const QString& plain) {
     po += u"\"\n"_s;
 }
 
+/// A comment with a text on one line.
+void AppendQuoted(QString& po, QLatin1StringView comment, const QString& plain) {
+    po += comment + " \""_L1;
+    for (const QChar letter : CsfPo::WithPictures(plain))
+        AppendLetter(po, letter);
+    po += u"\"\n"_s;
+}
+
 /// The code that the name of a gettext language has; none for the numbers without a known language.
 QString LanguageCode(int language) {
     static const QHash<int, QString> codes{{0, u"en"_s}, {2, u"de"_s}, {3, u"fr"_s}, {8, u"ko"_s}};
@@ -59,6 +68,10 @@ QByteArray ToPo(const CsfTable& table) {
     QHash<QString, int> occurrences;
     for (const CsfString& entry : table.Strings) {
         po += u'\n';
+        if (entry.IsMore)
+            po += CsfPo::MoreComment + u'\n';
+        if (entry.Extra)
+            AppendQuoted(po, CsfPo::ExtraComment, AnsiCodec::Decode(*entry.Extra));
         AppendText(po, "msgctxt"_L1, CsfPo::ContextOf(entry.Name, ++occurrences[entry.Name]));
         AppendText(po, "msgid"_L1, entry.Value);
         po += u"msgstr \"\"\n"_s;

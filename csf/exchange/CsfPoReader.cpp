@@ -3,6 +3,7 @@
 
 #include "csf/exchange/CsfFormats.h"
 #include "csf/exchange/CsfPoText.h"
+#include "platform/AnsiCodec.h"
 #include "platform/AnsiPage.h"
 
 #include <QByteArrayList>
@@ -63,7 +64,9 @@ private:
         std::optional<QByteArray> Context;
         std::optional<QByteArray> Source;
         std::optional<QByteArray> Translation;
+        std::optional<QByteArray> Extra;
         bool Fuzzy = false;
+        bool IsMore = false;
     };
 
     void Line(QByteArrayView line) {
@@ -86,6 +89,20 @@ private:
             entry_.Fuzzy = false;
         else if (IsFuzzy(line))
             entry_.Fuzzy = true;
+        else if (line == CsfPo::MoreComment)
+            entry_.IsMore = true;
+        else if (line.startsWith(CsfPo::ExtraComment))
+            ReadExtra(line.sliced(CsfPo::ExtraComment.size()).trimmed());
+    }
+
+    /// Other programs' comments of such a beginning have no quoted text.
+    void ReadExtra(QByteArrayView quoted) {
+        if (!exported_ || !quoted.startsWith('"'))
+            return;
+        current_ = &entry_.Extra;
+        current_->emplace();
+        AppendQuoted(quoted);
+        current_ = nullptr;
     }
 
     /// A keyword: what follows belongs to that part of the entry.
@@ -166,6 +183,9 @@ private:
         const QString context = Text(*entry.Context, entry.Line);
         table_.Strings.push_back({Text(translated ? *entry.Translation : *entry.Source, entry.Line),
                                   exported_ ? CsfPo::NameOf(context) : context});
+        if (entry.Extra)
+            table_.Strings.back().Extra = AnsiCodec::Encode(Text(*entry.Extra, entry.Line));
+        table_.Strings.back().IsMore = entry.IsMore;
     }
 
     [[nodiscard]] QString Text(const QByteArray& bytes, qsizetype line) const {

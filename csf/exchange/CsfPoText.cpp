@@ -3,6 +3,8 @@
 
 #include "csf/exchange/CsfPoText.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -16,6 +18,26 @@ struct Picture {
 };
 
 constexpr std::array<Picture, 2> Pictures{{{u'\0', u'\u2400'}, {u'\4', u'\u2404'}}};
+constexpr QChar EscapePicture = u'\u241B';
+
+bool IsPicture(QChar letter) {
+    return letter == EscapePicture || std::ranges::find(Pictures, letter.unicode(), &Picture::Shown) != Pictures.end();
+}
+
+/// The letter itself where it needs none.
+QChar PictureOf(QChar letter) {
+    const auto found = std::ranges::find(Pictures, letter.unicode(), &Picture::Control);
+    return found == Pictures.end() ? letter : QChar(found->Shown);
+}
+
+QChar ControlOf(QChar picture) {
+    const auto found = std::ranges::find(Pictures, picture.unicode(), &Picture::Shown);
+    return found == Pictures.end() ? picture : QChar(found->Control);
+}
+
+bool HasPictureOrControl(const QString& text) {
+    return std::ranges::any_of(text, [](QChar letter) { return IsPicture(letter) || PictureOf(letter) != letter; });
+}
 
 } // namespace
 
@@ -39,15 +61,26 @@ QString NameOf(const QString& context) {
 }
 
 QString WithPictures(QString text) {
-    for (const Picture& picture : Pictures)
-        text.replace(QChar(picture.Control), QChar(picture.Shown));
-    return text;
+    if (!HasPictureOrControl(text))
+        return text;
+    QString shown;
+    for (const QChar letter : text) {
+        if (IsPicture(letter))
+            shown += EscapePicture;
+        shown += PictureOf(letter);
+    }
+    return shown;
 }
 
 QString WithoutPictures(QString text) {
-    for (const Picture& picture : Pictures)
-        text.replace(QChar(picture.Shown), QChar(picture.Control));
-    return text;
+    if (std::ranges::none_of(text, IsPicture))
+        return text;
+    QString plain;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isEscaped = text[i] == EscapePicture && i + 1 < text.size();
+        plain += isEscaped ? text[++i] : ControlOf(text[i]);
+    }
+    return plain;
 }
 
 } // namespace CsfPo

@@ -13,6 +13,10 @@ namespace CsfPo {
 /// The field of the head that holds the language's number; by it an exported catalogue is known.
 inline constexpr QLatin1StringView LanguageField("X-CSF-Language:");
 
+/// The comments of an entry that is another string of the label before it, and of one with extra data: a quoted text.
+inline constexpr QLatin1StringView MoreComment("#. more");
+inline constexpr QLatin1StringView ExtraComment("#. extra:");
+
 struct Escape {
     char Letter; ///< behind the backslash
     char Code;   ///< what it stands for
@@ -35,8 +39,8 @@ QString ContextOf(const QString& name, int occurrence);
 /// The name out of a context of an exported catalogue.
 QString NameOf(const QString& context);
 
-/// gettext ends a text at the character 0 and keeps 4 for itself: their pictures, which no table can hold, stand for
-/// them.
+/// gettext ends a text at the character 0 and keeps 4 for itself: their pictures stand for them, and behind the picture
+/// of the escape character each of the three for itself.
 QString WithPictures(QString text);
 QString WithoutPictures(QString text);
 

@@ -8,9 +8,11 @@
 /// little-endian with every bit inverted). Numbers are little-endian. Only the low byte of a character is kept.
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 class Device;
@@ -18,6 +20,11 @@ class Device;
 struct CsfString {
     QString Value; ///< one character for each 16-bit unit of the file; line breaks are line feeds
     QString Name;  ///< the label's name
+
+    /// What a reader of whole tables finds besides: data that comes with the string, and that it belongs to the label
+    /// of the string before it.
+    std::optional<QByteArray> Extra{};
+    bool IsMore = false;
 
     bool operator==(const CsfString&) const = default;
 };

@@ -74,14 +74,14 @@ private:
     }
 
     std::optional<ExportOutcome> CopyFile(const ExportFile& file) {
-        const QString target = gateway_.TargetFor(file.Name);
+        const FilePlace place = gateway_.PlaceFor(file.Name);
+        const QString target = place.Path();
         if (Files::SameFile(file.Path, target)) {
             work_.Advance(file.Size);
             return ExportOutcome::AlreadyThere;
         }
         work_.Advance(0);
-        WatchedCopy(file.Path, File::Open(file.Path, File::Access::Read), target,
-                    [this](qint64 bytes) { work_.Advance(bytes); });
+        WatchedCopy(File::Open(file.Path, File::Access::Read), place, [this](qint64 bytes) { work_.Advance(bytes); });
         const bool isAnother = copied_.contains(target);
         copied_.insert(target);
         return isAnother ? ExportOutcome::Replaced : ExportOutcome::Done;
@@ -92,10 +92,10 @@ private:
         if (record.isEmpty())
             return std::nullopt;
         const QString path = ExportFiles::ModRecordPath(mod);
-        const QString target = gateway_.TargetFor(Paths::LastPart(path));
-        if (Files::SameFile(path, target))
+        const FilePlace place = gateway_.PlaceFor(Paths::LastPart(path));
+        if (Files::SameFile(path, place.Path()))
             return ExportOutcome::AlreadyThere;
-        WriteAside aside(target, WriteAside::Names::AsGiven);
+        WriteAside aside(place);
         aside.Out().Write(0, record);
         aside.Commit(false);
         return ExportOutcome::Done;

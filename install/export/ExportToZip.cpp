@@ -167,8 +167,9 @@ private:
             const ExportScratch scratch;
             const QString folder = scratch.Folder() + u'\\' + name;
             Files::MakeFolder(folder);
+            const auto held = std::make_shared<HeldFolder>(folder);
             for (const ExportFile& file : source.Files)
-                CopyTo(folder, file, copied);
+                CopyTo({held, Paths::LastPart(file.Path)}, file, copied);
             zip_.CurrentDirectory = scratch.Folder() + u'\\';
             failure = FailureOf([&] { zip_.FileAdd(folder + u"\\*.*"_s, ZipClass::Relative, true); });
         });
@@ -178,10 +179,9 @@ private:
     }
 
     /// A file that can't be copied costs that file only.
-    void CopyTo(const QString& folder, const ExportFile& file, ExportSource& copied) {
+    void CopyTo(const FilePlace& place, const ExportFile& file, ExportSource& copied) {
         const Failure failure = FailureOf([&] {
-            WatchedCopy(file.Path, File::Open(file.Path, File::Access::Read),
-                        folder + u'\\' + Paths::LastPart(file.Path), [this](qint64) { work_.Advance(0); });
+            WatchedCopy(File::Open(file.Path, File::Access::Read), place, [this](qint64) { work_.Advance(0); });
         });
         if (failure.Number == 0)
             copied.Files.push_back(file);

@@ -182,7 +182,7 @@ void InstallRun::InstallShellMap(const Item& item) {
     for (const SourceFile& file : FilesOf(item)) {
         try {
             zip_.Writes = nullptr;
-            if (zip_.DecompressTo(scratch.PathFor(file.Name), file.From) != ZipResult::Done)
+            if (zip_.DecompressTo(scratch.PlaceFor(file.Name), file.From) != ZipResult::Done)
                 outcome_.Failed(Shown(file), Without(file.From, zip_.GetZipInfo()));
         } catch (const RuntimeError& error) {
             outcome_.Failed(Shown(file), error.Description());
@@ -239,9 +239,10 @@ bool InstallRun::PutStrictly(TargetFolder& folder, const SourceFile& file, const
         return false;
     }
     const auto end = qScopeGuard([&] { EndFile(file.Size); });
-    const QString path = folder.PathFor(name);
+    const FilePlace place = folder.PlaceFor(name);
+    const QString path = place.Path();
     if (!file.IsEntry) {
-        if (folder.Copy(file.From, path, [this](qint64 bytes) { ShowBytes(bytes); })) {
+        if (folder.Copy(file.From, place, [this](qint64 bytes) { ShowBytes(bytes); })) {
             outcome_.Done(Shown(file), folder.Spelt(path));
             return true;
         }
@@ -249,7 +250,7 @@ bool InstallRun::PutStrictly(TargetFolder& folder, const SourceFile& file, const
         return false;
     }
     zip_.Writes = folder.Watch();
-    if (zip_.DecompressTo(path, file.From) != ZipResult::Done) {
+    if (zip_.DecompressTo(place, file.From) != ZipResult::Done) {
         outcome_.Failed(Shown(file), Without(file.From, zip_.GetZipInfo()));
         return false;
     }
@@ -261,9 +262,9 @@ void InstallRun::Describe(TargetFolder& folder, const QString& name, const QStri
                           const InstallRecord& record) {
     QString shown = name;
     try {
-        const QString path = folder.PathFor(name);
-        shown = folder.Spelt(path);
-        if (folder.WriteIni(path, section, {{u"Name"_s, record.DisplayName}, {u"Comments"_s, record.Comments}}))
+        const FilePlace place = folder.PlaceFor(name);
+        shown = folder.Spelt(place.Path());
+        if (folder.WriteIni(place, section, {{u"Name"_s, record.DisplayName}, {u"Comments"_s, record.Comments}}))
             outcome_.Changed(shown);
         else
             outcome_.Failed(Paths::ToNativeAsGiven(shown), u"could not be written"_s);

@@ -10,6 +10,9 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/WriteAside.h"
+
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -34,26 +37,12 @@ QString WithBackslash(const QString& path) {
 
 TargetFolder::TargetFolder(const QString& folder, FileWatch* watch)
     : folder_(folder),
-      gateway_(std::make_unique<FolderGateway>(Made(folder))),
+      gateway_(Made(folder)),
       real_(WithBackslash(Paths::Real(folder))),
       isSpeltSo_(real_ == folder_),
       watch_(watch) {
-    TellOfFolders();
-}
-
-void TargetFolder::TellOfFolders() {
     if (watch_ != nullptr)
-        gateway_->Made = [this](const QString& made) { watch_->MadeFolder(Spelt(made).chopped(1)); };
-}
-
-QString TargetFolder::PathFor(const QString& name) {
-    QString path = gateway_->TargetFor(name);
-    if (Files::IsLinkAsGiven(path)) { // it may have come since its folder was looked at
-        gateway_ = std::make_unique<FolderGateway>(folder_);
-        TellOfFolders();
-        path = gateway_->TargetFor(name);
-    }
-    return path;
+        gateway_.Made = [this](const QString& made) { watch_->MadeFolder(Spelt(made).chopped(1)); };
 }
 
 QString TargetFolder::Spelt(const QString& path) const {
@@ -79,14 +68,15 @@ void TargetFolder::WrittenAs(const QString& path, const HashedFile& hashed) {
         watch_->WrittenAs(Spelt(path), hashed);
 }
 
-bool TargetFolder::Copy(const QString& from, const QString& path, const std::function<void(qint64)>& bytes) {
-    if (Files::StandingAsGiven(path) != Files::Standing::Nothing && Files::SameFile(from, path))
+bool TargetFolder::Copy(const QString& from, const FilePlace& place, const std::function<void(qint64)>& bytes) {
+    const QString path = place.Path();
+    if (place.Folder->StandingOf(place.Name) != HeldFolder::Standing::Nothing && Files::SameFile(from, path))
         return false;
     const File source = File::Open(from, File::Access::Read);
     WillWrite(path);
     const qint64 length = source.Length();
     qint64 done = 0;
-    WatchedCopy(from, source, path, [&](qint64 piece) {
+    WatchedCopy(source, place, [&](qint64 piece) {
         done += piece;
         if (bytes)
             bytes(done);
@@ -97,12 +87,25 @@ bool TargetFolder::Copy(const QString& from, const QString& path, const std::fun
     return true;
 }
 
-bool TargetFolder::WriteIni(const QString& path, const QString& section, const std::initializer_list<Value>& values) {
+/// The system writes such files by their paths, so it writes one in a folder of ours, and that goes to the place.
+bool TargetFolder::WriteIni(const FilePlace& place, const QString& section,
+                            const std::initializer_list<Value>& values) {
+    const QString path = place.Path();
     WillWrite(path);
+    const QTemporaryDir scratch;
+    const QString copy = Paths::FromNative(scratch.filePath(u"values.ini"_s));
+    if (place.Folder->StandingOf(place.Name) == HeldFolder::Standing::File) {
+        const File old = place.Folder->OpenToRead(place.Name);
+        WriteWhole(copy, old.Read(0, old.Length()));
+    }
     bool done = true;
     for (const Value& value : values)
-        done = mMain::INI().WriteINI(section, value.Key, value.Text, path) != u"0" && done;
-    if (done)
-        Written(path);
-    return done;
+        done = mMain::INI().WriteINI(section, value.Key, value.Text, copy) != u"0" && done;
+    if (!done)
+        return false;
+    WriteAside target(place);
+    target.Out().Write(0, ReadWhole(copy));
+    target.Commit(false);
+    Written(path);
+    return true;
 }

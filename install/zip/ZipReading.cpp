@@ -45,20 +45,12 @@ FolderGateway& ZipReading::GatewayTo(const QString& folder) {
     return *gateway_;
 }
 
-QString ZipReading::TargetIn(const QString& folder, const QString& name) {
-    QString path = GatewayTo(folder).TargetFor(name);
-    if (Files::IsLinkAsGiven(path)) { // it may have come since the folder was looked at
-        gateway_.reset();
-        path = GatewayTo(folder).TargetFor(name);
-    }
-    return path;
-}
-
-QString ZipReading::PathOf(const Target& target) {
-    QString path = target.Folder.isEmpty() ? target.Name : TargetIn(target.Folder, target.Name);
-    if (CaseFolded(Paths::LastPart(path)) == fileName_ && StateOf(path).Identity == archive_.State().Identity)
-        throw RuntimeError(ErrorNumber::PathFileAccess, u"%1 is the archive itself."_s.arg(Paths::ToNative(path)));
-    return path;
+FilePlace ZipReading::PlaceOf(const Target& target) {
+    FilePlace place = target.Place.Folder ? target.Place : GatewayTo(target.Folder).PlaceFor(target.Name);
+    if (CaseFolded(place.Name) == fileName_ && place.Folder->StateOf(place.Name).Identity == archive_.State().Identity)
+        throw RuntimeError(ErrorNumber::PathFileAccess,
+                           u"%1 is the archive itself."_s.arg(Paths::ToNativeAsGiven(place.Path())));
+    return place;
 }
 
 void ZipReading::MakeFolder(const QString& folder, const QString& name) {
@@ -75,12 +67,6 @@ void ZipReading::Unpack(qsizetype place, const Target& target, const QByteArray&
         UnpackAside(place, target, password, watching);
 }
 
-NewFiles& ZipReading::FolderAt(QStringView folder) {
-    if (folder_ == nullptr || folder_->Folder() != folder)
-        folder_ = std::make_unique<NewFiles>(folder.toString());
-    return *folder_;
-}
-
 /// A file that is not there yet, out of an entry that was unpacked ahead. False where it is to go the long way.
 bool ZipReading::PutAhead(qsizetype place, const Target& target, const Watching& watching) {
     if (ahead_ == nullptr)
@@ -88,12 +74,11 @@ bool ZipReading::PutAhead(qsizetype place, const Target& target, const Watching&
     const auto unpacked = ahead_->Take(place);
     if (!unpacked || (watching.Files != nullptr && unpacked->Hashed.Hash.isEmpty()))
         return false;
-    const QString path = target.Folder.isEmpty() ? target.Name : GatewayTo(target.Folder).TargetFor(target.Name);
-    const qsizetype name = path.lastIndexOf(u'\\') + 1;
-    NewFiles& folder = FolderAt(QStringView(path).first(name));
+    const FilePlace file = PlaceOf(target);
+    const QString path = file.Path();
     if (watching.Files != nullptr && !watching.Files->WillPut(path, unpacked->Hashed))
         return false;
-    if (!folder.Put(path.sliced(name), unpacked->Bytes))
+    if (!file.Folder->Put(file.Name, unpacked->Bytes))
         return false;
     if (watching.Bytes)
         watching.Bytes(unpacked->Bytes.size());
@@ -122,12 +107,13 @@ void ZipReading::UnpackAside(qsizetype place, const Target& target, const QByteA
         if (ended)
             RequireEnd(entry, done);
         if (!aside) { // a short entry that is bad makes nothing at all
-            path = PathOf(target);
+            const FilePlace file = PlaceOf(target);
+            path = file.Path();
             if (entry.Size >= WorthAskingForRoom && entry.Size > Files::FreeSpace(Paths::Folder(path)))
                 Refuse(entry, ZipResult::DiskFull, u"the disk has no room for it"_s);
             if (watching.Files != nullptr)
                 watching.Files->WillWrite(path);
-            aside.emplace(path, WriteAside::Names::AsGiven);
+            aside.emplace(file);
         }
         const QByteArrayView bytes = QByteArrayView(block_).first(had);
         aside->Out().Write(done - had, bytes);

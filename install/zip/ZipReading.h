@@ -10,7 +10,6 @@
 #include "install/zip/ZipDirectory.h"
 #include "install/zip/ZipLibrary.h"
 #include "platform/File.h"
-#include "platform/NewFiles.h"
 
 #include <functional>
 #include <memory>
@@ -33,11 +32,12 @@ public:
     /// Raises a ZipFailure for an entry that no password would open.
     void RequireReadable(qsizetype place) { library_.RequireReadable(place); }
 
-    /// Where an entry is to be written: to a file below a folder (an inside path, made when missing), or without a
-    /// folder to the full inside path that a gateway gave.
+    /// Where an entry is to be written: to a file below a folder (an inside path, made when missing), or to a place
+    /// that a gateway gave.
     struct Target {
         QString Folder;
         QString Name;
+        FilePlace Place{}; ///< without a folder where the two above are given
     };
 
     /// Who is told, where one is set: of the bytes that are written, and of the file.
@@ -61,9 +61,7 @@ private:
     FolderGateway& GatewayTo(const QString& folder);
     bool PutAhead(qsizetype place, const Target& target, const Watching& watching);
     void UnpackAside(qsizetype place, const Target& target, const QByteArray& password, const Watching& watching);
-    NewFiles& FolderAt(QStringView folder);
-    QString PathOf(const Target& target);
-    QString TargetIn(const QString& folder, const QString& name);
+    FilePlace PlaceOf(const Target& target);
     void RequireEnd(const ZipEntry& entry, qint64 size) const;
 
     File archive_;
@@ -73,6 +71,5 @@ private:
     QByteArray block_;
     std::unique_ptr<FolderGateway> gateway_; ///< of the last folder: it knows what stands there
     QString gatewayFolder_;
-    std::unique_ptr<NewFiles> folder_; ///< the last that a file was put into
-    std::unique_ptr<ZipAhead> ahead_;  ///< the archive and its directory outlive it
+    std::unique_ptr<ZipAhead> ahead_; ///< the archive and its directory outlive it
 };

@@ -128,16 +128,19 @@ qint32 ccZip::Decompress(const QString& extractDir, const QString& entryName, bo
         if (!entryName.endsWith(u'/')) {
             if (const QString refusal = FolderGateway::RefusalOf(target); !refusal.isEmpty())
                 throw ZipFailure(ZipResult::NoTarget, u"%1: %2"_s.arg(entryName, refusal));
-            Extract({reading_, place, {.Folder = extractDir, .Name = target}, {.Bytes = Watch, .Files = Writes}});
+            Extract({reading_,
+                     place,
+                     {.Folder = extractDir, .Name = target, .Place = {}},
+                     {.Bytes = Watch, .Files = Writes}});
         } else if (honourDirs) {
             reading_->MakeFolder(extractDir, entryName);
         }
     });
 }
 
-qint32 ccZip::DecompressTo(const QString& path, const QString& entryName) {
+qint32 ccZip::DecompressTo(const FilePlace& target, const QString& entryName) {
     return Try(entryName, [&](qsizetype place) {
-        Extract({reading_, place, {.Folder = {}, .Name = path}, {.Bytes = Watch, .Files = Writes}});
+        Extract({reading_, place, {.Folder = {}, .Name = {}, .Place = target}, {.Bytes = Watch, .Files = Writes}});
     });
 }
 

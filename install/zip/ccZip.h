@@ -13,6 +13,7 @@
 #include <vector>
 
 class FileWatch;
+struct FilePlace;
 class ZipReading;
 
 class ccZip {
@@ -69,8 +70,8 @@ public:
     /// refused. Yields in long entries. Does not wait for the disk. Raises nothing; returns one of ZipResult.
     qint32 Decompress(const QString& extractDir, const QString& entryName, bool honourDirs);
 
-    /// The same for an entry that is to become the file at a full inside path, which a gateway gave.
-    qint32 DecompressTo(const QString& path, const QString& entryName);
+    /// The same for an entry that is to become the file at a place that a gateway gave.
+    qint32 DecompressTo(const FilePlace& target, const QString& entryName);
 
     /// The last that was told: the comment, where an entry went, or why something failed.
     [[nodiscard]] QString GetZipInfo() const { return told_; }

@@ -18,3 +18,12 @@ void CopiedTime::Keep(const QString& from, const QString& copy) {
     const std::array<timespec, 2> times{timespec{.tv_sec = 0, .tv_nsec = UTIME_OMIT}, status.st_mtim};
     ::utimensat(AT_FDCWD, Paths::EncodeNative(Paths::ToNativeAsGiven(copy)).constData(), times.data(), 0);
 }
+
+void CopiedTime::Keep(const File& from, const File& copy) {
+    struct stat status {};
+
+    if (::fstat(static_cast<int>(from.Handle()), &status) != 0)
+        return;
+    const std::array<timespec, 2> times{timespec{.tv_sec = 0, .tv_nsec = UTIME_OMIT}, status.st_mtim};
+    ::futimens(static_cast<int>(copy.Handle()), times.data());
+}

@@ -49,6 +49,8 @@ struct stat Status(const File& file, const QString& name) {
     return status;
 }
 
+} // namespace
+
 FileState StateFrom(const struct stat& status) {
     const QByteArray identity = QByteArray::number(static_cast<qulonglong>(status.st_dev)) + ':' +
                                 QByteArray::number(static_cast<qulonglong>(status.st_ino));
@@ -56,11 +58,9 @@ FileState StateFrom(const struct stat& status) {
     return {identity, status.st_size, qint64{status.st_mtim.tv_sec} * nanosecondsASecond + status.st_mtim.tv_nsec};
 }
 
-} // namespace
-
-File OpenNative(int folder, const QByteArray& path, const QString& name, File::Access access) {
+File OpenNative(int folder, const QByteArray& path, const QString& name, File::Access access, int more) {
     // A pipe must not make the program wait for its other end.
-    const int flags = Flags(access) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+    const int flags = Flags(access) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | more;
     const int number = ::openat(folder, path.constData(), flags, 0666);
     if (number < 0) {
         const int error = errno;

@@ -9,6 +9,7 @@
 
 #include <dirent.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <memory>
@@ -22,6 +23,17 @@ public:
           directory_(::opendir(Paths::EncodeNative(nativeFolder).constData()), &::closedir) {
         if (!directory_)
             Raise();
+    }
+
+    /// Takes over the descriptor of an open folder; `nativeFolder` is for the message. Raises 76 when that is none.
+    Listing(int descriptor, const QString& nativeFolder)
+        : name_(nativeFolder),
+          directory_(descriptor < 0 ? nullptr : ::fdopendir(descriptor), &::closedir) {
+        if (directory_)
+            return;
+        if (descriptor >= 0)
+            ::close(descriptor);
+        Raise();
     }
 
     /// The next entry that is neither the folder itself nor the one above it. Raises 76 when reading on fails.

@@ -31,12 +31,22 @@ QString FolderOf(const QString& native) {
     return native.first(native.lastIndexOf(u'/') + 1);
 }
 
-std::optional<struct stat> StatusOf(const QString& native) {
+/// Where the system looks for a path: in a folder that is held, where links are not followed, or everywhere.
+int FolderNumber(const HeldFolder* folder) {
+    return folder == nullptr ? AT_FDCWD : static_cast<int>(folder->Handle());
+}
+
+std::optional<struct stat> StatusOf(const QString& native, const HeldFolder* folder = nullptr) {
     struct stat status {};
 
-    if (::stat(Paths::EncodeNative(native).constData(), &status) != 0)
+    const int flags = folder == nullptr ? 0 : AT_SYMLINK_NOFOLLOW;
+    if (::fstatat(FolderNumber(folder), Paths::EncodeNative(native).constData(), &status, flags) != 0)
         return std::nullopt;
     return status;
+}
+
+bool IsLink(const struct stat& status) {
+    return S_ISLNK(status.st_mode);
 }
 
 /// The path that a chain of links ends at, also where nothing stands there; empty when there are too many.
@@ -54,15 +64,18 @@ QString Followed(QString native) {
 }
 
 /// 0, or the error for a target that may not be replaced. Raises 75 for what is no plain file.
-int RefusalOf(const QString& native, const QString& name) {
-    const auto status = StatusOf(native);
+int RefusalOf(const QString& native, const QString& name, const HeldFolder* folder = nullptr) {
+    const auto status = StatusOf(native, folder);
     if (!status)
         return errno == ENOENT ? 0 : errno;
+    if (IsLink(*status)) // in a folder that is held: it goes itself
+        return 0;
     if (!S_ISREG(status->st_mode))
         throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name));
     if ((status->st_mode & AnyWriteBit) == 0)
         return EACCES; // the system's administrator too keeps a file that was protected
-    return ::faccessat(AT_FDCWD, Paths::EncodeNative(native).constData(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+    const QByteArray path = Paths::EncodeNative(native);
+    return ::faccessat(FolderNumber(folder), path.constData(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
 /// The permissions that a new file gets where nobody asks for others.
@@ -115,11 +128,25 @@ WriteAside::WriteAside(const QString& target, Names names)
         Raise(ELOOP);
     if (const int error = RefusalOf(target_, name_); error != 0)
         Raise(error);
+    MakeAside();
+}
+
+WriteAside::WriteAside(const FilePlace& target, Old old)
+    : folder_(target.Folder),
+      isOldDropped_(old == Old::Dropped),
+      name_(Paths::ToNativeAsGiven(target.Path())),
+      target_(Paths::NameToNative(target.Name)) {
+    if (const int error = RefusalOf(target_, name_, folder_.get()); error != 0 && !isOldDropped_)
+        Raise(error);
+    MakeAside();
+}
+
+void WriteAside::MakeAside() {
     int number = -1;
     do {
         aside_ = FolderOf(target_) + PrivateName();
         constexpr int flags = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-        number = ::open(Paths::EncodeNative(aside_).constData(), flags, OwnersOnly);
+        number = ::openat(FolderNumber(folder_.get()), Paths::EncodeNative(aside_).constData(), flags, OwnersOnly);
     } while (number < 0 && errno == EEXIST);
     if (number < 0)
         Raise(errno == ENOENT ? ENOTDIR : errno);
@@ -128,21 +155,25 @@ WriteAside::WriteAside(const QString& target, Names names)
 
 WriteAside::~WriteAside() {
     if (!aside_.isEmpty())
-        ::unlink(Paths::EncodeNative(aside_).constData());
+        ::unlinkat(FolderNumber(folder_.get()), Paths::EncodeNative(aside_).constData(), 0);
 }
 
 void WriteAside::Commit(bool flush) {
     const int number = static_cast<int>(out_.Handle());
-    const auto old = StatusOf(target_);
-    if (!(old ? TakeOver(number, *old) : GiveMode(number, UsualMode())))
+    const int folder = FolderNumber(folder_.get());
+    const auto old = isOldDropped_ ? std::nullopt : StatusOf(target_, folder_.get());
+    if (!(old && !IsLink(*old) ? TakeOver(number, *old) : GiveMode(number, UsualMode())))
         Raise(errno);
     if (flush)
         out_.Flush();
     out_.Close();
-    if (::rename(Paths::EncodeNative(aside_).constData(), Paths::EncodeNative(target_).constData()) != 0)
+    const QByteArray from = Paths::EncodeNative(aside_);
+    if (::renameat(folder, from.constData(), folder, Paths::EncodeNative(target_).constData()) != 0)
         Raise(errno == ENOENT ? ENOTDIR : errno);
     aside_.clear();
-    if (flush)
+    if (flush && folder_ != nullptr)
+        static_cast<void>(::fsync(folder));
+    else if (flush)
         FlushFolder(target_);
 }
 

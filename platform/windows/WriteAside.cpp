@@ -67,6 +67,24 @@ WriteAside::WriteAside(const QString& target, Names names) : name_(target), targ
         throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name_));
     if (Has(attributes, FILE_ATTRIBUTE_READONLY))
         Raise(ERROR_ACCESS_DENIED);
+    MakeAside();
+}
+
+// The path of a folder that is held leads to it, and renaming follows no link.
+WriteAside::WriteAside(const FilePlace& target, Old old)
+    : folder_(target.Folder),
+      isOldDropped_(old == Old::Dropped),
+      name_(target.Path()),
+      target_(name_) {
+    const DWORD attributes = GetFileAttributesW(WidePath(target_).c_str());
+    if (Has(attributes, FILE_ATTRIBUTE_DIRECTORY))
+        throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name_));
+    if (Has(attributes, FILE_ATTRIBUTE_READONLY) && !isOldDropped_)
+        Raise(ERROR_ACCESS_DENIED);
+    MakeAside();
+}
+
+void WriteAside::MakeAside() {
     HANDLE handle = INVALID_HANDLE_VALUE;
     do {
         aside_ = FolderOf(target_) + PrivateName();
@@ -93,9 +111,12 @@ void WriteAside::Commit(bool flush) {
     const std::wstring from = WidePath(aside_);
     const std::wstring to = WidePath(target_);
     const DWORD attributes = GetFileAttributesW(to.c_str());
-    if (Has(attributes, FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))
+    if (isOldDropped_ && Has(attributes, FILE_ATTRIBUTE_READONLY))
+        SetFileAttributesW(to.c_str(), FILE_ATTRIBUTE_NORMAL);
+    else if (Has(attributes, FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY))
         Raise(ERROR_ACCESS_DENIED);
-    if (attributes != INVALID_FILE_ATTRIBUTES)
+    const bool isLink = Has(attributes, FILE_ATTRIBUTE_REPARSE_POINT);
+    if (attributes != INVALID_FILE_ATTRIBUTES && !isOldDropped_ && !isLink)
         TakeOver(from, to, attributes);
     // ReplaceFileW would keep all that by itself, but in two renames, between which there is no target.
     const DWORD flags = MOVEFILE_REPLACE_EXISTING | (flush ? MOVEFILE_WRITE_THROUGH : 0U);

@@ -124,6 +124,28 @@ TEST_F(BigCommands, ExtractTellsOfEntriesThatAreOneFileAndOfCutOnes) {
     EXPECT_EQ(World::ReadFile(At(u"out\\x"_s)), "2");
 }
 
+TEST_F(BigCommands, NamesStayOnTheirLine) {
+    world_.WriteFile(u"odd.big"_s, HeaderOf("BIGF", 2, 48) + Record(56, 1, "a\nb") + Record(57, 1, "\x1b[31m\x7f") +
+                                       Bytes("L225\0\0\0\0"
+                                             "12"));
+    EXPECT_EQ(Output({u"big"_s, u"list"_s, Native(u"odd.big"_s)}),
+              "version 0\n0\t56\t1\ta\\x0Ab\n1\t57\t1\t\\x1B[31m\\x7F\n");
+    const Outcome outcome = RunCommand({u"big"_s, u"extract"_s, Native(u"odd.big"_s), Native(u"out"_s)});
+    EXPECT_EQ(outcome.Error.count('\n'), 2);
+    EXPECT_FALSE(outcome.Error.contains('\x1b'));
+    const QByteArray verified = RunCommand({u"big"_s, u"verify"_s, Native(u"odd.big"_s)}).Output;
+    EXPECT_TRUE(verified.contains("a\\x0Ab\t") && verified.contains("\\x1B[31m")) << verified.constData();
+}
+
+TEST_F(BigCommands, ExtractTellsOfEntriesThatAreOneFileByEitherSeparator) {
+    world_.WriteFile(u"odd.big"_s, HeaderOf("BIGF", 2, 40) + Record(48, 1, "a/x") + Record(49, 1, "a\\x") +
+                                       Bytes("L225\0\0\0\0"
+                                             "12"));
+    const Outcome outcome = RunCommand({u"big"_s, u"extract"_s, Native(u"odd.big"_s), Native(u"out"_s)});
+    EXPECT_EQ(outcome.Code, 1);
+    EXPECT_EQ(outcome.Error, "brindock-cli: a\\x: another entry has that name\n");
+}
+
 TEST_F(BigCommands, CreateRefusesNamesThatWouldBecomeOthers) {
     world_.WriteFile(u"files\\a.txt"_s, "x");
     world_.WriteFile(u"files\\Ж.txt"_s, "x");

@@ -382,3 +382,14 @@ TEST_F(CsfEditorRescue, WhatASaveLeftIsOfferedThoughItsFileCanNotBeOpened) {
     CsfEditor(view).OpenCSFFile(At(u"a.csf"_s));
     EXPECT_EQ(view.Shown, 0) << "there is nothing to be offered";
 }
+
+TEST_F(CsfEditorRescue, WhatACutOffRescueSaysIsNoTable) {
+    RescuedTable table;
+    table.LanguageText = u"20"_s;
+    table.LanguageShown = 3;
+    table.Rows = {{u"v"_s, u"n"_s}, {u"more"_s, u"n"_s, QByteArray(), true}, {u"x"_s, u"e"_s, QByteArray("a\0b", 3)}};
+    const QByteArray bytes = table.Encoded();
+    EXPECT_EQ(RescuedTable::Decoded(bytes), table);
+    for (qsizetype length = 0; length < bytes.size(); ++length)
+        EXPECT_THROW(RescuedTable::Decoded(bytes.first(length)), RuntimeError) << length;
+}

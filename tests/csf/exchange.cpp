@@ -173,7 +173,11 @@ TEST(CsfExchange, EveryCutOfAnExportIsReadOrRefused) {
 }
 
 TEST(CsfExchange, EscapesWhatALineCantHold) {
-    EXPECT_EQ(CsfExchange::Escaped(u"a\nb\tc\\d\re"_s), u"a\\nb\\tc\\\\d\re"_s);
+    EXPECT_EQ(CsfExchange::Escaped(u"a\nb\tc\\d\re"_s), u"a\\nb\\tc\\\\d\\re"_s);
+    EXPECT_EQ(CsfExchange::Escaped(u"\u001B[31m"_s + QChar(0) + QChar(0x7F) + u"\u00E9"_s),
+              u"\\x1b[31m\\x00\\x7f\u00E9"_s);
+    EXPECT_EQ(CsfExchange::Unescaped(u"\\x1b\\x00\\x7F\\r"_s), QString(u"\u001B"_s + QChar(0) + QChar(0x7F) + u'\r'));
+    EXPECT_EQ(CsfExchange::Unescaped(u"\\x1\\xg0\\x+1\\x 1\\"_s), u"\\x1\\xg0\\x+1\\x 1\\"_s);
     EXPECT_EQ(CsfExchange::Unescaped(u"a\\nb\\tc\\\\nd"_s), u"a\nb\tc\\nd"_s);
     EXPECT_EQ(CsfExchange::Unescaped(u"C:\\x\\"_s), u"C:\\x\\"_s);
 }

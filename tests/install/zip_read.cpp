@@ -5,6 +5,7 @@
 #include "tests/install/zip_fixture.h"
 
 #include "platform/AnsiCodec.h"
+#include "platform/HeldFolder.h"
 #include "tests/support/ScriptedHost.h"
 
 using namespace Qt::StringLiterals;
@@ -216,15 +217,16 @@ TEST_F(ZipRead, MoreEntriesThanTheCountHasRoomForAreAllThere) {
     EXPECT_EQ(zip_.Count(), 65536);
 }
 
-TEST_F(ZipRead, AnEntryIsExtractedToAPathThatWasChosen) {
+TEST_F(ZipRead, AnEntryIsExtractedToAPlaceThatWasChosen) {
     Open({{.Name = "d/a", .Content = "1"}, {.Name = "bad", .Content = "1", .Crc = 1}});
     Files::MakeFolder(Out());
-    EXPECT_EQ(zip_.DecompressTo(Out() + u"\\Other Name"_s, u"d/a"_s), ZipResult::Done);
+    const auto out = std::make_shared<HeldFolder>(Out());
+    EXPECT_EQ(zip_.DecompressTo({out, u"Other Name"_s}, u"d/a"_s), ZipResult::Done);
     EXPECT_EQ(Got(u"Other Name"_s), "1");
-    EXPECT_EQ(zip_.DecompressTo(Out() + u"\\b"_s, u"bad"_s), ZipResult::BadData);
-    EXPECT_EQ(zip_.DecompressTo(Out() + u"\\b"_s, u"none"_s), ZipResult::NoEntry);
-    EXPECT_EQ(zip_.DecompressTo(At(u"nowhere\\b"_s), u"d/a"_s), ZipResult::NoTarget);
-    EXPECT_EQ(zip_.DecompressTo(At(u"a.zip"_s), u"d/a"_s), ZipResult::NoTarget);
+    EXPECT_EQ(zip_.DecompressTo({out, u"b"_s}, u"bad"_s), ZipResult::BadData);
+    EXPECT_EQ(zip_.DecompressTo({out, u"b"_s}, u"none"_s), ZipResult::NoEntry);
+    const auto beside = std::make_shared<HeldFolder>(At({}));
+    EXPECT_EQ(zip_.DecompressTo({beside, u"a.zip"_s}, u"d/a"_s), ZipResult::NoTarget);
     EXPECT_EQ(Names(), QStringList{u"Other Name"_s});
 }
 

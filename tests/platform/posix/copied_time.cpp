@@ -50,6 +50,18 @@ TEST_F(CopiedTimes, ACopyHasTheTimeWhateverItsName) {
     }
 }
 
+TEST_F(CopiedTimes, AnOpenCopyHasItWhenItIsClosed) {
+    Make(u"f"_s, "old");
+    Age(u"f"_s);
+    const File from = File::Open(At(u"f"_s), File::Access::Read);
+    File copy = File::Open(At(u"g"_s), File::Access::New);
+    copy.Write(0, "old");
+    CopiedTime::Keep(from, copy);
+    copy.Close();
+    EXPECT_EQ(TimeOf(u"g"_s).tv_sec, 1'000'000'000);
+    EXPECT_EQ(TimeOf(u"g"_s).tv_nsec, 123'456'789);
+}
+
 TEST_F(CopiedTimes, WithoutTheFileTheCopyIsAsItWas) {
     Make(u"g"_s, "old");
     Age(u"g"_s);

@@ -3,9 +3,8 @@
 
 #include "tests/windows/WindowTests.h"
 #include "tests/windows/ui/Pixels.h"
-#include "ui/look/Style.h"
+#include "tests/windows/ui/SkinOptionsTest.h"
 #include "ui/skin/TavelCheckBox.h"
-#include "ui/skin/TavelOptionButton.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -14,7 +13,6 @@
 #include <QSignalSpy>
 
 #include <functional>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -26,26 +24,18 @@ const QColor disabledBorder(206, 199, 189);
 
 } // namespace
 
-class tst_skinboxes : public QObject {
+class tst_skinboxes : public SkinOptionsTest {
     Q_OBJECT
 private Q_SLOTS:
 
     void init() {
-        Style::Apply(*qApp);
-        window_ = std::make_unique<QWidget>();
-        window_->resize(400, 300);
+        MakeOptions();
         other_ = new QLineEdit(window_.get());
         other_->setGeometry(200, 200, 100, 24);
         box_ = new TavelCheckBox(window_.get());
         box_->setText(u"&Tick me"_s);
         box_->setGeometry(10, 10, 150, 20);
-        auto* const group = new QWidget(window_.get());
-        group->setGeometry(0, 50, 200, 100);
-        one_ = Option(u"One"_s, group, 0);
-        two_ = Option(u"Two"_s, group, 30);
-        far_ = Option(u"Far"_s, window_.get(), 200);
-        window_->show();
-        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+        ShowOptions();
         other_->setFocus();
         PointAt(*other_);
     }
@@ -318,19 +308,8 @@ private Q_SLOTS:
 private:
     QImage Caption() { return PictureOf(*box_).copy(14, 0, 130, 20); }
 
-    static TavelOptionButton* Option(const QString& caption, QWidget* parent, int y) {
-        auto* const option = new TavelOptionButton(parent);
-        option->setText(caption);
-        option->setGeometry(10, y, 150, 21);
-        return option;
-    }
-
-    std::unique_ptr<QWidget> window_;
     QLineEdit* other_ = nullptr;
     TavelCheckBox* box_ = nullptr;
-    TavelOptionButton* one_ = nullptr;
-    TavelOptionButton* two_ = nullptr;
-    TavelOptionButton* far_ = nullptr;
 };
 
 WINDOW_TEST(tst_skinboxes)

@@ -3,9 +3,7 @@
 
 #include "tests/windows/WindowTests.h"
 #include "tests/windows/ui/Pixels.h"
-#include "ui/look/Style.h"
-#include "ui/skin/CommandButton.h"
-#include "ui/skin/UserControl1.h"
+#include "tests/windows/ui/SkinButtonsTest.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -16,7 +14,6 @@
 #include <QTimer>
 
 #include <functional>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -36,21 +33,14 @@ QColor TopLine(const QWidget& button) {
 
 } // namespace
 
-class tst_skinbuttons : public QObject {
+class tst_skinbuttons : public SkinButtonsTest {
     Q_OBJECT
 private Q_SLOTS:
 
     void init() {
-        Style::Apply(*qApp);
-        window_ = std::make_unique<QWidget>();
-        window_->resize(400, 200);
+        MakeButtons();
         other_ = new QLineEdit(window_.get());
         other_->setGeometry(200, 100, 100, 24);
-        painted_ = new CommandButton(u"Go"_s, window_.get());
-        painted_->setGeometry(10, 10, 100, 28);
-        slices_ = new UserControl1(window_.get());
-        slices_->setText(u"Go"_s);
-        slices_->setGeometry(10, 60, 100, 28);
         window_->show();
         QVERIFY(QTest::qWaitForWindowActive(window_.get()));
         other_->setFocus();
@@ -331,23 +321,7 @@ private Q_SLOTS:
     }
 
 private:
-    static void Both() {
-        QTest::addColumn<bool>("painted");
-        QTest::newRow("CommandButton") << true;
-        QTest::newRow("UserControl1") << false;
-    }
-
-    QPushButton& Chosen() {
-        QFETCH(const bool, painted);
-        if (painted)
-            return *painted_;
-        return *slices_;
-    }
-
-    std::unique_ptr<QWidget> window_;
     QLineEdit* other_ = nullptr;
-    CommandButton* painted_ = nullptr;
-    UserControl1* slices_ = nullptr;
 };
 
 WINDOW_TEST(tst_skinbuttons)

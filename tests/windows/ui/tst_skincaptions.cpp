@@ -3,30 +3,17 @@
 
 #include "tests/windows/WindowTests.h"
 #include "tests/windows/ui/Pixels.h"
-#include "ui/look/Style.h"
-#include "ui/skin/CommandButton.h"
-#include "ui/skin/UserControl1.h"
+#include "tests/windows/ui/SkinButtonsTest.h"
 
 #include <QApplication>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
-class tst_skincaptions : public QObject {
+class tst_skincaptions : public SkinButtonsTest {
     Q_OBJECT
 private Q_SLOTS:
 
-    void init() {
-        Style::Apply(*qApp);
-        window_ = std::make_unique<QWidget>();
-        window_->resize(400, 200);
-        painted_ = new CommandButton(u"Go"_s, window_.get());
-        painted_->setGeometry(10, 10, 100, 28);
-        slices_ = new UserControl1(window_.get());
-        slices_->setText(u"Go"_s);
-        slices_->setGeometry(10, 60, 100, 28);
-    }
+    void init() { MakeButtons(); }
 
     void cleanup() { window_.reset(); }
 
@@ -134,23 +121,6 @@ private:
                 }
         return lines;
     }
-
-    static void Both() {
-        QTest::addColumn<bool>("painted");
-        QTest::newRow("CommandButton") << true;
-        QTest::newRow("UserControl1") << false;
-    }
-
-    QPushButton& Chosen() {
-        QFETCH(const bool, painted);
-        if (painted)
-            return *painted_;
-        return *slices_;
-    }
-
-    std::unique_ptr<QWidget> window_;
-    CommandButton* painted_ = nullptr;
-    UserControl1* slices_ = nullptr;
 };
 
 WINDOW_TEST(tst_skincaptions)

@@ -3,15 +3,12 @@
 
 #include "tests/windows/WindowTests.h"
 #include "tests/windows/ui/Pixels.h"
-#include "ui/look/Style.h"
-#include "ui/skin/TavelOptionButton.h"
+#include "tests/windows/ui/SkinOptionsTest.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QDialog>
 #include <QSignalSpy>
 
-#include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -22,21 +19,13 @@ const QColor border(0, 50, 115);
 
 } // namespace
 
-class tst_skinoptions : public QObject {
+class tst_skinoptions : public SkinOptionsTest {
     Q_OBJECT
 private Q_SLOTS:
 
     void init() {
-        Style::Apply(*qApp);
-        window_ = std::make_unique<QWidget>();
-        window_->resize(400, 300);
-        auto* const group = new QWidget(window_.get());
-        group->setGeometry(0, 50, 200, 100);
-        one_ = Option(u"One"_s, group, 0);
-        two_ = Option(u"Two"_s, group, 30);
-        far_ = Option(u"Far"_s, window_.get(), 200);
-        window_->show();
-        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+        MakeOptions();
+        ShowOptions();
     }
 
     void cleanup() { window_.reset(); }
@@ -156,18 +145,7 @@ private:
         return told_;
     }
 
-    static TavelOptionButton* Option(const QString& caption, QWidget* parent, int y) {
-        auto* const option = new TavelOptionButton(parent);
-        option->setText(caption);
-        option->setGeometry(10, y, 150, 21);
-        return option;
-    }
-
     QStringList told_;
-    std::unique_ptr<QWidget> window_;
-    TavelOptionButton* one_ = nullptr;
-    TavelOptionButton* two_ = nullptr;
-    TavelOptionButton* far_ = nullptr;
 };
 
 WINDOW_TEST(tst_skinoptions)

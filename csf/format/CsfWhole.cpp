@@ -1,0 +1,281 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "csf/format/CsfWhole.h"
+
+#include "platform/AnsiCodec.h"
+#include "platform/RuntimeError.h"
+
+#include <QHash>
+#include <QtEndian>
+
+#include <algorithm>
+#include <functional>
+#include <limits>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype NumberSize = sizeof(quint32);
+constexpr qsizetype UnitSize = sizeof(char16_t);
+
+bool IsMark(const std::array<char, 4>& mark, QByteArrayView lowerCase) {
+    return std::ranges::equal(mark, lowerCase, {}, [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    });
+}
+
+} // namespace
+
+class CsfWholeReader {
+public:
+    explicit CsfWholeReader(QByteArrayView file) : file_(file) {}
+
+    CsfWhole Read() {
+        CsfWhole table;
+        table.mark_ = TakeMark();
+        if (!IsMark(table.mark_, " fsc"))
+            Refuse(0, u"not a CSF file"_s);
+        table.version_ = Number();
+        const CsfWhole::Counts told{Number(), Number()};
+        table.reserved_ = Number();
+        table.language_ = Number();
+        while (at_ < file_.size())
+            Label(table.records_);
+        const CsfWhole::Counts counted = table.Counted();
+        table.extra_ = {told.Labels - counted.Labels, told.Strings - counted.Strings};
+        return table;
+    }
+
+private:
+    [[noreturn]] static void Refuse(qsizetype offset, const QString& reason) {
+        throw RuntimeError(ErrorNumber::TypeMismatch, u"offset %1: %2"_s.arg(offset).arg(reason));
+    }
+
+    QByteArrayView Take(quint64 count) {
+        if (count > static_cast<quint64>(file_.size() - at_))
+            Refuse(at_, u"the file ends too early"_s);
+        const QByteArrayView taken = file_.sliced(at_, static_cast<qsizetype>(count));
+        at_ += taken.size();
+        return taken;
+    }
+
+    std::array<char, 4> TakeMark() {
+        std::array<char, 4> mark{};
+        std::ranges::copy(Take(mark.size()), mark.begin());
+        return mark;
+    }
+
+    quint32 Number() { return qFromLittleEndian<quint32>(Take(NumberSize).data()); }
+
+    void Label(std::vector<CsfWhole::Record>& records) {
+        CsfWhole::Record record;
+        const qsizetype begin = at_;
+        record.LabelMark = TakeMark();
+        if (!IsMark(record.LabelMark, " lbl"))
+            Refuse(begin, u"no label begins here"_s);
+        const quint32 strings = Number();
+        record.Entry.Name = AnsiCodec::Decode(Take(Number()));
+        record.HasString = strings > 0;
+        if (!record.HasString)
+            records.push_back(std::move(record));
+        for (quint32 string = 0; string < strings; ++string) {
+            CsfWhole::Record next = record;
+            next.Entry.IsMore = string > 0;
+            String(next);
+            records.push_back(std::move(next));
+        }
+    }
+
+    void String(CsfWhole::Record& record) {
+        const qsizetype begin = at_;
+        record.StringMark = TakeMark();
+        const bool hasExtra = IsMark(record.StringMark, "wrts");
+        if (!hasExtra && !IsMark(record.StringMark, " rts"))
+            Refuse(begin, u"no string begins here"_s);
+        const QByteArrayView units = Take(quint64{UnitSize} * Number());
+        record.Entry.Value.resize(units.size() / UnitSize);
+        QChar* letter = record.Entry.Value.data();
+        for (qsizetype at = 0; at < units.size(); at += UnitSize)
+            *letter++ = QChar(static_cast<char16_t>(~qFromLittleEndian<quint16>(units.data() + at)));
+        if (hasExtra)
+            record.Entry.Extra = Take(Number()).toByteArray();
+    }
+
+    QByteArrayView file_;
+    qsizetype at_ = 0;
+};
+
+namespace {
+
+/// Puts the parts of a file behind each other.
+class Writer {
+public:
+    explicit Writer(QByteArray& bytes) : bytes_(bytes) {}
+
+    void Mark(const std::array<char, 4>& mark) { bytes_.append(mark.data(), mark.size()); }
+
+    void Number(quint32 number) {
+        std::array<char, NumberSize> bytes{};
+        qToLittleEndian(number, bytes.data());
+        bytes_.append(bytes.data(), NumberSize);
+    }
+
+    void Data(QByteArrayView data) {
+        Length(data.size());
+        bytes_.append(data);
+    }
+
+    void Text(QStringView text) {
+        Length(text.size());
+        const qsizetype begin = bytes_.size();
+        bytes_.resize(begin + text.size() * UnitSize);
+        char* place = bytes_.data() + begin;
+        for (const QChar letter : text) {
+            qToLittleEndian(static_cast<quint16>(~letter.unicode()), place);
+            place += UnitSize;
+        }
+    }
+
+private:
+    void Length(qsizetype length) {
+        if (length > qsizetype{std::numeric_limits<quint32>::max()})
+            throw RuntimeError(ErrorNumber::Overflow, u"a text is too long for the format"_s);
+        Number(static_cast<quint32>(length));
+    }
+
+    QByteArray& bytes_;
+};
+
+/// Pairs the entries of one name before and after a change: all in their order where they are as many, else those first
+/// that are the same. `is` tells by their places whether two are.
+void Pair(std::vector<std::size_t> before, std::vector<std::size_t> after, std::vector<std::size_t>& origins,
+          const std::function<bool(std::size_t, std::size_t)>& isSame) {
+    if (before.size() != after.size()) {
+        auto old = before.begin();
+        std::erase_if(after, [&](std::size_t place) {
+            const auto found = std::find_if(old, before.end(), [&](std::size_t one) { return isSame(one, place); });
+            if (found == before.end())
+                return false;
+            origins[place] = *found;
+            old = before.erase(found);
+            return true;
+        });
+    }
+    for (std::size_t i = 0; i < std::min(before.size(), after.size()); ++i)
+        origins[after[i]] = before[i];
+}
+
+} // namespace
+
+CsfWhole CsfWhole::Read(QByteArrayView bytes) {
+    return CsfWholeReader(bytes).Read();
+}
+
+CsfWhole CsfWhole::Of(const CsfTable& table) {
+    CsfWhole whole;
+    whole.Take(table);
+    return whole;
+}
+
+CsfTable CsfWhole::Table() const {
+    CsfTable table{static_cast<qint32>(language_), {}};
+    table.Strings.reserve(records_.size());
+    for (const Record& record : records_)
+        if (record.HasString)
+            table.Strings.push_back(record.Entry);
+    return table;
+}
+
+/// For each of a changed table's strings the place of the record that it was; behind all for a new one.
+std::vector<std::size_t> CsfWhole::OriginsOf(const CsfTable& table) const {
+    QHash<QString, std::vector<std::size_t>> before;
+    for (std::size_t place = 0; place < records_.size(); ++place)
+        if (records_[place].HasString)
+            before[records_[place].Entry.Name].push_back(place);
+    QHash<QString, std::vector<std::size_t>> after;
+    for (std::size_t place = 0; place < table.Strings.size(); ++place)
+        after[table.Strings[place].Name].push_back(place);
+    std::vector<std::size_t> origins(table.Strings.size(), records_.size());
+    const auto isSame = [&](std::size_t old, std::size_t now) { return records_[old].Entry == table.Strings[now]; };
+    for (auto name = after.cbegin(); name != after.cend(); ++name)
+        Pair(before.value(name.key()), name.value(), origins, isSame);
+    return origins;
+}
+
+/// What was read, with the string that it has now.
+CsfWhole::Record CsfWhole::Renewed(std::size_t origin, const CsfString& entry) const {
+    Record record = origin < records_.size() ? records_[origin] : Record();
+    record.Entry = entry;
+    if (entry.Extra.has_value() != IsMark(record.StringMark, "wrts"))
+        record.StringMark = entry.Extra ? MarkWithExtra : Record().StringMark;
+    return record;
+}
+
+void CsfWhole::Take(const CsfTable& table) {
+    language_ = static_cast<quint32>(table.Language);
+    const std::vector<std::size_t> origins = OriginsOf(table);
+    std::vector<std::size_t> newPlaces(records_.size()); // counted from 1; 0 for what is gone
+    std::vector<Placed> placed;
+    placed.reserve(origins.size());
+    for (std::size_t i = 0; i < origins.size(); ++i) {
+        if (origins[i] < records_.size())
+            newPlaces[origins[i]] = i + 1;
+        placed.push_back({2 * (i + 1), Renewed(origins[i], table.Strings[i])});
+    }
+    // A label without a string follows the last string before it that is still there.
+    std::size_t last = 0;
+    for (std::size_t place = 0; place < records_.size(); ++place) {
+        if (!records_[place].HasString)
+            placed.push_back({2 * last + 1, std::move(records_[place])});
+        else if (newPlaces[place] > 0)
+            last = newPlaces[place];
+    }
+    std::ranges::stable_sort(placed, {}, &Placed::Order);
+    records_.clear();
+    for (Placed& next : placed) {
+        CsfString& entry = next.Is.Entry;
+        entry.IsMore =
+            entry.IsMore && !records_.empty() && records_.back().HasString && records_.back().Entry.Name == entry.Name;
+        records_.push_back(std::move(next.Is));
+    }
+}
+
+CsfWhole::Counts CsfWhole::Counted() const {
+    Counts counted;
+    for (const Record& record : records_) {
+        counted.Labels += record.Entry.IsMore ? 0 : 1;
+        counted.Strings += record.HasString ? 1 : 0;
+    }
+    return counted;
+}
+
+QByteArray CsfWhole::Bytes() const {
+    QByteArray bytes;
+    Writer writer(bytes);
+    writer.Mark(mark_);
+    writer.Number(version_);
+    const Counts counted = Counted();
+    writer.Number(counted.Labels + extra_.Labels);
+    writer.Number(counted.Strings + extra_.Strings);
+    writer.Number(reserved_);
+    writer.Number(language_);
+    for (auto record = records_.begin(); record != records_.end(); ++record) {
+        if (!record->Entry.IsMore) {
+            writer.Mark(record->LabelMark);
+            const auto next =
+                std::find_if(record + 1, records_.end(), [](const Record& other) { return !other.Entry.IsMore; });
+            writer.Number(record->HasString ? static_cast<quint32>(next - record) : 0);
+            writer.Data(AnsiCodec::Encode(record->Entry.Name));
+        }
+        if (!record->HasString)
+            continue;
+        writer.Mark(record->StringMark);
+        writer.Text(record->Entry.Value);
+        if (record->Entry.Extra)
+            writer.Data(*record->Entry.Extra);
+    }
+    return bytes;
+}
