@@ -21,7 +21,7 @@ enum class Format {
           ///< number
     Po,   ///< gettext: name as context, value as source text; a translation that is there and not fuzzy counts instead
     Str,  ///< the games' own: a name, the quoted value and END; without language and extra data, and names differ in
-         ///< more than their case
+          ///< more than their case
 };
 
 /// By the extension of a file's name, in any case.
