@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "platform/Device.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "tests/big/rescue_fixture.h"
@@ -85,23 +86,51 @@ TEST_F(EditorRescue, OfAnArchiveThatHasChangedOnlyTheNewEntriesAreOffered) {
     EXPECT_EQ(Archives::Read(saved).Entries.size(), 3U);
 }
 
-TEST_F(EditorRescue, AnArchiveOfTheSameLengthIsToldByItsTimeAndItsBytes) {
-    LeaveChanged();
-    const QString path = At(u"t.big"_s);
-    const QDateTime time = Files::ModifiedTime(path);
-    QByteArray bytes = World::ReadFile(path);
-    const auto write = [&] {
-        QFile file(Paths::ToNative(path));
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        file.write(bytes);
-        file.close();
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        ASSERT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
+namespace {
+
+/// Writes over a file's last byte, and says when that was.
+void WriteLastByte(const QString& path, char byte, const QDateTime& time) {
+    QFile file(Paths::ToNative(path));
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.seek(file.size() - 1);
+    file.write(&byte, 1);
+    file.close();
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
+}
+
+} // namespace
+
+TEST_F(EditorRescue, AnArchiveOfTheSameLengthIsToldByItsTimeAndByItsBytes) {
+    const QDateTime time(QDate(2020, 1, 2), QTime(3, 4, 5), Qt::UTC);
+    const QString path = LaySample();
+    WriteLastByte(path, 'd', time);
+    dying_->OpenBigFile(path);
+    AddTo(*dying_, u"new.txt"_s, "new bytes");
+    Die();
+    const auto isOfferedWhole = [this] {
+        nextView_.Told = {};
+        BigEditor(nextView_).TellLeft();
+        return nextView_.Told.Text == "Rescued"_L1;
     };
-    bytes.back() = static_cast<char>(bytes.back() ^ 1);
-    write();
-    next_->TellLeft();
-    EXPECT_EQ(nextView_.Told.Text, u"RescuedChanged"_s);
+    EXPECT_TRUE(isOfferedWhole());
+    WriteLastByte(path, 'x', time);
+    EXPECT_FALSE(isOfferedWhole()) << "the same time";
+    WriteLastByte(path, 'd', time.addSecs(2));
+    EXPECT_FALSE(isOfferedWhole()) << "the same bytes";
+    WriteLastByte(path, 'd', time);
+    EXPECT_TRUE(isOfferedWhole());
+}
+
+TEST_F(EditorRescue, TheHashSeesAChangeInTheHeadInABlockAndAtTheEnd) {
+    QByteArray bytes(qsizetype{6} << 20, 'x');
+    const QByteArray before = ArchiveMark::HashOf(MemoryDevice(bytes));
+    for (const qsizetype place : {qsizetype{0}, qsizetype{4} << 20, bytes.size() - 1}) {
+        QByteArray changed = bytes;
+        changed[place] = 'y';
+        EXPECT_NE(ArchiveMark::HashOf(MemoryDevice(changed)), before) << place;
+    }
+    EXPECT_NE(ArchiveMark::HashOf(MemoryDevice(QByteArray())), QByteArray());
 }
 
 TEST_F(EditorRescue, WithoutItsArchiveTheNewEntriesAskForAName) {
