@@ -5,6 +5,7 @@
 
 #include "core/Host.h"
 #include "core/LastMessage.h"
+#include "core/rescue/RescuedDocument.h"
 #include "platform/Processes.h"
 
 bool Application::notify(QObject* receiver, QEvent* event) {
@@ -16,6 +17,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::Fail(const std::exception& failure) {
+    KeepAllRescues();
     try {
         Host::Current().Message(LastMessage::Text(LastMessage::AsRuntimeError(failure)), Host::Icon::Critical);
     } catch (const std::exception&) {

@@ -14,6 +14,6 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override;
 
-    /// Shows number and description, then ends the program.
+    /// Keeps what is unsaved, shows number and description, then ends the program.
     [[noreturn]] static void Fail(const std::exception& failure);
 };

@@ -25,6 +25,16 @@ public:
     virtual void ShowBusy(bool busy) = 0;
     /// The line under the menu bar; a notice takes the place of the one before it, one without a text that of none.
     virtual void ShowNotice(const Notice& notice) = 0;
+
+    /// What is offered back to the user stands in that line until it is answered or closed, whatever notices come
+    /// meanwhile; one without a text takes it away.
+    virtual void ShowOffer(const Notice& offer) {
+        if (!offer.Text.isEmpty())
+            ShowNotice(offer);
+    }
+
+    /// Shows a folder (an inside path) in the system's own program for that.
+    virtual void OpenFolder(const QString& folder) { static_cast<void>(folder); }
 };
 
 /// The busy pointer for as long as it stands.

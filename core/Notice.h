@@ -17,5 +17,5 @@ struct NoticeLink {
 /// Without a text there is none.
 struct Notice {
     QString Text;
-    std::vector<NoticeLink> Links{}; ///< two at most
+    std::vector<NoticeLink> Links{}; ///< three at most
 };

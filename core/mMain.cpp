@@ -10,6 +10,7 @@
 #include "core/Settings.h"
 #include "core/mLaunch.h"
 #include "core/mTraduction.h"
+#include "core/rescue/RescuedDocument.h"
 #include "platform/Paths.h"
 #include "platform/Processes.h"
 #include "platform/RuntimeError.h"
@@ -25,7 +26,10 @@ bool mMain::AddFileRequested = false;
 bool mMain::RestartRequested = false;
 bool mMain::CsfOpenedByHost = false;
 QString mMain::LanguageFileName;
-std::function<void()> mMain::EndProgram = [] { Processes::End(0); };
+std::function<void()> mMain::EndProgram = [] {
+    KeepAllRescues();
+    Processes::End(0);
+};
 
 namespace {
 

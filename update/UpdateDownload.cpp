@@ -8,6 +8,7 @@
 #include "core/Navigator.h"
 #include "core/Sizes.h"
 #include "core/mTraduction.h"
+#include "core/rescue/RescuedDocument.h"
 #include "platform/Files.h"
 #include "platform/Processes.h"
 #include "platform/RuntimeError.h"
@@ -42,6 +43,7 @@ void UpdateDownload::StartProgram(const QString& path) {
 }
 
 void UpdateDownload::EndProgram() {
+    KeepAllRescues();
     Processes::End(0);
 }
 

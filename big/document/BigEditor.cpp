@@ -16,8 +16,9 @@
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
-BigEditor::BigEditor(EditorView& view) : panes_(view) {
+BigEditor::BigEditor(EditorView& view) : panes_(view), offers_(view, ForOffers()) {
     panes_.Selected = [this](int place) { details_.Follow(place); };
+    saves_.OnWritten([this] { rescue_.Saved(); });
 }
 
 BigEditor::~BigEditor() {
@@ -28,13 +29,24 @@ BigEditor::~BigEditor() {
 }
 
 void BigEditor::OpenBigFile(const QString& path) {
-    if (!Files::FileExists(path) || EditorPanes::Locked())
+    const bool isThere = Files::FileExists(path);
+    if (isThere && EditorPanes::Locked())
         return;
-    panes_.View.ShowWindow();
+    if (isThere) {
+        panes_.View.ShowWindow();
+        LoadOrBeep(path);
+    } else if (offers_.TellBeside(path)) {
+        // A save that was killed may have left nothing else.
+        panes_.View.ShowWindow();
+    }
+}
+
+void BigEditor::LoadOrBeep(const QString& path) {
     if (LoadBig(path))
         ResetAfterOpen();
     else
         Host::Current().Beep();
+    offers_.TellBeside(path);
 }
 
 bool BigEditor::LoadBig(const QString& path) {
@@ -43,13 +55,19 @@ bool BigEditor::LoadBig(const QString& path) {
     const Busy busy(panes_.View);
     if (!Ignoring([&] { mBIG::Load(path); }))
         return false;
+    rescue_.Opened(ArchiveRescue::Origin::File);
+    TakeNewArchive();
+    panes_.State.StatusText = GetText(u"Ready"_s);
+    return true;
+}
+
+/// What was known of the archive that was open before is forgotten, and the root shown.
+void BigEditor::TakeNewArchive() {
     panes_.Shown = mBIG::CurrentIdentity();
     saves_.ForgetOriginals();
     copies_.EntriesGone();
     panes_.State.ShowsOnlyEntry = false;
     panes_.CreateDirs();
-    panes_.State.StatusText = GetText(u"Ready"_s);
-    return true;
 }
 
 void BigEditor::ResetAfterOpen() {
@@ -131,7 +149,16 @@ void BigEditor::ActivateRow(int place) {
 
 /// The questions that come before another archive takes the place of the open one.
 bool BigEditor::MayLeaveArchive() {
-    return copies_.TakeInChanged() && saves_.GoOnWithoutChanges();
+    if (!copies_.TakeInChanged())
+        return false;
+    const bool asks = panes_.State.Modified;
+    if (!saves_.GoOnWithoutChanges())
+        return false;
+    if (asks)
+        rescue_.GivenUp();
+    else
+        rescue_.KeepWhole();
+    return true;
 }
 
 bool BigEditor::MayEnd() {
@@ -162,11 +189,8 @@ void BigEditor::New() {
     panes_.State.ExactOffsets = OffsetNotices::IsExactByDefault();
     panes_.View.ShowVersion();
     mBIG::New(*path, mBIG::BigVersion);
-    panes_.Shown = mBIG::CurrentIdentity();
-    saves_.ForgetOriginals();
-    copies_.EntriesGone();
-    panes_.State.ShowsOnlyEntry = false;
-    panes_.CreateDirs();
+    rescue_.Opened(ArchiveRescue::Origin::Fresh);
+    TakeNewArchive();
     panes_.View.ShowNotice({});
     // The flag for unsaved changes and the details stay as they were. This is meant.
     ArchiveOpened();
@@ -181,10 +205,7 @@ void BigEditor::Open() {
     const auto path = Host::Current().OpenFileName(SaveCommand::ArchiveDialog());
     if (!path)
         return;
-    if (LoadBig(*path))
-        ResetAfterOpen();
-    else
-        Host::Current().Beep();
+    LoadOrBeep(*path);
 }
 
 bool BigEditor::ExtractBigFile(const QString& path) {

@@ -6,6 +6,7 @@
 /// its own over the panes that all share; this one opens, closes and hands on.
 #pragma once
 
+#include "big/document/ArchiveRescue.h"
 #include "big/document/DragOut.h"
 #include "big/document/EditorPanes.h"
 #include "big/document/EntryChanges.h"
@@ -14,6 +15,7 @@
 #include "big/document/OpenCopies.h"
 #include "big/document/RowDetails.h"
 #include "big/document/SaveCommand.h"
+#include "core/rescue/RescueOffers.h"
 
 #include <QString>
 #include <QStringList>
@@ -122,14 +124,26 @@ public:
 
     [[nodiscard]] QString SelectionText() const { return details_.SelectionText(); }
 
+    /// At the editor's start: what is to be offered back.
+    void TellLeft() { offers_.TellLeft(); }
+
+    /// From time to time; whether there is more to be done at once.
+    bool KeepRescue() { return rescue_.KeepRescue(); }
+
     [[nodiscard]] static ViewMode View();
     /// Stores the view mode at once.
     static void SetView(ViewMode mode);
 
 private:
     bool MayLeaveArchive();
+    void LoadOrBeep(const QString& path);
     void ResetAfterOpen();
     void ArchiveOpened();
+    void TakeNewArchive();
+    [[nodiscard]] RescueOffers::Editor ForOffers();
+    bool OpenRescue(const Rescues::Left& left);
+    bool LoadUnderRescue(const RescueFacts& facts, const RescuedArchive& rescued);
+    void ApplyRescued(const RescuedArchive& rescued, const QString& folder, bool whole);
 
     EditorPanes panes_;
     RowDetails details_{panes_};
@@ -139,4 +153,6 @@ private:
     FileAdding adding_{panes_, [this](int firstIndex) { copies_.EntriesGone(firstIndex); }};
     ExtractCommand extraction_{panes_};
     DragOut dragOut_{panes_};
+    ArchiveRescue rescue_{panes_};
+    RescueOffers offers_;
 };

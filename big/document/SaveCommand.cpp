@@ -201,6 +201,8 @@ void SaveCommand::ShowWritten(const QString& path, const OffsetShift::Shift& shi
     panes_.State.Modified = mBIG::HasLostBytes();
     panes_.Shown = mBIG::CurrentIdentity();
     mBIG::BigFileName = path;
+    if (written_)
+        written_();
     // A name that is no archive's is not shown anew. This is meant.
     if (IsArchiveName(path))
         panes_.CreateDirs();

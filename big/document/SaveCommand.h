@@ -11,6 +11,7 @@
 #include "core/Host.h"
 
 #include <functional>
+#include <utility>
 
 class SaveCommand {
 public:
@@ -36,6 +37,9 @@ public:
     /// Tells what there is to tell of an archive that was opened.
     void TellOpened();
 
+    /// What else is to be done when an archive was written and read anew.
+    void OnWritten(std::function<void()> written) { written_ = std::move(written); }
+
     /// Whether a path ends like an archive's.
     [[nodiscard]] static bool IsArchiveName(const QString& path);
 
@@ -60,6 +64,7 @@ private:
     [[nodiscard]] std::function<void()> ExactSave(std::function<void()> tellAgain);
 
     OriginalBytes originals_;
+    std::function<void()> written_;
     EditorPanes& panes_;
     OpenCopies& copies_;
     RowDetails& details_;

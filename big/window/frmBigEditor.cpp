@@ -68,6 +68,8 @@ frmBigEditor::frmBigEditor(QWidget* parent)
     ui_->lvFiles->SetMode(mode);
     ui_->mnuView->actions().at(static_cast<int>(mode))->setChecked(true);
     StateChanged();
+    editor_.TellLeft();
+    KeepFromTimeToTime([this] { return editor_.KeepRescue(); });
 }
 
 // The controls ask their models for rows as long as they stand: they go before the document does.

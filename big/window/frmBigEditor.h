@@ -57,6 +57,10 @@ private:
 
     void ShowNotice(const Notice& notice) override { SetNotice(notice); }
 
+    void ShowOffer(const Notice& offer) override { SetOffer(offer); }
+
+    void OpenFolder(const QString& folder) override { ShowFolder(folder); }
+
     [[nodiscard]] std::vector<int> SelectedRows() const override;
     [[nodiscard]] ViewPlace Where() const override;
     void GoTo(const ViewPlace& place) override;

@@ -24,9 +24,16 @@ QString ForBox(QString value) {
 
 } // namespace
 
-CsfEditor::CsfEditor(CsfEditorView& view) : view_(view) {
-    state_.Path = GetText(u"New"_s) + u"CSF.csf"_s;
+CsfEditor::CsfEditor(CsfEditorView& view)
+    : view_(view),
+      rescue_([this] { return Rescued(); },
+              [this](const QString& reason) {
+                  view_.ShowNotice({.Text = GetText(u"RescueFailed"_s).replace("%1"_L1, reason)});
+              }),
+      offers_(view, ForOffers()) {
+    state_.Path = NewName();
     state_.FindText = GetText(u"Find"_s);
+    rescue_.Opened();
 }
 
 QStringList CsfEditor::Languages() {
@@ -41,13 +48,19 @@ bool CsfEditor::Locked() const {
 }
 
 void CsfEditor::OpenCSFFile(const QString& path) {
-    if (!Files::FileExists(path) || Locked())
+    const bool isThere = Files::FileExists(path);
+    if (isThere && Locked())
         return;
-    if (const qint32 language = mCSF::ReadCSF(path); language != mCSF::Refused)
+    const qint32 language = isThere ? mCSF::ReadCSF(path) : mCSF::Refused;
+    if (language != mCSF::Refused)
         Load(path, language);
+    // A save that was killed may have left nothing else.
+    if (offers_.TellBeside(path) && language == mCSF::Refused)
+        view_.ShowWindow();
 }
 
 void CsfEditor::Load(const QString& path, qint32 language) {
+    KeepRescue(); // of what nobody was asked about
     // A number beyond the list leaves the list as it was. This is meant.
     if (language < Languages().size())
         state_.LanguageShown = language;
@@ -67,6 +80,7 @@ void CsfEditor::Load(const QString& path, qint32 language) {
     state_.ActionsVisible = true;
     SelectAndClick(0, true);
     state_.Modified = false;
+    rescue_.Opened();
     view_.StateChanged();
     view_.ShowWindow();
 }

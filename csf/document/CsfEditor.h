@@ -6,7 +6,9 @@
 #pragma once
 
 #include "core/Document.h"
+#include "core/rescue/RescueOffers.h"
 #include "csf/document/LabelList.h"
+#include "csf/document/TableRescue.h"
 #include "csf/format/CsfSave.h"
 
 #include <QString>
@@ -111,18 +113,31 @@ public:
 
     /// The question about unsaved changes; false when the window has to stay.
     bool MayClose();
+
+    /// At the editor's start: what is to be offered back.
+    void TellLeft() { offers_.TellLeft(); }
+
+    /// From time to time; whether there is more to be done at once.
+    bool KeepRescue() { return rescue_.KeepRescue(); }
+
     /// Whether the tools menu comes back after the window: not with "/tcsf", and not after a hand-over by another tool.
     [[nodiscard]] static bool MenuFollows();
 
 private:
     /// True, with a beep, while any window reads a table: the open one is taken.
     [[nodiscard]] bool Locked() const;
+    /// The path of a document that has no file yet.
+    [[nodiscard]] static QString NewName();
     bool GoOnWithoutChanges(const QString& name);
     void Load(const QString& path, qint32 language);
     Document::Saved SaveToFileOrName();
     Document::Saved SaveUnderName();
     Document::Saved Write();
     void TellFailedSave() const;
+    [[nodiscard]] RescueOffers::Editor ForOffers();
+    [[nodiscard]] TableRescue::Document Rescued() const;
+    bool OpenRescue(const Rescues::Left& left);
+    void ShowRescued(const RescueFacts& facts, const RescuedTable& table);
     void SelectAndClick(int place, bool focus);
     void Typed(QString* box, const QString& stored);
     void ShowBoxes(bool enabled, const QString& name, const QString& value);
@@ -132,4 +147,6 @@ private:
     LabelList list_;
     std::vector<int> newPlaces_;
     CsfSaves saves_; ///< of the document that is open
+    TableRescue rescue_;
+    RescueOffers offers_;
 };

@@ -24,23 +24,32 @@ Host::FileDialog TableDialog(const QString& path) {
             .Folder = Document::FolderForDialogs(path)};
 }
 
-QString NewName() {
+} // namespace
+
+QString CsfEditor::NewName() {
     return GetText(u"New"_s) + u"CSF.csf"_s;
 }
 
-} // namespace
-
 bool CsfEditor::GoOnWithoutChanges(const QString& name) {
-    return !state_.Modified || Document::GoOnWithoutChanges(name, [this] { return SaveToFileOrName(); });
+    if (!state_.Modified)
+        return true;
+    if (!Document::GoOnWithoutChanges(name, [this] { return SaveToFileOrName(); }))
+        return false;
+    rescue_.GivenUp();
+    return true;
 }
 
 bool CsfEditor::MayClose() {
-    return !Locked() && GoOnWithoutChanges(Paths::ToNative(state_.Path));
+    if (Locked() || !GoOnWithoutChanges(Paths::ToNative(state_.Path)))
+        return false;
+    rescue_.KeepRescue();
+    return true;
 }
 
 void CsfEditor::New() {
     if (Locked() || !GoOnWithoutChanges(Paths::LastPart(state_.Path)))
         return;
+    rescue_.KeepRescue();
     mCSF::CsfStrings.assign(1, {});
     view_.ListChanging(LabelChange::Reset, 0);
     list_.Clear();
@@ -53,6 +62,7 @@ void CsfEditor::New() {
     state_.SizeText = u"-"_s;
     state_.LanguageText = u"0"_s;
     state_.Modified = false;
+    rescue_.Opened();
     ShowBoxes(false, {}, {});
 }
 
@@ -99,14 +109,17 @@ Saved CsfEditor::Write() {
     bool written = false;
     {
         const Busy busy(view_);
+        rescue_.Saving();
         mCSF::CsfStrings = list_.Table();
         written = mCSF::WriteCSF(state_.Path, static_cast<qint16>(state_.LanguageText.toInt()), &saves_);
         Ignoring([&] {
             state_.SizeText = QString::number(Files::FileLength(state_.Path) / 1024) + u' ' + GetText(u"KiloBytes"_s);
         });
         state_.Modified = !written;
-        if (written)
+        if (written) {
             list_.ForgetLost();
+            rescue_.Saved();
+        }
         view_.StateChanged();
     }
     if (!written)

@@ -25,6 +25,13 @@ void LabelList::Load(const std::vector<CsfString>& table) {
     Sort();
 }
 
+void LabelList::Restore(const std::vector<CsfString>& rows) {
+    rows_.clear();
+    rows_.reserve(rows.size());
+    for (const CsfString& row : rows)
+        rows_.push_back({row.Name, row.Value});
+}
+
 QString LabelList::Key(int place) const {
     const int index = Row(place).Index;
     return index < 0 ? QString() : u'I' + QString::number(index);

@@ -31,6 +31,9 @@ public:
     /// Takes the table's entries as rows, sorted by name upwards.
     void Load(const std::vector<CsfString>& table);
 
+    /// Takes rows in the order that they are to stand in, none of them a table's.
+    void Restore(const std::vector<CsfString>& rows);
+
     void Clear() { rows_.clear(); }
 
     [[nodiscard]] std::vector<RowColumn> Columns() const override;

@@ -48,8 +48,9 @@ public:
         target_.Close();
     }
 
+    /// A ".sav" that no save of ours left, beside a file that was missing, may be all that is left of that one.
     void End() {
-        if (Files::FileExists(aside_))
+        if (asideIsOurs_ && Files::FileExists(aside_))
             Files::DeleteForced(aside_);
         saves_.Kept.erase(aside_);
     }

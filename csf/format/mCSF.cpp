@@ -5,6 +5,7 @@
 
 #include "core/Host.h"
 #include "core/mTraduction.h"
+#include "core/rescue/RescuedDocument.h"
 #include "csf/format/CsfRecords.h"
 #include "csf/format/CsfWriting.h"
 #include "platform/Files.h"
@@ -134,6 +135,7 @@ bool WriteCSF(const QString& path, qint16 language, CsfSaves* saves) {
         Save(path, language, told);
         return told.Failure.isEmpty();
     } catch (const RuntimeError& error) {
+        KeepAllRescues();
         Host::Current().Message(FatalText(error), Host::Icon::Critical, Host::Buttons::Ok, {});
         EndProgram();
         return false;

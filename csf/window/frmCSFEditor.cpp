@@ -43,6 +43,8 @@ frmCSFEditor::frmCSFEditor(QWidget* parent)
     Dress();
     ConnectControls();
     StateChanged();
+    editor_.TellLeft();
+    KeepFromTimeToTime([this] { return editor_.KeepRescue(); });
 }
 
 // The controls ask their models for rows as long as they stand: they go before the document does.

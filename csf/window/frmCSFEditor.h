@@ -48,6 +48,10 @@ private:
 
     void ShowNotice(const Notice& notice) override { SetNotice(notice); }
 
+    void ShowOffer(const Notice& offer) override { SetOffer(offer); }
+
+    void OpenFolder(const QString& folder) override { ShowFolder(folder); }
+
     void Dress();
     std::vector<ToolCommand> Commands();
     void ConnectControls();

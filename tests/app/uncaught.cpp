@@ -4,6 +4,7 @@
 #include "app/Application.h"
 #include "platform/RuntimeError.h"
 #include "tests/support/ScriptedHost.h"
+#include "tests/support/UnsavedDocument.h"
 
 #include <gtest/gtest.h>
 
@@ -58,4 +59,13 @@ TEST_F(UncaughtDeathTest, NoMemoryIsShownAndEndsTheProgram) {
 
 TEST_F(UncaughtDeathTest, AnIndexOutOfRangeIsShownAndEndsTheProgram) {
     EXPECT_EXIT(RunWith(std::out_of_range("at 7")), testing::ExitedWithCode(1), "9  Subscript out of range: at 7");
+}
+
+TEST_F(UncaughtDeathTest, WhatIsUnsavedIsKeptToTheEndBeforeTheMessage) {
+    const auto run = [] {
+        const UnkeptDocument unkept;
+        const UnsavedDocument unsaved;
+        RunWith(RuntimeError(ErrorNumber::Subscript, u"No row."_s));
+    };
+    EXPECT_EXIT(run(), testing::ExitedWithCode(1), "kept kept 9  No row\\.");
 }

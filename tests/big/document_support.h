@@ -91,6 +91,10 @@ public:
 
     void ShowNotice(const Notice& notice) override { Told = notice; }
 
+    QString Folder; ///< the last one that was shown
+
+    void OpenFolder(const QString& folder) override { Folder = folder; }
+
     std::vector<int> Selected; ///< places
     int Edited = FolderTree::None;
     ExtractionTarget Target;

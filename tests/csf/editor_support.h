@@ -55,6 +55,10 @@ public:
 
     void ShowNotice(const Notice& notice) override { Told = notice; }
 
+    QString Folder; ///< the last one that was shown
+
+    void OpenFolder(const QString& folder) override { Folder = folder; }
+
 private:
     int open_ = 0;
 };

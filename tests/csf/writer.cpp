@@ -160,10 +160,10 @@ TEST_F(CsfWriter, ABackupThatSomebodyElsePutThereSinceEndsTheProgram) {
     EXPECT_EQ(World::ReadFile(path), before);
 }
 
-TEST_F(CsfWriter, AStaleBackupWithoutItsFileIsDeletedByASave) {
+TEST_F(CsfWriter, AStaleBackupWithoutItsFileIsNoSavesToDelete) {
     Put(u"out.csf.sav"_s, "older");
     Saved();
-    EXPECT_FALSE(Files::FileExists(At(u"out.csf.sav"_s)));
+    EXPECT_EQ(World::ReadFile(At(u"out.csf.sav"_s)), "older") << "it may be all that is left of the file";
 }
 
 TEST_F(CsfWriter, AWriteProtectedFileIsRefusedBeforeAnythingIsTouched) {

@@ -81,6 +81,7 @@ protected:
             if (startFails_)
                 throw RuntimeError(ErrorNumber::FileNotFound, QStringLiteral("can't be started"));
         };
+        programsEnd_ = client_.Download.End;
         client_.Download.End = [this] { ++ends_; };
         view_.OnClose = [this] { client_.WindowClosed(); };
     }
@@ -136,5 +137,6 @@ protected:
     UpdateClient client_{http_, view_, std::chrono::milliseconds(20)};
     QStringList started_;
     bool startFails_ = false;
+    std::function<void()> programsEnd_; ///< how a finished download ends the program
     int ends_ = 0;
 };

@@ -194,6 +194,7 @@ void NoticeStrip::Close() {
     hide();
     if (hadKeyboard && before_ != nullptr)
         before_->setFocus();
+    Q_EMIT Closed();
 }
 
 // The link may show another notice, and closes the window for all we know.

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// A line under the menu bar that tells a user something that needs no answer: a text, up to two links, a cross. Escape
-/// closes it from anywhere in its window.
+/// A line under the menu bar that tells a user something that needs no answer: a text, up to three links, a cross.
+/// Escape closes it from anywhere in its window.
 #pragma once
 
 #include "core/Notice.h"
@@ -18,7 +18,7 @@ class QShortcut;
 class NoticeStrip : public QWidget {
     Q_OBJECT
 public:
-    static constexpr std::size_t MostLinks = 2;
+    static constexpr std::size_t MostLinks = 3;
 
     /// Hidden until there is a notice.
     explicit NoticeStrip(QWidget* parent = nullptr);
@@ -44,6 +44,10 @@ public:
     [[nodiscard]] int heightForWidth(int width) const override;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// It was hidden, by whatever. What is shown now stays.
+    void Closed();
 
 protected:
     bool event(QEvent* event) override;

@@ -5,14 +5,21 @@
 
 #include "core/Navigator.h"
 #include "core/mMain.h"
+#include "core/rescue/RescuedDocument.h"
+#include "platform/Paths.h"
 #include "ui/text/Mnemonics.h"
 #include "ui/window/NoticeStrip.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QMenuBar>
+#include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +46,7 @@ void ToolWindow::MakePlaceForNotices() {
     column->addWidget(notices_);
     column->addWidget(content, 1);
     setCentralWidget(ground);
+    connect(notices_, &NoticeStrip::Closed, this, &ToolWindow::OfferClosed);
 }
 
 // No event reaches the controls meanwhile. Were they disabled, the keyboard's focus would leave them for good.
@@ -50,7 +58,34 @@ void ToolWindow::SetBusy(bool busy) {
 }
 
 void ToolWindow::SetNotice(const Notice& notice) {
-    notices_->ShowNotice(notice);
+    notice_ = notice;
+    if (!isOffer_)
+        notices_->ShowNotice(notice);
+}
+
+void ToolWindow::SetOffer(const Notice& offer) {
+    const bool is = !offer.Text.isEmpty();
+    if (is || isOffer_)
+        notices_->ShowNotice(offer); // an empty one closes it
+    isOffer_ = is;
+}
+
+// A notice that was closed itself is done with.
+void ToolWindow::OfferClosed() {
+    const Notice waiting = std::exchange(notice_, {});
+    if (std::exchange(isOffer_, false) && !waiting.Text.isEmpty())
+        SetNotice(waiting);
+}
+
+void ToolWindow::KeepFromTimeToTime(const std::function<bool()>& keep) {
+    auto* const timer = new QTimer(this);
+    timer->setObjectName(u"tmrRescue"_s);
+    connect(timer, &QTimer::timeout, this, [timer, keep] { timer->start(keep() ? 0 : RescuedDocument::Interval); });
+    timer->start(RescuedDocument::Interval);
+}
+
+void ToolWindow::ShowFolder(const QString& folder) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(Paths::ToNative(folder)));
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

@@ -10,6 +10,7 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <vector>
 
 class NoticeStrip;
@@ -39,8 +40,17 @@ protected:
     /// The busy pointer, on and off again. Pairs nest.
     static void SetBusy(bool busy);
 
-    /// Shows a notice in the place of the one before it; one without a text hides the line.
+    /// Shows a notice in the place of the one before it; one without a text hides the line. It waits behind an offer.
     void SetNotice(const Notice& notice);
+
+    /// Shows an offer in place of whatever stands there, until it is closed; one without a text takes it away.
+    void SetOffer(const Notice& offer);
+
+    /// Asks `keep` for what is new in the document from time to time, and at once while it says that there is more.
+    void KeepFromTimeToTime(const std::function<bool()>& keep);
+
+    /// Shows a folder (an inside path) in the system's own program.
+    static void ShowFolder(const QString& folder);
 
     /// The questions about what would be lost; false when the window has to stay.
     virtual bool MayClose() = 0;
@@ -52,5 +62,9 @@ protected:
 private:
     void MakePlaceForNotices();
 
+    void OfferClosed();
+
     NoticeStrip* notices_ = nullptr;
+    Notice notice_;        ///< shown, or waiting behind the offer
+    bool isOffer_ = false; ///< what is shown is an offer
 };

@@ -4,6 +4,7 @@
 #include "core/mMain.h"
 #include "platform/Files.h"
 #include "tests/windows/big/BigEditorWindow.h"
+#include "ui/window/NoticeStrip.h"
 
 using namespace Qt::StringLiterals;
 using Answer = Host::Answer;
@@ -22,6 +23,28 @@ private Q_SLOTS:
             QVERIFY2(!Part<QAction>(command)->isEnabled(), command);
         for (const int link : {5, 7})
             QVERIFY(!Link(link)->isEnabled());
+    }
+
+    void whatIsAddedIsRescuedAndOfferedBeforeOtherNotices() {
+        OpenArchive();
+        host_->FileNames = {world_->WriteFile(u"new.txt"_s, "new")};
+        Part<QAction>("mnuAdd")->trigger();
+        QVERIFY(window_->isWindowModified());
+        Part<QTimer>("tmrRescue")->start(0);
+        QTRY_VERIFY(::Files::FolderExists(Rescues::Folder()));
+        QTRY_COMPARE(Part<QTimer>("tmrRescue")->interval(), RescuedDocument::Interval);
+        window_.reset();
+        Open();
+        auto* const strip = window_->findChild<NoticeStrip*>();
+        QCOMPARE(strip->Text(), u"Rescued"_s);
+        QVERIFY(Part<QWidget>("lblNoticeLink_1")->isVisible());
+        QTest::mouseClick(Part<QWidget>("lblNoticeLink_0"), Qt::LeftButton);
+        QVERIFY(!strip->isVisible());
+        QVERIFY(window_->isWindowModified());
+        QVERIFY(Rows().contains(u"new.txt"_s));
+        QTest::keyClick(window_.get(), Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!window_->isWindowModified());
+        QCOMPARE(::Files::ListFolder(Rescues::Folder() + u"\\*"_s, true), QStringList());
     }
 
     void newMakesAnArchiveByLinkAndByKey() {

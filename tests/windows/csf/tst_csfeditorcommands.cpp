@@ -3,6 +3,9 @@
 
 #include "platform/Files.h"
 #include "tests/windows/csf/CsfEditorWindow.h"
+#include "ui/window/NoticeStrip.h"
+
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using Answer = Host::Answer;
@@ -19,6 +22,38 @@ private Q_SLOTS:
     void init() { Begin(); }
 
     void cleanup() { End(); }
+
+    void whatIsTypedIsRescuedAndOfferedAtTheNextStart() {
+        Open({{u"1"_s, u"a"_s}});
+        ValueBox()->setFocus();
+        QTest::keyClicks(ValueBox(), u"typed"_s);
+        window_->findChild<QTimer*>(u"tmrRescue"_s)->start(0);
+        QTRY_VERIFY(Files::FolderExists(Rescues::Folder()));
+        window_.reset();
+        Show();
+        auto* const strip = window_->findChild<NoticeStrip*>();
+        QVERIFY(strip->isVisible());
+        QTest::mouseClick(window_->findChild<QWidget*>(u"lblNoticeLink_0"_s), Qt::LeftButton);
+        QVERIFY(!strip->isVisible());
+        QVERIFY(ValueBox()->toPlainText().contains(u"typed"_s));
+        QVERIFY(window_->isWindowModified());
+        QTest::keyClick(window_.get(), Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(!window_->isWindowModified());
+        QCOMPARE(Files::ListFolder(Rescues::Folder() + u"\\*"_s, true), QStringList());
+    }
+
+    void aSavThatAKilledSaveLeftIsOfferedWithThreeLinks() {
+        CsfTable{0, {{u"old"_s, u"a"_s}}}.Write(world_->Root() + u"\\b.csf"_s);
+        Files::Rename(world_->Root() + u"\\b.csf"_s, world_->Root() + u"\\a.csf.new"_s);
+        Open({{u"1"_s, u"a"_s}});
+        Files::Rename(world_->Root() + u"\\a.csf.new"_s, path_ + u".sav"_s);
+        window_->OpenCSFFile(path_);
+        for (const char* const link : {"lblNoticeLink_0", "lblNoticeLink_1", "lblNoticeLink_2"})
+            QVERIFY(Part<QWidget>(link)->isVisible());
+        QTest::mouseClick(Part<QWidget>("lblNoticeLink_0"), Qt::LeftButton);
+        QCOMPARE(ValueBox()->toPlainText(), u"old"_s);
+        QVERIFY(!Files::FileExists(path_ + u".sav"_s));
+    }
 
     void theColumnsAreNameAndValue() {
         world_->UseLanguage("[LNG]\r\nName=Nom\r\nValue=Valeur\r\n");

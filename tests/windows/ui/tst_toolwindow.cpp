@@ -16,6 +16,7 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -41,8 +42,10 @@ public:
         own->trigger();
     }
 
+    using ToolWindow::KeepFromTimeToTime;
     using ToolWindow::SetBusy;
     using ToolWindow::SetNotice;
+    using ToolWindow::SetOffer;
 
     QAction* Exit = new QAction(u"Exit"_s, this);
     QAction* Options = new QAction(u"Options"_s, this);
@@ -111,6 +114,62 @@ private Q_SLOTS:
         window_->Options->trigger();
         QCOMPARE(ends, 1);
         QCOMPARE(window_->Questions, 0);
+    }
+
+    void anOfferStandsUntilItIsClosedAndNoticesWaitBehindIt() {
+        auto* const strip = window_->findChild<NoticeStrip*>();
+        window_->SetOffer({.Text = u"offer"_s});
+        window_->SetNotice({.Text = u"first"_s});
+        window_->SetNotice({.Text = u"second"_s});
+        QCOMPARE(strip->Text(), u"offer"_s);
+        window_->SetOffer({.Text = u"next offer"_s});
+        QCOMPARE(strip->Text(), u"next offer"_s);
+        strip->Close();
+        QCOMPARE(strip->Text(), u"second"_s);
+        strip->Close();
+        QVERIFY(!strip->isVisible());
+        window_->SetOffer({.Text = u"offer"_s});
+        QCOMPARE(strip->Text(), u"offer"_s);
+        window_->SetNotice({.Text = u"notice"_s});
+        window_->SetNotice({});
+        window_->SetOffer({});
+        QVERIFY2(!strip->isVisible(), "the notice was taken back");
+    }
+
+    void anEmptyOfferLeavesTheNotice() {
+        auto* const strip = window_->findChild<NoticeStrip*>();
+        window_->SetNotice({.Text = u"notice"_s});
+        window_->SetOffer({});
+        QCOMPARE(strip->Text(), u"notice"_s);
+    }
+
+    void theLinkOfAnOfferMayShowTheNextOne() {
+        auto* const strip = window_->findChild<NoticeStrip*>();
+        window_->SetNotice({.Text = u"notice"_s});
+        window_->SetOffer({.Text = u"offer"_s,
+                           .Links = {{u"Go"_s, [this] { window_->SetOffer({.Text = u"next"_s}); }},
+                                     {u"B"_s, {}},
+                                     {u"C"_s, [this] { window_->SetNotice({.Text = u"done"_s}); }}}});
+        QTest::mouseClick(window_->findChild<QWidget*>(u"lblNoticeLink_0"_s), Qt::LeftButton);
+        QCOMPARE(strip->Text(), u"next"_s);
+        strip->Close();
+        QCOMPARE(strip->Text(), u"notice"_s);
+        window_->SetOffer(
+            {.Text = u"offer"_s,
+             .Links = {{u"A"_s, {}}, {u"B"_s, {}}, {u"C"_s, [this] { window_->SetNotice({.Text = u"done"_s}); }}}});
+        QTest::mouseClick(window_->findChild<QWidget*>(u"lblNoticeLink_2"_s), Qt::LeftButton);
+        QCOMPARE(strip->Text(), u"done"_s);
+    }
+
+    void theDocumentIsAskedFromTimeToTime() {
+        int asked = 0;
+        window_->KeepFromTimeToTime([&] { return ++asked < 3; });
+        auto* const timer = window_->findChild<QTimer*>(u"tmrRescue"_s);
+        QVERIFY(timer != nullptr && timer->isActive());
+        QCOMPARE(timer->interval(), 30'000);
+        timer->start(0);
+        QTRY_COMPARE(asked, 3);
+        QCOMPARE(timer->interval(), 30'000);
     }
 
     void closingAsksOnceAndGoesBackToTheMenu() {

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "csf/document/TableRescue.h"
+
+#include "platform/RuntimeError.h"
+
+#include <QDataStream>
+#include <QIODevice>
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto streamVersion = QDataStream::Qt_6_4;
+
+/// Another order is no change: an opening sorts the rows too.
+std::vector<CsfString> Sorted(std::vector<CsfString> rows) {
+    std::ranges::sort(rows, [](const CsfString& a, const CsfString& b) {
+        return std::tie(a.Name, a.Value) < std::tie(b.Name, b.Value);
+    });
+    return rows;
+}
+
+} // namespace
+
+const QString TableRescue::Kind = u"csf"_s;
+
+QByteArray RescuedTable::Encoded() const {
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setVersion(streamVersion);
+    out << LanguageText << LanguageShown << static_cast<qint64>(Rows.size());
+    for (const CsfString& row : Rows)
+        out << row.Name << row.Value << row.Extra.has_value() << row.Extra.value_or(QByteArray()) << row.IsMore;
+    return bytes;
+}
+
+RescuedTable RescuedTable::Decoded(const QByteArray& bytes) {
+    QDataStream in(bytes);
+    in.setVersion(streamVersion);
+    RescuedTable table;
+    qint64 count = 0;
+    in >> table.LanguageText >> table.LanguageShown >> count;
+    // A row takes its two lengths at least.
+    for (qint64 row = 0; row < count && in.status() == QDataStream::Ok; ++row) {
+        CsfString entry;
+        QByteArray extra;
+        bool hasExtra = false;
+        in >> entry.Name >> entry.Value >> hasExtra >> extra >> entry.IsMore;
+        if (hasExtra)
+            entry.Extra = extra;
+        table.Rows.push_back(std::move(entry));
+    }
+    if (in.status() != QDataStream::Ok || count < 0)
+        throw RuntimeError(ErrorNumber::PathFileAccess, u"This is no rescued table."_s);
+    return table;
+}
+
+void TableRescue::Opened() {
+    file_ = Sorted(document_().Table.Rows);
+    given_.reset();
+    kept_.reset();
+    copy_.LetGo();
+}
+
+void TableRescue::Saving() {
+    file_.reset();
+    given_.reset();
+    KeepRescue();
+}
+
+void TableRescue::Saved() {
+    file_ = Sorted(document_().Table.Rows);
+    KeepRescue();
+}
+
+void TableRescue::GivenUp() {
+    given_ = Sorted(document_().Table.Rows);
+    KeepRescue();
+}
+
+bool TableRescue::Adopt(const QString& folder) {
+    if (!copy_.Adopt(folder))
+        return false;
+    file_.reset();
+    given_.reset();
+    kept_.reset();
+    return true;
+}
+
+bool TableRescue::Differs(const RescuedTable& table) const {
+    const std::vector<CsfString> rows = Sorted(table.Rows);
+    return rows != file_ && rows != given_;
+}
+
+bool TableRescue::KeepSome() {
+    Document now = document_();
+    if (!Differs(now.Table)) {
+        copy_.Discard();
+        kept_.reset();
+        return false;
+    }
+    if (kept_ == now.Table && keptPath_ == now.Path)
+        return false;
+    copy_.Keep(now.Path, now.NeverSaved, now.Table.Encoded());
+    kept_ = std::move(now.Table);
+    keptPath_ = now.Path;
+    return false;
+}
+
+void TableRescue::TellFailed(const QString& reason) {
+    failed_(reason);
+}
