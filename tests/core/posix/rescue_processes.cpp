@@ -129,7 +129,7 @@ TEST_F(RescueProcesses, KilledAtAnyMomentItIsWholeOrAbsent) {
 TEST_F(RescueProcesses, AFullDiskLeavesWhatWasKept) {
     RescueCopy copy(u"csf"_s);
     copy.Keep(u"C:\\a.csf"_s, false, "kept");
-    for (const rlim_t bytes : {0, 1, 20, 60, 1000}) {
+    for (const rlim_t bytes : {rlim_t{0}, rlim_t{1}, rlim_t{20}, rlim_t{60}, rlim_t{1000}}) {
         const FileLengthLimit limit(bytes);
         EXPECT_THROW(copy.Keep(u"C:\\a.csf"_s, false, QByteArray(2000, 'x')), RuntimeError) << bytes;
     }
