@@ -6,9 +6,12 @@
 #include "core/GameFiles.h"
 #include "core/SettingKeys.h"
 #include "core/Settings.h"
+#include "core/mMain.h"
 #include "personal/MapsFolder.h"
 #include "platform/Clock.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
@@ -82,6 +85,7 @@ public:
     void Take(const QString& folder) const {
         if (Files::IsLink(path_))
             return;
+        Leftovers::Sweep(Paths::ToNative(folder) + u'/');
         for (const QString& name : Files::ListFolder(folder + u'\\')) {
             const QString from = folder + u'\\' + name;
             const QString to = path_ + u'\\' + name;
@@ -118,6 +122,8 @@ void mShellMaps::ActivateShellMapBy(const std::function<float()>& random, GameIn
     Ignoring([&] {
         const MapsFolder maps(game);
         if (!maps.IsThere())
+            return;
+        if (!mMain::Registry().IsReadable()) // a mode that can't be read is not one that says "none"
             return;
         Target target(maps, game);
         const QString mode = ModeOf(game);

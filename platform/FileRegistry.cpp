@@ -4,6 +4,7 @@
 #include "platform/FileRegistry.h"
 
 #include "platform/AnsiCodec.h"
+#include "platform/Files.h"
 #include "platform/FolderLock.h"
 #include "platform/Paths.h"
 #include "platform/RegistryText.h"
@@ -252,10 +253,10 @@ bool FileRegistry::Load() const {
 }
 
 std::optional<FolderLock> FileRegistry::Lock() const {
-    const QString folder = QFileInfo(path_).path();
-    if (!QDir().mkpath(folder))
+    const QString folder = Paths::FromNative(QDir::toNativeSeparators(QFileInfo(path_).path()));
+    if (!Ignoring([&] { Files::MakeFolders(folder); }))
         return std::nullopt;
-    return FolderLock::WaitedFor(Paths::FromNative(QDir::toNativeSeparators(folder)), patience);
+    return FolderLock::WaitedFor(folder, patience);
 }
 
 bool FileRegistry::Store(const QString& text) {

@@ -28,6 +28,9 @@ public:
 
     [[nodiscard]] const QString& Path() const { return path_; }
 
+    /// False for a file that stands there and can't be read: nothing is known of it then, also what reads as missing.
+    [[nodiscard]] bool IsReadable() const { return Load(); }
+
     /// The value under the key; for machine-wide software also where an export of a 64-bit system keeps the 32-bit
     /// programs' keys.
     [[nodiscard]] RegistryValue Read(RootKey root, const QString& path, const QString& name) const;

@@ -58,6 +58,9 @@ public:
     /// The next reads look in this Wine prefix before the others (the suite's own file stays first). Empty for none.
     void LookFirstIn(const QString& prefix);
 
+    /// False while the place of the suite's own settings can't be read: they read as missing then, and are not.
+    [[nodiscard]] bool IsReadable() const;
+
 private:
     class Source;
     std::unique_ptr<Source> source_;

@@ -11,6 +11,7 @@
 #include "platform/Console.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
+#include "platform/SaveLock.h"
 #include "platform/WriteAside.h"
 
 #include <QStringList>
@@ -91,6 +92,7 @@ void SetValue(CsfTable& table, const std::string& given) {
 }
 
 void SaveTable(const Arguments& given) {
+    const SaveLock lock(given.Path("TARGET"));
     CsfTable table = ReadTableArgument(given.Raw("FILE"));
     table.Language = given.Number("--language").value_or(table.Language);
     for (const QString& name : given.Texts("--delete"))
@@ -144,6 +146,7 @@ void Diff(const Arguments& given) {
 }
 
 void Merge(const Arguments& given) {
+    const SaveLock lock(given.Path("TARGET"));
     const CsfTable base = ReadTableArgument(given.Raw("BASE"));
     const CsfTable ours = ReadTableArgument(given.Raw("OURS"));
     const CsfTable theirs = ReadTableArgument(given.Raw("THEIRS"));

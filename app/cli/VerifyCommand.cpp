@@ -7,6 +7,8 @@
 #include "big/format/OffsetShift.h"
 #include "big/format/Verification.h"
 #include "platform/File.h"
+#include "platform/Paths.h"
+#include "platform/SaveLock.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -72,14 +74,15 @@ void Verify(const Arguments& given) {
 }
 
 void Repair(const Arguments& given) {
+    const SaveLock lock(given.Path("TARGET"));
     Archive archive = ReadArchive(given.Path("ARCHIVE"));
     const qint64 length = File::Open(archive.FileName, File::Access::Read).Length();
     const OffsetShift::Shift shift = OffsetShift::ShiftOf(archive, length);
     if (shift.IsNone())
-        Fail(archive.FileName,
+        Fail(Paths::ToNative(archive.FileName),
              u"the data lie where the directory says, or are shifted in no way that saves shift them"_s);
     if (shift.ExactFits && !given.Has("--shifted"))
-        Fail(archive.FileName, u"the archive can as well be right; --shifted takes it for shifted"_s);
+        Fail(Paths::ToNative(archive.FileName), u"the archive can as well be right; --shifted takes it for shifted"_s);
     Archives::Write(OffsetShift::ReadShiftedBack(std::move(archive), shift), given.Path("TARGET"),
                     Archives::Placement::Exact);
 }

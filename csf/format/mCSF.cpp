@@ -34,6 +34,8 @@ public:
     }
 
     void Close() override { NumberedFiles::Close(mCSF::FileNumber); }
+
+    [[nodiscard]] bool FailureEndsProgram() const override { return true; }
 };
 
 QByteArray WholeFile(const QString& path) {

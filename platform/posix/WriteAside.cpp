@@ -3,6 +3,7 @@
 
 #include "platform/WriteAside.h"
 
+#include "platform/Leftovers.h"
 #include "platform/Paths.h"
 #include "platform/PrivateName.h"
 #include "platform/ReplacedFile.h"
@@ -11,6 +12,7 @@
 #include "platform/posix/Transfer.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -34,9 +36,12 @@ QString FolderOf(const QString& native) {
 std::optional<struct stat> StatusOf(const QString& native) {
     struct stat status {};
 
-    if (::stat(Paths::EncodeNative(native).constData(), &status) != 0)
-        return std::nullopt;
-    return status;
+    if (::stat(Paths::EncodeNative(native).constData(), &status) == 0)
+        return status;
+    const int error = errno;
+    NoteErrno(error, native);
+    errno = error;
+    return std::nullopt;
 }
 
 /// The path that a chain of links ends at, also where nothing stands there; empty when there are too many.
@@ -62,7 +67,11 @@ int RefusalOf(const QString& native, const QString& name) {
         throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name));
     if ((status->st_mode & AnyWriteBit) == 0)
         return EACCES; // the system's administrator too keeps a file that was protected
-    return ::faccessat(AT_FDCWD, Paths::EncodeNative(native).constData(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+    if (::faccessat(AT_FDCWD, Paths::EncodeNative(native).constData(), W_OK, AT_EACCESS) == 0)
+        return 0;
+    const int error = errno;
+    NoteErrno(error, name);
+    return error;
 }
 
 /// The permissions that a new file gets where nobody asks for others.
@@ -115,6 +124,7 @@ WriteAside::WriteAside(const QString& target, Names names)
         Raise(ELOOP);
     if (const int error = RefusalOf(target_, name_); error != 0)
         Raise(error);
+    Leftovers::Sweep(FolderOf(target_));
     int number = -1;
     do {
         aside_ = FolderOf(target_) + PrivateName();
@@ -123,6 +133,7 @@ WriteAside::WriteAside(const QString& target, Names names)
     } while (number < 0 && errno == EEXIST);
     if (number < 0)
         Raise(errno == ENOENT ? ENOTDIR : errno);
+    static_cast<void>(::flock(number, LOCK_EX | LOCK_NB)); // while it is held, nobody sweeps it away
     out_ = File(number, name_);
 }
 

@@ -178,6 +178,10 @@ QString RegistryRuntime::PrefixOf(RootKey /*root*/, const QString& /*path*/, con
     return {};
 }
 
+bool RegistryRuntime::IsReadable() const {
+    return !source_->File || source_->File->IsReadable();
+}
+
 void RegistryRuntime::LookFirstIn(const QString& /*prefix*/) {
     // There are no Wine prefixes on Windows.
 }

@@ -3,6 +3,7 @@
 
 #include "platform/WriteAside.h"
 
+#include "platform/Leftovers.h"
 #include "platform/PrivateName.h"
 #include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
@@ -67,6 +68,7 @@ WriteAside::WriteAside(const QString& target, Names names) : name_(target), targ
         throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name_));
     if (Has(attributes, FILE_ATTRIBUTE_READONLY))
         Raise(ERROR_ACCESS_DENIED);
+    Leftovers::Sweep(FolderOf(target_));
     HANDLE handle = INVALID_HANDLE_VALUE;
     do {
         aside_ = FolderOf(target_) + PrivateName();

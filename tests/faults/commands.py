@@ -6,6 +6,7 @@
 import dataclasses
 import re
 
+import told
 import worlds
 
 
@@ -20,7 +21,7 @@ class Row:
     several: bool = False  # several files are written one by one: each is the old one or the new one for itself
     follows: bool = True  # what is called after a process died ends as an undisturbed run does
     same: object = None  # turns bytes of a path into what two runs have in common
-    told: list = dataclasses.field(default_factory=list)  # ends that are meant: see judge.TOLD
+    keeps: object = None  # (state after, state before) -> what else does not hold
 
 
 PAIRS = [("GUI:Ok", "Fine"), ("GUI:No", "Never"), ("GUI:Long", "A text that goes on " * 300)]
@@ -100,16 +101,18 @@ ROWS = [
     Row("csf merge", ["csf", "merge", "t.csf", "t.csf", "theirs.csf", "old.csf"], tables),
     Row("zip create", ["zip", "create", "z.zip", "--storage", "1", "--recurse", "--overwrite", "files/*.*"], folder),
     Row("install an archive", ["install", "pack.zip", *GAME, "--all", "--yes"], installable, several=True,
+        follows=False, same=without_times),
+    Row("install a mod", ["install", "Alone.big", *GAME, "--yes"], installable, several=True, follows=False,
         same=without_times),
-    Row("install a mod", ["install", "Alone.big", *GAME, "--yes"], installable, several=True, same=without_times),
     Row("installed uninstall", ["installed", "uninstall", "1", "--yes"], installable,
-        before=[["install", "pack.zip", *GAME, "--all", "--yes"]], several=True, same=without_times),
+        before=[["install", "pack.zip", *GAME, "--all", "--yes"]], again=["install", "Alone.big", *GAME, "--yes"], several=True, follows=False,
+        same=without_times),
     Row("export to a ZIP", ["export", *GAME, *MAP, "--mod", "Mod.big", "--shellmap", "2", "--zip", "e.zip"], worlds.game),
     Row("export to a folder", ["export", *GAME, *MAP, "--mod", "Mod.big", "--shellmap", "2", "--folder", "taken"],
         worlds.game, several=True),
     Row("shellmaps activate", ["shellmaps", "activate", "gen"], shell_maps, several=True),
     Row("shellmaps delete", ["shellmaps", "delete", "gen", "1", "--yes"], shell_maps, several=True,
-        again=["shellmaps", "list", "gen"], follows=False),
+        again=["shellmaps", "delete", "gen", "1", "--yes"], follows=False, keeps=told.nothing_lost),
     Row("setting set", ["setting", "set", "BigView", "2"]),
     Row("ini set", ["ini", "set", "B", "Three", "3", "map.ini"], ini),
     Row("ini set in a new file", ["ini", "set", "B", "Three", "3", "new.ini"], ini),
