@@ -46,11 +46,10 @@ int Pick(int highest, const std::function<float()>& random) {
 }
 
 /// Which number of the store is asked for, as text of any length.
-QString NumberAskedFor(GameIndex game, const QString& mode, int highest, const std::function<float()>& random) {
+QString NumberAskedFor(const QString& mode, int highest, const std::function<float()>& random) {
     if (mode == u"Random")
         return QString::number(Pick(highest, random));
-    const QString asked = ReadSetting(SettingKeys::ShellMapMode(game));
-    return asked.sliced(std::min(LoadLength, asked.size()));
+    return mode.sliced(std::min(LoadLength, mode.size()));
 }
 
 /// The folder where a game looks for its shell map.
@@ -123,15 +122,16 @@ void mShellMaps::ActivateShellMapBy(const std::function<float()>& random, GameIn
         const MapsFolder maps(game);
         if (!maps.IsThere())
             return;
-        if (!mMain::Registry().IsReadable()) // a mode that can't be read is not one that says "none"
-            return;
         Target target(maps, game);
+        static_cast<void>(mMain::Registry().WasReadable());
         const QString mode = ModeOf(game);
+        if (!mMain::Registry().WasReadable()) // a mode that can't be read is not one that says "none"
+            return;
         if (mode.isEmpty()) {
             target.Empty();
             target.Remove();
         } else if (const std::optional<int> highest = GameFiles::HighestShellMapNumber(game)) {
-            Fill(target, maps, game, NumberAskedFor(game, mode, *highest, random));
+            Fill(target, maps, game, NumberAskedFor(mode, *highest, random));
         }
     });
 }

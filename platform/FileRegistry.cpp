@@ -244,8 +244,10 @@ bool FileRegistry::RemoveValue(RootKey root, const QString& path, const QString&
 
 bool FileRegistry::Load() const {
     QByteArray bytes;
-    if (!Ignoring([&] { bytes = WholeOrNothing(InsidePath()); }))
+    if (!Ignoring([&] { bytes = WholeOrNothing(InsidePath()); })) {
+        refused_ = true;
         return false;
+    }
     // The bytes tell for certain whether the file changed; times and sizes don't.
     if (bytes != now_->Bytes)
         *now_ = Document(bytes);

@@ -58,8 +58,9 @@ public:
     /// The next reads look in this Wine prefix before the others (the suite's own file stays first). Empty for none.
     void LookFirstIn(const QString& prefix);
 
-    /// False while the place of the suite's own settings can't be read: they read as missing then, and are not.
-    [[nodiscard]] bool IsReadable() const;
+    /// False when the suite's own settings could not be read at some time since this was asked last: what read as
+    /// missing then need not be.
+    [[nodiscard]] bool WasReadable();
 
 private:
     class Source;

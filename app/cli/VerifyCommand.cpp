@@ -61,9 +61,13 @@ void PrintLines(const Archive& archive, const std::vector<Finding>& findings, qs
 }
 
 void Verify(const Arguments& given) {
-    const Archive archive = ReadArchive(given.Path("ARCHIVE"));
-    const std::vector<Finding> findings =
-        Verification::Verify(archive, File::Open(archive.FileName, File::Access::Read));
+    Archive archive = ReadArchive(given.Path("ARCHIVE"));
+    File file = File::Open(archive.FileName, File::Access::Read);
+    while (file.State() != archive.Stood) { // saved over meanwhile
+        archive = ReadArchive(archive.FileName);
+        file = File::Open(archive.FileName, File::Access::Read);
+    }
+    const std::vector<Finding> findings = Verification::Verify(archive, file);
     const qsizetype faults = std::ranges::count_if(findings, IsFault);
     if (given.Has("--json"))
         PrintJson(archive, findings, faults);

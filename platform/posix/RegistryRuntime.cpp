@@ -168,8 +168,8 @@ QString RegistryRuntime::PrefixOf(RootKey root, const QString& path, const QStri
     return found.Prefix == nullptr ? QString() : found.Prefix->Folder();
 }
 
-bool RegistryRuntime::IsReadable() const {
-    return source_->Own.IsReadable();
+bool RegistryRuntime::WasReadable() {
+    return source_->Own.WasReadable();
 }
 
 void RegistryRuntime::LookFirstIn(const QString& prefix) {

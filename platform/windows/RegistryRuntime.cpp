@@ -178,8 +178,8 @@ QString RegistryRuntime::PrefixOf(RootKey /*root*/, const QString& /*path*/, con
     return {};
 }
 
-bool RegistryRuntime::IsReadable() const {
-    return !source_->File || source_->File->IsReadable();
+bool RegistryRuntime::WasReadable() {
+    return !source_->File || source_->File->WasReadable();
 }
 
 void RegistryRuntime::LookFirstIn(const QString& /*prefix*/) {

@@ -94,10 +94,16 @@ def complaint(run):
         yield f"names no file: {run.words.strip()!r}"
 
 
+def is_named(path, words):
+    """Whether what is left stands in a line of the command's: the file, or the folder of its own that it is in."""
+    private = [part for part in path.split("/") if is_private(part)]
+    return any(part in words for part in private)
+
+
 def nothing_left(run):
     if run.fault == "KILL" or (run.always and run.fault in ("EIO", "EACCES", "EROFS", "EMFILE")):
         return  # it could not tidy up; the next one does
-    if left := leftovers(run.after):
+    if left := [path for path in leftovers(run.after) if not is_named(path, run.words)]:
         yield f"leaves {', '.join(left)}"
 
 

@@ -52,7 +52,9 @@ def fewer_entries(found, before, clean, every):
     if found is None or clean is None:
         return False
     with zipfile.ZipFile(io.BytesIO(found)) as part, zipfile.ZipFile(io.BytesIO(clean)) as whole:
-        return part.testzip() is None and all(part.read(name) == whole.read(name) for name in part.namelist())
+        known = set(whole.namelist())
+        return part.testzip() is None and all(name in known and part.read(name) == whole.read(name)
+                                              for name in part.namelist())
 
 
 def lower_number(found, before, clean, every):
