@@ -107,6 +107,7 @@ void FollowPrefixes(GameIndex game) {
 
 void mMain::DetectGames() {
     Paths::ForgetPrefixes();
+    static_cast<void>(Registry().WasReadable());
     for (const GameIndex game : {ZeroHour, Generals, BattleForMiddleEarth, GameCount - 1})
         Game.at(static_cast<std::size_t>(game)).InstallPath =
             Registry().GetString(RootKey::LocalMachine, GameKey(game), InstallPathName());
@@ -118,6 +119,11 @@ void mMain::DetectGames() {
     }
     for (GameIndex game = 0; game < GameCount; ++game)
         Game.at(static_cast<std::size_t>(game)).GameBigFiles = OwnBigFiles(game);
+    if (Registry().WasReadable())
+        return;
+    // Folders whose places read as empty would be others than the games'.
+    Game = {};
+    throw RuntimeError(ErrorNumber::DeviceError, u"the settings could not be read"_s);
 }
 
 QString mMain::InstallPathFoundIn(GameIndex game) {

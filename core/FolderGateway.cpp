@@ -5,6 +5,7 @@
 
 #include "core/CaseFolding.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
@@ -110,6 +111,7 @@ FolderGateway::FolderGateway(const QString& folder) {
         throw RuntimeError(ErrorNumber::PathNotFound, u"%1: no such folder"_s.arg(Paths::ToNative(folder)));
     if (!root_.endsWith(u'\\'))
         root_ += u'\\';
+    Leftovers::Sweep(Paths::ToNativeAsGiven(root_));
     top_ = std::make_shared<HeldFolder>(root_);
     Forget();
 }
@@ -223,6 +225,7 @@ void FolderGateway::Find(Folder& folder, QStringView relative) {
             Refuse(relative, u"leads out of its folder"_s);
     }
     auto forget = qScopeGuard([this] { heldFolder_ = nullptr; });
+    Leftovers::Sweep(Paths::ToNativeAsGiven(Hold(folder)->Path()));
     folder.Take(Hold(folder)->Names());
     forget.dismiss();
 }

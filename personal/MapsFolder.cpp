@@ -4,7 +4,9 @@
 #include "personal/MapsFolder.h"
 
 #include "platform/Files.h"
+#include "platform/ListedFolder.h"
 #include "platform/Paths.h"
+#include "platform/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,8 +16,11 @@ MapsFolder::MapsFolder(GameIndex game) {
     const QString maps = Paths::Real(install + u"Maps"_s);
     if (!Holds(maps) || !Files::FolderExists(maps))
         return;
-    maps_ = maps;
-    names_ = Files::ListFolder(maps_ + u'\\', true);
+    // What is in a folder that can't be listed would be taken for missing.
+    Ignoring([&] {
+        names_ = ListedFolder(maps).Names(true);
+        maps_ = maps;
+    });
 }
 
 QString MapsFolder::Find(const QString& name) const {

@@ -6,9 +6,12 @@
 #include "core/GameFiles.h"
 #include "core/SettingKeys.h"
 #include "core/Settings.h"
+#include "core/mMain.h"
 #include "personal/MapsFolder.h"
 #include "platform/Clock.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
@@ -43,11 +46,10 @@ int Pick(int highest, const std::function<float()>& random) {
 }
 
 /// Which number of the store is asked for, as text of any length.
-QString NumberAskedFor(GameIndex game, const QString& mode, int highest, const std::function<float()>& random) {
+QString NumberAskedFor(const QString& mode, int highest, const std::function<float()>& random) {
     if (mode == u"Random")
         return QString::number(Pick(highest, random));
-    const QString asked = ReadSetting(SettingKeys::ShellMapMode(game));
-    return asked.sliced(std::min(LoadLength, asked.size()));
+    return mode.sliced(std::min(LoadLength, mode.size()));
 }
 
 /// The folder where a game looks for its shell map.
@@ -82,6 +84,7 @@ public:
     void Take(const QString& folder) const {
         if (Files::IsLink(path_))
             return;
+        Leftovers::Sweep(Paths::ToNative(folder) + u'/');
         for (const QString& name : Files::ListFolder(folder + u'\\')) {
             const QString from = folder + u'\\' + name;
             const QString to = path_ + u'\\' + name;
@@ -120,12 +123,15 @@ void mShellMaps::ActivateShellMapBy(const std::function<float()>& random, GameIn
         if (!maps.IsThere())
             return;
         Target target(maps, game);
+        static_cast<void>(mMain::Registry().WasReadable());
         const QString mode = ModeOf(game);
+        if (!mMain::Registry().WasReadable()) // a mode that can't be read is not one that says "none"
+            return;
         if (mode.isEmpty()) {
             target.Empty();
             target.Remove();
         } else if (const std::optional<int> highest = GameFiles::HighestShellMapNumber(game)) {
-            Fill(target, maps, game, NumberAskedFor(game, mode, *highest, random));
+            Fill(target, maps, game, NumberAskedFor(mode, *highest, random));
         }
     });
 }

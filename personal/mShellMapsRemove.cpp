@@ -7,6 +7,9 @@
 #include "core/GameFiles.h"
 #include "personal/MapsFolder.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
+#include "platform/ListedFolder.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
@@ -67,7 +70,11 @@ private:
                 Files::MakeFolder(target);
             });
         QStringList stuck;
-        for (const QString& name : Files::ListFolder(source + u'\\')) {
+        Leftovers::Sweep(Paths::ToNative(source) + u'/');
+        // A folder that can't be listed has more than is seen: nothing may take its place.
+        const QStringList names =
+            maps_.Has(Paths::LastPart(source)) ? ListedFolder(source).Names(false) : QStringList();
+        for (const QString& name : names) {
             if (MoveDown(name, source, target))
                 FileMoves::Copied(ToldFolder(from) + u'\\' + name, ToldFolder(from - 1) + u'\\' + name);
             else

@@ -4,6 +4,7 @@
 #include "platform/FileRegistry.h"
 
 #include "platform/AnsiCodec.h"
+#include "platform/Files.h"
 #include "platform/FolderLock.h"
 #include "platform/Paths.h"
 #include "platform/RegistryText.h"
@@ -243,8 +244,10 @@ bool FileRegistry::RemoveValue(RootKey root, const QString& path, const QString&
 
 bool FileRegistry::Load() const {
     QByteArray bytes;
-    if (!Ignoring([&] { bytes = WholeOrNothing(InsidePath()); }))
+    if (!Ignoring([&] { bytes = WholeOrNothing(InsidePath()); })) {
+        refused_ = true;
         return false;
+    }
     // The bytes tell for certain whether the file changed; times and sizes don't.
     if (bytes != now_->Bytes)
         *now_ = Document(bytes);
@@ -252,10 +255,10 @@ bool FileRegistry::Load() const {
 }
 
 std::optional<FolderLock> FileRegistry::Lock() const {
-    const QString folder = QFileInfo(path_).path();
-    if (!QDir().mkpath(folder))
+    const QString folder = Paths::FromNative(QDir::toNativeSeparators(QFileInfo(path_).path()));
+    if (!Ignoring([&] { Files::MakeFolders(folder); }))
         return std::nullopt;
-    return FolderLock::WaitedFor(Paths::FromNative(QDir::toNativeSeparators(folder)), patience);
+    return FolderLock::WaitedFor(folder, patience);
 }
 
 bool FileRegistry::Store(const QString& text) {

@@ -17,6 +17,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 class FileRegistry {
 public:
@@ -27,6 +28,10 @@ public:
     FileRegistry& operator=(const FileRegistry&) = delete;
 
     [[nodiscard]] const QString& Path() const { return path_; }
+
+    /// False when the file stood there and could not be read, at any time since this was asked last: what read as
+    /// missing then need not be.
+    [[nodiscard]] bool WasReadable() { return !std::exchange(refused_, false); }
 
     /// The value under the key; for machine-wide software also where an export of a 64-bit system keeps the 32-bit
     /// programs' keys.
@@ -54,4 +59,5 @@ private:
 
     QString path_;
     std::unique_ptr<Document> now_; ///< what the file held when it was last looked at
+    mutable bool refused_ = false;
 };

@@ -58,6 +58,10 @@ public:
     /// The next reads look in this Wine prefix before the others (the suite's own file stays first). Empty for none.
     void LookFirstIn(const QString& prefix);
 
+    /// False when the suite's own settings could not be read at some time since this was asked last: what read as
+    /// missing then need not be.
+    [[nodiscard]] bool WasReadable();
+
 private:
     class Source;
     std::unique_ptr<Source> source_;

@@ -20,9 +20,15 @@ namespace {
 void CheckSavable(const Archive& archive, const QString& target, bool exact) {
     const auto kept = std::ranges::count(archive.Entries, false, &BigEntry::Deleted);
     if (Archives::IsBlank(archive) || kept == 0)
-        Fail(target, u"no entry would be left"_s);
+        Fail(Paths::ToNative(target), u"no entry would be left"_s);
     if (archive.Entries.size() < 2 && !exact)
-        Fail(target, u"an archive of fewer than two entries can't be saved without --exact"_s);
+        Fail(Paths::ToNative(target), u"an archive of fewer than two entries can't be saved without --exact"_s);
+}
+
+/// A file that the system could not read may well be an archive.
+bool IsOfTheSystem(const RuntimeError& error) {
+    const int number = error.Number();
+    return number == ErrorNumber::DeviceError || number == ErrorNumber::PermissionDenied;
 }
 
 void FailAsGone(const BigEntry& entry) {
@@ -43,20 +49,23 @@ Archive ReadArchive(const QString& path) {
     try {
         Archive archive = Archives::Read(file);
         archive.FileName = path;
+        archive.Stood = file.State();
         return archive;
-    } catch (const RuntimeError&) {
+    } catch (const RuntimeError& error) {
+        if (IsOfTheSystem(error))
+            throw;
         FailAsNoArchive(path);
     }
 }
 
 void FailAsNoArchive(const QString& path) {
-    Fail(path, u"not a BIG archive, or one without entries"_s);
+    Fail(Paths::ToNative(path), u"not a BIG archive, or one without entries"_s);
 }
 
 int EntryNamed(const Archive& archive, const QString& name) {
     const int index = name.isEmpty() ? -1 : Archives::Find(archive, name);
     if (index < 0)
-        Fail(archive.FileName, u"no entry is named %1"_s.arg(name));
+        Fail(Paths::ToNative(archive.FileName), u"no entry is named %1"_s.arg(name));
     return index;
 }
 

@@ -5,6 +5,8 @@
 #include "app/cli/BigCommands.h"
 #include "app/cli/Output.h"
 #include "big/format/ArchiveEdits.h"
+#include "platform/Paths.h"
+#include "platform/SaveLock.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,22 +18,23 @@ bool IsFolder(const QString& name) {
     return name.endsWith(u'\\');
 }
 
-void Save(const Archive& archive, const Arguments& given) {
-    SaveArchive(archive, given.Has("--target") ? given.Path("--target") : archive.FileName, given);
+QString TargetOf(const Arguments& given) {
+    return given.Path(given.Has("--target") ? "--target" : "ARCHIVE");
 }
 
 /// Fails when an edit of a folder found no entry.
 void CheckFound(int count, const Archive& archive, const QString& folder) {
     if (count == 0)
-        Fail(archive.FileName, u"no entry is in %1"_s.arg(folder));
+        Fail(Paths::ToNative(archive.FileName), u"no entry is in %1"_s.arg(folder));
 }
 
 void Rename(const Arguments& given) {
     const QString old = given.Text("OLD");
     const QString text = given.Text("NEW");
+    const SaveLock lock(TargetOf(given));
     Archive archive = ReadArchive(given.Path("ARCHIVE"));
     if (text.isEmpty() || text.contains(u'\\'))
-        Fail(archive.FileName, u"%1 is no last part of a name"_s.arg(text));
+        Fail(Paths::ToNative(archive.FileName), u"%1 is no last part of a name"_s.arg(text));
     if (IsFolder(old)) {
         CheckFound(ArchiveEdits::RenameFolder(archive, old, ArchiveEdits::RenamedKey(old, text)), archive, old);
     } else {
@@ -39,10 +42,11 @@ void Rename(const Arguments& given) {
         const QString name = archive.Entries[static_cast<std::size_t>(index)].Name;
         ArchiveEdits::RenameEntry(archive, index, name.sliced(name.lastIndexOf(u'\\') + 1), text);
     }
-    Save(archive, given);
+    SaveArchive(archive, TargetOf(given), given);
 }
 
 void Delete(const Arguments& given) {
+    const SaveLock lock(TargetOf(given));
     Archive archive = ReadArchive(given.Path("ARCHIVE"));
     for (const QString& name : given.Texts("NAME")) {
         if (IsFolder(name))
@@ -50,7 +54,7 @@ void Delete(const Arguments& given) {
         else
             ArchiveEdits::DeleteEntry(archive, EntryNamed(archive, name));
     }
-    Save(archive, given);
+    SaveArchive(archive, TargetOf(given), given);
 }
 
 Parameter Target() {

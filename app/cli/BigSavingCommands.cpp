@@ -9,6 +9,7 @@
 #include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/SaveLock.h"
 
 #include <algorithm>
 #include <tuple>
@@ -25,6 +26,7 @@ ArchiveEdits::Source SourceAt(const QString& path) {
 }
 
 void Save(const Arguments& given) {
+    const SaveLock lock(given.Path("TARGET"));
     Archive archive = ReadArchive(given.Path("ARCHIVE"));
     archive.Version = given.Number("--version").value_or(archive.Version);
     for (const QString& name : given.Texts("--delete"))
@@ -58,7 +60,7 @@ std::vector<BigEntry> TableOf(const QString& folder, const QString& target, bool
     for (std::size_t i = 0; i < files.size(); ++i) {
         const auto& [folded, name, path] = files[i];
         if (i > 0 && folded == std::get<0>(files[i - 1]))
-            Fail(path, u"differs from another file only in case"_s);
+            Fail(Paths::ToNative(path), u"differs from another file only in case"_s);
         table.push_back({.Name = name, .IsNew = true, .SourcePath = path});
     }
     return table;
@@ -68,7 +70,7 @@ void Create(const Arguments& given) {
     const QString folder = given.Path("FOLDER");
     const QString target = given.Path("TARGET");
     if (!Files::FolderExists(folder))
-        Fail(folder, u"no such folder"_s);
+        Fail(Paths::ToNative(folder), u"no such folder"_s);
     SaveArchive({TableOf(folder, target, given.Has("--lossy")), given.Number("--version").value_or(0), {}}, target,
                 given);
 }

@@ -58,7 +58,12 @@ void AddTo(CLI::App& app, const Command& command) {
     taken.reserve(command.Parameters.size());
     for (const Parameter& parameter : command.Parameters)
         taken.push_back({&parameter, AddTo(*added, parameter)});
-    added->callback([taken, &command] { command.Run(ArgumentsOf(taken)); });
+    added->callback([taken, &command] {
+        command.Run(ArgumentsOf(taken));
+        Flush();
+        if (command.PassesOver && ReportRefusals())
+            EndWith(1);
+    });
 }
 
 } // namespace

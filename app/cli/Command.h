@@ -62,6 +62,7 @@ struct Command {
     std::string Description;
     std::vector<Parameter> Parameters;
     std::function<void(const Arguments&)> Run;
+    bool PassesOver = false; ///< steps of it are passed over when they fail: it ends with 1 when the system refused any
 };
 
 /// Commands that stand behind one word; without a word they stand alone.

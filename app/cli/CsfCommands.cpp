@@ -10,6 +10,7 @@
 #include "platform/Console.h"
 #include "platform/File.h"
 #include "platform/Paths.h"
+#include "platform/SaveLock.h"
 #include "platform/Wildcards.h"
 #include "platform/WriteAside.h"
 
@@ -106,6 +107,7 @@ void SetValue(const Arguments& given, CsfTable& table, const std::string& set) {
 }
 
 void SaveTable(const Arguments& given) {
+    const SaveLock lock(given.Path("TARGET"));
     TableFile file = ReadTableFile(given, "FILE");
     CsfTable& table = file.Table;
     table.Language = given.Number("--language").value_or(table.Language);
@@ -187,6 +189,7 @@ void Import(const Arguments& given) {
         WarnOfLostLetters(given, entry);
     if (!given.Has("--into"))
         return WriteTableFile(given, made);
+    const SaveLock lock(given.Path("TARGET"));
     TableFile base = ReadTableFile(given, "--into");
     PutInto(base.Table, table);
     base.Table.Language = given.Number("--language").value_or(base.Table.Language);

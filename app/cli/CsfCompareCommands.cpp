@@ -9,6 +9,7 @@
 #include "platform/Console.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/SaveLock.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -129,6 +130,7 @@ void TellConflicts(const CsfMerged& merged, bool asJson) {
 }
 
 void Merge(const Arguments& given) {
+    const SaveLock lock(given.Path("TARGET"));
     const CsfTable base = ReadTableOrNothing(given, "BASE").Table;
     TableFile ours = ReadTableFile(given, "OURS");
     const CsfTable theirs = ReadTableFile(given, "THEIRS").Table;

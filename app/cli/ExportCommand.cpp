@@ -197,5 +197,6 @@ std::vector<Command> ExportCommands() {
               {.What = Kind::Flag,
                .Name = "--utf8",
                .Description = "Names that the code page lacks letters for in UTF-8, and not with '?' for them"}},
-             Export}};
+             Export,
+             true}};
 }

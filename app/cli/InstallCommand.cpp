@@ -160,5 +160,6 @@ std::vector<Command> InstallCommands() {
           ListRows::Json(),
           {Kind::Flag, "--yes", "Answer Yes where a window would ask; without it such items are left out"},
           {Kind::Option, "--password", "Opens what is encrypted"}},
-         Install}};
+         Install,
+         true}};
 }

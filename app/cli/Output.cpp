@@ -6,6 +6,7 @@
 #include "platform/Console.h"
 #include "platform/Paths.h"
 #include "platform/Processes.h"
+#include "platform/Refusals.h"
 
 #include <QScopeGuard>
 
@@ -19,6 +20,12 @@ namespace {
 constexpr qsizetype GatheredBytes = 65536;
 
 QByteArray& Gathered() {
+    static QByteArray bytes;
+    return bytes;
+}
+
+/// What stands on standard error by now.
+QByteArray& Told() {
     static QByteArray bytes;
     return bytes;
 }
@@ -114,6 +121,8 @@ void Flush() {
 
 void EndWith(int exitCode) {
     Flush();
+    if (exitCode != 0)
+        ReportRefusals();
     Processes::End(exitCode);
 }
 
@@ -124,8 +133,19 @@ void Fail(const QString& file, const QString& reason) {
 int Report(const RuntimeError& error) {
     QString line = error.Description();
     line.replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ');
-    Console::WriteError("brindock-cli: " + Paths::EncodeNative(InLine(line)) + '\n');
+    const QByteArray told = "brindock-cli: " + Paths::EncodeNative(InLine(line)) + '\n';
+    Told() += told;
+    Console::WriteError(told);
     return 1;
+}
+
+bool ReportRefusals() {
+    const QStringList refusals = Refusals::All();
+    for (const QString& refusal : refusals) {
+        if (!Told().contains(Paths::EncodeNative(refusal)))
+            Report({ErrorNumber::DeviceError, refusal});
+    }
+    return !refusals.isEmpty();
 }
 
 QString ArgumentText(const std::string& argument) {

@@ -33,7 +33,7 @@ void PrintRow(std::span<const QStringView> columns);
 /// Raises when standard output takes no more.
 void Flush();
 
-/// Ends the program with an exit code, once everything is printed.
+/// Ends the program with an exit code, once everything is printed; a code that tells of a failure with the refusals.
 [[noreturn]] void EndWith(int exitCode);
 
 /// Ends the command: `file` and the reason stand on standard error, and the exit code is 1.
@@ -41,6 +41,9 @@ void Flush();
 
 /// Tells a failure in one line on standard error and returns the exit code 1.
 int Report(const RuntimeError& error);
+
+/// Tells what the system refused on the way and no line told yet; false when it refused nothing.
+bool ReportRefusals();
 
 /// The text of an argument of the command line.
 QString ArgumentText(const std::string& argument);

@@ -108,10 +108,12 @@ std::vector<Command> ShellMapCommands() {
             {"delete",
              "Delete shell maps; those above each move one number down",
              {GameArgument::Word(), Number(Kind::Places, "Shell maps as list prints them before"), ListRows::Yes()},
-             Delete},
+             Delete,
+             true},
             {"activate",
              "Put the chosen shell map in place, as a launch does before it starts the game",
              {GameArgument::Word()},
-             Activate},
+             Activate,
+             true},
             DescribeCommand()};
 }

@@ -7,6 +7,8 @@
 #include "big/format/OffsetShift.h"
 #include "big/format/Verification.h"
 #include "platform/File.h"
+#include "platform/Paths.h"
+#include "platform/SaveLock.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -59,9 +61,13 @@ void PrintLines(const Archive& archive, const std::vector<Finding>& findings, qs
 }
 
 void Verify(const Arguments& given) {
-    const Archive archive = ReadArchive(given.Path("ARCHIVE"));
-    const std::vector<Finding> findings =
-        Verification::Verify(archive, File::Open(archive.FileName, File::Access::Read));
+    Archive archive = ReadArchive(given.Path("ARCHIVE"));
+    File file = File::Open(archive.FileName, File::Access::Read);
+    while (file.State() != archive.Stood) { // saved over meanwhile
+        archive = ReadArchive(archive.FileName);
+        file = File::Open(archive.FileName, File::Access::Read);
+    }
+    const std::vector<Finding> findings = Verification::Verify(archive, file);
     const qsizetype faults = std::ranges::count_if(findings, IsFault);
     if (given.Has("--json"))
         PrintJson(archive, findings, faults);
@@ -72,14 +78,15 @@ void Verify(const Arguments& given) {
 }
 
 void Repair(const Arguments& given) {
+    const SaveLock lock(given.Path("TARGET"));
     Archive archive = ReadArchive(given.Path("ARCHIVE"));
     const qint64 length = File::Open(archive.FileName, File::Access::Read).Length();
     const OffsetShift::Shift shift = OffsetShift::ShiftOf(archive, length);
     if (shift.IsNone())
-        Fail(archive.FileName,
+        Fail(Paths::ToNative(archive.FileName),
              u"the data lie where the directory says, or are shifted in no way that saves shift them"_s);
     if (shift.ExactFits && !given.Has("--shifted"))
-        Fail(archive.FileName, u"the archive can as well be right; --shifted takes it for shifted"_s);
+        Fail(Paths::ToNative(archive.FileName), u"the archive can as well be right; --shifted takes it for shifted"_s);
     Archives::Write(OffsetShift::ReadShiftedBack(std::move(archive), shift), given.Path("TARGET"),
                     Archives::Placement::Exact);
 }

@@ -49,5 +49,6 @@ std::vector<Command> ZipCreateCommands() {
               {Kind::Flag, "--recurse", "Look for the same names in all subfolders too"},
               {Kind::Flag, "--overwrite", "Replace OUT where it exists"},
               {.What = Kind::Places, .Name = "PATTERN", .Required = true}},
-             Create}};
+             Create,
+             true}};
 }

@@ -37,6 +37,13 @@ CommandGroup Big() {
     return group;
 }
 
+/// A failure, and what may have led to it.
+int ReportAll(const RuntimeError& error) {
+    const int code = Report(error);
+    ReportRefusals();
+    return code;
+}
+
 int Run(const std::vector<std::string>& words) {
     ScriptHost host;
     mMain::UseRuntimes();
@@ -64,8 +71,8 @@ int main(int argc, char** argv) {
     try {
         return Run(ProcessArguments(argc, argv));
     } catch (const RuntimeError& error) {
-        return Report(error);
+        return ReportAll(error);
     } catch (const std::exception& error) {
-        return Report(RuntimeError(ErrorNumber::InvalidCall, QString::fromLocal8Bit(error.what())));
+        return ReportAll(RuntimeError(ErrorNumber::InvalidCall, QString::fromLocal8Bit(error.what())));
     }
 }

@@ -10,6 +10,7 @@
 #pragma once
 
 #include "big/format/OffsetShift.h"
+#include "platform/File.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -34,6 +35,7 @@ struct Archive {
     std::vector<BigEntry> Entries;
     qint32 Version = 0; ///< 0 "L225", 1 "L231", 2 "L219", 3 "L253"
     QString FileName;   ///< inside path; old entries are read from there
+    FileState Stood{};  ///< what was at FileName when it was read, where that is known: another file has other offsets
 };
 
 namespace Archives {
@@ -75,7 +77,7 @@ OffsetShift::Shift Write(const Archive& archive, Device& target, const Device* o
                          const Watch& watch = {});
 
 /// Writes a whole file in one step: what stands at `path` stands there still when this raises. Old entries come out of
-/// FileName, which may be `path`.
+/// FileName, which may be `path`; raises when that is not the file any more that was read.
 OffsetShift::Shift Write(const Archive& archive, const QString& path, Placement placement, const Watch& watch = {});
 
 /// The indices of the entries, but for deleted ones, whose SourcePath is to be written and does not exist.

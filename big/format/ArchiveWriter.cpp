@@ -9,6 +9,7 @@
 #include "platform/AnsiCodec.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/SaveLock.h"
 #include "platform/WriteAside.h"
 
 #include <QtEndian>
@@ -138,6 +139,20 @@ private:
     WritePlan::Plan plan_;
 };
 
+/// Whether bytes come out of the archive that the table was read from.
+bool NeedsOld(const Archive& archive) {
+    return std::ranges::any_of(archive.Entries,
+                               [](const BigEntry& entry) { return !entry.IsNew && !entry.Deleted && entry.Size > 0; });
+}
+
+/// The archive that the table was read from, and no other one that stands in its place.
+File OpenOld(const Archive& archive) {
+    File old = File::Open(archive.FileName, File::Access::Read);
+    if (!archive.Stood.Identity.isEmpty() && old.State() != archive.Stood)
+        throw RuntimeError(ErrorNumber::PermissionDenied, old.Name() + u": was changed since it was read"_s);
+    return old;
+}
+
 } // namespace
 
 namespace Archives {
@@ -152,12 +167,14 @@ OffsetShift::Shift Write(const Archive& archive, Device& target, const Device* o
 }
 
 OffsetShift::Shift Write(const Archive& archive, const QString& path, Placement placement, const Watch& watch) {
+    const SaveLock lock(path);
     WriteAside aside(path);
     OffsetShift::Shift shift;
     {
         // Closed again before the rename, which may be over it.
         File old;
-        Ignoring([&] { old = File::Open(archive.FileName, File::Access::Read); });
+        if (NeedsOld(archive))
+            old = OpenOld(archive);
         shift = Write(archive, aside.Out(), old.IsOpen() ? &old : nullptr, placement, watch);
     }
     aside.Commit();

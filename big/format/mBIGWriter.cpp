@@ -12,6 +12,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/SaveLock.h"
 #include "platform/WriteAside.h"
 
 #include <QScopedValueRollback>
@@ -74,6 +75,7 @@ void PutInPlace(WriteAside& aside, const QString& path, OriginalBytes* originals
 Shift WriteTo(const QString& path, const mBIG::SaveOptions& options, Progress& progress) {
     WritePlan::CheckCount(mBIG::Open(), Paths::ToNative(path));
     const bool fromOriginals = options.FromOriginals && options.Originals != nullptr && options.Originals->AreKnown();
+    const SaveLock lock(path);
     WriteAside aside(path);
     Shift shift = WriteBytes(aside.Out(), options, fromOriginals, progress);
     PutInPlace(aside, path, options.Originals, fromOriginals);

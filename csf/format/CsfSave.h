@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// The road of a save: the file that stood there is renamed to its name and ".sav", the new one is written, the ".sav"
-/// is deleted. A save that breaks off leaves it.
+/// The road of a save: the new file is written under a private name, the file that stood there is renamed to its name
+/// and ".sav", the new one takes its place, the ".sav" is deleted. A save that breaks off before leaves what stood
+/// there; who looks meanwhile finds the old file, none, or the new one whole.
 #pragma once
 
 #include "csf/format/CsfTable.h"
@@ -35,6 +36,9 @@ public:
     virtual File& Open(const QString& path) = 0;
     /// Raises when the system reports a failed write only now.
     virtual void Close() = 0;
+
+    /// Whether what fails up to the header ends the program; the old file is the ".sav" then. This is meant.
+    [[nodiscard]] virtual bool FailureEndsProgram() const { return false; }
 };
 
 /// Why a save over this file is refused, for a person; empty when it is not: a write-protected file stays.

@@ -35,6 +35,8 @@ public:
     }
 
     void Close() override { NumberedFiles::Close(mCSF::FileNumber); }
+
+    [[nodiscard]] bool FailureEndsProgram() const override { return true; }
 };
 
 QByteArray WholeFile(const QString& path) {

@@ -122,8 +122,8 @@ private:
     void AddMap(const ExportSource& source) {
         const QString& path = source.Record.Path;
         const QString above = path.first(std::max<qsizetype>(0, path.size() - source.Record.Name.size()));
-        // Going to a folder that is missing fails, and the one before stays.
-        if (Files::FolderExists(above))
+        // Going to a folder that is missing fails, and the one before stays. Where files were found, it is there.
+        if (!source.Files.empty() || Files::FolderExists(above))
             zip_.CurrentDirectory = above;
         const qint32 before = zip_.FileCount();
         const Failure failure = FailureOf([&] { zip_.FileAdd(path + u"\\*.*"_s, ZipClass::Relative, true); });

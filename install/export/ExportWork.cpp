@@ -24,6 +24,16 @@ QString IniValue(const QString& text) {
     return quoted || text != text.trimmed() ? u'"' + text + u'"' : text;
 }
 
+/// What exports left whose process died.
+void SweepScratch() {
+    const QString scratch = ProgramFolders::ScratchFolder() + u'\\';
+    for (const QString& name : Files::ListFolder(scratch, true)) {
+        const bool isFolder = IsPrivateName(name) && !Files::IsLink(scratch + name);
+        if (isFolder && FolderLock(scratch + name).Held())
+            Files::DeleteFolder(scratch + name);
+    }
+}
+
 } // namespace
 
 void ExportWork::Advance(qint64 bytes) {
@@ -37,10 +47,13 @@ void ExportWork::Advance(qint64 bytes) {
 
 ExportScratch::ExportScratch() : folder_(ProgramFolders::ScratchFolder() + u'\\' + PrivateName()) {
     Files::MakeFolders(ProgramFolders::ScratchFolder());
+    SweepScratch();
     Files::MakeFolder(folder_);
+    own_.emplace(folder_);
 }
 
 ExportScratch::~ExportScratch() {
+    own_.reset();
     Ignoring([&] { Files::DeleteFolder(folder_); });
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "install/export/Exporting.h"
+#include "platform/FolderLock.h"
 
 #include <QByteArray>
 #include <QString>
@@ -40,6 +41,7 @@ public:
 
 private:
     QString folder_;
+    std::optional<FolderLock> own_; ///< while it is held, nobody sweeps the folder away
 };
 
 namespace ExportFiles {

@@ -7,6 +7,7 @@
 #include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/FolderLock.h"
+#include "platform/Leftovers.h"
 #include "platform/OwnFolder.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
@@ -27,10 +28,15 @@ public:
         lock_.emplace(FolderLock::WaitedFor(InstallJournal::Folder(), patience));
         if (!lock_->Held())
             throw RuntimeError(ErrorNumber::PermissionDenied,
-                               Paths::ToNative(InstallJournal::File()) + u": another program is changing it"_s);
+                               Paths::ToNative(InstallJournal::File()) + Reason(lock_->State()));
     }
 
 private:
+    static QString Reason(FolderLock::Result state) {
+        return state == FolderLock::Result::Taken ? u": another program is changing it"_s
+                                                  : u": its folder can't be locked"_s;
+    }
+
     std::optional<FolderLock> lock_;
 };
 
@@ -138,6 +144,8 @@ Journal InstallJournal::Read() {
 
 void InstallJournal::Change(const std::function<bool(Journal&)>& change) {
     const JournalLock lock;
+    for (const QString& install : Files::ListFolder(Folder() + u'\\', true))
+        Leftovers::Sweep(Paths::ToNative(Folder() + u'\\' + install) + u'/');
     const Journal before = Recovered(Recognised(Stored()));
     Journal after = before;
     if (!change(after))

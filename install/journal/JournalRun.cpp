@@ -7,6 +7,7 @@
 #include "install/journal/JournalText.h"
 #include "install/journal/KeptFiles.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
@@ -179,6 +180,7 @@ void JournalRun::LookAt(const QString& path, Folder& folder) {
         MakesFolder(made);
         return;
     }
+    Leftovers::Sweep(Paths::ToNative(path)); // they are nobody's, and did not stand here before
     for (const QString& name : Files::ListFolder(path, true))
         folder.Names.emplace(JournalKey(name), Folder::StoodBefore);
     if (folder.Names.empty())

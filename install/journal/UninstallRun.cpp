@@ -9,6 +9,7 @@
 #include "personal/mShellMaps.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/PrivateName.h"
 #include "platform/RuntimeError.h"
 
 #include <QSet>
@@ -58,18 +59,39 @@ private:
         return (file.What == Fate::Changed || file.What == Fate::Unknown) && !file.File.Kept.isEmpty();
     }
 
+    /// On some systems nothing is renamed over a write-protected file, which steps aside then.
+    static void TakePlace(const QString& aside, const QString& path) {
+        if (Ignoring([&] { Files::Replace(aside, path); }))
+            return;
+        const QString old = Paths::Folder(path) + PrivateName();
+        Files::Rename(path, old);
+        try {
+            Files::Replace(aside, path);
+        } catch (const RuntimeError&) {
+            Ignoring([&] { Files::Rename(old, path); });
+            throw;
+        }
+        Ignoring([&] { Files::DeleteForced(old); });
+    }
+
     /// What is kept aside stays there until the journal names it no longer.
     static void PutBack(const JournalFile& file) {
         const QString kept = InstallJournal::KeptPath(file.Kept);
         if (Ignoring([&] { KeptFiles::Copy(kept, file.Path); }))
             return;
-        const QString folder = Paths::Folder(file.Path).chopped(1);
+        const QString folder = Paths::Folder(file.Path);
         if (!Files::FileExists(kept))
             throw RuntimeError(ErrorNumber::FileNotFound, Paths::ToNative(kept) + u": what was put aside is gone"_s);
-        Files::MakeFolders(folder);
-        if (Files::FileExists(file.Path))
-            Files::DeleteForced(file.Path); // write-protected
-        KeptFiles::Copy(kept, file.Path);
+        Files::MakeFolders(folder.chopped(1));
+        // A write-protected file goes once the other one is there.
+        const QString aside = folder + PrivateName();
+        try {
+            KeptFiles::Copy(kept, aside);
+            TakePlace(aside, file.Path);
+        } catch (const RuntimeError&) {
+            Ignoring([&] { Files::DeleteForced(aside); });
+            throw;
+        }
     }
 
     bool TakeOut(Journal& journal) {

@@ -4,19 +4,24 @@
 #include "platform/CopiedTime.h"
 
 #include "platform/Paths.h"
+#include "platform/posix/Errors.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 
 #include <array>
+#include <cerrno>
 
 void CopiedTime::Keep(const QString& from, const QString& copy) {
     struct stat status {};
 
-    if (::stat(Paths::EncodeNative(Paths::ToNative(from)).constData(), &status) != 0)
-        return;
+    const QString source = Paths::ToNative(from);
+    const QString target = Paths::ToNativeAsGiven(copy);
+    if (::stat(Paths::EncodeNative(source).constData(), &status) != 0)
+        return NoteErrno(errno, source);
     const std::array<timespec, 2> times{timespec{.tv_sec = 0, .tv_nsec = UTIME_OMIT}, status.st_mtim};
-    ::utimensat(AT_FDCWD, Paths::EncodeNative(Paths::ToNativeAsGiven(copy)).constData(), times.data(), 0);
+    if (::utimensat(AT_FDCWD, Paths::EncodeNative(target).constData(), times.data(), 0) != 0)
+        NoteErrno(errno, target);
 }
 
 void CopiedTime::Keep(const File& from, const File& copy) {

@@ -3,6 +3,7 @@
 
 #include "platform/posix/Errors.h"
 
+#include "platform/Refusals.h"
 #include "platform/RuntimeError.h"
 
 #include <cerrno>
@@ -37,9 +38,35 @@ int NumberOf(int error) {
     }
 }
 
+QString ReasonOf(int error) {
+    return QString::fromLocal8Bit(std::strerror(error));
+}
+
 } // namespace
 
 void RaiseErrno(int error, const QString& nativePath) {
-    const QString reason = QString::fromLocal8Bit(std::strerror(error));
-    throw RuntimeError(NumberOf(error), QStringLiteral("%1: %2").arg(nativePath, reason));
+    RaiseErrno(error, nativePath, NumberOf(error));
+}
+
+void RaiseErrno(int error, const QString& nativePath, int number) {
+    NoteErrno(error, nativePath);
+    throw RuntimeError(number, QStringLiteral("%1: %2").arg(nativePath, ReasonOf(error)));
+}
+
+void NoteErrno(int error, const QString& nativePath) {
+    switch (error) {
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case ENOSPC:
+    case EDQUOT:
+    case EIO:
+    case EMFILE:
+    case ENFILE:
+    case ENOMEM:
+    case ESTALE:
+        return Refusals::Note(nativePath, ReasonOf(error));
+    default: // an answer, as that nothing stands there
+        return;
+    }
 }

@@ -71,8 +71,11 @@ File OpenNative(int folder, const QByteArray& path, const QString& name, File::A
 
     struct stat status {};
 
-    if (::fstat(number, &status) != 0 || !S_ISREG(status.st_mode)) {
+    const int error = ::fstat(number, &status) == 0 ? 0 : errno;
+    if (error != 0 || !S_ISREG(status.st_mode)) {
         ::close(number);
+        if (error != 0)
+            RaiseErrno(error, name);
         RaiseNoFile(name);
     }
     if (access == File::Access::Read)
@@ -138,6 +141,9 @@ void File::SetLength(qint64 length) {
 FileState StateOf(const QString& path) {
     struct stat status {};
 
-    const bool there = ::stat(Paths::EncodeNative(Paths::ToNative(path)).constData(), &status) == 0;
+    const QString native = Paths::ToNative(path);
+    const bool there = ::stat(Paths::EncodeNative(native).constData(), &status) == 0;
+    if (!there)
+        NoteErrno(errno, native);
     return there && S_ISREG(status.st_mode) ? StateFrom(status) : FileState();
 }

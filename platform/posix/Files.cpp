@@ -47,10 +47,19 @@ std::optional<struct stat> Status(const QString& path) {
     const Native given = Native::AsGiven(path);
     if (::stat(given.Path(), &status) == 0)
         return status;
+    NoteErrno(errno, given.Text);
     const Native found(path);
-    if (found.Bytes == given.Bytes || ::stat(found.Path(), &status) != 0)
-        return std::nullopt;
-    return status;
+    if (found.Bytes != given.Bytes && ::stat(found.Path(), &status) == 0)
+        return status;
+    return std::nullopt;
+}
+
+/// What stands there, a link itself.
+bool LookAt(const Native& native, struct stat& status) {
+    const bool there = ::lstat(native.Path(), &status) == 0;
+    if (!there)
+        NoteErrno(errno, native.Text);
+    return there;
 }
 
 /// A folder path without its trailing backslash; the root keeps it.
@@ -134,7 +143,7 @@ Standing StandingAsGiven(const QString& path) {
 
     struct stat status {};
 
-    if (::lstat(native.Path(), &status) != 0)
+    if (!LookAt(native, status))
         return Standing::Nothing;
     if (S_ISLNK(status.st_mode) && ::stat(native.Path(), &status) != 0)
         return Standing::LinkToNowhere;
@@ -144,13 +153,13 @@ Standing StandingAsGiven(const QString& path) {
 bool IsLink(const QString& path) {
     struct stat status {};
 
-    return ::lstat(Native(path).Path(), &status) == 0 && S_ISLNK(status.st_mode);
+    return LookAt(Native(path), status) && S_ISLNK(status.st_mode);
 }
 
 bool IsLinkAsGiven(const QString& path) {
     struct stat status {};
 
-    return ::lstat(Native::AsGiven(path).Path(), &status) == 0 && S_ISLNK(status.st_mode);
+    return LookAt(Native::AsGiven(path), status) && S_ISLNK(status.st_mode);
 }
 
 void RemoveLink(const QString& path) {

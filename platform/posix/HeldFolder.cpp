@@ -120,7 +120,10 @@ struct HeldFolder::System {
     }
 
     bool Status(const QString& name, struct stat& status) const {
-        return ::fstatat(Folder.Number(), NativeName(name).constData(), &status, AT_SYMLINK_NOFOLLOW) == 0;
+        if (::fstatat(Folder.Number(), NativeName(name).constData(), &status, AT_SYMLINK_NOFOLLOW) == 0)
+            return true;
+        NoteErrno(errno, name);
+        return false;
     }
 
     [[nodiscard]] int MakeAside(const QByteArray& name) const {

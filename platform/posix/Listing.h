@@ -6,6 +6,7 @@
 
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+#include "platform/posix/Errors.h"
 
 #include <dirent.h>
 #include <sys/stat.h>
@@ -22,7 +23,7 @@ public:
         : name_(nativeFolder),
           directory_(::opendir(Paths::EncodeNative(nativeFolder).constData()), &::closedir) {
         if (!directory_)
-            Raise();
+            Raise(errno);
     }
 
     /// Takes over the descriptor of an open folder; `nativeFolder` is for the message. Raises 76 when that is none.
@@ -55,7 +56,10 @@ public:
 
     /// What stands behind an entry, links followed; false where nothing does.
     bool StatusOf(const dirent& entry, struct stat& status) const {
-        return ::fstatat(Descriptor(), static_cast<const char*>(entry.d_name), &status, 0) == 0;
+        const bool known = ::fstatat(Descriptor(), static_cast<const char*>(entry.d_name), &status, 0) == 0;
+        if (!known)
+            NoteErrno(errno, name_ + u'/' + Paths::DecodeNative(static_cast<const char*>(entry.d_name)));
+        return known;
     }
 
     /// The system mostly tells what an entry is, and a look at it can be saved.
@@ -75,12 +79,12 @@ private:
         errno = 0; // the one way to tell an end from a failure
         const dirent* entry = ::readdir(directory_.get());
         if (entry == nullptr && errno != 0)
-            Raise();
+            Raise(errno);
         return entry;
     }
 
-    [[noreturn]] void Raise() const {
-        throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(name_));
+    [[noreturn]] void Raise(int error) const {
+        RaiseErrno(error, QStringLiteral("%1: can't be listed").arg(name_), ErrorNumber::PathNotFound);
     }
 
     QString name_;

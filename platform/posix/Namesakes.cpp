@@ -4,12 +4,14 @@
 #include "platform/Namesakes.h"
 
 #include "platform/Paths.h"
+#include "platform/posix/Errors.h"
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <memory>
 
 namespace {
@@ -25,10 +27,21 @@ Directory Open(int parent, const QByteArray& name) {
     return directory;
 }
 
+const dirent* ReadOn(const Directory& directory, const QString& name) {
+    errno = 0; // the one way to tell an end from a failure
+    const dirent* entry = ::readdir(directory.get());
+    if (entry == nullptr)
+        NoteErrno(errno, name);
+    return entry;
+}
+
 bool IsFile(int parent, const QByteArray& name) {
     struct stat status {};
 
-    return ::fstatat(parent, name.constData(), &status, 0) == 0 && !S_ISDIR(status.st_mode);
+    const bool there = ::fstatat(parent, name.constData(), &status, 0) == 0;
+    if (!there)
+        NoteErrno(errno, Paths::DecodeNative(name));
+    return there && !S_ISDIR(status.st_mode);
 }
 
 /// The look that is needed where no name is spelt as asked.
@@ -36,7 +49,7 @@ bool HoldsInAnyCase(int parent, const QByteArray& folder, const QString& name) {
     const Directory directory = Open(parent, folder);
     if (!directory)
         return false;
-    while (const dirent* entry = ::readdir(directory.get())) {
+    while (const dirent* entry = ReadOn(directory, Paths::DecodeNative(folder))) {
         const QByteArray found(static_cast<const char*>(entry->d_name));
         if (Paths::DecodeNative(found).compare(name, Qt::CaseInsensitive) == 0 &&
             IsFile(::dirfd(directory.get()), found))
@@ -57,11 +70,13 @@ QStringList FoldersWithNamesake(const QString& folder, const QString& ending) {
     const QString path = folder.endsWith(u'\\') ? folder.chopped(1) : folder;
     const Directory directory = Open(AT_FDCWD, Paths::EncodeNative(Paths::ToNative(path)));
     QStringList names;
-    if (!directory)
+    if (!directory) {
+        NoteErrno(errno, Paths::ToNative(path));
         return names;
+    }
     const int parent = ::dirfd(directory.get());
     const QByteArray end = Paths::EncodeNative(ending);
-    while (const dirent* entry = ::readdir(directory.get())) {
+    while (const dirent* entry = ReadOn(directory, path)) {
         if (!MayBeFolder(*entry))
             continue;
         const QByteArray name(static_cast<const char*>(entry->d_name));

@@ -3,12 +3,15 @@
 
 #include "platform/Paths.h"
 
+#include "platform/posix/Errors.h"
+
 #include <QStringList>
 
 #include <dirent.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -51,15 +54,20 @@ QString DriveFolder(const QString& path) {
 }
 
 bool Exists(const QString& nativePath) {
-    return ::access(Paths::EncodeNative(nativePath).constData(), F_OK) == 0;
+    const bool exists = ::access(Paths::EncodeNative(nativePath).constData(), F_OK) == 0;
+    if (!exists)
+        NoteErrno(errno, nativePath);
+    return exists;
 }
 
 /// The name in the folder that equals `name` but for case; `name` itself when there is none.
 QString FindWithoutCase(const QString& folder, const QString& name) {
     const std::unique_ptr<DIR, int (*)(DIR*)> listing(
         ::opendir(Paths::EncodeNative(folder.isEmpty() ? QStringLiteral(".") : folder).constData()), &::closedir);
-    if (!listing)
+    if (!listing) {
+        NoteErrno(errno, folder);
         return name;
+    }
     while (const dirent* entry = ::readdir(listing.get())) {
         QString found = Paths::DecodeNative(static_cast<const char*>(entry->d_name));
         if (found.compare(name, Qt::CaseInsensitive) == 0)
@@ -161,8 +169,10 @@ QString Absolute(const QString& nativePath) {
     const std::filesystem::path given(EncodeNative(nativePath).toStdString());
     std::error_code error;
     std::filesystem::path resolved = std::filesystem::weakly_canonical(std::filesystem::absolute(given, error), error);
-    if (error)
+    if (error) {
+        NoteErrno(error.value(), nativePath);
         resolved = std::filesystem::absolute(given, error).lexically_normal();
+    }
     return FromNative(DecodeNative(QByteArray::fromStdString(resolved.string())));
 }
 
@@ -182,6 +192,8 @@ QString AbsoluteIn(const QString& folder, const QString& path) {
 QString Real(const QString& path) {
     const std::unique_ptr<char, void (*)(void*)> found(::realpath(EncodeNative(ToNative(path)).constData(), nullptr),
                                                        &std::free);
+    if (!found)
+        NoteErrno(errno, ToNative(path));
     return found ? FromNative(DecodeNative(found.get())) : QString();
 }
 

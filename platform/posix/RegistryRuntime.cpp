@@ -168,6 +168,10 @@ QString RegistryRuntime::PrefixOf(RootKey root, const QString& path, const QStri
     return found.Prefix == nullptr ? QString() : found.Prefix->Folder();
 }
 
+bool RegistryRuntime::WasReadable() {
+    return source_->Own.WasReadable();
+}
+
 void RegistryRuntime::LookFirstIn(const QString& prefix) {
     source_->PutFirst(prefix);
 }

@@ -3,6 +3,7 @@
 
 #include "platform/WriteAside.h"
 
+#include "platform/Leftovers.h"
 #include "platform/Paths.h"
 #include "platform/PrivateName.h"
 #include "platform/ReplacedFile.h"
@@ -11,6 +12,7 @@
 #include "platform/posix/Transfer.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -40,9 +42,12 @@ std::optional<struct stat> StatusOf(const QString& native, const HeldFolder* fol
     struct stat status {};
 
     const int flags = folder == nullptr ? 0 : AT_SYMLINK_NOFOLLOW;
-    if (::fstatat(FolderNumber(folder), Paths::EncodeNative(native).constData(), &status, flags) != 0)
-        return std::nullopt;
-    return status;
+    if (::fstatat(FolderNumber(folder), Paths::EncodeNative(native).constData(), &status, flags) == 0)
+        return status;
+    const int error = errno;
+    NoteErrno(error, native);
+    errno = error;
+    return std::nullopt;
 }
 
 bool IsLink(const struct stat& status) {
@@ -74,8 +79,11 @@ int RefusalOf(const QString& native, const QString& name, const HeldFolder* fold
         throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a file").arg(name));
     if ((status->st_mode & AnyWriteBit) == 0)
         return EACCES; // the system's administrator too keeps a file that was protected
-    const QByteArray path = Paths::EncodeNative(native);
-    return ::faccessat(FolderNumber(folder), path.constData(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+    if (::faccessat(FolderNumber(folder), Paths::EncodeNative(native).constData(), W_OK, AT_EACCESS) == 0)
+        return 0;
+    const int error = errno;
+    NoteErrno(error, name);
+    return error;
 }
 
 /// The permissions that a new file gets where nobody asks for others.
@@ -142,6 +150,7 @@ WriteAside::WriteAside(const FilePlace& target, Old old)
 }
 
 void WriteAside::MakeAside() {
+    Leftovers::Sweep(folder_ == nullptr ? FolderOf(target_) : Paths::ToNativeAsGiven(folder_->Path()));
     int number = -1;
     do {
         aside_ = FolderOf(target_) + PrivateName();
@@ -150,6 +159,7 @@ void WriteAside::MakeAside() {
     } while (number < 0 && errno == EEXIST);
     if (number < 0)
         Raise(errno == ENOENT ? ENOTDIR : errno);
+    static_cast<void>(::flock(number, LOCK_EX | LOCK_NB)); // while it is held, nobody sweeps it away
     out_ = File(number, name_);
 }
 

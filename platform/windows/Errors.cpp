@@ -3,6 +3,7 @@
 
 #include "platform/windows/Errors.h"
 
+#include "platform/Refusals.h"
 #include "platform/RuntimeError.h"
 #include "platform/windows/System.h"
 
@@ -51,7 +52,26 @@ QString ReasonOf(unsigned long error) {
 } // namespace
 
 void RaiseLastError(unsigned long error, const QString& path) {
+    NoteLastError(error, path);
     throw RuntimeError(NumberOf(error), QStringLiteral("%1: %2").arg(path, ReasonOf(error)));
+}
+
+void NoteLastError(unsigned long error, const QString& path) {
+    switch (error) {
+    case ERROR_SUCCESS:
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_PATHNAME:
+    case ERROR_INVALID_DRIVE:
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+    case ERROR_DIRECTORY:
+    case ERROR_DIR_NOT_EMPTY:
+        return; // an answer
+    default:
+        Refusals::Note(path, ReasonOf(error));
+    }
 }
 
 std::wstring WidePath(const QString& path) {

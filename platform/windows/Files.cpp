@@ -26,9 +26,10 @@ using OwnedHandle = std::unique_ptr<void, HandleCloser>;
 
 std::optional<WIN32_FILE_ATTRIBUTE_DATA> Attributes(const QString& path) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
-    if (GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &data) == 0)
-        return std::nullopt;
-    return data;
+    if (GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &data) != 0)
+        return data;
+    NoteLastError(GetLastError(), path);
+    return std::nullopt;
 }
 
 bool IsFolder(DWORD attributes) {
@@ -57,6 +58,7 @@ QString FolderPath(const QString& path) {
 }
 
 [[noreturn]] void RaiseUnlisted(const QString& folder) {
+    NoteLastError(GetLastError(), folder);
     throw RuntimeError(ErrorNumber::PathNotFound, QStringLiteral("%1: can't be listed").arg(folder));
 }
 

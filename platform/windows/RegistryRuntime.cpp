@@ -178,6 +178,10 @@ QString RegistryRuntime::PrefixOf(RootKey /*root*/, const QString& /*path*/, con
     return {};
 }
 
+bool RegistryRuntime::WasReadable() {
+    return !source_->File || source_->File->WasReadable();
+}
+
 void RegistryRuntime::LookFirstIn(const QString& /*prefix*/) {
     // There are no Wine prefixes on Windows.
 }

@@ -3,6 +3,7 @@
 
 #include "platform/WriteAside.h"
 
+#include "platform/Leftovers.h"
 #include "platform/PrivateName.h"
 #include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
@@ -85,6 +86,7 @@ WriteAside::WriteAside(const FilePlace& target, Old old)
 }
 
 void WriteAside::MakeAside() {
+    Leftovers::Sweep(FolderOf(target_));
     HANDLE handle = INVALID_HANDLE_VALUE;
     do {
         aside_ = FolderOf(target_) + PrivateName();

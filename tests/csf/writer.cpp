@@ -220,7 +220,7 @@ TEST_F(CsfWriter, AFileNumberThatIsTakenEndsTheProgramAndTheBackupStays) {
 TEST_F(CsfWriter, ATableWithoutEntriesEndsTheProgramInTheHeader) {
     mCSF::CsfStrings.clear();
     ExpectFatal(At(u"out.csf"_s), 0, 9);
-    EXPECT_EQ(World::ReadFile(At(u"out.csf"_s)), Bytes(" FSC\3\0\0\0"));
+    EXPECT_FALSE(Files::FileExists(At(u"out.csf"_s))) << "no half table";
 }
 
 TEST_F(CsfWriter, AsManyEntriesAsTheUpperBoundHoldsAreWritten) {

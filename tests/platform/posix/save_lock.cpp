@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The Brindock authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/SaveLock.h"
+
+#include "platform/FolderLock.h"
+#include "tests/platform/InAFolder.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SaveLockTest : public InAFolder {
+protected:
+    [[nodiscard]] QString Folder() const { return At({}).chopped(1); }
+};
+
+} // namespace
+
+TEST_F(SaveLockTest, TheSaveOfAnotherProgramIsWaitedFor) {
+    std::array<int, 2> pipes{};
+    ASSERT_EQ(::pipe(pipes.data()), 0);
+    const pid_t other = ::fork();
+    if (other == 0) {
+        const SaveLock lock(At(u"a"_s));
+        char byte = 1;
+        static_cast<void>(::write(pipes[1], &byte, 1));
+        ::usleep(100'000);
+        Make(u"done"_s, "done");
+        ::_exit(0);
+    }
+    char byte = 0;
+    ASSERT_EQ(::read(pipes[0], &byte, 1), 1);
+    const SaveLock lock(At(u"b"_s));
+    EXPECT_EQ(BytesOf(u"done"_s), "done") << "not before the other one had ended";
+    ::waitpid(other, nullptr, 0);
+}
+
+TEST_F(SaveLockTest, AProcessMayHoldItTwiceAndLetsGoAtTheEnd) {
+    std::optional<SaveLock> first(At(u"a"_s));
+    { const SaveLock second(At(u"b"_s)); }
+    EXPECT_EQ(FolderLock(Folder()).State(), FolderLock::Result::Taken);
+    first.reset();
+    EXPECT_TRUE(FolderLock(Folder()).Held());
+}
+
+TEST_F(SaveLockTest, WhereNoLockIsToBeHadAllGoesOn) {
+    EXPECT_NO_THROW(SaveLock(At(u"missing\\a"_s)));
+}
