@@ -32,9 +32,10 @@ public:
           directory_(descriptor < 0 ? nullptr : ::fdopendir(descriptor), &::closedir) {
         if (directory_)
             return;
+        const int error = errno;
         if (descriptor >= 0)
             ::close(descriptor);
-        Raise();
+        Raise(error);
     }
 
     /// The next entry that is neither the folder itself nor the one above it. Raises 76 when reading on fails.
