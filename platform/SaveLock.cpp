@@ -22,11 +22,15 @@ constexpr unsigned long Pause = 5;  ///< milliseconds
 std::shared_ptr<File> WaitedFor(const QString& path) {
     QElapsedTimer waited;
     waited.start();
+    bool stoodThere = false;
     for (;;) {
         auto file = std::make_shared<File>();
         const LockResult result = LockForSave(path, *file);
-        if (result != LockResult::Taken)
+        // What was there a moment ago is being replaced.
+        const bool isReplaced = result == LockResult::NoLocking && stoodThere && !waited.hasExpired(Patience);
+        if (result != LockResult::Taken && !isReplaced)
             return file;
+        stoodThere = true;
         if (waited.hasExpired(Patience))
             throw RuntimeError(ErrorNumber::PermissionDenied,
                                QStringLiteral("%1: another program is saving it").arg(Paths::ToNative(path)));
