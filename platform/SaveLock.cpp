@@ -3,40 +3,51 @@
 
 #include "platform/SaveLock.h"
 
-#include "platform/FolderLock.h"
+#include "platform/LockedFile.h"
 #include "platform/Paths.h"
 #include "platform/ReplacedFile.h"
 #include "platform/RuntimeError.h"
 
+#include <QElapsedTimer>
 #include <QMutex>
+#include <QThread>
 
-#include <algorithm>
 #include <map>
 
 namespace {
 
-constexpr std::chrono::seconds patience{10};
+constexpr qint64 Patience = 10'000; ///< milliseconds
+constexpr unsigned long Pause = 5;  ///< milliseconds
+
+std::shared_ptr<File> WaitedFor(const QString& path) {
+    QElapsedTimer waited;
+    waited.start();
+    bool stoodThere = false;
+    for (;;) {
+        auto file = std::make_shared<File>();
+        const LockResult result = LockForSave(path, *file);
+        // What was there a moment ago is being replaced.
+        const bool isReplaced = result == LockResult::NoLocking && stoodThere && !waited.hasExpired(Patience);
+        if (result != LockResult::Taken && !isReplaced)
+            return file;
+        stoodThere = true;
+        if (waited.hasExpired(Patience))
+            throw RuntimeError(ErrorNumber::PermissionDenied,
+                               QStringLiteral("%1: another program is saving it").arg(Paths::ToNative(path)));
+        QThread::msleep(Pause);
+    }
+}
 
 } // namespace
 
 SaveLock::SaveLock(const QString& path) {
     static QMutex mutex;
-    static std::map<QString, std::weak_ptr<FolderLock>> held;
-    static std::map<QString, QString> reals;
+    static std::map<QString, std::weak_ptr<File>> held;
     const QMutexLocker locked(&mutex);
-    const QString file = ReplacedFile::BehindLinks(path);
-    const QString folder = file.first(std::max<qsizetype>(file.lastIndexOf(u'\\'), 0));
-    // Asked once: a folder that can't be looked up later is the same one still.
-    const auto [real, isNew] = reals.try_emplace(folder);
-    if (isNew)
-        real->second = Paths::Real(folder + u'\\');
-    std::weak_ptr<FolderLock>& known = held[real->second.isEmpty() ? folder : real->second];
+    std::weak_ptr<File>& known = held[ReplacedFile::BehindLinks(path)];
     lock_ = known.lock();
     if (lock_ != nullptr)
         return;
-    lock_ = std::make_shared<FolderLock>(FolderLock::WaitedFor(folder, patience));
-    if (lock_->State() == FolderLock::Result::Taken)
-        throw RuntimeError(ErrorNumber::PermissionDenied,
-                           QStringLiteral("%1: another program is saving in its folder").arg(Paths::ToNative(path)));
+    lock_ = WaitedFor(path);
     known = lock_;
 }

@@ -9,15 +9,16 @@
 
 #include <memory>
 
-class FolderLock;
+class File;
 
-/// Locks the folder that a file lies in, links followed, while it lives. A process may hold it several times. Where no
-/// lock is to be had (no such folder, a file system without locks) there is none, and all goes on.
+/// Locks a file, links followed, while it lives, and what takes the file's place meanwhile. A process may hold it
+/// several times. Where no lock is to be had (no such file, a file system without locks) there is none, and all goes
+/// on.
 class SaveLock {
 public:
     /// Waits for another program's save; raises 70, naming the file, when that takes longer than ten seconds.
     explicit SaveLock(const QString& path);
 
 private:
-    std::shared_ptr<FolderLock> lock_;
+    std::shared_ptr<File> lock_;
 };

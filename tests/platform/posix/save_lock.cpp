@@ -4,6 +4,8 @@
 #include "platform/SaveLock.h"
 
 #include "platform/FolderLock.h"
+#include "platform/LockedFile.h"
+#include "platform/WriteAside.h"
 #include "tests/platform/InAFolder.h"
 
 #include <sys/wait.h>
@@ -16,38 +18,46 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class SaveLockTest : public InAFolder {
-protected:
-    [[nodiscard]] QString Folder() const { return At({}).chopped(1); }
-};
+class SaveLockTest : public InAFolder {};
 
 } // namespace
 
 TEST_F(SaveLockTest, TheSaveOfAnotherProgramIsWaitedFor) {
     std::array<int, 2> pipes{};
     ASSERT_EQ(::pipe(pipes.data()), 0);
+    Make(u"a"_s, "old");
     const pid_t other = ::fork();
     if (other == 0) {
         const SaveLock lock(At(u"a"_s));
         char byte = 1;
         static_cast<void>(::write(pipes[1], &byte, 1));
         ::usleep(100'000);
+        WriteWhole(At(u"a"_s), "new");
         Make(u"done"_s, "done");
         ::_exit(0);
     }
     char byte = 0;
     ASSERT_EQ(::read(pipes[0], &byte, 1), 1);
-    const SaveLock lock(At(u"b"_s));
+    const SaveLock lock(At(u"a"_s));
     EXPECT_EQ(BytesOf(u"done"_s), "done") << "not before the other one had ended";
     ::waitpid(other, nullptr, 0);
 }
 
 TEST_F(SaveLockTest, AProcessMayHoldItTwiceAndLetsGoAtTheEnd) {
-    std::optional<SaveLock> first(At(u"a"_s));
-    { const SaveLock second(At(u"b"_s)); }
-    EXPECT_EQ(FolderLock(Folder()).State(), FolderLock::Result::Taken);
+    const QString path = Make(u"a"_s, "old");
+    std::optional<SaveLock> first(path);
+    { const SaveLock second(path); }
+    File other;
+    EXPECT_EQ(LockForSave(path, other), LockResult::Taken);
     first.reset();
-    EXPECT_TRUE(FolderLock(Folder()).Held());
+    EXPECT_EQ(LockForSave(path, other), LockResult::Held);
+}
+
+TEST_F(SaveLockTest, AProgramThatHasTheFolderToItselfStopsNoSave) {
+    const FolderLock folder(At({}).chopped(1));
+    ASSERT_TRUE(folder.Held());
+    File held;
+    EXPECT_EQ(LockForSave(Make(u"a"_s, "old"), held), LockResult::Held);
 }
 
 TEST_F(SaveLockTest, WhereNoLockIsToBeHadAllGoesOn) {
