@@ -19,11 +19,19 @@ namespace {
 constexpr auto streamVersion = QDataStream::Qt_6_4;
 
 /// Another order is no change: an opening sorts the rows too.
-std::vector<CsfString> Sorted(std::vector<CsfString> rows) {
-    std::ranges::sort(rows, [](const CsfString& a, const CsfString& b) {
-        return std::tie(a.Name, a.Value) < std::tie(b.Name, b.Value);
+std::vector<CsfString> Sorted(const std::vector<CsfString>& rows) {
+    std::vector<const CsfString*> order;
+    order.reserve(rows.size());
+    for (const CsfString& row : rows)
+        order.push_back(&row);
+    std::ranges::sort(order, [](const CsfString* a, const CsfString* b) {
+        return std::tie(a->Name, a->Value) < std::tie(b->Name, b->Value);
     });
-    return rows;
+    std::vector<CsfString> sorted;
+    sorted.reserve(rows.size());
+    for (const CsfString* row : order)
+        sorted.push_back(*row);
+    return sorted;
 }
 
 } // namespace
