@@ -20,7 +20,7 @@ bool Has(DWORD attributes, DWORD attribute) {
 }
 
 [[noreturn]] void RaiseNoFolder(const QString& path) {
-    throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a folder").arg(path.chopped(1)));
+    throw RuntimeError(ErrorNumber::PathFileAccess, QStringLiteral("%1: not a folder").arg(path));
 }
 
 } // namespace
@@ -55,7 +55,7 @@ HeldFolder::HeldFolder(const QString& path) : path_(WithBackslash(path)), system
 // What is open already keeps its own path, so that only what stands below can be a link.
 HeldFolder::HeldFolder(const HeldFolder& top, const QString& below) : path_(WithBackslash(top.path_ + below)) {
     for (qsizetype end = path_.indexOf(u'\\', top.path_.size()); end >= 0; end = path_.indexOf(u'\\', end + 1)) {
-        auto step = std::make_unique<System>(path_.first(end + 1), FILE_FLAG_OPEN_REPARSE_POINT);
+        auto step = std::make_unique<System>(path_.first(end), FILE_FLAG_OPEN_REPARSE_POINT);
         system_.swap(step); // the one above is let go only now
     }
 }

@@ -103,27 +103,3 @@ TEST_F(Gateway, AFolderThatCanNotBeMadeRaises) {
     EXPECT_THROW(FolderGateway{At(u"file\\out"_s)}, RuntimeError);
     EXPECT_THROW(FolderGateway{At(u"file"_s)}, RuntimeError);
 }
-
-TEST_F(Gateway, NamesThatLeadThroughManyFoldersAllGetThere) {
-    FolderGateway gateway(At(u"out"_s));
-    const QString deep = u"a\\"_s.repeated(1500);
-    for (int number = 0; number < 8; ++number) { // more folders than are remembered
-        const FilePlace place = gateway.PlaceFor(QString::number(number) + u'\\' + deep + u'f');
-        EXPECT_TRUE(place.Folder->Put(place.Name, "x"));
-    }
-    for (int number = 0; number < 8; number += 7) {
-        const FilePlace place = gateway.PlaceFor(QString::number(number) + u"\\A\\"_s + deep.sliced(2) + u'F');
-        EXPECT_EQ(place.Name, u"f"_s) << "what was forgotten is found again as it stands there";
-        EXPECT_EQ(place.Folder->StandingOf(place.Name), HeldFolder::Standing::File);
-    }
-}
-
-TEST_F(Gateway, AFolderThatWasRemovedMeanwhileMustBeThereAgain) {
-    FolderGateway gateway(At(u"out"_s));
-    EXPECT_TRUE(gateway.PlaceFor(u"d\\f"_s).Folder->Put(u"f"_s, "old"));
-    Files::DeleteFolder(At(u"out\\d"_s));
-    EXPECT_THROW(gateway.PlaceFor(u"d\\g"_s), RuntimeError);
-    Files::MakeFolder(At(u"out\\d"_s));
-    EXPECT_TRUE(gateway.PlaceFor(u"d\\f"_s).Folder->Put(u"f"_s, "new"));
-    EXPECT_EQ(World::ReadFile(At(u"out\\d\\f"_s)), "new");
-}
