@@ -2,48 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// Names with letters that archives lack: shown as they will be stored, told, asked about before a save.
-#include "platform/Files.h"
-#include "tests/big/document_fixture.h"
+#include "tests/big/stored_names_fixture.h"
 
 using namespace Qt::StringLiterals;
 using Answer = Host::Answer;
-
-namespace {
-
-class StoredNamesTest : public EditorDocument {
-protected:
-    StoredNamesTest() {
-        Place.UseLanguage("[LNG]\r\nLettersLost=lost: %1.\r\nNamesBecameOne=one: %1.\r\nNameStoredAs=of %1\r\n"
-                          "SaveLosesLetters=Lossy?\r\nDropReplaced=replaced: %1.\r\nFileAlreadyExists=exists\r\n");
-        Place.Start();
-    }
-
-    QString Put(const QString& name) { return Place.WriteFile(u"from\\"_s + name, name.toUtf8()); }
-
-    void Add(const QString& name) {
-        Speaker.FileNames = {Put(name)};
-        Editor.Add();
-    }
-
-    void ExpectQuestion(const QString& lines) {
-        ASSERT_FALSE(Speaker.Messages.empty());
-        const auto& asked = Speaker.Messages.back();
-        EXPECT_EQ(asked.Text, u"Lossy?\r\n\r\n"_s + lines);
-        EXPECT_EQ(asked.Choice, Host::Buttons::SaveCancel);
-        EXPECT_EQ(asked.Default, Answer::Cancel);
-        EXPECT_EQ(asked.Title, u"Brindock 2005"_s);
-    }
-
-    /// How many questions a save asks; Save is the answer to them.
-    std::size_t QuestionsOfSave() {
-        const std::size_t before = Speaker.Messages.size();
-        Speaker.Answers = {Answer::Save};
-        Editor.Save();
-        return Speaker.Messages.size() - before;
-    }
-};
-
-} // namespace
 
 TEST_F(StoredNamesTest, AnAddedFileShowsTheNameThatItWillHave) {
     OpenSample();
@@ -120,16 +82,6 @@ TEST_F(StoredNamesTest, WhatIsNotInTheTableAnyMoreIsNotAskedAbout) {
     EXPECT_EQ(QuestionsOfSave(), 0U) << "Another archive is open.";
 }
 
-TEST_F(StoredNamesTest, ANewArchiveAsksAboutItsOwnOnly) {
-    OpenSample();
-    Add(u"\u65E5.txt"_s);
-    Speaker.Answers = {Answer::No};
-    Speaker.FileNames = {Place.Root() + u"\\new.big"_s};
-    Editor.New();
-    Add(u"?.txt"_s);
-    EXPECT_EQ(QuestionsOfSave(), 0U);
-}
-
 TEST_F(StoredNamesTest, TwoAddedFilesThatBecomeOneAreTold) {
     OpenSample();
     Add(u"\u65E5.txt"_s);
@@ -138,18 +90,6 @@ TEST_F(StoredNamesTest, TwoAddedFilesThatBecomeOneAreTold) {
     EXPECT_EQ(Speaker.Messages.back().Text, u"?.txt\r\n\r\nexists\r\nof \u672C.txt"_s);
     EXPECT_EQ(View.Told.Text, u"lost: \u672C.txt. one: \u65E5.txt + \u672C.txt. replaced: ?.txt."_s);
     EXPECT_EQ(Shown().count(u"?.txt"_s), 1);
-}
-
-TEST_F(StoredNamesTest, ANameWithTheSignItselfMeetsOneThatLostItsLetter) {
-    OpenSample();
-    Add(u"?.txt"_s);
-    Speaker.Answers = {Answer::Yes};
-    Add(u"\u65E5.txt"_s);
-    EXPECT_TRUE(View.Told.Text.contains(u"one: ?.txt + \u65E5.txt."_s)) << View.Told.Text.toStdString();
-    Speaker.Answers = {Answer::Yes};
-    Add(u"?.TXT"_s);
-    EXPECT_EQ(Speaker.Messages.back().Text, u"?.TXT\r\n\r\nexists"_s);
-    EXPECT_TRUE(View.Told.Text.contains(u"one: \u65E5.txt + ?.TXT."_s)) << View.Told.Text.toStdString();
 }
 
 TEST_F(StoredNamesTest, TheSameFileTwiceIsNotTwo) {
