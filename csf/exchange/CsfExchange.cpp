@@ -124,13 +124,13 @@ bool IsHexadecimal(QChar letter) {
 
 /// Null where the letter has none.
 QChar MarkOf(QChar letter) {
-    const auto found = std::ranges::find(Marks, letter.unicode(), &std::pair<char16_t, char16_t>::first);
+    const auto* const found = std::ranges::find(Marks, letter.unicode(), &std::pair<char16_t, char16_t>::first);
     return found == Marks.end() ? QChar() : QChar(found->second);
 }
 
 /// Null for a mark that stands for none.
 QChar LetterOf(QChar mark) {
-    const auto found = std::ranges::find(Marks, mark.unicode(), &std::pair<char16_t, char16_t>::second);
+    const auto* const found = std::ranges::find(Marks, mark.unicode(), &std::pair<char16_t, char16_t>::second);
     return found == Marks.end() ? QChar() : QChar(found->first);
 }
 

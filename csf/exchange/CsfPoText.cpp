@@ -26,12 +26,12 @@ bool IsPicture(QChar letter) {
 
 /// The letter itself where it needs none.
 QChar PictureOf(QChar letter) {
-    const auto found = std::ranges::find(Pictures, letter.unicode(), &Picture::Control);
+    const auto* const found = std::ranges::find(Pictures, letter.unicode(), &Picture::Control);
     return found == Pictures.end() ? letter : QChar(found->Shown);
 }
 
 QChar ControlOf(QChar picture) {
-    const auto found = std::ranges::find(Pictures, picture.unicode(), &Picture::Shown);
+    const auto* const found = std::ranges::find(Pictures, picture.unicode(), &Picture::Shown);
     return found == Pictures.end() ? picture : QChar(found->Control);
 }
 

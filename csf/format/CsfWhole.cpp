@@ -80,7 +80,7 @@ private:
         record.Entry.Name = AnsiCodec::Decode(Take(Number()));
         record.HasString = strings > 0;
         if (!record.HasString)
-            records.push_back(std::move(record));
+            return records.push_back(std::move(record));
         for (quint32 string = 0; string < strings; ++string) {
             CsfWhole::Record next = record;
             next.Entry.IsMore = string > 0;
@@ -115,12 +115,14 @@ class Writer {
 public:
     explicit Writer(QByteArray& bytes) : bytes_(bytes) {}
 
-    void Mark(const std::array<char, 4>& mark) { bytes_.append(mark.data(), mark.size()); }
+    void Mark(const std::array<char, 4>& mark) {
+        bytes_.append(QByteArrayView(mark.data(), mark.data() + mark.size()));
+    }
 
     void Number(quint32 number) {
         std::array<char, NumberSize> bytes{};
         qToLittleEndian(number, bytes.data());
-        bytes_.append(bytes.data(), NumberSize);
+        bytes_.append(QByteArrayView(bytes.data(), NumberSize));
     }
 
     void Data(QByteArrayView data) {

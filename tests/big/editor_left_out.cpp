@@ -55,7 +55,7 @@ TEST_F(EditorLeftOut, NewEntriesWithoutAFileAreListedBehindTheSave) {
         Speaker.FileNames = {Place.WriteFile(name, "new")};
         Editor.Add();
     }
-    for (std::size_t index : {3, 4})
+    for (const std::size_t index : {3U, 4U})
         Files::Delete(mBIG::BigEntries[index].SourcePath);
     Speaker.Answers = {Answer::No};
     Editor.Save();

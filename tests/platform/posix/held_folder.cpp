@@ -51,6 +51,7 @@ extern "C" int renameat2(int from, const char* name, int to, const char* target,
     return refusal != 0 ? -1 : static_cast<int>(::syscall(SYS_renameat2, from, name, to, target, flags));
 }
 
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name)
 extern "C" long syscall(long number, ...) noexcept {
     va_list given;
     va_start(given, number);

@@ -24,7 +24,7 @@ class LeftoversTest : public InAFolder {
 protected:
     /// A file as a process leaves it that died an hour ago.
     QString Leave(const QString& name) const {
-        const QString path = Make(name, "half");
+        QString path = Make(name, "half");
         const timespec hourAgo{std::time(nullptr) - 3600, 0};
         const std::array<timespec, 2> times{hourAgo, hourAgo};
         EXPECT_EQ(::utimensat(AT_FDCWD, Native(path).constData(), times.data(), 0), 0);
