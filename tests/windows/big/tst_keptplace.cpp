@@ -29,6 +29,7 @@ private:
 
     void WorkWithMany() {
         std::vector<NamedBytes> entries;
+        entries.reserve(std::size_t{files} + folders);
         for (int file = 0; file < files; ++file)
             entries.emplace_back(u"Data\\"_s + NameOf(file), "x");
         for (int folder = 0; folder < folders; ++folder)

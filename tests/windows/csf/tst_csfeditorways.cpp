@@ -97,6 +97,7 @@ private Q_SLOTS:
 
     void aSaveLeavesRowScrollAndSelection() {
         std::vector<CsfString> table;
+        table.reserve(500);
         for (int row = 0; row < 500; ++row)
             table.push_back({u"value"_s, u"name %1"_s.arg(row, 3, 10, QChar(u'0'))});
         Open(table);
