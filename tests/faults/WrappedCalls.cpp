@@ -140,6 +140,8 @@ mode_t ModeOf(int flags, va_list rest) {
         return Opening(#name, folder, path, flags, mode);                                                              \
     }
 
+// The system's headers name the parameters in a way of their own.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 OPENING(open)
@@ -281,3 +283,4 @@ dirent64* readdir64(DIR* folder) {
 }
 
 } // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
