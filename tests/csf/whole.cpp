@@ -146,7 +146,7 @@ TEST(WholeTable, AFreshOneHasTheFormThatTheSuiteWrites) {
 
 TEST(WholeTable, WhatIsNotWellFormedIsRefusedWithTheOffset) {
     const QByteArray good = Head(1, 1) + Label(1, "a") + String(u"1"_s);
-    EXPECT_EQ(ReasonFor("XXXX" + good.sliced(4)), u"offset 0: not a CSF file"_s);
+    EXPECT_EQ(ReasonFor("RIFF" + good.sliced(4)), u"offset 0: not a CSF file"_s);
     EXPECT_EQ(ReasonFor(good + "x"), u"offset 47: the file ends too early"_s);
     EXPECT_EQ(ReasonFor(good + "xxxx"), u"offset 47: no label begins here"_s);
     EXPECT_EQ(ReasonFor(Head(1, 1) + Label(1, "a") + Label(1, "b")), u"offset 37: no string begins here"_s);
