@@ -7,64 +7,16 @@
 #include "platform/RuntimeError.h"
 #include "tests/support/Printing.h"
 #include "tests/support/World.h"
+#include "tests/support/posix/ChildProcess.h"
 #include "tests/support/posix/FileLengthLimit.h"
 
 #include <gtest/gtest.h>
 
-#include <sys/wait.h>
 #include <unistd.h>
-
-#include <array>
-#include <csignal>
-#include <functional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A process of its own, until it is killed.
-class Child {
-public:
-    explicit Child(const std::function<void(int told)>& run) {
-        EXPECT_EQ(::pipe(told_.data()), 0);
-        process_ = ::fork();
-        if (process_ == 0) {
-            run(told_[1]);
-            for (;;)
-                ::pause();
-        }
-    }
-
-    ~Child() {
-        Kill();
-        ::close(told_[0]);
-        ::close(told_[1]);
-    }
-
-    Child(const Child&) = delete;
-    Child& operator=(const Child&) = delete;
-
-    void AwaitWord() const {
-        char word = 0;
-        EXPECT_EQ(::read(told_[0], &word, 1), 1);
-    }
-
-    void Kill() {
-        if (process_ > 0) {
-            ::kill(process_, SIGKILL);
-            ::waitpid(process_, nullptr, 0);
-        }
-        process_ = 0;
-    }
-
-private:
-    std::array<int, 2> told_{-1, -1};
-    pid_t process_ = 0;
-};
-
-void Tell(int told) {
-    static_cast<void>(!::write(told, "x", 1));
-}
 
 class RescueProcesses : public testing::Test {
 protected:
@@ -74,14 +26,13 @@ protected:
 } // namespace
 
 TEST_F(RescueProcesses, AnothersRescueIsItsOwnUntilItDies) {
-    Child other([](int told) {
+    ChildProcess other([](const ChildProcess::Tell& tell) {
         RescueCopy copy(u"csf"_s);
         copy.Keep(u"C:\\theirs.csf"_s, false, "theirs");
-        Tell(told);
-        for (;;)
-            ::pause();
+        tell('x');
+        ChildProcess::Wait();
     });
-    other.AwaitWord();
+    EXPECT_EQ(other.Word(), 'x');
     RescueCopy own(u"csf"_s);
     own.Keep(u"C:\\ours.csf"_s, false, "ours");
     EXPECT_TRUE(Rescues::LeftFor(u"csf"_s).empty());
@@ -98,8 +49,8 @@ TEST_F(RescueProcesses, KilledAtAnyMomentItIsWholeOrAbsent) {
     constexpr int size = 200'000;
     int found = 0;
     for (int round = 0; round < rounds; ++round) {
-        Child child([](int told) {
-            Tell(told);
+        ChildProcess child([](const ChildProcess::Tell& tell) {
+            tell('x');
             for (char letter = 'a';; letter = letter == 'z' ? 'a' : static_cast<char>(letter + 1)) {
                 RescueCopy copy(u"csf"_s);
                 copy.Keep(u"C:\\a.csf"_s, false, QByteArray(size, letter));
@@ -107,7 +58,7 @@ TEST_F(RescueProcesses, KilledAtAnyMomentItIsWholeOrAbsent) {
                 copy.Discard();
             }
         });
-        child.AwaitWord();
+        EXPECT_EQ(child.Word(), 'x');
         ::usleep(static_cast<useconds_t>(round * 97));
         child.Kill();
         Rescues::Sweep();

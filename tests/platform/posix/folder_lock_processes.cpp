@@ -5,61 +5,14 @@
 #include "platform/FolderLock.h"
 #include "tests/platform/InAFolder.h"
 #include "tests/platform/posix/AnotherUser.h"
+#include "tests/support/posix/ChildProcess.h"
 
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
-#include <csignal>
 
 using namespace Qt::StringLiterals;
 using Result = FolderLock::Result;
 
 namespace {
-
-/// Another process that locks a folder and then waits to be killed.
-class OtherProcess {
-public:
-    explicit OtherProcess(const QString& folder) {
-        EXPECT_EQ(::pipe(told_.data()), 0);
-        process_ = ::fork();
-        if (process_ == 0) {
-            const FolderLock lock(folder);
-            const char answer = lock.Held() ? 'h' : 'n';
-            static_cast<void>(!::write(told_[1], &answer, 1));
-            for (;;)
-                ::pause();
-        }
-    }
-
-    ~OtherProcess() {
-        Kill();
-        ::close(told_[0]);
-        ::close(told_[1]);
-    }
-
-    OtherProcess(const OtherProcess&) = delete;
-    OtherProcess& operator=(const OtherProcess&) = delete;
-
-    /// Waits until it has asked for the lock.
-    [[nodiscard]] bool Holds() const {
-        char answer = 0;
-        return ::read(told_[0], &answer, 1) == 1 && answer == 'h';
-    }
-
-    void Kill() {
-        if (process_ > 0) {
-            ::kill(process_, SIGKILL);
-            ::waitpid(process_, nullptr, 0);
-        }
-        process_ = 0;
-    }
-
-private:
-    std::array<int, 2> told_{-1, -1};
-    pid_t process_ = 0;
-};
 
 class FolderLockProcesses : public InAFolder {};
 
@@ -67,8 +20,12 @@ class FolderLockProcesses : public InAFolder {};
 
 TEST_F(FolderLockProcesses, WhatAnotherProcessHasIsTakenUntilItDies) {
     Files::MakeFolder(At(u"Temp"_s));
-    OtherProcess other(At(u"Temp"_s));
-    ASSERT_TRUE(other.Holds());
+    ChildProcess other([this](const ChildProcess::Tell& tell) {
+        const FolderLock lock(At(u"Temp"_s));
+        tell(lock.Held() ? 'h' : 'n');
+        ChildProcess::Wait();
+    });
+    ASSERT_EQ(other.Word(), 'h');
     EXPECT_EQ(FolderLock(At(u"Temp"_s)).State(), Result::Taken);
     EXPECT_EQ(FolderLock(At(u"temp"_s)).State(), Result::Taken) << "by another spelling too";
     other.Kill();
