@@ -53,7 +53,9 @@ EntryChanges::Leaving EntryChanges::WhatGoes() const {
         }
     }
     const QString folder = panes_.Tree.Has(of) ? panes_.Tree.Node(of).Text : QString();
-    return {GetText(u"DeletesOfFolder"_s).arg(folder, QString::number(entries.size())), entries.size()};
+    // The folder's name comes last, as it may hold any letters.
+    QString text = GetText(u"DeletesOfFolder"_s).replace("%2"_L1, QString::number(entries.size()));
+    return {text.replace("%1"_L1, folder), entries.size()};
 }
 
 void EntryChanges::Delete() {

@@ -12,10 +12,12 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
+#include <QScopeGuard>
 #include <QSet>
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
@@ -29,27 +31,54 @@ public:
         // A folder without its backslash is joined with the name to another path, as it stands. This is meant.
         const qsizetype split = target.ExtractFolder.lastIndexOf(u'\\') + 1;
         prefix_ = target.ExtractFolder.sliced(split);
-        Ignoring([&] { gateway_ = std::make_unique<FolderGateway>(target.ExtractFolder.first(split)); });
+        try {
+            gateway_ = std::make_unique<FolderGateway>(target.ExtractFolder.first(split));
+        } catch (const RuntimeError& error) {
+            gatewayRefused_ = error.Description();
+        }
     }
 
     /// False when the user ends the run. Whatever else goes wrong passes the entry over.
     bool Extract(qint32 index) {
-        bool goOn = true;
-        Ignoring([&] { goOn = TryToExtract(index); });
-        return goOn;
+        const auto close = qScopeGuard([this] {
+            if (closesEach_)
+                mBIG::CloseExtraction();
+        });
+        const BigEntry& entry = mBIG::BigEntries.at(static_cast<std::size_t>(index));
+        try {
+            return TryToExtract(index, entry);
+        } catch (const RuntimeError& error) {
+            if (error.Number() == ErrorNumber::FileAlreadyOpen)
+                behindEmpty_.push_back(index);
+            else if (entry.Size != 0 || error.Number() != ErrorNumber::Subscript)
+                LeaveOut(entry, entry.IsNew && !Files::FileExists(entry.SourcePath) ? GetText(u"LeftOutGone"_s)
+                                                                                    : error.Description());
+            return true;
+        }
+    }
+
+    /// What was not written, or not whole: a line each with the reason.
+    [[nodiscard]] const QStringList& LeftOut() const { return leftOut_; }
+
+    /// Hands over the entries that were not even begun, as one of no bytes before them left the archive open. From then
+    /// on none leaves it open.
+    [[nodiscard]] std::vector<qint32> TakeBehindEmpty() {
+        closesEach_ = true;
+        return std::exchange(behindEmpty_, {});
     }
 
 private:
-    bool TryToExtract(qint32 index) {
-        const BigEntry& entry = mBIG::BigEntries.at(static_cast<std::size_t>(index));
+    bool TryToExtract(qint32 index, const BigEntry& entry) {
         const QString name = target_.RecreateFolders ? entry.Name : Paths::LastPart(entry.Name);
         if (gateway_ == nullptr)
-            return true;
+            throw RuntimeError(ErrorNumber::PathNotFound, gatewayRefused_);
         const FilePlace place = gateway_->PlaceFor(prefix_ + name);
         mBIG::OldFile old = mBIG::OldFile::Replaced;
         if (IsFileThere(place)) {
-            if (IsNeeded(place))
+            if (IsNeeded(place)) {
+                LeaveOut(entry, GetText(u"LeftOutNeeded"_s));
                 return true;
+            }
             const Host::Answer answer = AskToReplace(target_.ExtractFolder + name);
             if (answer == Host::Answer::Cancel)
                 return false;
@@ -58,8 +87,12 @@ private:
                 old = mBIG::OldFile::WrittenOver;
         }
         mBIG::ExtractEntryTo(index, mBIG::BigFileName, place, old);
+        if (!entry.IsNew && qint64{entry.Offset} + entry.Size > mBIG::LengthOnDisk())
+            LeaveOut(entry, GetText(u"LeftOutCut"_s));
         return true;
     }
+
+    void LeaveOut(const BigEntry& entry, const QString& reason) { leftOut_ += entry.Name + u": "_s + reason; }
 
     /// A link to a file counts: what is asked about is what is seen there.
     static bool IsFileThere(const FilePlace& place) {
@@ -94,15 +127,18 @@ private:
     const ExtractionTarget& target_;
     QString prefix_;          ///< of every name
     QSet<QByteArray> needed_; ///< identities of files
+    QStringList leftOut_;
+    std::vector<qint32> behindEmpty_;
+    bool closesEach_ = false;
+    QString gatewayRefused_; ///< why there is no gateway
     std::unique_ptr<FolderGateway> gateway_;
 };
 
 /// False when the user ends the run.
-bool ExtractAll(const std::vector<qint32>& extractList, const ExtractionTarget& target, Progress& progress) {
+bool ExtractAll(const std::vector<qint32>& extractList, const ExtractionTarget& target, Run& run, Progress& progress) {
     Host& host = Host::Current();
     const QString text = GetText(u"ProgressLbl"_s).replace("%1"_L1, Paths::LastPart(mBIG::BigFileName));
     const QString folder = Paths::ToNative(target.ExtractFolder);
-    Run run(target);
     std::size_t done = 0;
     for (const qint32 index : extractList) {
         if (progress.Cancelled())
@@ -118,6 +154,20 @@ bool ExtractAll(const std::vector<qint32>& extractList, const ExtractionTarget& 
         host.Yield();
     }
     return true;
+}
+
+/// Offers what an entry of no bytes kept from being extracted, and extracts it to the end if that is wanted.
+void ExtractBehindEmpty(Run& run, const ExtractionTarget& target) {
+    const std::vector<qint32> list = run.TakeBehindEmpty();
+    if (list.empty())
+        return;
+    Host& host = Host::Current();
+    const QString question = GetText(u"ExtractBehindEmpty"_s).replace("%1"_L1, QString::number(list.size()));
+    if (host.Message(question, Host::Icon::Question, Host::Buttons::YesNo) == Host::Answer::Yes) {
+        const std::unique_ptr<Progress> progress = host.ShowProgress();
+        ExtractAll(list, target, run, *progress);
+        Ignoring([&] { Files::FlushSystem(target.ExtractFolder); });
+    }
 }
 
 } // namespace
@@ -151,9 +201,10 @@ bool WouldBeWrong(const std::vector<qint32>& extractList) {
 
 void DoExtract(const std::vector<qint32>& extractList, const ExtractionTarget& target, bool showCompletion) {
     Host& host = Host::Current();
-    const std::unique_ptr<Progress> progress = host.ShowProgress();
+    std::unique_ptr<Progress> progress = host.ShowProgress();
     mBIG::CloseExtraction();
-    const bool completed = ExtractAll(extractList, target, *progress);
+    Run run(target);
+    const bool completed = ExtractAll(extractList, target, run, *progress);
     // Within a run an entry of no bytes keeps all later ones from being extracted. The next run begins afresh.
     mBIG::CloseExtraction();
     if (showCompletion) // what is dragged out is copied from there, and nothing lasts there
@@ -166,6 +217,13 @@ void DoExtract(const std::vector<qint32>& extractList, const ExtractionTarget& t
         progress->Hide();
         host.Message(GetText(u"ExtractionCanceled"_s), Host::Icon::Critical);
     }
+    if (!showCompletion)
+        return;
+    progress.reset();
+    if (completed)
+        ExtractBehindEmpty(run, target);
+    if (!run.LeftOut().isEmpty())
+        host.MessageWithList(GetText(u"LeftOut2"_s), run.LeftOut());
 }
 
 } // namespace Extraction

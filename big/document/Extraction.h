@@ -39,7 +39,9 @@ bool WouldBeWrong(const std::vector<qint32>& extractList);
 /// Writes the entries in the list's order to files below `ExtractFolder`, which is made when missing, out of the
 /// archive `BigFileName`. The progress window is shown and unloaded; each entry yields twice to the event loop. A file
 /// that stands there already brings a question, Cancel and the window's button end the run. Every name goes through the
-/// gateway: one that it refuses counts as a target that can't be written. Such entries are passed over without a word.
+/// gateway: one that it refuses counts as a target that can't be written. Such entries are passed over. With
+/// `showCompletion` the message at the end is told, then whatever was passed over or cut short is listed with its
+/// reason, and what an entry of no bytes kept from being extracted is offered.
 void DoExtract(const std::vector<qint32>& extractList, const ExtractionTarget& target, bool showCompletion);
 
 } // namespace Extraction

@@ -1,59 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "big/document/Extraction.h"
 #include "big/document/ArchiveExtractor.h"
-
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "tests/big/Archives.h"
-#include "tests/big/document_support.h"
+#include "tests/big/extraction_fixture.h"
 
 #include <QFile>
 
 using namespace Qt::StringLiterals;
 using Extraction::DoExtract;
-
-namespace {
-
-class DoExtractTest : public ArchiveTest {
-protected:
-    /// Lays an archive and reads it as the open one.
-    void Open(const std::vector<NamedBytes>& entries) {
-        mBIG::BigFileName = Put(u"my.big"_s, ArchiveOf(entries));
-        ASSERT_TRUE(mBIG::ReadBigFile(mBIG::BigFileName));
-    }
-
-    [[nodiscard]] ExtractionTarget Out(bool recreateFolders = true) const {
-        return {.ExtractFolder = At(u"out\\"_s), .ExtractCancelled = false, .RecreateFolders = recreateFolders};
-    }
-
-    /// Every entry of the table, by its index.
-    static std::vector<qint32> All() {
-        std::vector<qint32> list;
-        Extraction::TakeAll(list);
-        return list;
-    }
-
-    [[nodiscard]] QByteArray Written(const QString& name) const { return World::ReadFile(At(u"out\\"_s + name)); }
-
-    [[nodiscard]] bool IsThere(const QString& name) const { return Files::FileExists(At(u"out\\"_s + name)); }
-
-    [[nodiscard]] QStringList MessageTexts() const {
-        QStringList texts;
-        for (const ScriptedHost::Shown& shown : host_.Messages)
-            texts += shown.Text;
-        return texts;
-    }
-
-    /// What is asked about a file that is there already.
-    [[nodiscard]] QString Question(const QString& name) const {
-        return Paths::ToNative(At(u"out\\"_s)) + Paths::ToNative(name) + u"\r\n\r\nFileAlreadyExists\r\nNoWritesInto"_s;
-    }
-};
-
-} // namespace
 
 TEST_F(DoExtractTest, RebuildsTheArchivesFolders) {
     Open({{u"a.ini"_s, "hello"}, {u"Data\\INI\\b.t"_s, "hi"}});
@@ -196,12 +153,13 @@ TEST_F(DoExtractTest, AFolderWithoutItsBackslashIsJoinedWithTheName) {
 TEST_F(DoExtractTest, AnEntryOfNoBytesKeepsTheLaterOnesFromBeingExtracted) {
     Open({{u"a"_s, "1"}, {u"e"_s, ""}, {u"f"_s, "3"}});
     AddNew(u"n"_s, "new");
+    host_.Answers = {Host::Answer::No};
     DoExtract(All(), Out(), true);
     EXPECT_EQ(Written(u"a"_s), "1");
     EXPECT_EQ(Written(u"e"_s), "") << "its target is made";
     EXPECT_FALSE(IsThere(u"f"_s));
     EXPECT_EQ(Written(u"n"_s), "new") << "a file copy needs no file number";
-    EXPECT_EQ(MessageTexts(), QStringList{u"ExtractionComplete"_s});
+    EXPECT_EQ(MessageTexts(), (QStringList{u"ExtractionComplete"_s, u"ExtractBehindEmpty"_s}));
 }
 
 TEST_F(DoExtractTest, WhatAnEntryOfNoBytesLeftOpenHarmsNoLaterRun) {
