@@ -12,7 +12,7 @@ import worlds
 
 @dataclasses.dataclass
 class Row:
-    """A command of brindock-cli in a world of its own."""
+    """A command in a world of its own."""
     name: str
     words: list  # of the command line; relative paths are below the world, which is the current folder
     make: object = worlds.plain  # makes the world in a folder
@@ -21,6 +21,7 @@ class Row:
     several: bool = False  # several files are written one by one: each is the old one or the new one for itself
     follows: bool = True  # what is called after a process died ends as an undisturbed run does
     same: object = None  # turns bytes of a path into what two runs have in common
+    program: str = "brindock-cli"
     keeps: object = None  # (state after, state before) -> what else does not hold
 
 
@@ -75,6 +76,16 @@ def without_times(path, content):
     return content
 
 
+def rescues(root):
+    worlds.plain(root)
+    worlds.write(root, {"new.bin": worlds.LONG})
+
+
+def without_time(path, content):
+    """What a rescue keeps: behind its hash, its path and its time."""
+    return content[-9:] if path.endswith("/rescue") else content
+
+
 GAME = ["--game", "gen"]
 MAP = ["--map", "Isle"]
 
@@ -115,5 +126,8 @@ ROWS = [
         again=["shellmaps", "delete", "gen", "1", "--yes"], follows=False, keeps=told.nothing_lost),
     Row("setting set", ["setting", "set", "BigView", "2"]),
     Row("ini set", ["ini", "set", "B", "Three", "3", "map.ini"], ini),
+    Row("a first rescue", ["keep", "first"], program="rescue_keeper", again=["tell"], follows=False, same=without_time),
+    Row("a rescue in place of another", ["keep", "second", "new.bin"], rescues, program="rescue_keeper",
+        before=[["keep", "first"]], again=["tell"], several=True, follows=False, same=without_time),
     Row("ini set in a new file", ["ini", "set", "B", "Three", "3", "new.ini"], ini),
 ]
