@@ -7,21 +7,25 @@
 
 #include <utility>
 
-File::File(qintptr handle, QString name, std::optional<qint64> modified)
+File::File(qintptr handle, QString name, std::optional<Told> told)
     : handle_(handle),
       name_(std::move(name)),
-      modified_(modified) {}
+      told_(told) {}
 
 File::File(File&& other) noexcept
     : handle_(std::exchange(other.handle_, NoHandle)),
       name_(std::move(other.name_)),
-      modified_(other.modified_) {}
+      told_(other.told_) {}
 
 File& File::operator=(File&& other) noexcept {
     std::swap(handle_, other.handle_);
     std::swap(name_, other.name_);
-    std::swap(modified_, other.modified_);
+    std::swap(told_, other.told_);
     return *this;
+}
+
+qint64 File::LengthWhenOpened() const {
+    return told_ ? told_->Length : Length();
 }
 
 qintptr File::Handle() const {

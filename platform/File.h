@@ -39,9 +39,14 @@ public:
     /// No file.
     File() = default;
 
-    /// Takes over a file that the system has opened, by the system's own handle. `name` is for messages. `modified`,
-    /// the milliseconds since 1970, is known of one that is only read.
-    File(qintptr handle, QString name, std::optional<qint64> modified = {});
+    /// What the system told of a file that is only read when it was opened.
+    struct Told {
+        qint64 Modified; ///< milliseconds since 1970
+        qint64 Length;   ///< bytes
+    };
+
+    /// Takes over a file that the system has opened, by the system's own handle. `name` is for messages.
+    File(qintptr handle, QString name, std::optional<Told> told = {});
 
     ~File() override;
     File(File&& other) noexcept;
@@ -62,6 +67,9 @@ public:
     /// then.
     [[nodiscard]] QDateTime Modified() const;
 
+    /// In bytes; as far as it is known from the opening, as it was then.
+    [[nodiscard]] qint64 LengthWhenOpened() const;
+
     /// CopyBytes between two files, within the system where it can.
     qint64 CopyFrom(qint64 toOffset, const File& from, qint64 fromOffset, qint64 count);
 
@@ -79,7 +87,7 @@ private:
 
     qintptr handle_ = NoHandle;
     QString name_;
-    std::optional<qint64> modified_;
+    std::optional<Told> told_;
 };
 
 /// The state of what stands at an inside path, links followed; without an identity where there is no plain file.

@@ -42,7 +42,7 @@ void Save(const Arguments& given) {
 /// The files of a folder as an archive's table, sorted by name; names that differ in case only are refused, and unless
 /// they may be changed those with letters that archives lack.
 std::vector<BigEntry> TableOf(const QString& folder, const QString& target, bool lossy) {
-    std::vector<std::tuple<QString, QString, QString>> files; // folded name, name, path
+    std::vector<std::tuple<QString, QString, QString, qint64>> files; // folded name, name, path, length
     for (const Files::FoundFile& file : Files::ListFolderFilesStrict(folder, true)) {
         if (file.Path == target)
             continue;
@@ -52,16 +52,16 @@ std::vector<BigEntry> TableOf(const QString& folder, const QString& target, bool
         if (!lossy && AnsiCodec::Decode(AnsiCodec::Encode(name)) != name)
             Fail(Paths::ToNative(file.Path),
                  u"a letter of its name would become '?' (--lossy takes it all the same)"_s);
-        files.emplace_back(name.toCaseFolded(), name, file.Path);
+        files.emplace_back(name.toCaseFolded(), name, file.Path, file.Size);
     }
     std::ranges::sort(files);
     std::vector<BigEntry> table;
     table.reserve(files.size());
     for (std::size_t i = 0; i < files.size(); ++i) {
-        const auto& [folded, name, path] = files[i];
+        const auto& [folded, name, path, length] = files[i];
         if (i > 0 && folded == std::get<0>(files[i - 1]))
             Fail(Paths::ToNative(path), u"differs from another file only in case"_s);
-        table.push_back({.Name = name, .IsNew = true, .SourcePath = path});
+        table.push_back({.Name = name, .IsNew = true, .SourcePath = path, .SourceLength = length});
     }
     return table;
 }

@@ -21,12 +21,13 @@
 class Device;
 
 struct BigEntry {
-    QString Name;         ///< path within the archive, as stored
-    qint32 Offset = 0;    ///< in the archive on disk, bytes; meaningless while IsNew
-    qint32 Size = 0;      ///< bytes
-    bool IsNew = false;   ///< the data is in SourcePath, not in the archive on disk
-    bool Deleted = false; ///< hidden until the next save and reload
-    QString SourcePath;   ///< inside path of the file with the data of a new or modified entry
+    QString Name;             ///< path within the archive, as stored
+    qint32 Offset = 0;        ///< in the archive on disk, bytes; meaningless while IsNew
+    qint32 Size = 0;          ///< bytes
+    bool IsNew = false;       ///< the data is in SourcePath, not in the archive on disk
+    bool Deleted = false;     ///< hidden until the next save and reload
+    QString SourcePath;       ///< inside path of the file with the data of a new or modified entry
+    qint64 SourceLength = -1; ///< of that file, bytes, where somebody has just looked; a save looks itself below 0
 
     friend bool operator==(const BigEntry&, const BigEntry&) = default;
 };

@@ -61,7 +61,7 @@ void ArchiveData::LoadOld(const BigEntry& entry) {
 
 void ArchiveData::LoadNew(const BigEntry& entry, qint64 size) {
     OpenSource(entry.SourcePath);
-    if (source_.Length() != size)
+    if (source_.LengthWhenOpened() != size)
         Raise(source_, QStringLiteral("changed while it was read"));
     // An empty file leaves the buffer as it was. This is meant.
     if (size > 0)

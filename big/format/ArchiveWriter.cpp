@@ -84,7 +84,8 @@ private:
         const qint64 nameLength = AnsiCodec::Encode(entry.Name).size();
         if (!entry.IsNew)
             return {nameLength, entry.Size, WritePlan::Origin::OldArchive};
-        const auto length = SourceFiles::LengthOf(entry.SourcePath);
+        const auto length =
+            entry.SourceLength >= 0 ? std::optional(entry.SourceLength) : SourceFiles::LengthOf(entry.SourcePath);
         return {nameLength, length.value_or(0), length ? WritePlan::Origin::File : WritePlan::Origin::GoneFile};
     }
 

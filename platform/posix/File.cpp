@@ -79,7 +79,7 @@ File OpenNative(int folder, const QByteArray& path, const QString& name, File::A
         RaiseNoFile(name);
     }
     if (access == File::Access::Read)
-        return {number, name, Milliseconds(status.st_mtim)};
+        return {number, name, File::Told{.Modified = Milliseconds(status.st_mtim), .Length = status.st_size}};
     return {number, name};
 }
 
@@ -113,7 +113,7 @@ FileState File::State() const {
 }
 
 QDateTime File::Modified() const {
-    const qint64 known = modified_ ? *modified_ : Milliseconds(Status(*this, name_).st_mtim);
+    const qint64 known = told_ ? told_->Modified : Milliseconds(Status(*this, name_).st_mtim);
     return QDateTime::fromMSecsSinceEpoch(known, Qt::UTC);
 }
 

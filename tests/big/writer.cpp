@@ -345,3 +345,17 @@ TEST_F(Writer, SizesThatLieDoNotTakeMemoryOrPassTheEndOfTheFormat) {
     ASSERT_TRUE(WriteBigFile(At(u"out.big"_s)));
     EXPECT_LE(Files::FileLength(At(u"out.big"_s)), 0x7FFFFFFF);
 }
+
+TEST_F(Writer, ALengthThatWasJustLookedAtIsHeldAgainstTheFileThatIsRead) {
+    AddNew(u"a.ini"_s, "hello");
+    AddNew(u"b"_s, "hi");
+    BigEntries[0].SourceLength = 5;
+    const QString target = Put(u"target.big"_s, "old");
+    for (const qint64 length : {0, 1, 3}) {
+        BigEntries[1].SourceLength = length;
+        EXPECT_FALSE(WriteBigFile(target)) << length;
+        EXPECT_EQ(World::ReadFile(target), "old");
+    }
+    BigEntries[1].SourceLength = 2;
+    EXPECT_EQ(SavedAs(0).last(17), Bytes("L225\0\0\0\0hello\0\0\0hi").last(17));
+}
