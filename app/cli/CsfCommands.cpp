@@ -5,16 +5,10 @@
 
 #include "app/cli/CsfFiles.h"
 #include "app/cli/Output.h"
+#include "app/cli/StreamPlaces.h"
 #include "csf/exchange/CsfExchange.h"
-#include "platform/AnsiCodec.h"
-#include "platform/Console.h"
-#include "platform/File.h"
-#include "platform/Paths.h"
-#include "platform/SaveLock.h"
 #include "platform/Wildcards.h"
-#include "platform/WriteAside.h"
 
-#include <QHash>
 #include <QStringList>
 
 #include <cstddef>
@@ -75,16 +69,6 @@ void DeleteName(CsfTable& table, const QString& file, const QString& name) {
         table.Strings.erase(table.Strings.begin() + static_cast<std::ptrdiff_t>(places.back()));
 }
 
-bool FitsEightBits(const QString& text) {
-    return AnsiCodec::Decode(AnsiCodec::Encode(text)) == text;
-}
-
-/// Tells on standard error when an entry loses a letter: names are of eight bits, and texts too where that was asked.
-void WarnOfLostLetters(const Arguments& given, const CsfString& entry) {
-    if (!FitsEightBits(entry.Name) || (given.Has(EightBit().Name) && !FitsEightBits(entry.Value)))
-        Console::WriteError(Paths::EncodeNative(u"a letter becomes '?'\t"_s + Escaped(entry.Name) + u'\n'));
-}
-
 /// Where the "=" behind the name stands: a name's own one has a backslash before it.
 std::string::size_type SplitOf(const std::string& set) {
     auto split = set.find('=');
@@ -107,109 +91,15 @@ void SetValue(const Arguments& given, CsfTable& table, const std::string& set) {
 }
 
 void SaveTable(const Arguments& given) {
-    const SaveLock lock(given.Path("TARGET"));
+    const PlaceLock lock(given, "TARGET");
     TableFile file = ReadTableFile(given, "FILE");
     CsfTable& table = file.Table;
     table.Language = given.Number("--language").value_or(table.Language);
     for (const QString& name : given.Texts("--delete"))
-        DeleteName(table, Paths::ToNative(given.Path("FILE")), name);
+        DeleteName(table, ShownPlace(given, "FILE"), name);
     for (const std::string& set : given.Raws("--set"))
         SetValue(given, table, set);
     WriteTableFile(given, file);
-}
-
-CsfExchange::Format FormatOfArgument(const std::string& argument) {
-    return CsfExchange::FormatOf(ArgumentText(argument)).value_or(CsfExchange::Format::Json);
-}
-
-/// Tells on standard error which entries the form of an export could not hold whole.
-void WarnOfMissing(const CsfTable& table, const CsfTable& held) {
-    QString lines;
-    for (std::size_t i = 0; i < table.Strings.size(); ++i) {
-        if (i >= held.Strings.size() || held.Strings[i] != table.Strings[i])
-            lines += u"not held whole\t"_s + Escaped(table.Strings[i].Name) + u'\n';
-    }
-    Console::WriteError(Paths::EncodeNative(lines));
-}
-
-QChar SeparatorArgument(const Arguments& given) {
-    const std::string name = given.Raw("--separator");
-    if (name == "semicolon")
-        return u';';
-    return name == "tab" ? u'\t' : u',';
-}
-
-void Export(const Arguments& given) {
-    const CsfTable table = ReadTableFile(given, "FILE").Table;
-    const CsfExchange::Format format = FormatOfArgument(given.Raw("OUT"));
-    const QByteArray bytes = CsfExchange::Export(table, format, SeparatorArgument(given));
-    WriteWhole(given.Path("OUT"), bytes);
-    WarnOfMissing(table, CsfExchange::Import(bytes, format));
-}
-
-/// Gives the entries of a table what another one holds of them, by name without regard to case and by how often that
-/// has come; the others of that one are appended.
-void PutInto(CsfTable& table, const CsfTable& changes) {
-    QHash<std::pair<QString, int>, std::size_t> places;
-    QHash<QString, int> seen;
-    for (std::size_t i = 0; i < table.Strings.size(); ++i) {
-        const QString name = table.Strings[i].Name.toCaseFolded();
-        places.insert({name, seen[name]++}, i);
-    }
-    seen.clear();
-    for (const CsfString& change : changes.Strings) {
-        const QString name = change.Name.toCaseFolded();
-        const std::size_t place = places.value({name, seen[name]++}, table.Strings.size());
-        if (place == table.Strings.size()) {
-            table.Strings.push_back(change);
-            continue;
-        }
-        CsfString& entry = table.Strings[place];
-        entry.Value = change.Value;
-        if (change.Extra)
-            entry.Extra = change.Extra;
-    }
-}
-
-void Import(const Arguments& given) {
-    const QString path = given.Path("IN");
-    const QByteArray bytes = ReadWhole(path);
-    TableFile made;
-    CsfTable& table = made.Table;
-    QStringList notes;
-    try {
-        table = CsfExchange::Import(bytes, FormatOfArgument(given.Raw("IN")), &notes);
-    } catch (const RuntimeError& error) {
-        Fail(Paths::ToNative(path), error.Description());
-    }
-    for (const QString& note : notes)
-        Console::WriteError(Paths::EncodeNative(Paths::ToNative(path) + u": "_s + note + u'\n'));
-    table.Language = given.Number("--language").value_or(table.Language);
-    for (const CsfString& entry : table.Strings)
-        WarnOfLostLetters(given, entry);
-    if (!given.Has("--into"))
-        return WriteTableFile(given, made);
-    const SaveLock lock(given.Path("TARGET"));
-    TableFile base = ReadTableFile(given, "--into");
-    PutInto(base.Table, table);
-    base.Table.Language = given.Number("--language").value_or(base.Table.Language);
-    WriteTableFile(given, base);
-}
-
-/// A place for a file whose ending tells the format.
-Parameter ExchangeFile(const std::string& name) {
-    return {.Name = name, .Check = [](const std::string& given) {
-                return CsfExchange::FormatOf(ArgumentText(given)) ? std::string()
-                                                                  : std::string("must end in .json, .csv, .po or .str");
-            }};
-}
-
-Parameter Language() {
-    return {.What = Kind::Number,
-            .Name = "--language",
-            .Description = "0 English, 2 German, 3 French, 8 Korean; a byte is stored",
-            .Least = 0,
-            .Most = 255};
 }
 
 std::string ComplaintAboutSet(const std::string& given) {
@@ -237,7 +127,7 @@ Command SaveCommand() {
               .Check = ComplaintAboutSet},
              {Kind::List, "--delete", "Leave out the entries of that name, or of those that fit a pattern with * and ?",
               "NAME"},
-             Language(),
+             CsfLanguage(),
              EightBit()},
             SaveTable};
 }
@@ -245,18 +135,5 @@ Command SaveCommand() {
 } // namespace
 
 std::vector<Command> CsfCommands() {
-    return {ListCommand(),
-            SaveCommand(),
-            {"export",
-             "Write a table as JSON, CSV, PO or the games' own text; what that can't hold is named",
-             {{Kind::Place, "FILE"}, ExchangeFile("OUT"), EightBit()},
-             Export},
-            {"import",
-             "Make a table of JSON, CSV, PO or the games' own text",
-             {ExchangeFile("IN"),
-              {Kind::Place, "TARGET"},
-              {Kind::Option, "--into", "Change only what IN holds of this table, which TARGET may be", "BASE"},
-              Language(),
-              EightBit()},
-             Import}};
+    return {ListCommand(), SaveCommand()};
 }

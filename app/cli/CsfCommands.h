@@ -6,8 +6,11 @@
 
 #include "app/cli/Command.h"
 
-/// list, save, export and import.
+/// list and save.
 std::vector<Command> CsfCommands();
+
+/// export and import.
+std::vector<Command> CsfExchangeCommands();
 
 /// diff, check and merge. They end with 0 for tables that are the same or clean, with 1 for what they found, and with 2
 /// when they could not look.

@@ -4,12 +4,12 @@
 #include "app/cli/CsfCommands.h"
 #include "app/cli/CsfFiles.h"
 #include "app/cli/Output.h"
+#include "app/cli/StreamPlaces.h"
 #include "csf/exchange/CsfCompare.h"
 #include "csf/exchange/CsfExchange.h"
 #include "platform/Console.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
-#include "platform/SaveLock.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -91,10 +91,13 @@ QJsonArray ToJson(const std::vector<CsfDifference>& differences) {
 }
 
 void Diff(const Arguments& given) {
-    const CsfTable before = ReadTableFile(given, "A").Table;
-    const CsfTable after = ReadTableFile(given, "B").Table;
+    const TableFile first = ReadTableFile(given, "A");
+    const TableFile second = ReadTableFile(given, "B");
+    const CsfTable& before = first.Table;
+    const CsfTable& after = second.Table;
     const auto differences = CsfCompare::Diff(before, after);
-    const bool sameLanguage = before.Language == after.Language;
+    const bool haveLanguage = first.HasLanguage && second.HasLanguage;
+    const bool sameLanguage = !haveLanguage || before.Language == after.Language;
     const bool sameOrder = given.Has("--ignore-order") || CsfCompare::HaveSameOrder(before, after);
     if (given.Has("--json")) {
         PrintJson(QJsonObject{{u"languages"_s, QJsonArray{before.Language, after.Language}},
@@ -130,7 +133,9 @@ void TellConflicts(const CsfMerged& merged, bool asJson) {
 }
 
 void Merge(const Arguments& given) {
-    const SaveLock lock(given.Path("TARGET"));
+    if (given.Has("--json") && given.Raw("TARGET") == "-")
+        Fail(ShownPlace(given, "TARGET"), u"takes the table or the conflicts, not both"_s);
+    const PlaceLock lock(given, "TARGET");
     const CsfTable base = ReadTableOrNothing(given, "BASE").Table;
     TableFile ours = ReadTableFile(given, "OURS");
     const CsfTable theirs = ReadTableFile(given, "THEIRS").Table;

@@ -4,9 +4,12 @@
 #include "app/cli/CsfFiles.h"
 
 #include "app/cli/Output.h"
-#include "platform/File.h"
+#include "app/cli/StreamPlaces.h"
+#include "csf/exchange/CsfExchange.h"
+#include "platform/AnsiCodec.h"
+#include "platform/Console.h"
+#include "platform/Device.h"
 #include "platform/Paths.h"
-#include "platform/WriteAside.h"
 
 #include <utility>
 
@@ -16,19 +19,35 @@ namespace {
 
 constexpr int HighestLanguage = 255;
 
-TableFile TableOf(const Arguments& given, const QString& path, const QByteArray& bytes) {
+bool FitsEightBits(const QString& text) {
+    return AnsiCodec::Decode(AnsiCodec::Encode(text)) == text;
+}
+
+TableFile TableOf(const Arguments& given, const std::string& place, const QByteArray& bytes) {
     try {
+        if (const auto format = CsfExchange::FormatOf(given.Text(place)))
+            return {.Table = CsfExchange::Import(bytes, *format),
+                    .Whole = std::nullopt,
+                    .HasLanguage = *format != CsfExchange::Format::Str};
         if (given.Has(EightBit().Name))
-            return {CsfTable::Read(QByteArrayView(bytes)), std::nullopt};
+            return {.Table = CsfTable::Read(QByteArrayView(bytes)), .Whole = std::nullopt};
         CsfWhole whole = CsfWhole::Read(bytes);
         CsfTable table = whole.Table();
-        return {std::move(table), std::move(whole)};
+        return {.Table = std::move(table), .Whole = std::move(whole)};
     } catch (const RuntimeError& error) {
-        Fail(Paths::ToNative(path), u"not a CSF file that can be read: "_s + error.Description());
+        Fail(ShownPlace(given, place), u"not a CSF file that can be read: "_s + error.Description());
     }
 }
 
 } // namespace
+
+Parameter CsfLanguage() {
+    return {.What = Parameter::Kind::Number,
+            .Name = "--language",
+            .Description = "0 English, 2 German, 3 French, 8 Korean; a byte is stored",
+            .Least = 0,
+            .Most = 255};
+}
 
 Parameter EightBit() {
     return {.What = Parameter::Kind::Flag,
@@ -37,31 +56,38 @@ Parameter EightBit() {
 }
 
 TableFile ReadTableFile(const Arguments& given, const std::string& place) {
-    const QString path = given.Path(place);
-    return TableOf(given, path, ReadWhole(path));
+    return TableOf(given, place, ReadPlace(given, place));
 }
 
 TableFile ReadTableOrNothing(const Arguments& given, const std::string& place) {
-    const QString path = given.Path(place);
-    const QByteArray bytes = ReadWhole(path);
-    return bytes.isEmpty() ? TableFile() : TableOf(given, path, bytes);
+    const QByteArray bytes = ReadPlace(given, place);
+    return bytes.isEmpty() ? TableFile() : TableOf(given, place, bytes);
 }
 
 void WriteTableFile(const Arguments& given, const TableFile& file) {
-    const QString path = given.Path("TARGET");
-    const QString shown = Paths::ToNative(path);
+    const QString shown = ShownPlace(given, "TARGET");
     const CsfTable& table = file.Table;
     if (table.Strings.empty())
         Fail(shown, u"a table without strings can't be saved"_s);
     if (!given.Has(EightBit().Name)) {
         CsfWhole whole = file.Whole.value_or(CsfWhole());
         whole.Take(table);
-        return WriteWhole(path, whole.Bytes());
+        return WritePlace(given, "TARGET", whole.Bytes());
     }
     if (table.Strings.size() > CsfTable::MaximumStrings)
         Fail(shown, u"%1 strings; %2 are the most that can be read again"_s.arg(table.Strings.size())
                         .arg(CsfTable::MaximumStrings));
     if (table.Language < 0 || table.Language > HighestLanguage)
         Fail(shown, u"the language number %1 can't be stored; --language gives another"_s.arg(table.Language));
-    table.Write(path);
+    if (!IsStream(given, "TARGET"))
+        return table.Write(given.Path("TARGET"));
+    MemoryDevice bytes;
+    table.Write(bytes);
+    WritePlace(given, "TARGET", bytes.Bytes());
+}
+
+void WarnOfLostLetters(const Arguments& given, const CsfString& entry) {
+    if (!FitsEightBits(entry.Name) || (given.Has(EightBit().Name) && !FitsEightBits(entry.Value)))
+        Console::WriteError(
+            Paths::EncodeNative(u"a letter becomes '?'\t"_s + CsfExchange::Escaped(entry.Name) + u'\n'));
 }

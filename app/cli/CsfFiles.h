@@ -17,12 +17,16 @@
 struct TableFile {
     CsfTable Table;
     std::optional<CsfWhole> Whole; ///< none of one that is read as 8-bit editors read it
+    bool HasLanguage = true;       ///< false of a form that holds none
 };
 
 /// The flag for tables as 8-bit editors read and write them.
 Parameter EightBit();
 
-/// Reads the file that a place of the command line names.
+/// The option for the language's number.
+Parameter CsfLanguage();
+
+/// Reads the file or stream that a place of the command line names: a table, or by its ending a form of one.
 TableFile ReadTableFile(const Arguments& given, const std::string& place);
 
 /// The same; a file of nothing is a table of nothing.
@@ -31,3 +35,6 @@ TableFile ReadTableOrNothing(const Arguments& given, const std::string& place);
 /// Writes a table: with all that its file had besides, or as 8-bit editors do where the flag is given. What no reader
 /// would take back is refused before any file is touched.
 void WriteTableFile(const Arguments& given, const TableFile& file);
+
+/// Tells on standard error when an entry loses a letter: names are of eight bits, and texts too where that was asked.
+void WarnOfLostLetters(const Arguments& given, const CsfString& entry);

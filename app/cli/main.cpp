@@ -23,9 +23,9 @@
 namespace {
 
 CommandGroup Csf() {
-    CommandGroup group{"csf", "CSF string tables", CsfCommands()};
-    for (const Command& command : CsfCompareCommands())
-        group.Commands.push_back(command);
+    CommandGroup group{"csf", "CSF string tables", {}};
+    for (const auto& commands : {CsfCommands(), CsfExchangeCommands(), CsfCompareCommands()})
+        group.Commands.insert(group.Commands.end(), commands.begin(), commands.end());
     return group;
 }
 

@@ -150,18 +150,18 @@ std::optional<Format> FormatOf(const QString& path) {
     return std::nullopt;
 }
 
-QByteArray Export(const CsfTable& table, Format format, QChar separator) {
+QByteArray Export(const CsfTable& table, Format format, const Wishes& wishes) {
     switch (format) {
     case Format::Json:
         return CsfFormats::ToJson(table);
     case Format::Csv:
-        return CsfFormats::ToCsv(table, separator);
+        return CsfFormats::ToCsv(table, wishes.Separator);
     case Format::Str:
         return CsfFormats::ToStr(table);
     case Format::Po:
         break;
     }
-    return CsfFormats::ToPo(table);
+    return CsfFormats::ToPo(table, wishes.Source);
 }
 
 CsfTable Import(const QByteArray& bytes, Format format, QStringList* notes) {
@@ -175,7 +175,7 @@ CsfTable Import(const QByteArray& bytes, Format format, QStringList* notes) {
     case Format::Po:
         break;
     }
-    return CsfFormats::FromPo(bytes);
+    return CsfFormats::FromPo(bytes, notes);
 }
 
 QString Escaped(const QString& text) {

@@ -27,8 +27,13 @@ enum class Format {
 /// By the extension of a file's name, in any case.
 std::optional<Format> FormatOf(const QString& path);
 
-/// `separator` stands between the fields of a CSV.
-QByteArray Export(const CsfTable& table, Format format, QChar separator = u',');
+struct Wishes {
+    QChar Separator = u',';           ///< between the fields of a CSV
+    const CsfTable* Source = nullptr; ///< of a PO: what was translated. Its texts are the source texts then, and those
+                                      ///< of the table the translations; what only one of the two has is marked
+};
+
+QByteArray Export(const CsfTable& table, Format format, const Wishes& wishes = {});
 
 /// Raises 13 with the reason, and the line where there is one. What is passed over is told in `notes`, where there are
 /// any.

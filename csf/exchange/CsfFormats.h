@@ -12,12 +12,13 @@ namespace CsfFormats {
 
 QByteArray ToJson(const CsfTable& table);
 QByteArray ToCsv(const CsfTable& table, QChar separator);
-QByteArray ToPo(const CsfTable& table);
+/// `source` is the table that was translated, where there is one.
+QByteArray ToPo(const CsfTable& table, const CsfTable* source = nullptr);
 QByteArray ToStr(const CsfTable& table);
 
 CsfTable FromJson(const QByteArray& bytes);
 CsfTable FromCsv(const QString& text, QStringList* notes);
-CsfTable FromPo(const QByteArray& bytes);
+CsfTable FromPo(const QByteArray& bytes, QStringList* notes = nullptr);
 CsfTable FromStr(const QByteArray& bytes);
 
 /// Raises 13 for a line, counted from 1.

@@ -6,6 +6,10 @@
 #include "platform/AnsiCodec.h"
 
 #include <QHash>
+#include <QSet>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -48,35 +52,121 @@ void AppendQuoted(QString& po, QLatin1StringView comment, const QString& plain) 
     po += u"\"\n"_s;
 }
 
-/// The code that the name of a gettext language has; none for the numbers without a known language.
-QString LanguageCode(int language) {
-    static const QHash<int, QString> codes{{0, u"en"_s}, {2, u"de"_s}, {3, u"fr"_s}, {8, u"ko"_s}};
-    return codes.value(language);
-}
+/// The entries of the source by name without regard to case and by how often that has come.
+class Sources {
+public:
+    explicit Sources(const CsfTable& source) : source_(source) {
+        QHash<QString, int> seen;
+        for (std::size_t i = 0; i < source.Strings.size(); ++i) {
+            const QString name = source.Strings[i].Name.toCaseFolded();
+            places_.insert({name, seen[name]++}, i);
+        }
+    }
+
+    /// The one for the next entry of that name; null where there is none.
+    const CsfString* Take(const QString& name) {
+        const QString folded = name.toCaseFolded();
+        const auto found = places_.constFind({folded, seen_[folded]++});
+        if (found == places_.constEnd())
+            return nullptr;
+        taken_.insert(*found);
+        return &source_.Strings[*found];
+    }
+
+    [[nodiscard]] bool IsTaken(std::size_t place) const { return taken_.contains(place); }
+
+private:
+    const CsfTable& source_;
+    QHash<std::pair<QString, int>, std::size_t> places_;
+    QHash<QString, int> seen_;
+    QSet<std::size_t> taken_;
+};
+
+/// Builds a catalogue entry by entry.
+class Catalogue {
+public:
+    explicit Catalogue(int language) {
+        QString head = u"MIME-Version: 1.0\nContent-Type: text/plain; charset=UTF-8\n"_s
+                       u"Content-Transfer-Encoding: 8bit\n"_s;
+        if (const QString code = CsfPo::LanguageCode(language); !code.isEmpty())
+            head += u"Language: "_s + code + u'\n';
+        head += CsfPo::LanguageField + u' ' + QString::number(language) + u'\n';
+        text_ = u"msgid \"\"\n"_s;
+        AppendText(text_, "msgstr"_L1, head);
+    }
+
+    /// An entry whose value is its source text.
+    void Add(const CsfString& entry) {
+        Begin(entry);
+        End(entry.Name, entry.Value, {});
+    }
+
+    /// An entry that is a translation; `source` is null for one that only the table has.
+    void AddTranslation(const CsfString& entry, const CsfString* source) {
+        Begin(entry);
+        if (source == nullptr)
+            text_ += CsfPo::TableOnlyComment + u'\n';
+        const QString& from = source == nullptr ? entry.Value : source->Value;
+        if (entry.Value.isEmpty() && !from.isEmpty())
+            text_ += CsfPo::EmptyComment + u'\n';
+        Refer(entry.Name, from, entry.Value);
+        End(entry.Name, from, entry.Value);
+    }
+
+    /// An entry that is not translated yet.
+    void AddSource(const CsfString& source) {
+        text_ += u'\n' + CsfPo::SourceOnlyComment + u'\n';
+        Refer(source.Name, source.Value, {});
+        End(source.Name, source.Value, {});
+    }
+
+    [[nodiscard]] QByteArray Bytes() const { return text_.toUtf8(); }
+
+private:
+    void Begin(const CsfString& entry) {
+        text_ += u'\n';
+        if (entry.IsMore)
+            text_ += CsfPo::MoreComment + u'\n';
+        if (entry.Extra)
+            AppendQuoted(text_, CsfPo::ExtraComment, AnsiCodec::Decode(*entry.Extra));
+    }
+
+    /// A reference ends at a blank, so that names with one have none.
+    void Refer(const QString& name, const QString& from, const QString& to) {
+        if (!name.isEmpty() && std::ranges::all_of(name, [](QChar letter) { return letter > u' '; }))
+            text_ += u"#: "_s + name + u'\n';
+        if (CsfPo::IsCFormat(from) && (to.isEmpty() || !to.contains(u'%') || CsfPo::IsCFormat(to)))
+            text_ += u"#, c-format\n"_s;
+    }
+
+    void End(const QString& name, const QString& from, const QString& to) {
+        AppendText(text_, "msgctxt"_L1, CsfPo::ContextOf(name, ++occurrences_[name]));
+        AppendText(text_, "msgid"_L1, from);
+        AppendText(text_, "msgstr"_L1, to);
+    }
+
+    QString text_;
+    QHash<QString, int> occurrences_;
+};
 
 } // namespace
 
 namespace CsfFormats {
 
-QByteArray ToPo(const CsfTable& table) {
-    QString head = u"MIME-Version: 1.0\nContent-Type: text/plain; charset=UTF-8\nContent-Transfer-Encoding: 8bit\n"_s;
-    if (const QString code = LanguageCode(table.Language); !code.isEmpty())
-        head += u"Language: "_s + code + u'\n';
-    head += CsfPo::LanguageField + u' ' + QString::number(table.Language) + u'\n';
-    QString po = u"msgid \"\"\n"_s;
-    AppendText(po, "msgstr"_L1, head);
-    QHash<QString, int> occurrences;
-    for (const CsfString& entry : table.Strings) {
-        po += u'\n';
-        if (entry.IsMore)
-            po += CsfPo::MoreComment + u'\n';
-        if (entry.Extra)
-            AppendQuoted(po, CsfPo::ExtraComment, AnsiCodec::Decode(*entry.Extra));
-        AppendText(po, "msgctxt"_L1, CsfPo::ContextOf(entry.Name, ++occurrences[entry.Name]));
-        AppendText(po, "msgid"_L1, entry.Value);
-        po += u"msgstr \"\"\n"_s;
+QByteArray ToPo(const CsfTable& table, const CsfTable* source) {
+    Catalogue catalogue(table.Language);
+    if (source == nullptr) {
+        for (const CsfString& entry : table.Strings)
+            catalogue.Add(entry);
+        return catalogue.Bytes();
     }
-    return po.toUtf8();
+    Sources sources(*source);
+    for (const CsfString& entry : table.Strings)
+        catalogue.AddTranslation(entry, sources.Take(entry.Name));
+    for (std::size_t place = 0; place < source->Strings.size(); ++place)
+        if (!sources.IsTaken(place))
+            catalogue.AddSource(source->Strings[place]);
+    return catalogue.Bytes();
 }
 
 } // namespace CsfFormats

@@ -44,6 +44,8 @@ bool IsFuzzy(QByteArrayView comment) {
 /// Takes a catalogue line by line. Texts are bytes until their entry ends: an escape sequence stands for a byte.
 class Reader {
 public:
+    explicit Reader(QStringList* notes) : notes_(notes) {}
+
     CsfTable Read(QByteArrayView bytes) {
         if (bytes.startsWith("\xEF\xBB\xBF"))
             bytes = bytes.sliced(3);
@@ -67,6 +69,8 @@ private:
         std::optional<QByteArray> Extra;
         bool Fuzzy = false;
         bool IsMore = false;
+        bool IsEmpty = false;    ///< without a translation it is the empty text
+        bool IsOptional = false; ///< without a translation it is none
     };
 
     void Line(QByteArrayView line) {
@@ -91,6 +95,10 @@ private:
             entry_.Fuzzy = true;
         else if (line == CsfPo::MoreComment)
             entry_.IsMore = true;
+        else if (line == CsfPo::EmptyComment)
+            entry_.IsEmpty = true;
+        else if (line == CsfPo::SourceOnlyComment)
+            entry_.IsOptional = true;
         else if (line.startsWith(CsfPo::ExtraComment))
             ReadExtra(line.sliced(CsfPo::ExtraComment.size()).trimmed());
     }
@@ -180,9 +188,13 @@ private:
         if (!entry.Context)
             CsfFormats::Refuse(entry.Line, u"an entry without msgctxt would have no name"_s);
         const bool translated = !entry.Fuzzy && !entry.Translation->isEmpty();
+        if (!translated && exported_ && entry.IsOptional)
+            return;
+        const QByteArray value = translated                   ? *entry.Translation
+                                 : exported_ && entry.IsEmpty ? QByteArray()
+                                                              : *entry.Source;
         const QString context = Text(*entry.Context, entry.Line);
-        table_.Strings.push_back({Text(translated ? *entry.Translation : *entry.Source, entry.Line),
-                                  exported_ ? CsfPo::NameOf(context) : context});
+        table_.Strings.push_back({Text(value, entry.Line), exported_ ? CsfPo::NameOf(context) : context});
         if (entry.Extra)
             table_.Strings.back().Extra = AnsiCodec::Encode(Text(*entry.Extra, entry.Line));
         table_.Strings.back().IsMore = entry.IsMore;
@@ -196,6 +208,7 @@ private:
     }
 
     void Head(const QByteArray& text, qsizetype line) {
+        QString code;
         for (const QByteArray& field : text.split('\n')) {
             const QString plain = QString::fromUtf8(field);
             if (plain.startsWith(CsfPo::LanguageField, Qt::CaseInsensitive)) {
@@ -203,10 +216,23 @@ private:
                 table_.Language = CsfFormats::LanguageNumber(number, line);
                 exported_ = true;
             }
+            if (plain.startsWith("Language:"_L1, Qt::CaseInsensitive))
+                code = plain.sliced("Language:"_L1.size()).trimmed();
             const qsizetype name = field.toLower().indexOf("charset=");
             if (name >= 0 && plain.startsWith("Content-Type:"_L1, Qt::CaseInsensitive))
                 UseCharset(field.sliced(name + 8).trimmed(), line);
         }
+        UseLanguage(code);
+    }
+
+    /// Programs for translators give the language by its code: another one than that of the number counts.
+    void UseLanguage(const QString& code) {
+        if (code.isEmpty() || (exported_ && code == CsfPo::LanguageCode(table_.Language)))
+            return;
+        if (const auto number = CsfPo::LanguageOf(code))
+            table_.Language = *number;
+        else if (notes_ != nullptr)
+            *notes_ += u"the language \"%1\" has no number that is known: it stays %2"_s.arg(code).arg(table_.Language);
     }
 
     void UseCharset(const QByteArray& name, qsizetype line) {
@@ -217,6 +243,7 @@ private:
                                    QString::fromUtf8(name)));
     }
 
+    QStringList* notes_;
     CsfTable table_;
     Entry entry_;
     std::optional<QByteArray>* current_ = nullptr;
@@ -229,8 +256,8 @@ private:
 
 namespace CsfFormats {
 
-CsfTable FromPo(const QByteArray& bytes) {
-    return Reader().Read(bytes);
+CsfTable FromPo(const QByteArray& bytes, QStringList* notes) {
+    return Reader(notes).Read(bytes);
 }
 
 } // namespace CsfFormats

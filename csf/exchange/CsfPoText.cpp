@@ -3,6 +3,8 @@
 
 #include "csf/exchange/CsfPoText.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -11,6 +13,16 @@ namespace {
 
 constexpr char16_t LoweredZero = u'\u2080';
 constexpr char16_t LoweredNine = u'\u2089';
+
+struct Language {
+    int Number;
+    QLatin1StringView Code;
+};
+
+constexpr std::array<Language, 4> Languages{{{0, QLatin1StringView("en")},
+                                             {2, QLatin1StringView("de")},
+                                             {3, QLatin1StringView("fr")},
+                                             {8, QLatin1StringView("ko")}}};
 
 struct Picture {
     char16_t Control;
@@ -42,6 +54,36 @@ bool HasPictureOrControl(const QString& text) {
 } // namespace
 
 namespace CsfPo {
+
+QString LanguageCode(int language) {
+    const auto* const found = std::ranges::find(Languages, language, &Language::Number);
+    return found == Languages.end() ? QString() : QString(found->Code);
+}
+
+std::optional<int> LanguageOf(QStringView code) {
+    const auto isLetter = [](QChar letter) { return letter.isLetter(); };
+    const auto end = std::ranges::find_if_not(code, isLetter);
+    const QStringView plain = code.first(end - code.begin());
+    const auto* const found =
+        std::ranges::find_if(Languages, [&](const Language& language) { return plain == language.Code; });
+    return found == Languages.end() ? std::nullopt : std::optional(found->Number);
+}
+
+bool IsCFormat(const QString& text) {
+    // The sizes that gettext accepts before each letter.
+    static const QRegularExpression placeholder(
+        u"\\G%(?:%|(?:\\d+\\$)?[-+ #0']*(?:\\*(?:\\d+\\$)?|\\d+)?(?:\\.(?:\\*(?:\\d+\\$)?|\\d*))?"
+        "(?:(?:hh|h|ll|l|q|j|z|t)?[diouxXn]|[lL]?[eEfFgGaA]|l?[cs]|[CSp]))"_s);
+    bool has = false;
+    for (qsizetype at = text.indexOf(u'%'); at >= 0; at = text.indexOf(u'%', at)) {
+        const QRegularExpressionMatch match = placeholder.match(text, at);
+        if (!match.hasMatch())
+            return false;
+        has = has || match.capturedLength() > 2 || text[at + 1] != u'%';
+        at = match.capturedEnd();
+    }
+    return has;
+}
 
 QString ContextOf(const QString& name, int occurrence) {
     QString context = name;

@@ -28,7 +28,8 @@ void CopiedTime::Keep(const File& from, const File& copy) {
     struct stat status {};
 
     if (::fstat(static_cast<int>(from.Handle()), &status) != 0)
-        return;
+        return NoteErrno(errno, from.Name());
     const std::array<timespec, 2> times{timespec{.tv_sec = 0, .tv_nsec = UTIME_OMIT}, status.st_mtim};
-    ::futimens(static_cast<int>(copy.Handle()), times.data());
+    if (::futimens(static_cast<int>(copy.Handle()), times.data()) != 0)
+        NoteErrno(errno, copy.Name());
 }

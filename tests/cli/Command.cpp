@@ -7,9 +7,11 @@
 
 #include <QProcess>
 
-Outcome RunCommand(const QStringList& arguments) {
+Outcome RunCommand(const QStringList& arguments, const QByteArray& input) {
     QProcess process;
     process.start(QString::fromUtf8(Places::Commands), arguments);
+    process.write(input);
+    process.closeWriteChannel();
     const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
     return {.Code = ended ? process.exitCode() : -1,
             .Output = process.readAllStandardOutput(),

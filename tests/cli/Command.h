@@ -13,5 +13,6 @@ struct Outcome {
     QByteArray Error;  ///< standard error
 };
 
-/// With the environment of the test's World. A run that crashes or hangs has the code -1.
-Outcome RunCommand(const QStringList& arguments);
+/// With the environment of the test's World, and `input` as standard input. A run that crashes or hangs has the code
+/// -1.
+Outcome RunCommand(const QStringList& arguments, const QByteArray& input = {});

@@ -75,7 +75,9 @@ TEST(ExchangeOfWholeTables, CsvIsReadAsSpreadsheetsSaveIt) {
         EXPECT_EQ(CsfExchange::Import(QStringEncoder(QStringEncoder::Utf16BE, QStringEncoder::Flag::WriteBom)(text),
                                       Format::Csv),
                   expected);
-        EXPECT_EQ(CsfExchange::Import(CsfExchange::Export(expected, Format::Csv, separator), Format::Csv), expected);
+        EXPECT_EQ(
+            CsfExchange::Import(CsfExchange::Export(expected, Format::Csv, {.Separator = separator}), Format::Csv),
+            expected);
     }
 }
 
