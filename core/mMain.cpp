@@ -88,7 +88,7 @@ void ShowTool(const mMain::Dispatched& dispatched) {
 void mMain::UseRuntimes() {
     ini = std::make_unique<INIRuntime>();
     registry = std::make_unique<RegistryRuntime>();
-    ProgramFolder = Paths::ProgramFolder();
+    ProgramFolders::Use(Paths::ProgramFolder());
 }
 
 RegistryRuntime& mMain::Registry() {

@@ -32,7 +32,7 @@ QByteArray Record(const QString& key) {
 }
 
 void LogMiss(const QString& key) {
-    File log = File::Open(mMain::ProgramFolder + u"\\localization.log"_s, File::Access::ReadWrite);
+    File log = File::Open(ProgramFolders::LogFolder() + u"\\localization.log"_s, File::Access::ReadWrite);
     Ignoring([&] {
         // The position is the length counted from 1, so a record overwrites the line feed of the one before.
         // This is meant.

@@ -20,6 +20,9 @@ qint64 FileLength(const QString& path);
 
 bool FolderExists(const QString& path);
 
+/// Whether this user may make files in a folder that is there.
+bool TakesFiles(const QString& folder);
+
 /// Raises 75 when the folder (or a file of that name) exists already, 76 when its parent does not. A trailing backslash
 /// is allowed.
 void MakeFolder(const QString& path);

@@ -10,3 +10,8 @@
 /// in; without that variable the one of the registry file, or on Windows "Brindock 2005" in the local application data.
 /// It need not exist.
 QString OwnFolder();
+
+/// The user's folders for what may go at any time, and for what tells what happened: as OwnFolder where
+/// BRINDOCK_REGISTRY is set and on Windows, else below the XDG base directories.
+QString OwnCacheFolder();
+QString OwnStateFolder();

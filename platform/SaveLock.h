@@ -11,9 +11,9 @@
 
 class File;
 
-/// Locks a file, links followed, while it lives, and what takes the file's place meanwhile. A process may hold it
-/// several times. Where no lock is to be had (no such file, a file system without locks) there is none, and all goes
-/// on.
+/// Locks a file, links followed, while it lives or until another one takes the file's place: who waits finds the one
+/// that was saved. A process may hold it several times. Where no lock is to be had (no such file, a file system without
+/// locks) there is none, and all goes on.
 class SaveLock {
 public:
     /// Waits for another program's save; raises 70, naming the file, when that takes longer than ten seconds.

@@ -43,7 +43,7 @@ QString mUpdater::PublicKey() {
 }
 
 QString mUpdater::DownloadFolder() {
-    return ProgramFolders::ProgramFolder + u"\\TempUpdater"_s;
+    return ProgramFolders::WorkFolder() + u"\\TempUpdater"_s;
 }
 
 QString mUpdater::InfoFile() {

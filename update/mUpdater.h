@@ -34,7 +34,7 @@ QString UpdateServer();
 /// The key that releases are signed with, in `updater.cfg`; empty where they need no signature.
 QString PublicKey();
 
-/// "TempUpdater" in the program's folder, an inside path without a trailing backslash.
+/// "TempUpdater" in the work folder, an inside path without a trailing backslash.
 QString DownloadFolder();
 
 /// What the server tells of its releases, in the download folder.

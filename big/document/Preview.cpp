@@ -37,7 +37,7 @@ bool IsSound(const QString& name) {
 }
 
 QString PictureFolder() {
-    return Paths::ProgramFolder() + u"\\TempPrev"_s;
+    return ProgramFolders::WorkFolder() + u"\\TempPrev"_s;
 }
 
 /// The path of a temporary file straight in one of the two folders; raises for a name that may not be written.

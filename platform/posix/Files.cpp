@@ -130,6 +130,10 @@ bool FolderExists(const QString& path) {
     return status && S_ISDIR(status->st_mode);
 }
 
+bool TakesFiles(const QString& folder) {
+    return FolderExists(folder) && ::access(Paths::EncodeNative(Paths::ToNative(folder)).constData(), W_OK | X_OK) == 0;
+}
+
 void MakeFolder(const QString& path) {
     MakeNative(Paths::ToNative(FolderPath(path)));
 }

@@ -112,6 +112,17 @@ bool FolderExists(const QString& path) {
     return attributes && IsFolder(attributes->dwFileAttributes);
 }
 
+// Who may do what is told by lists that nobody can foresee: it is tried.
+bool TakesFiles(const QString& folder) {
+    const HANDLE tried =
+        CreateFileW(WidePath(folder + u'\\' + PrivateName()).c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+                    FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    if (tried == INVALID_HANDLE_VALUE)
+        return false;
+    CloseHandle(tried);
+    return true;
+}
+
 void MakeFolder(const QString& path) {
     if (CreateDirectoryW(WidePath(FolderPath(path)).c_str(), nullptr) != 0)
         return;

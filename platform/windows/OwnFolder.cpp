@@ -19,3 +19,11 @@ QString OwnFolder() {
     const QString local = known ? QString::fromWCharArray(path.data()) : qEnvironmentVariable("LOCALAPPDATA");
     return local + QStringLiteral("\\Brindock 2005");
 }
+
+QString OwnCacheFolder() {
+    return OwnFolder();
+}
+
+QString OwnStateFolder() {
+    return OwnFolder();
+}

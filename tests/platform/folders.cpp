@@ -89,3 +89,11 @@ TEST_F(FoldersTest, AReplayThatStaysOpenStopsNothingElse) {
     for (const int other : {ExtractTarget, ExtractArchive, Table})
         EXPECT_NE(Replay, other);
 }
+
+TEST_F(FoldersTest, AFolderTakesFilesWhereOneCanBeMade) {
+    Make(u"file"_s, "1");
+    EXPECT_TRUE(Files::TakesFiles(At(u"."_s).chopped(2)));
+    EXPECT_FALSE(Files::TakesFiles(At(u"none"_s)));
+    EXPECT_FALSE(Files::TakesFiles(At(u"file"_s)));
+    EXPECT_EQ(Names(u"."_s), QStringList{u"file"_s});
+}
