@@ -3,6 +3,7 @@
 
 #include "core/mMain.h"
 
+#include "core/FirstLanguage.h"
 #include "core/GameFiles.h"
 #include "core/Host.h"
 #include "core/Navigator.h"
@@ -14,6 +15,8 @@
 #include "platform/Paths.h"
 #include "platform/Processes.h"
 #include "platform/RuntimeError.h"
+
+#include <QLocale>
 
 #include <cmath>
 #include <memory>
@@ -118,6 +121,7 @@ mMain::Dispatched mMain::Prepare(const QString& commandLine, const std::function
     Dispatched normalStart{.UpdateChecks = 1};
     const bool detected = Ignoring([&] {
         UseRuntimes();
+        Ignoring([] { FirstLanguage::Choose(QLocale::system().uiLanguages()); });
         LanguageFileName = ReadSetting(SettingKeys::TradFileName);
         detect();
     });

@@ -3,8 +3,10 @@
 
 #include "update/mUpdater.h"
 
+#include "core/Host.h"
 #include "core/ProgramFolders.h"
 #include "core/mMain.h"
+#include "core/mTraduction.h"
 #include "platform/RuntimeError.h"
 
 using namespace Qt::StringLiterals;
@@ -24,12 +26,25 @@ QString Configured(const QString& key) {
     return mMain::INI().ReadINI(u"BrindockUpdater"_s, key, ProgramFolders::ProgramFolder + u"\\updater.cfg"_s);
 }
 
+bool BringsThePackageManager() {
+    QString value;
+    Ignoring([&] { value = Configured(u"PackageManager"_s); });
+    return !value.isEmpty();
+}
+
+void TellOfPackages() {
+    if (!mUpdater::AutoUpdateCheck)
+        Host::Current().Message(mTraduction::GetText(u"UpdatesByPackages"_s), Host::Icon::Information);
+}
+
 } // namespace
 
 void mUpdater::CheckForUpdates(bool automatic) {
     AutoUpdateCheck = automatic;
     Ignoring([] {
-        if (LoadWindow)
+        if (BringsThePackageManager())
+            TellOfPackages();
+        else if (LoadWindow)
             LoadWindow();
     });
 }

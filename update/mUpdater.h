@@ -25,7 +25,8 @@ extern qint32 UpdateFileSize; ///< bytes
 /// Loads the window and runs the whole check; does nothing when it is loaded. The application wires it.
 extern std::function<void()> LoadWindow;
 
-/// Comes back when the check is over or has found something. Any failure is passed over.
+/// Comes back when the check is over or has found something. Any failure is passed over. Where `updater.cfg` says that
+/// a package manager brings the updates, a check that the user asked for tells that, and nobody is asked.
 void CheckForUpdates(bool automatic);
 
 /// The base URL in `updater.cfg`; empty without one.

@@ -379,3 +379,16 @@ TEST(Updater, TheFlagIsStoredAndFailuresArePassedOver) {
         mUpdater::CheckForUpdates(automatic);
     }
 }
+
+TEST_F(UpdateTest, WhereAPackageManagerBringsTheUpdatesNobodyIsAsked) {
+    world_.WriteFile(u"program\\updater.cfg"_s, "[BrindockUpdater]\r\nPackageManager=1\r\n");
+    int loaded = 0;
+    mUpdater::LoadWindow = [&loaded] { ++loaded; };
+    mUpdater::CheckForUpdates(true);
+    EXPECT_TRUE(host_.Messages.empty());
+    mUpdater::CheckForUpdates(false);
+    ASSERT_EQ(host_.Messages.size(), 1U);
+    EXPECT_EQ(host_.Messages.front().Text, u"UpdatesByPackages"_s);
+    EXPECT_EQ(loaded, 0);
+    mUpdater::LoadWindow = nullptr;
+}
