@@ -5,7 +5,7 @@ if(WIN32)
   set(BRINDOCK_FOLDER .)
 else()
   include(GNUInstallDirs)
-  set(BRINDOCK_FOLDER ${CMAKE_INSTALL_LIBDIR}/brindock)
+  set(BRINDOCK_FOLDER lib/brindock)
 endif()
 
 # install_program(target): a program of the suite, with a link where programs are looked for.

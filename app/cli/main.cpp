@@ -4,6 +4,7 @@
 /// brindock-cli: the suite's file logic for scripts and build pipelines.
 #include "app/cli/BigCommands.h"
 #include "app/cli/CsfCommands.h"
+#include "app/cli/Description.h"
 #include "app/cli/ExportCommand.h"
 #include "app/cli/GameCommands.h"
 #include "app/cli/InstallCommand.h"
@@ -18,6 +19,7 @@
 #include "install/journal/JournalFollower.h"
 #include "media/MediaChild.h"
 #include "platform/Arguments.h"
+#include "platform/Console.h"
 #include "platform/RuntimeError.h"
 
 namespace {
@@ -59,6 +61,10 @@ int Run(const std::vector<std::string>& words) {
     groups.push_back({"installed", "What was installed into the games", InstalledCommands()});
     groups.push_back({"zip", "ZIP archives", ZipCommands()});
     groups.push_back({{}, {}, InstallCommands()});
+    if (words == std::vector<std::string>{"--describe"}) {
+        Console::Write(Described(groups));
+        return 0;
+    }
     // All is done by then; taking a large table apart would only cost time.
     EndWith(RunCommand(groups, words));
 }

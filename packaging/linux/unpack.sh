@@ -4,7 +4,8 @@
 
 # Brindock 2005 @VERSION@, packed behind the last line of this script.
 #
-#   FILE           puts it over the suite that downloaded it and starts that; anywhere else, into ~/.local/lib/brindock
+#   FILE           puts it over the suite that downloaded it into its own folder and starts that; anywhere else, into
+#                  ~/.local/lib/brindock
 #   FILE FOLDER    puts it into a folder
 set -eu
 
@@ -12,7 +13,7 @@ here=$(cd "$(dirname "$0")" && pwd)
 start=
 if [ $# -gt 0 ]; then
   target=$1
-elif [ "$(basename "$here")" = TempUpdater ]; then
+elif [ "$(basename "$here")" = TempUpdater ] && [ -x "$(dirname "$here")/brindock" ]; then
   target=$(dirname "$here")
   start=yes
 else
