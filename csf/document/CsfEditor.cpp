@@ -54,6 +54,8 @@ void CsfEditor::OpenCSFFile(const QString& path) {
     const qint32 language = isThere ? mCSF::ReadCSF(path) : mCSF::Refused;
     if (language != mCSF::Refused)
         Load(path, language);
+    else if (isThere)
+        OfferWhole(path);
     // A save that was killed may have left nothing else.
     if (offers_.TellBeside(path) && language == mCSF::Refused)
         view_.ShowWindow();
@@ -77,11 +79,14 @@ void CsfEditor::Load(const QString& path, qint32 language) {
         state_.SelectedRow = CsfEditorState::None;
         view_.ListChanged(LabelChange::Reset, 0);
     }
+    state_.Whole = false;
+    ReadBehind(path);
     state_.ActionsVisible = true;
     SelectAndClick(0, true);
     state_.Modified = false;
     rescue_.Opened();
     view_.StateChanged();
+    TellLost();
     view_.ShowWindow();
 }
 
@@ -127,8 +132,8 @@ void CsfEditor::NameTyped(const QString& text) {
 void CsfEditor::ValueTyped(const QString& text) {
     if (!list_.Has(state_.SelectedRow))
         return;
-    const QString stored = LostLetters::AsStored(text);
-    list_.SetValue(state_.SelectedRow, QString(stored).replace(u"\r\n"_s, u"\n"_s));
+    const QString stored = state_.Whole ? text : LostLetters::AsStored(text);
+    SetValue(QString(text).replace(u"\r\n"_s, u"\n"_s));
     Typed(stored != text ? &state_.ValueText : nullptr, stored);
 }
 
@@ -141,7 +146,10 @@ void CsfEditor::Typed(QString* box, const QString& stored) {
         *box = stored;
         view_.BoxChanged(box == &state_.NameText);
         list_.SetLostLetters(place);
-        view_.ShowNotice({.Text = LostLetters::Told({list_.Row(place).Name})});
+        Notice notice{.Text = LostLetters::Told({list_.Row(place).Name})};
+        if (box == &state_.ValueText) // a name has 8 bits everywhere
+            notice.Links = {KeepEverythingLink()};
+        view_.ShowNotice(notice);
     }
     view_.StateChanged();
 }

@@ -8,12 +8,14 @@
 #include "core/Document.h"
 #include "core/rescue/RescueOffers.h"
 #include "csf/document/LabelList.h"
+#include "csf/document/TableBehind.h"
 #include "csf/document/TableRescue.h"
 #include "csf/format/CsfSave.h"
 
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 /// For Sort, CsfEditor::NewPlaces tells the order.
@@ -44,11 +46,12 @@ struct CsfEditorState {
 
     QString Path;                ///< inside path of the file; the new-file name while there is none
     bool Modified = false;       ///< unsaved changes exist
+    bool Whole = false;          ///< the rows keep all that the file holds; else what 8 bits do
     bool FrameVisible = false;   ///< fraFileInfos
     QString Caption;             ///< of fraFileInfos
     QString SizeText;            ///< lblSize
     QString LanguageText;        ///< lblLanguage: the number that saves use
-    int LanguageShown = None;    ///< the entry of cmbLanguage, read or chosen; saves ignore it
+    int LanguageShown = None;    ///< the entry of cmbLanguage, read or chosen; saves in 8 bits ignore it
     bool ActionsVisible = false; ///< mnuActions
     bool BoxesEnabled = false;   ///< txtName and txtValue
     QString NameText;            ///< txtName, as the document set it last
@@ -76,6 +79,9 @@ public:
     /// Opens a file and shows the window; one that is missing or refused changes nothing. Asks nothing about changes.
     void OpenCSFFile(const QString& path);
 
+    /// From now on the document is all that its file holds, with the changes made so far.
+    void KeepEverything();
+
     void New();
     void Open();
     void Save();
@@ -93,8 +99,8 @@ public:
     /// The new place of each row by its old one, as the last ClickHeader sorted them.
     [[nodiscard]] const std::vector<int>& NewPlaces() const { return newPlaces_; }
 
-    /// The user chose an entry of cmbLanguage: no change of the document.
-    void LanguageChosen(int entry) { state_.LanguageShown = entry; }
+    /// The user chose an entry of cmbLanguage: no change of a document in 8 bits.
+    void LanguageChosen(int entry);
 
     /// The user changed a box; what it holds now. Line breaks may be CR LF or LF.
     void NameTyped(const QString& text);
@@ -132,7 +138,18 @@ private:
     void Load(const QString& path, qint32 language);
     Document::Saved SaveToFileOrName();
     Document::Saved SaveUnderName();
+    [[nodiscard]] bool MaySave();
     Document::Saved Write();
+    bool WriteEightBits();
+    bool WriteWholeTable();
+    void ReadBehind(const QString& path);
+    bool OfferWhole(const QString& path);
+    void OpenWhole(const QString& path);
+    void ShowWholeRows(std::vector<LabelRow> rows);
+    [[nodiscard]] QStringList LostOfFile() const;
+    [[nodiscard]] NoticeLink KeepEverythingLink();
+    void TellLost();
+    void SetValue(const QString& value);
     void TellFailedSave() const;
     [[nodiscard]] RescueOffers::Editor ForOffers();
     [[nodiscard]] TableRescue::Document Rescued() const;
@@ -146,7 +163,9 @@ private:
     CsfEditorState state_;
     LabelList list_;
     std::vector<int> newPlaces_;
-    CsfSaves saves_; ///< of the document that is open
+    CsfSaves saves_;                    ///< of the document that is open
+    std::optional<TableBehind> behind_; ///< what its file holds; nothing where that is not known, or not well formed
+    bool isLossTold_ = false;           ///< the last notice about a document was what its file loses
     TableRescue rescue_;
     RescueOffers offers_;
 };

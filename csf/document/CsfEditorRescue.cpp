@@ -22,10 +22,14 @@ RescueOffers::Editor CsfEditor::ForOffers() {
 }
 
 TableRescue::Document CsfEditor::Rescued() const {
-    return {
-        .Table = {.Rows = list_.Table(), .LanguageText = state_.LanguageText, .LanguageShown = state_.LanguageShown},
-        .Path = state_.Path,
-        .NeverSaved = state_.Path == NewName()};
+    RescuedTable table{
+        .Rows = list_.Table(), .LanguageText = state_.LanguageText, .LanguageShown = state_.LanguageShown};
+    table.Whole = state_.Whole;
+    if (behind_)
+        table.Behind = behind_->Bytes();
+    for (const LabelRow& row : list_.Rows())
+        table.Indexes += row.Index;
+    return {.Table = std::move(table), .Path = state_.Path, .NeverSaved = state_.Path == NewName()};
 }
 
 bool CsfEditor::OpenRescue(const Rescues::Left& left) {
@@ -47,8 +51,11 @@ bool CsfEditor::OpenRescue(const Rescues::Left& left) {
 
 void CsfEditor::ShowRescued(const RescueFacts& facts, const RescuedTable& table) {
     mCSF::CsfStrings = table.Rows;
+    behind_.reset();
+    Ignoring([&] { behind_ = TableBehind::Read(table.Behind); });
+    state_.Whole = table.Whole;
     view_.ListChanging(LabelChange::Reset, 0);
-    list_.Restore(table.Rows);
+    list_.Restore(table.Rows, behind_ ? table.Indexes : QList<qint32>());
     state_.SelectedRow = CsfEditorState::None;
     view_.ListChanged(LabelChange::Reset, 0);
     saves_ = {};
@@ -65,5 +72,6 @@ void CsfEditor::ShowRescued(const RescueFacts& facts, const RescuedTable& table)
         SelectAndClick(0, true);
     else
         ShowBoxes(false, {}, {});
+    TellLost();
     view_.ShowWindow();
 }

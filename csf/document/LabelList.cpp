@@ -8,6 +8,7 @@
 #include <QStringMatcher>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
@@ -20,16 +21,43 @@ void LabelList::Load(const std::vector<CsfString>& table) {
     rows_.clear();
     rows_.reserve(table.size());
     for (const CsfString& entry : table)
-        rows_.push_back({entry.Name, entry.Value, Count()});
+        rows_.push_back({.Name = entry.Name, .Value = entry.Value, .Index = Count(), .Id = ++lastId_});
     order_.Mark(Name, Order::Ascending);
     Sort();
 }
 
-void LabelList::Restore(const std::vector<CsfString>& rows) {
+void LabelList::Restore(const std::vector<CsfString>& rows, const QList<qint32>& indexes) {
     rows_.clear();
     rows_.reserve(rows.size());
     for (const CsfString& row : rows)
-        rows_.push_back({row.Name, row.Value});
+        rows_.push_back({.Name = row.Name,
+                         .Value = row.Value,
+                         .Index = indexes.value(Count(), -1),
+                         .Id = ++lastId_,
+                         .Extra = row.Extra,
+                         .IsMore = row.IsMore});
+}
+
+void LabelList::Replace(std::vector<LabelRow> rows) {
+    rows_ = std::move(rows);
+    for (LabelRow& row : rows_)
+        if (row.Id == 0)
+            row.Id = ++lastId_;
+    Sort();
+}
+
+void LabelList::Saved(const std::vector<int>& indexes) {
+    for (int place = 0; place < Count(); ++place) {
+        LabelRow& row = rows_[static_cast<std::size_t>(place)];
+        row.Index = indexes[static_cast<std::size_t>(place)];
+        row.LostLetters = false;
+        row.Wished.clear();
+    }
+}
+
+int LabelList::PlaceOf(int id) const {
+    const auto found = std::ranges::find(rows_, id, &LabelRow::Id);
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
 QString LabelList::Key(int place) const {
@@ -41,7 +69,7 @@ std::vector<CsfString> LabelList::Table() const {
     std::vector<CsfString> table;
     table.reserve(rows_.size());
     for (const LabelRow& row : rows_)
-        table.push_back({row.Value, row.Name});
+        table.push_back({row.Value, row.Name, row.Extra, row.IsMore});
     return table;
 }
 
@@ -51,11 +79,6 @@ QStringList LabelList::NamesOfLost() const {
         if (row.LostLetters)
             names += row.Name;
     return names;
-}
-
-void LabelList::ForgetLost() {
-    for (LabelRow& row : rows_)
-        row.LostLetters = false;
 }
 
 QString LabelList::Text(int place, int column) const {

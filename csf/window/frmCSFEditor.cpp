@@ -199,6 +199,7 @@ void frmCSFEditor::StateChanged() {
     ui_->lblSize->setText(state.SizeText);
     ui_->lblLanguage->setText(state.LanguageText);
     ui_->cmbLanguage->setCurrentIndex(state.LanguageShown);
+    ui_->cmbLanguage->setEnabled(state.Whole);
     ui_->mnuActions->setVisible(state.ActionsVisible);
     ui_->txtName->setEnabled(state.BoxesEnabled);
     ui_->txtValue->setEnabled(state.BoxesEnabled);
@@ -210,6 +211,7 @@ void frmCSFEditor::StateChanged() {
     ui_->txtFind->setPalette(colours);
     count_->setText(editor_.CountText());
     const QString tool = u"CSF Editor"_s;
-    setWindowTitle(state.FrameVisible ? state.Caption + u"[*] - "_s + tool : tool);
+    const QString mode = state.Whole ? u" ("_s + mTraduction::GetText(u"WholeTable"_s) + u')' : QString();
+    setWindowTitle(state.FrameVisible ? state.Caption + u"[*]"_s + mode + u" - "_s + tool : tool);
     setWindowModified(state.Modified);
 }

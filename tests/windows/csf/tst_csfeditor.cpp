@@ -258,6 +258,7 @@ private Q_SLOTS:
 
     void theLanguageListIsOnlyADisplay() {
         OpenThree();
+        QVERIFY(!Part<QComboBox>("cmbLanguage")->isEnabled());
         Part<QComboBox>("cmbLanguage")->setCurrentIndex(8);
         Part<QAction>("mnuSave")->trigger();
         QCOMPARE(mCSF::ReadCSF(path_), 3);
