@@ -13,6 +13,8 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
@@ -84,6 +86,7 @@ void CsfEditor::Load(const QString& path, qint32 language) {
     state_.ActionsVisible = true;
     SelectAndClick(0, true);
     state_.Modified = false;
+    history_.Begin();
     rescue_.Opened();
     view_.StateChanged();
     TellLost();
@@ -100,6 +103,7 @@ void CsfEditor::ClickRow(int place) {
     if (!list_.Has(place))
         return;
     state_.SelectedRow = place;
+    history_.Break();
     ShowBoxes(true, list_.Row(place).Name, ForBox(list_.Row(place).Value));
 }
 
@@ -124,30 +128,33 @@ void CsfEditor::ClickHeader(LabelList::Column column) {
 void CsfEditor::NameTyped(const QString& text) {
     if (!list_.Has(state_.SelectedRow))
         return;
+    const LabelRow before = list_.Row(state_.SelectedRow);
     const QString stored = LostLetters::AsStored(text);
     list_.SetName(state_.SelectedRow, stored);
-    Typed(stored != text ? &state_.NameText : nullptr, stored);
+    if (stored != text)
+        list_.SetLostLetters(state_.SelectedRow);
+    Typed(before, true, text, stored);
 }
 
 void CsfEditor::ValueTyped(const QString& text) {
     if (!list_.Has(state_.SelectedRow))
         return;
-    const QString stored = state_.Whole ? text : LostLetters::AsStored(text);
+    const LabelRow before = list_.Row(state_.SelectedRow);
     SetValue(QString(text).replace(u"\r\n"_s, u"\n"_s));
-    Typed(stored != text ? &state_.ValueText : nullptr, stored);
+    Typed(before, false, text, state_.Whole ? text : LostLetters::AsStored(text));
 }
 
 // A box whose text is stored as another one shows that at once.
-void CsfEditor::Typed(QString* box, const QString& stored) {
+void CsfEditor::Typed(const LabelRow& before, bool isName, const QString& text, const QString& stored) {
     const int place = state_.SelectedRow;
+    history_.Typed(place, before, list_.Row(place), isName);
     state_.Modified = true;
     view_.RowChanged(place);
-    if (box != nullptr) {
-        *box = stored;
-        view_.BoxChanged(box == &state_.NameText);
-        list_.SetLostLetters(place);
+    if (stored != text) {
+        (isName ? state_.NameText : state_.ValueText) = stored;
+        view_.BoxChanged(isName);
         Notice notice{.Text = LostLetters::Told({list_.Row(place).Name})};
-        if (box == &state_.ValueText) // a name has 8 bits everywhere
+        if (!isName) // a name has 8 bits everywhere
             notice.Links = {KeepEverythingLink()};
         view_.ShowNotice(notice);
     }
@@ -158,6 +165,7 @@ void CsfEditor::Add() {
     const int place = list_.Count();
     view_.ListChanging(LabelChange::Insert, place);
     list_.Add(GetText(u"New"_s), GetText(u"Text"_s));
+    history_.Added(place, list_.Row(place));
     view_.ListChanged(LabelChange::Insert, place);
     view_.ScrollToRow(place);
     state_.Modified = true;
@@ -168,6 +176,7 @@ void CsfEditor::Delete() {
     const int place = state_.SelectedRow;
     if (!list_.Has(place))
         throw RuntimeError(ErrorNumber::ObjectNotSet, u"no row is selected"_s);
+    history_.Deleted(place, list_.Row(place));
     view_.ListChanging(LabelChange::Remove, place);
     list_.Remove(place);
     state_.SelectedRow = CsfEditorState::None;
@@ -177,6 +186,46 @@ void CsfEditor::Delete() {
         throw RuntimeError(ErrorNumber::Subscript, u"no row follows the one that was deleted"_s);
     state_.Modified = true;
     SelectAndClick(place, false);
+}
+
+void CsfEditor::Undo() {
+    if (CanUndo())
+        Do(history_.Undo());
+}
+
+void CsfEditor::Redo() {
+    if (CanRedo())
+        Do(history_.Redo());
+}
+
+void CsfEditor::Do(const RowStep& step) {
+    const int there = step.Before ? list_.PlaceOf(step.Before->Id) : -1;
+    if (step.Before && there < 0)
+        return; // no string of the whole table
+    const int place = step.Before ? there : std::min(step.Place, list_.Count());
+    if (step.Before && step.After) {
+        list_.SetTexts(place, *step.After);
+        view_.RowChanged(place);
+    } else {
+        const LabelChange change = step.After ? LabelChange::Insert : LabelChange::Remove;
+        view_.ListChanging(change, place);
+        if (step.After)
+            list_.Insert(place, *step.After);
+        else
+            list_.Remove(place);
+        state_.SelectedRow = CsfEditorState::None;
+        view_.ListChanged(change, place);
+    }
+    state_.Modified = !history_.IsAsSaved();
+    SelectNear(place);
+}
+
+/// The row at a place, or the one before; none in an empty list.
+void CsfEditor::SelectNear(int place) {
+    if (list_.Count() > 0)
+        SelectAndClick(std::min(place, list_.Count() - 1), false);
+    else
+        ShowBoxes(false, {}, {});
 }
 
 void CsfEditor::FindTyped(const QString& text) {

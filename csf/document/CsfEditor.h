@@ -8,6 +8,7 @@
 #include "core/Document.h"
 #include "core/rescue/RescueOffers.h"
 #include "csf/document/LabelList.h"
+#include "csf/document/RowHistory.h"
 #include "csf/document/TableBehind.h"
 #include "csf/document/TableRescue.h"
 #include "csf/format/CsfSave.h"
@@ -91,6 +92,14 @@ public:
     /// the list: the row has gone by then.
     void Delete();
 
+    /// Takes the last change of a row back, or does it again; the row is selected. Nothing when there is none.
+    void Undo();
+    void Redo();
+
+    [[nodiscard]] bool CanUndo() const { return history_.CanUndo(); }
+
+    [[nodiscard]] bool CanRedo() const { return history_.CanRedo(); }
+
     /// A row was selected, by a click or by walking with the keys.
     void ClickRow(int place);
     /// A click on a column's header.
@@ -150,19 +159,22 @@ private:
     [[nodiscard]] NoticeLink KeepEverythingLink();
     void TellLost();
     void SetValue(const QString& value);
+    void Do(const RowStep& step);
+    void SelectNear(int place);
     void TellFailedSave() const;
     [[nodiscard]] RescueOffers::Editor ForOffers();
     [[nodiscard]] TableRescue::Document Rescued() const;
     bool OpenRescue(const Rescues::Left& left);
     void ShowRescued(const RescueFacts& facts, const RescuedTable& table);
     void SelectAndClick(int place, bool focus);
-    void Typed(QString* box, const QString& stored);
+    void Typed(const LabelRow& before, bool isName, const QString& text, const QString& stored);
     void ShowBoxes(bool enabled, const QString& name, const QString& value);
 
     CsfEditorView& view_;
     CsfEditorState state_;
     LabelList list_;
     std::vector<int> newPlaces_;
+    RowHistory history_;
     CsfSaves saves_;                    ///< of the document that is open
     std::optional<TableBehind> behind_; ///< what its file holds; nothing where that is not known, or not well formed
     bool isLossTold_ = false;           ///< the last notice about a document was what its file loses

@@ -66,6 +66,7 @@ void CsfEditor::New() {
     state_.Whole = false;
     behind_.reset();
     state_.Modified = false;
+    history_.Begin();
     rescue_.Opened();
     ShowBoxes(false, {}, {});
     TellLost();
@@ -120,8 +121,12 @@ Saved CsfEditor::Write() {
             state_.SizeText = QString::number(Files::FileLength(state_.Path) / 1024) + u' ' + GetText(u"KiloBytes"_s);
         });
         state_.Modified = !written;
-        if (written)
+        if (written) {
+            history_.Saved(list_);
             rescue_.Saved();
+        } else {
+            history_.NeverAsSaved();
+        }
         view_.StateChanged();
     }
     if (!written)

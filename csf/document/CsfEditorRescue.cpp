@@ -68,6 +68,7 @@ void CsfEditor::ShowRescued(const RescueFacts& facts, const RescuedTable& table)
     state_.LanguageText = table.LanguageText;
     state_.LanguageShown = table.LanguageShown;
     state_.Modified = true;
+    history_.Begin(false);
     if (list_.Has(0))
         SelectAndClick(0, true);
     else

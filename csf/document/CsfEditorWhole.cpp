@@ -13,6 +13,7 @@
 #include "platform/SaveLock.h"
 #include "platform/WriteAside.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -79,6 +80,7 @@ void CsfEditor::LanguageChosen(int entry) {
         return;
     state_.LanguageText = QString::number(entry);
     state_.Modified = true;
+    history_.NeverAsSaved();
     view_.StateChanged();
 }
 
@@ -87,6 +89,7 @@ void CsfEditor::KeepEverything() {
         return;
     if (!behind_)
         behind_.emplace();
+    history_.Turn([this](const LabelRow& row) { return behind_->WholeRow(row); });
     ShowWholeRows(behind_->WholeRows(list_.Rows()));
     isLossTold_ = false;
     rescue_.Reread(state_.Modified);
@@ -107,11 +110,7 @@ void CsfEditor::ShowWholeRows(std::vector<LabelRow> rows) {
         state_.LanguageShown =
             language < quint32(Languages().size()) ? static_cast<int>(language) : CsfEditorState::None;
     }
-    const int place = list_.PlaceOf(selected);
-    if (list_.Count() > 0)
-        SelectAndClick(list_.Has(place) ? place : 0, false);
-    else
-        ShowBoxes(false, {}, {});
+    SelectNear(std::max(0, list_.PlaceOf(selected)));
 }
 
 /// Where 8 bits show nothing of a table that is well formed.
@@ -140,6 +139,7 @@ void CsfEditor::OpenWhole(const QString& path) {
     state_.ActionsVisible = true;
     Ignoring([&] { state_.SizeText = Sizes::KiloBytes(Files::FileLength(path)); });
     state_.Modified = false;
+    history_.Begin();
     ShowWholeRows(behind_->AllRows());
     rescue_.Opened();
 }

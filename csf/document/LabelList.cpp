@@ -55,6 +55,14 @@ void LabelList::Saved(const std::vector<int>& indexes) {
     }
 }
 
+void LabelList::SetTexts(int place, const LabelRow& row) {
+    LabelRow& here = rows_[static_cast<std::size_t>(place)];
+    here.Name = row.Name;
+    here.Value = row.Value;
+    here.LostLetters = row.LostLetters;
+    here.Wished = row.Wished;
+}
+
 int LabelList::PlaceOf(int id) const {
     const auto found = std::ranges::find(rows_, id, &LabelRow::Id);
     return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
@@ -76,7 +84,7 @@ std::vector<CsfString> LabelList::Table() const {
 QStringList LabelList::NamesOfLost() const {
     QStringList names;
     for (const LabelRow& row : rows_)
-        if (row.LostLetters)
+        if (row.LostLetters || !row.Wished.isEmpty())
             names += row.Name;
     return names;
 }

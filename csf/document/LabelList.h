@@ -20,8 +20,8 @@ struct LabelRow {
     QString Name;             ///< the row's text
     QString Value;            ///< sub-item 1 and the row's tip; line breaks are line feeds
     int Index = -1;           ///< in the table as it was read or saved last; -1 for a row that was added since
-    bool LostLetters = false; ///< what was typed had letters that the file lacks; not saved since
-    QString Wished{};         ///< the value with those letters; empty where none were lost
+    bool LostLetters = false; ///< a name that was typed had letters that the file lacks; not saved since
+    QString Wished{};         ///< the value with the letters that the file lacks; empty where it lacks none
     int Id = 0;               ///< the list's own, whatever place and texts
 
     /// As CsfString has them; only in a list of whole rows.
@@ -90,6 +90,12 @@ public:
     void Add(const QString& name, const QString& value) {
         rows_.push_back({.Name = name, .Value = value, .Id = ++lastId_});
     }
+
+    /// Puts a row back, with its Id, at a place up to Count().
+    void Insert(int place, const LabelRow& row) { rows_.insert(rows_.begin() + place, row); }
+
+    /// Gives a row the texts of another state of it.
+    void SetTexts(int place, const LabelRow& row);
 
     void Remove(int place) { rows_.erase(rows_.begin() + place); }
 

@@ -91,10 +91,11 @@ LabelRow TableBehind::WholeRow(const LabelRow& told) const {
     const QString& value = told.Wished.isEmpty() ? told.Value : told.Wished;
     const int number = NumberOf(told);
     if (number < 0)
-        return {.Name = told.Name, .Value = value, .Id = told.Id};
+        return {.Name = told.Name, .Value = value, .LostLetters = told.LostLetters, .Id = told.Id};
     const CsfString& was = told_[static_cast<std::size_t>(told.Index)];
     LabelRow row = RowOf(strings_[static_cast<std::size_t>(number)], number);
     row.Id = told.Id;
+    row.LostLetters = told.LostLetters;
     if (told.Name != was.Name)
         row.Name = told.Name;
     row.Value = TypedOver(row.Value, was.Value, value);

@@ -80,6 +80,8 @@ std::vector<ToolCommand> frmCSFEditor::Commands() {
         {ui_->mnuOpen, ui_->Label2_3, u"open"_s, of(&CsfEditor::Open)},
         {ui_->mnuSave, ui_->Label2_4, u"save"_s, of(&CsfEditor::Save)},
         {ui_->mnuSaveAs, nullptr, u"save-as"_s, of(&CsfEditor::SaveAs)},
+        {ui_->mnuUndo, nullptr, {}, of(&CsfEditor::Undo)},
+        {ui_->mnuRedo, nullptr, {}, of(&CsfEditor::Redo)},
         {ui_->mnuAdd, ui_->Label2_0, u"add"_s, of(&CsfEditor::Add)},
         {ui_->mnuDelete, ui_->Label2_1, u"delete"_s, of(&CsfEditor::Delete)},
         {ui_->mnuFind, nullptr, u"find"_s, [this] { ShowFind(); }},
@@ -201,6 +203,8 @@ void frmCSFEditor::StateChanged() {
     ui_->cmbLanguage->setCurrentIndex(state.LanguageShown);
     ui_->cmbLanguage->setEnabled(state.Whole);
     ui_->mnuActions->setVisible(state.ActionsVisible);
+    ui_->mnuUndo->setEnabled(editor_.CanUndo());
+    ui_->mnuRedo->setEnabled(editor_.CanRedo());
     ui_->txtName->setEnabled(state.BoxesEnabled);
     ui_->txtValue->setEnabled(state.BoxesEnabled);
     if (ui_->txtFind->text() != state.FindText)

@@ -35,6 +35,13 @@ private:
             {"mnuSaveAs", -1, [this] { host_->FileNames = {NewPath()}; },
              [this] { return Files::FileExists(NewPath()); }},
             {"mnuExit", -1, [] {}, [this] { return !window_->isVisible(); }},
+            {"mnuUndo", -1, [this] { Part<QAction>("mnuDelete")->trigger(); }, [this] { return Names().size() == 3; }},
+            {"mnuRedo", -1,
+             [this] {
+                 Part<QAction>("mnuAdd")->trigger();
+                 Part<QAction>("mnuUndo")->trigger();
+             },
+             [this] { return Names().size() == 4; }},
             {"mnuAdd", 0, [] {}, [this] { return Names().size() == 4 && window_->isWindowModified(); }},
             {"mnuDelete", 1, [] {},
              [this] {
@@ -70,6 +77,35 @@ private Q_SLOTS:
         EveryWay::Use(*window_, used, way);
         QVERIFY(used.Done());
         QVERIFY(host_->FileNames.empty());
+    }
+
+    void undoAndRedoAreThereWhenTheyCanBe() {
+        OpenThree();
+        auto* const undo = Part<QAction>("mnuUndo");
+        auto* const redo = Part<QAction>("mnuRedo");
+        QVERIFY(!undo->isEnabled() && !redo->isEnabled());
+        NameBox()->setFocus();
+        QTest::keyClicks(NameBox(), u"!?"_s);
+        QVERIFY(undo->isEnabled() && !redo->isEnabled());
+        undo->trigger();
+        QCOMPARE(NameBox()->text(), u"alpha"_s);
+        QVERIFY(!undo->isEnabled() && redo->isEnabled());
+        QVERIFY(!window_->isWindowModified());
+        List()->setFocus();
+        QTest::keyClick(List(), Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(Cell(0, 0), u"alpha!?"_s);
+    }
+
+    void keysInABoxTakeBackWhatWasTypedThere() {
+        OpenThree();
+        Part<QAction>("mnuAdd")->trigger();
+        NameBox()->setFocus();
+        QTest::keyClicks(NameBox(), u"!"_s);
+        QTest::keyClick(NameBox(), Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(NameBox(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(Names(), QStringList({u"alpha"_s, u"beta"_s, u"Gamma"_s, u"Neu"_s}));
+        Part<QAction>("mnuUndo")->trigger();
+        QCOMPARE(Names().size(), 3);
     }
 
     void theNextMatchIsFoundByButtonEnterAndF3_data() {
