@@ -233,6 +233,11 @@ void CsfEditor::FindTyped(const QString& text) {
     view_.StateChanged();
 }
 
+void CsfEditor::FindInValues(bool values) {
+    state_.FindsValues = values;
+    view_.StateChanged();
+}
+
 void CsfEditor::FindFocused() {
     if (state_.FindText != GetText(u"Find"_s))
         return;
@@ -252,7 +257,7 @@ void CsfEditor::FindLeft() {
 void CsfEditor::FindNext() {
     const int next = state_.SelectedRow + 1;
     // Only the last row starts at the top again; what is not found behind the selection is not found. This is meant.
-    const int found = list_.Find(state_.FindText, next < list_.Count() ? next : 0);
+    const int found = list_.Find(state_.FindText, next < list_.Count() ? next : 0, state_.FindsValues);
     if (found >= 0)
         SelectAndClick(found, true);
 }
@@ -266,8 +271,8 @@ QString CsfEditor::CountText() const {
     QString rows = GetText(u"RowCount"_s).replace(u"%1"_s, Sizes::Grouped(list_.Count()));
     if (state_.FindIsGrey || state_.FindText.isEmpty())
         return rows;
-    const QString matches = GetText(u"MatchCount"_s).replace(u"%1"_s, Sizes::Grouped(list_.Matches(state_.FindText)));
-    return rows + u", "_s + matches;
+    const int matches = list_.Matches(state_.FindText, state_.FindsValues);
+    return rows + u", "_s + GetText(u"MatchCount"_s).replace(u"%1"_s, Sizes::Grouped(matches));
 }
 
 bool CsfEditor::MenuFollows() {

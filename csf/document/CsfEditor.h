@@ -59,6 +59,7 @@ struct CsfEditorState {
     QString ValueText;           ///< txtValue, as the document set it last; line breaks are CR LF
     int SelectedRow = None;      ///< a place in the list
     QString FindText;            ///< txtFind
+    bool FindsValues = false;    ///< the search looks at the values too
     bool FindIsGrey = true;      ///< txtFind in grey (0x808080): it holds its prompt
 };
 
@@ -116,9 +117,12 @@ public:
     void ValueTyped(const QString& text);
 
     void FindTyped(const QString& text);
+    /// Whether the search looks at the values besides the names.
+    void FindInValues(bool values);
     void FindFocused();
     void FindLeft();
-    /// The button: selects the next row whose name contains the search text, the prompt too.
+    /// The button: selects the next row whose name (or value, see FindInValues) contains the search text, the prompt
+    /// too.
     void FindNext();
     /// F3 in the list or the search box, Enter in the latter: nothing while the prompt stands there.
     void FindNextByKey();

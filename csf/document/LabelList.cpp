@@ -15,6 +15,11 @@ using mTraduction::GetText;
 
 namespace {
 constexpr int nameWidth = 2500 / 15; // twips at 96 dots an inch
+
+bool Contains(const LabelRow& row, const QStringMatcher& text, bool inValues) {
+    return text.indexIn(row.Name) >= 0 || (inValues && text.indexIn(row.Value) >= 0);
+}
+
 } // namespace
 
 void LabelList::Load(const std::vector<CsfString>& table) {
@@ -111,17 +116,17 @@ std::vector<int> LabelList::Sort() {
     return PlacesOf(sorted);
 }
 
-int LabelList::Find(const QString& text, int from) const {
+int LabelList::Find(const QString& text, int from, bool inValues) const {
     const QStringMatcher matcher(text, Qt::CaseInsensitive);
     for (int place = from; place < Count(); ++place) {
-        if (matcher.indexIn(Row(place).Name) >= 0)
+        if (Contains(Row(place), matcher, inValues))
             return place;
     }
     return -1;
 }
 
-int LabelList::Matches(const QString& text) const {
+int LabelList::Matches(const QString& text, bool inValues) const {
     const QStringMatcher matcher(text, Qt::CaseInsensitive);
     return static_cast<int>(
-        std::ranges::count_if(rows_, [&](const LabelRow& row) { return matcher.indexIn(row.Name) >= 0; }));
+        std::ranges::count_if(rows_, [&](const LabelRow& row) { return Contains(row, matcher, inValues); }));
 }

@@ -107,11 +107,12 @@ public:
 
     [[nodiscard]] Order OrderOf(int column) const override { return order_.Of(column); }
 
-    /// The first place from `from` on whose name contains the text, in any case; -1 when there is none.
-    [[nodiscard]] int Find(const QString& text, int from) const;
+    /// The first place from `from` on whose name contains the text, in any case, or its value when `inValues`; -1 when
+    /// there is none.
+    [[nodiscard]] int Find(const QString& text, int from, bool inValues) const;
 
-    /// How many names contain the text, in any case.
-    [[nodiscard]] int Matches(const QString& text) const;
+    /// How many rows do so.
+    [[nodiscard]] int Matches(const QString& text, bool inValues) const;
 
 private:
     std::vector<int> Sort();

@@ -6,6 +6,7 @@
 #include "core/LostLetters.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
+#include "csf/window/LabelDelegate.h"
 #include "csf/window/ValueText.h"
 #include "ui/list/RowListModel.h"
 #include "ui/text/Localisation.h"
@@ -59,8 +60,10 @@ void frmCSFEditor::OpenCSFFile(const QString& path) {
 void frmCSFEditor::Dress() {
     ui_->cmbLanguage->addItems(CsfEditor::Languages());
     ui_->cmbLanguage->setCurrentIndex(-1);
+    ui_->lvStrings2->setItemDelegate(new LabelDelegate(ui_->lvStrings2));
     ui_->lvStrings2->setAccessibleName(mTraduction::GetText(u"CSFFile"_s));
     ui_->txtFind->setAccessibleName(mTraduction::GetText(u"Find"_s));
+    ui_->StatusBar1->setAccessibleName(mTraduction::GetText(u"CSFFile"_s));
     ui_->txtName->setMaxLength(std::numeric_limits<int>::max());
     count_->setContentsMargins(6, 0, 0, 0);
     ui_->StatusBar1->addWidget(count_, 1);
@@ -107,6 +110,7 @@ void frmCSFEditor::ConnectControls() {
     connect(ui_->cmbLanguage, &QComboBox::currentIndexChanged, this,
             [this](int entry) { editor_.LanguageChosen(entry); });
     connect(ui_->txtFind, &QLineEdit::textEdited, this, [this](const QString& text) { editor_.FindTyped(text); });
+    connect(ui_->chkFindInValues, &QCheckBox::toggled, this, [this](bool on) { editor_.FindInValues(on); });
     connect(ui_->cmdFindNext, &QPushButton::clicked, this, [this] { editor_.FindNext(); });
     ui_->txtFind->installEventFilter(this);
     ui_->lvStrings2->installEventFilter(this);

@@ -6,6 +6,7 @@
 #include "tests/windows/EveryWay.h"
 #include "tests/windows/csf/CsfEditorWindow.h"
 
+#include <QCheckBox>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -129,6 +130,22 @@ private Q_SLOTS:
                                                            : Qt::Key_Enter);
         QCOMPARE(List()->currentIndex().row(), 2);
         QCOMPARE(NameBox()->text(), u"Gamma"_s);
+    }
+
+    void theCheckMarkLooksInValues() {
+        OpenThree();
+        FindBox()->setFocus();
+        QTest::keyClicks(FindBox(), u"3"_s);
+        QTest::keyClick(FindBox(), Qt::Key_Return);
+        QCOMPARE(List()->currentIndex().row(), 0);
+        QCOMPARE(Told(), u"3 rows, 0 matches"_s);
+        FindBox()->setFocus();
+        QTest::keyClick(FindBox(), Qt::Key_Tab);
+        QTest::keyClick(window_->focusWidget(), Qt::Key_Space);
+        QVERIFY(Part<QCheckBox>("chkFindInValues")->isChecked());
+        QCOMPARE(Told(), u"3 rows, 1 matches"_s);
+        QTest::mouseClick(Part<QPushButton>("cmdFindNext"), Qt::LeftButton);
+        QCOMPARE(List()->currentIndex().row(), 2);
     }
 
     void aSaveLeavesRowScrollAndSelection() {
