@@ -53,11 +53,14 @@ void CsfEditor::OpenCSFFile(const QString& path) {
     const bool isThere = Files::FileExists(path);
     if (isThere && Locked())
         return;
+    const FileState before = StateOf(path);
     const qint32 language = isThere ? mCSF::ReadCSF(path) : mCSF::Refused;
-    if (language != mCSF::Refused)
+    if (language != mCSF::Refused) {
+        onDisk_ = before;
         Load(path, language);
-    else if (isThere)
-        OfferWhole(path);
+    } else if (isThere && !OfferWhole(path)) {
+        TellRefused(path);
+    }
     // A save that was killed may have left nothing else.
     if (offers_.TellBeside(path) && language == mCSF::Refused)
         view_.ShowWindow();

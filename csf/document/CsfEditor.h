@@ -12,6 +12,7 @@
 #include "csf/document/TableBehind.h"
 #include "csf/document/TableRescue.h"
 #include "csf/format/CsfSave.h"
+#include "platform/File.h"
 
 #include <QString>
 #include <QStringList>
@@ -130,6 +131,9 @@ public:
     /// How many rows the list has, and how many of them the search text is in, for the status bar.
     [[nodiscard]] QString CountText() const;
 
+    /// The window came to the front: another program may have written the file meanwhile.
+    void CameToFront();
+
     /// The question about unsaved changes; false when the window has to stay.
     bool MayClose();
 
@@ -156,8 +160,11 @@ private:
     bool WriteEightBits();
     bool WriteWholeTable();
     void ReadBehind(const QString& path);
+    void TellRefused(const QString& path);
     bool OfferWhole(const QString& path);
+    void ReadAgain();
     void OpenWhole(const QString& path);
+    void LoadWhole(const QString& path);
     void ShowWholeRows(std::vector<LabelRow> rows);
     [[nodiscard]] QStringList LostOfFile() const;
     [[nodiscard]] NoticeLink KeepEverythingLink();
@@ -181,6 +188,7 @@ private:
     RowHistory history_;
     CsfSaves saves_;                    ///< of the document that is open
     std::optional<TableBehind> behind_; ///< what its file holds; nothing where that is not known, or not well formed
+    FileState onDisk_;                  ///< of its file, as far as the user knows of it
     bool isLossTold_ = false;           ///< the last notice about a document was what its file loses
     TableRescue rescue_;
     RescueOffers offers_;

@@ -120,6 +120,7 @@ Saved CsfEditor::Write() {
         Ignoring([&] {
             state_.SizeText = QString::number(Files::FileLength(state_.Path) / 1024) + u' ' + GetText(u"KiloBytes"_s);
         });
+        onDisk_ = StateOf(state_.Path);
         state_.Modified = !written;
         if (written) {
             history_.Saved(list_);

@@ -61,6 +61,7 @@ void CsfEditor::ShowRescued(const RescueFacts& facts, const RescuedTable& table)
     saves_ = {};
     // The name of a document without a file may be another one in another language.
     state_.Path = facts.NeverSaved ? NewName() : facts.Path;
+    onDisk_ = StateOf(state_.Path);
     state_.Caption = Paths::LastPart(state_.Path);
     state_.FrameVisible = true;
     state_.ActionsVisible = true;

@@ -124,11 +124,17 @@ bool CsfEditor::OfferWhole(const QString& path) {
 }
 
 void CsfEditor::OpenWhole(const QString& path) {
-    if (Locked() || !GoOnWithoutChanges(Paths::LastPart(state_.Path)))
-        return;
+    if (!Locked() && GoOnWithoutChanges(Paths::LastPart(state_.Path)))
+        LoadWhole(path);
+}
+
+/// A file that is not well formed any more is opened as any other.
+void CsfEditor::LoadWhole(const QString& path) {
+    const FileState before = StateOf(path);
     auto behind = TableBehind::ReadFile(path);
     if (!behind)
-        return;
+        return OpenCSFFile(path);
+    onDisk_ = before;
     KeepRescue(); // of what nobody was asked about
     behind_ = std::move(behind);
     list_.Load({}); // by name, as every opening

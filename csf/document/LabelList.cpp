@@ -73,6 +73,11 @@ int LabelList::PlaceOf(int id) const {
     return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
+int LabelList::PlaceOfName(const QString& name) const {
+    const auto found = std::ranges::find(rows_, name, &LabelRow::Name);
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
 QString LabelList::Key(int place) const {
     const int index = Row(place).Index;
     return index < 0 ? QString() : u'I' + QString::number(index);

@@ -67,6 +67,9 @@ public:
     /// The row at a place from 0 to Count() - 1.
     [[nodiscard]] const LabelRow& Row(int place) const { return rows_[static_cast<std::size_t>(place)]; }
 
+    /// The first row of that name; -1 when there is none.
+    [[nodiscard]] int PlaceOfName(const QString& name) const;
+
     /// "I" and the index in the table; empty for a row that was added since.
     [[nodiscard]] QString Key(int place) const override;
 

@@ -116,6 +116,13 @@ void frmCSFEditor::ConnectControls() {
     ui_->lvStrings2->installEventFilter(this);
 }
 
+bool frmCSFEditor::event(QEvent* event) {
+    const bool taken = ToolWindow::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        editor_.CameToFront();
+    return taken;
+}
+
 bool frmCSFEditor::eventFilter(QObject* watched, QEvent* event) {
     if (watched == ui_->txtFind && FindEvent(*event))
         return true;

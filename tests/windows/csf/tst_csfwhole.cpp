@@ -111,6 +111,32 @@ private Q_SLOTS:
         QCOMPARE(World::ReadFile(path_), Table().replace(0, 24, Head(3, 3, 2)));
     }
 
+    void aChangeOfTheFileIsNoticedAtTheFront() {
+        OpenBytes(Head(1, 1) + Entry("a", u"1"_s));
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        world_->WriteFile(u"a.csf"_s, Head(1, 1) + Entry("a", u"others"_s));
+        QVERIFY(!Strip()->isVisible());
+        window_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+        QTRY_VERIFY(Strip()->isVisible());
+        QCOMPARE(Strip()->Text(), u"ChangedOnDisk"_s);
+        QCOMPARE(ValueBox()->toPlainText(), u"1"_s);
+        ClickLink();
+        QCOMPARE(ValueBox()->toPlainText(), u"others"_s);
+        QVERIFY(!Strip()->isVisible());
+    }
+
+    void whatCantBeOpenedIsToldInTheStrip() {
+        OpenBytes(Head(1, 1) + Entry("a", u"1"_s));
+        window_->OpenCSFFile(world_->WriteFile(u"b.csf"_s, "RIFF0123456789"));
+        QVERIFY(Strip()->isVisible());
+        QCOMPARE(Strip()->Text(), u"TableNotOpened"_s);
+        QCOMPARE(window_->windowTitle(), u"a.csf[*] - CSF Editor"_s);
+    }
+
     void lettersThatTheBoxUsesItselfComeThrough() {
         const QString rare = u"a\u240D\u2028b\u2029\uFDD0c\uFDD1\uFFFC\uFEFF\r\U0001F5FA"_s + QChar(0xD800);
         OpenBytes(Head(1, 1) + Entry("a", rare));
