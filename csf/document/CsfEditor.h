@@ -162,6 +162,7 @@ private:
     void ReadBehind(const QString& path);
     void TellRefused(const QString& path);
     bool OfferWhole(const QString& path);
+    void TellChanged();
     void ReadAgain();
     void OpenWhole(const QString& path);
     void LoadWhole(const QString& path);

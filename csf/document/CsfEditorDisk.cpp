@@ -44,6 +44,10 @@ void CsfEditor::CameToFront() {
     if (now == onDisk_ || now.Identity.isEmpty())
         return;
     onDisk_ = now; // it is told once
+    TellChanged();
+}
+
+void CsfEditor::TellChanged() {
     view_.ShowNotice({.Text = GetText(u"ChangedOnDisk"_s).replace("%1"_L1, Paths::ToNative(state_.Path)),
                       .Links = {{GetText(u"ReadAgain"_s), [this] { ReadAgain(); }}, {GetText(u"KeepMine"_s), [] {}}}});
 }
@@ -57,7 +61,7 @@ void CsfEditor::ReadAgain() {
     const QString name = list_.Has(state_.SelectedRow) ? list_.Row(state_.SelectedRow).Name : QString();
     if (state_.Modified) {
         if (!Document::GoOnWithoutChanges(Paths::LastPart(path), [this] { return SaveUnderName(); }))
-            return;
+            return TellChanged();
         rescue_.GivenUp();
     }
     if (state_.Whole)

@@ -114,6 +114,8 @@ void frmCSFEditor::ConnectControls() {
     connect(ui_->cmdFindNext, &QPushButton::clicked, this, [this] { editor_.FindNext(); });
     ui_->txtFind->installEventFilter(this);
     ui_->lvStrings2->installEventFilter(this);
+    ui_->cmbLanguage->setFocusPolicy(Qt::StrongFocus);
+    ui_->cmbLanguage->installEventFilter(this);
 }
 
 bool frmCSFEditor::event(QEvent* event) {
@@ -129,6 +131,11 @@ bool frmCSFEditor::eventFilter(QObject* watched, QEvent* event) {
     if (watched == ui_->lvStrings2 && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_F3) {
         editor_.FindNextByKey();
+        return true;
+    }
+    // Only who has chosen the list turns it by the wheel: it writes where everything is kept.
+    if (watched == ui_->cmbLanguage && event->type() == QEvent::Wheel && !ui_->cmbLanguage->hasFocus()) {
+        event->ignore();
         return true;
     }
     return ToolWindow::eventFilter(watched, event);

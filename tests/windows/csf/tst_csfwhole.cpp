@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QComboBox>
 
 using namespace Qt::StringLiterals;
@@ -109,6 +110,36 @@ private Q_SLOTS:
         QVERIFY(window_->isWindowModified());
         Part<QAction>("mnuSave")->trigger();
         QCOMPARE(World::ReadFile(path_), Table().replace(0, 24, Head(3, 3, 2)));
+    }
+
+    void theWheelOverTheLanguageListChangesNothing() {
+        OpenBytes(Table());
+        ClickLink();
+        QVERIFY(!Language()->hasFocus());
+        const auto turn = [&] {
+            QWheelEvent wheel(Language()->rect().center(), Language()->mapToGlobal(Language()->rect().center()), {},
+                              {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(Language(), &wheel);
+        };
+        turn();
+        QCOMPARE(Part<QLabel>("lblLanguage")->text(), u"3"_s);
+        QVERIFY(!window_->isWindowModified());
+        Language()->setFocus();
+        turn();
+        QCOMPARE(Part<QLabel>("lblLanguage")->text(), u"2"_s);
+    }
+
+    void everyPartHasANameForScreenReaders() {
+        End();
+        BeginInLanguage(u"English"_s);
+        OpenBytes(Table());
+        for (QWidget* part : window_->findChildren<QWidget*>()) {
+            if (!part->isVisible() || part->focusPolicy() == Qt::NoFocus)
+                continue;
+            QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(part);
+            QVERIFY2(!told->text(QAccessible::Name).isEmpty(), qPrintable(part->objectName()));
+        }
+        QCOMPARE(window_->statusBar()->accessibleName(), u"CSF file"_s);
     }
 
     void aChangeOfTheFileIsNoticedAtTheFront() {
