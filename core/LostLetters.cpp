@@ -27,10 +27,10 @@ QString LostLetters::Told(const QStringList& lost) {
     return lost.isEmpty() ? QString() : GetText(u"LettersLost"_s).replace("%1"_L1, NameOrCount(lost));
 }
 
-bool LostLetters::MaySave(const QStringList& lost) {
+bool LostLetters::MaySave(const QStringList& lost, const QString& question) {
     if (lost.isEmpty())
         return true;
-    QStringList lines{GetText(u"SaveLosesLetters"_s), QString()};
+    QStringList lines{GetText(question), QString()};
     lines += lost.first(std::min(lost.size(), mostNamesShown));
     if (lost.size() > mostNamesShown)
         lines += u"..."_s;

@@ -16,8 +16,9 @@ QString AsStored(const QString& text);
 /// The strip's line for what has lost letters; empty for nothing.
 QString Told(const QStringList& lost);
 
-/// The question before a save, which Cancel is the usual answer to; nothing is asked when nothing is lost.
-bool MaySave(const QStringList& lost);
+/// The question before a save, which Cancel is the usual answer to; nothing is asked when nothing is lost. `question`
+/// is its text's key.
+bool MaySave(const QStringList& lost, const QString& question = QStringLiteral("SaveLosesLetters"));
 
 /// The one name of a list, or how many there are.
 QString NameOrCount(const QStringList& names);

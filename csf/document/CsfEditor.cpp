@@ -13,6 +13,8 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
 
@@ -51,9 +53,14 @@ void CsfEditor::OpenCSFFile(const QString& path) {
     const bool isThere = Files::FileExists(path);
     if (isThere && Locked())
         return;
+    const FileState before = StateOf(path);
     const qint32 language = isThere ? mCSF::ReadCSF(path) : mCSF::Refused;
-    if (language != mCSF::Refused)
+    if (language != mCSF::Refused) {
+        onDisk_ = before;
         Load(path, language);
+    } else if (isThere && !OfferWhole(path)) {
+        TellRefused(path);
+    }
     // A save that was killed may have left nothing else.
     if (offers_.TellBeside(path) && language == mCSF::Refused)
         view_.ShowWindow();
@@ -77,11 +84,15 @@ void CsfEditor::Load(const QString& path, qint32 language) {
         state_.SelectedRow = CsfEditorState::None;
         view_.ListChanged(LabelChange::Reset, 0);
     }
+    state_.Whole = false;
+    ReadBehind(path);
     state_.ActionsVisible = true;
     SelectAndClick(0, true);
     state_.Modified = false;
+    history_.Begin();
     rescue_.Opened();
     view_.StateChanged();
+    TellLost();
     view_.ShowWindow();
 }
 
@@ -95,6 +106,7 @@ void CsfEditor::ClickRow(int place) {
     if (!list_.Has(place))
         return;
     state_.SelectedRow = place;
+    history_.Break();
     ShowBoxes(true, list_.Row(place).Name, ForBox(list_.Row(place).Value));
 }
 
@@ -119,29 +131,35 @@ void CsfEditor::ClickHeader(LabelList::Column column) {
 void CsfEditor::NameTyped(const QString& text) {
     if (!list_.Has(state_.SelectedRow))
         return;
+    const LabelRow before = list_.Row(state_.SelectedRow);
     const QString stored = LostLetters::AsStored(text);
     list_.SetName(state_.SelectedRow, stored);
-    Typed(stored != text ? &state_.NameText : nullptr, stored);
+    if (stored != text)
+        list_.SetLostLetters(state_.SelectedRow);
+    Typed(before, true, text, stored);
 }
 
 void CsfEditor::ValueTyped(const QString& text) {
     if (!list_.Has(state_.SelectedRow))
         return;
-    const QString stored = LostLetters::AsStored(text);
-    list_.SetValue(state_.SelectedRow, QString(stored).replace(u"\r\n"_s, u"\n"_s));
-    Typed(stored != text ? &state_.ValueText : nullptr, stored);
+    const LabelRow before = list_.Row(state_.SelectedRow);
+    SetValue(QString(text).replace(u"\r\n"_s, u"\n"_s));
+    Typed(before, false, text, state_.Whole ? text : LostLetters::AsStored(text));
 }
 
 // A box whose text is stored as another one shows that at once.
-void CsfEditor::Typed(QString* box, const QString& stored) {
+void CsfEditor::Typed(const LabelRow& before, bool isName, const QString& text, const QString& stored) {
     const int place = state_.SelectedRow;
+    history_.Typed(place, before, list_.Row(place), isName);
     state_.Modified = true;
     view_.RowChanged(place);
-    if (box != nullptr) {
-        *box = stored;
-        view_.BoxChanged(box == &state_.NameText);
-        list_.SetLostLetters(place);
-        view_.ShowNotice({.Text = LostLetters::Told({list_.Row(place).Name})});
+    if (stored != text) {
+        (isName ? state_.NameText : state_.ValueText) = stored;
+        view_.BoxChanged(isName);
+        Notice notice{.Text = LostLetters::Told({list_.Row(place).Name})};
+        if (!isName) // a name has 8 bits everywhere
+            notice.Links = {KeepEverythingLink()};
+        view_.ShowNotice(notice);
     }
     view_.StateChanged();
 }
@@ -150,6 +168,7 @@ void CsfEditor::Add() {
     const int place = list_.Count();
     view_.ListChanging(LabelChange::Insert, place);
     list_.Add(GetText(u"New"_s), GetText(u"Text"_s));
+    history_.Added(place, list_.Row(place));
     view_.ListChanged(LabelChange::Insert, place);
     view_.ScrollToRow(place);
     state_.Modified = true;
@@ -160,6 +179,7 @@ void CsfEditor::Delete() {
     const int place = state_.SelectedRow;
     if (!list_.Has(place))
         throw RuntimeError(ErrorNumber::ObjectNotSet, u"no row is selected"_s);
+    history_.Deleted(place, list_.Row(place));
     view_.ListChanging(LabelChange::Remove, place);
     list_.Remove(place);
     state_.SelectedRow = CsfEditorState::None;
@@ -171,8 +191,53 @@ void CsfEditor::Delete() {
     SelectAndClick(place, false);
 }
 
+void CsfEditor::Undo() {
+    if (CanUndo())
+        Do(history_.Undo());
+}
+
+void CsfEditor::Redo() {
+    if (CanRedo())
+        Do(history_.Redo());
+}
+
+void CsfEditor::Do(const RowStep& step) {
+    const int there = step.Before ? list_.PlaceOf(step.Before->Id) : -1;
+    if (step.Before && there < 0)
+        return; // no string of the whole table
+    const int place = step.Before ? there : std::min(step.Place, list_.Count());
+    if (step.Before && step.After) {
+        list_.SetTexts(place, *step.After);
+        view_.RowChanged(place);
+    } else {
+        const LabelChange change = step.After ? LabelChange::Insert : LabelChange::Remove;
+        view_.ListChanging(change, place);
+        if (step.After)
+            list_.Insert(place, *step.After);
+        else
+            list_.Remove(place);
+        state_.SelectedRow = CsfEditorState::None;
+        view_.ListChanged(change, place);
+    }
+    state_.Modified = !history_.IsAsSaved();
+    SelectNear(place);
+}
+
+/// The row at a place, or the one before; none in an empty list.
+void CsfEditor::SelectNear(int place) {
+    if (list_.Count() > 0)
+        SelectAndClick(std::min(place, list_.Count() - 1), false);
+    else
+        ShowBoxes(false, {}, {});
+}
+
 void CsfEditor::FindTyped(const QString& text) {
     state_.FindText = text;
+    view_.StateChanged();
+}
+
+void CsfEditor::FindInValues(bool values) {
+    state_.FindsValues = values;
     view_.StateChanged();
 }
 
@@ -195,7 +260,7 @@ void CsfEditor::FindLeft() {
 void CsfEditor::FindNext() {
     const int next = state_.SelectedRow + 1;
     // Only the last row starts at the top again; what is not found behind the selection is not found. This is meant.
-    const int found = list_.Find(state_.FindText, next < list_.Count() ? next : 0);
+    const int found = list_.Find(state_.FindText, next < list_.Count() ? next : 0, state_.FindsValues);
     if (found >= 0)
         SelectAndClick(found, true);
 }
@@ -209,8 +274,8 @@ QString CsfEditor::CountText() const {
     QString rows = GetText(u"RowCount"_s).replace(u"%1"_s, Sizes::Grouped(list_.Count()));
     if (state_.FindIsGrey || state_.FindText.isEmpty())
         return rows;
-    const QString matches = GetText(u"MatchCount"_s).replace(u"%1"_s, Sizes::Grouped(list_.Matches(state_.FindText)));
-    return rows + u", "_s + matches;
+    const int matches = list_.Matches(state_.FindText, state_.FindsValues);
+    return rows + u", "_s + GetText(u"MatchCount"_s).replace(u"%1"_s, Sizes::Grouped(matches));
 }
 
 bool CsfEditor::MenuFollows() {

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "core/Host.h"
-#include "core/LostLetters.h"
 #include "core/mTraduction.h"
 #include "csf/document/CsfEditor.h"
 #include "csf/format/mCSF.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
+
+#include <numeric>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using Document::Saved;
@@ -61,9 +63,13 @@ void CsfEditor::New() {
     state_.FrameVisible = true;
     state_.SizeText = u"-"_s;
     state_.LanguageText = u"0"_s;
+    state_.Whole = false;
+    behind_.reset();
     state_.Modified = false;
+    history_.Begin();
     rescue_.Opened();
     ShowBoxes(false, {}, {});
+    TellLost();
 }
 
 void CsfEditor::Open() {
@@ -88,13 +94,13 @@ Saved CsfEditor::SaveToFileOrName() {
         return Saved::NothingToSave;
     if (state_.Path == NewName())
         return SaveUnderName();
-    return LostLetters::MaySave(list_.NamesOfLost()) ? Write() : Saved::Cancelled;
+    return MaySave() ? Write() : Saved::Cancelled;
 }
 
 Saved CsfEditor::SaveUnderName() {
     if (list_.Count() == 0)
         return Saved::NothingToSave;
-    if (!LostLetters::MaySave(list_.NamesOfLost()))
+    if (!MaySave())
         return Saved::Cancelled;
     const auto path = Host::Current().SaveFileName(TableDialog(state_.Path));
     if (!path)
@@ -110,21 +116,35 @@ Saved CsfEditor::Write() {
     {
         const Busy busy(view_);
         rescue_.Saving();
-        mCSF::CsfStrings = list_.Table();
-        written = mCSF::WriteCSF(state_.Path, static_cast<qint16>(state_.LanguageText.toInt()), &saves_);
+        written = state_.Whole ? WriteWholeTable() : WriteEightBits();
         Ignoring([&] {
             state_.SizeText = QString::number(Files::FileLength(state_.Path) / 1024) + u' ' + GetText(u"KiloBytes"_s);
         });
+        onDisk_ = StateOf(state_.Path);
         state_.Modified = !written;
         if (written) {
-            list_.ForgetLost();
+            history_.Saved(list_);
             rescue_.Saved();
+        } else {
+            history_.NeverAsSaved();
         }
         view_.StateChanged();
     }
     if (!written)
         TellFailedSave();
     return written ? Saved::Yes : Saved::Failed;
+}
+
+bool CsfEditor::WriteEightBits() {
+    mCSF::CsfStrings = list_.Table();
+    if (!mCSF::WriteCSF(state_.Path, static_cast<qint16>(state_.LanguageText.toInt()), &saves_))
+        return false;
+    std::vector<int> places(mCSF::CsfStrings.size());
+    std::iota(places.begin(), places.end(), 0);
+    list_.Saved(places);
+    ReadBehind(state_.Path);
+    TellLost();
+    return true;
 }
 
 void CsfEditor::TellFailedSave() const {

@@ -22,10 +22,14 @@ RescueOffers::Editor CsfEditor::ForOffers() {
 }
 
 TableRescue::Document CsfEditor::Rescued() const {
-    return {
-        .Table = {.Rows = list_.Table(), .LanguageText = state_.LanguageText, .LanguageShown = state_.LanguageShown},
-        .Path = state_.Path,
-        .NeverSaved = state_.Path == NewName()};
+    RescuedTable table{
+        .Rows = list_.Table(), .LanguageText = state_.LanguageText, .LanguageShown = state_.LanguageShown};
+    table.Whole = state_.Whole;
+    if (behind_)
+        table.Behind = behind_->Bytes();
+    for (const LabelRow& row : list_.Rows())
+        table.Indexes += row.Index;
+    return {.Table = std::move(table), .Path = state_.Path, .NeverSaved = state_.Path == NewName()};
 }
 
 bool CsfEditor::OpenRescue(const Rescues::Left& left) {
@@ -47,13 +51,17 @@ bool CsfEditor::OpenRescue(const Rescues::Left& left) {
 
 void CsfEditor::ShowRescued(const RescueFacts& facts, const RescuedTable& table) {
     mCSF::CsfStrings = table.Rows;
+    behind_.reset();
+    Ignoring([&] { behind_ = TableBehind::Read(table.Behind); });
+    state_.Whole = table.Whole;
     view_.ListChanging(LabelChange::Reset, 0);
-    list_.Restore(table.Rows);
+    list_.Restore(table.Rows, behind_ ? table.Indexes : QList<qint32>());
     state_.SelectedRow = CsfEditorState::None;
     view_.ListChanged(LabelChange::Reset, 0);
     saves_ = {};
     // The name of a document without a file may be another one in another language.
     state_.Path = facts.NeverSaved ? NewName() : facts.Path;
+    onDisk_ = StateOf(state_.Path);
     state_.Caption = Paths::LastPart(state_.Path);
     state_.FrameVisible = true;
     state_.ActionsVisible = true;
@@ -61,9 +69,11 @@ void CsfEditor::ShowRescued(const RescueFacts& facts, const RescuedTable& table)
     state_.LanguageText = table.LanguageText;
     state_.LanguageShown = table.LanguageShown;
     state_.Modified = true;
+    history_.Begin(false);
     if (list_.Has(0))
         SelectAndClick(0, true);
     else
         ShowBoxes(false, {}, {});
+    TellLost();
     view_.ShowWindow();
 }

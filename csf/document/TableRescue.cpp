@@ -18,7 +18,6 @@ namespace {
 
 constexpr auto streamVersion = QDataStream::Qt_6_4;
 
-/// Another order is no change: an opening sorts the rows too.
 std::vector<CsfString> Sorted(const std::vector<CsfString>& rows) {
     std::vector<const CsfString*> order;
     order.reserve(rows.size());
@@ -45,6 +44,7 @@ QByteArray RescuedTable::Encoded() const {
     out << LanguageText << LanguageShown << static_cast<qint64>(Rows.size());
     for (const CsfString& row : Rows)
         out << row.Name << row.Value << row.Extra.has_value() << row.Extra.value_or(QByteArray()) << row.IsMore;
+    out << Whole << Behind << Indexes;
     return bytes;
 }
 
@@ -64,13 +64,14 @@ RescuedTable RescuedTable::Decoded(const QByteArray& bytes) {
             entry.Extra = extra;
         table.Rows.push_back(std::move(entry));
     }
+    in >> table.Whole >> table.Behind >> table.Indexes;
     if (in.status() != QDataStream::Ok || count < 0)
         throw RuntimeError(ErrorNumber::PathFileAccess, u"This is no rescued table."_s);
     return table;
 }
 
 void TableRescue::Opened() {
-    file_ = Sorted(document_().Table.Rows);
+    file_ = ContentOf(document_().Table);
     given_.reset();
     kept_.reset();
     copy_.LetGo();
@@ -83,12 +84,20 @@ void TableRescue::Saving() {
 }
 
 void TableRescue::Saved() {
-    file_ = Sorted(document_().Table.Rows);
+    file_ = ContentOf(document_().Table);
+    KeepRescue();
+}
+
+void TableRescue::Reread(bool changed) {
+    file_.reset();
+    if (!changed)
+        file_ = ContentOf(document_().Table);
+    given_.reset();
     KeepRescue();
 }
 
 void TableRescue::GivenUp() {
-    given_ = Sorted(document_().Table.Rows);
+    given_ = ContentOf(document_().Table);
     KeepRescue();
 }
 
@@ -101,14 +110,13 @@ bool TableRescue::Adopt(const QString& folder) {
     return true;
 }
 
-bool TableRescue::Differs(const RescuedTable& table) const {
-    const std::vector<CsfString> rows = Sorted(table.Rows);
-    return rows != file_ && rows != given_;
+TableRescue::Content TableRescue::ContentOf(const RescuedTable& table) {
+    return {Sorted(table.Rows), table.LanguageText};
 }
 
 bool TableRescue::KeepSome() {
     Document now = document_();
-    if (!Differs(now.Table)) {
+    if (const Content content = ContentOf(now.Table); content == file_ || content == given_) {
         copy_.Discard();
         kept_.reset();
         return false;

@@ -9,6 +9,7 @@
 #include "csf/format/CsfTable.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -20,6 +21,9 @@ struct RescuedTable {
     std::vector<CsfString> Rows; ///< in the order shown
     QString LanguageText;        ///< the number that saves use
     qint32 LanguageShown = -1;   ///< the entry of the list of languages
+    bool Whole = false;          ///< the rows keep everything
+    QByteArray Behind{};         ///< the file that they come from, as far as it is known
+    QList<qint32> Indexes{};     ///< of each row in that
 
     [[nodiscard]] QByteArray Encoded() const;
     /// Raises 75 for bytes that are no table.
@@ -51,6 +55,9 @@ public:
     void Saving();
     void Saved();
 
+    /// The same document with other rows, which are the file's unless it was changed before.
+    void Reread(bool changed);
+
     /// The user was asked, and what the rows are now is saved or given up.
     void GivenUp();
 
@@ -62,13 +69,21 @@ protected:
     void TellFailed(const QString& reason) override;
 
 private:
-    [[nodiscard]] bool Differs(const RescuedTable& table) const;
+    /// What tells a table from what is in its file.
+    struct Content {
+        std::vector<CsfString> Rows; ///< sorted: another order is no change
+        QString LanguageText;
+
+        bool operator==(const Content&) const = default;
+    };
+
+    static Content ContentOf(const RescuedTable& table);
 
     std::function<Document()> document_;
     std::function<void(const QString&)> failed_;
     RescueCopy copy_{Kind};
-    std::optional<std::vector<CsfString>> file_;  ///< the rows as they are in the file, sorted; nothing: nobody knows
-    std::optional<std::vector<CsfString>> given_; ///< the rows that the user gave up, sorted
-    std::optional<RescuedTable> kept_;            ///< as it was kept last
+    std::optional<Content> file_;      ///< as it is in the file; nothing: nobody knows
+    std::optional<Content> given_;     ///< what the user gave up
+    std::optional<RescuedTable> kept_; ///< as it was kept last
     QString keptPath_;
 };

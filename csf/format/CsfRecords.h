@@ -20,6 +20,9 @@ public:
     /// Walks one record; the entry when it was a string. Raises 9 when the record runs over the end.
     std::optional<CsfString> Next();
 
+    /// Where the next record begins, in bytes.
+    [[nodiscard]] qsizetype Position() const { return position_; }
+
     [[nodiscard]] bool AtEnd() const { return file_.size() <= position_; }
 
     /// The header's language.

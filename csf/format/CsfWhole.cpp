@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr qsizetype HeaderSize = 24;
 constexpr qsizetype NumberSize = sizeof(quint32);
 constexpr qsizetype UnitSize = sizeof(char16_t);
 
@@ -191,12 +192,47 @@ CsfTable CsfWhole::Table() const {
     return table;
 }
 
-/// For each of a changed table's strings the place of the record that it was; behind all for a new one.
-std::vector<std::size_t> CsfWhole::OriginsOf(const CsfTable& table) const {
+std::vector<std::size_t> CsfWhole::PlacesOfStrings() const {
     std::vector<std::size_t> strings;
     for (std::size_t place = 0; place < records_.size(); ++place)
         if (records_[place].HasString)
             strings.push_back(place);
+    return strings;
+}
+
+std::vector<qsizetype> CsfWhole::StringOffsets() const {
+    std::vector<qsizetype> offsets;
+    qsizetype at = HeaderSize;
+    for (const Record& record : records_) {
+        if (!record.Entry.IsMore)
+            at += 3 * NumberSize + record.Entry.Name.size(); // a byte a letter
+        if (!record.HasString)
+            continue;
+        offsets.push_back(at);
+        at += 2 * NumberSize + UnitSize * record.Entry.Value.size();
+        if (record.Entry.Extra)
+            at += NumberSize + record.Entry.Extra->size();
+    }
+    return offsets;
+}
+
+QStringList CsfWhole::BareLabels() const {
+    QStringList names;
+    for (const Record& record : records_)
+        if (!record.HasString)
+            names += record.Entry.Name;
+    return names;
+}
+
+bool CsfWhole::HasPlainHeader() const {
+    constexpr quint32 version = 3;
+    constexpr quint32 digits = 10; // from there on the number that is read is another one
+    return version_ == version && reserved_ == 0 && language_ < digits;
+}
+
+/// For each of a changed table's strings the place of the record that it was; behind all for a new one.
+std::vector<std::size_t> CsfWhole::OriginsOf(const CsfTable& table) const {
+    const std::vector<std::size_t> strings = PlacesOfStrings();
     std::vector<std::size_t> origins(table.Strings.size(), records_.size());
     // Most tables have few changes: what stands before and behind these is told by its place.
     const auto sameNames = [&](std::size_t old, std::size_t now) {
@@ -231,8 +267,20 @@ CsfWhole::Record CsfWhole::Renewed(std::size_t origin, const CsfString& entry) {
 }
 
 void CsfWhole::Take(const CsfTable& table) {
+    TakeFrom(table, OriginsOf(table));
+}
+
+void CsfWhole::Take(const CsfTable& table, const std::vector<int>& strings) {
+    const std::vector<std::size_t> places = PlacesOfStrings();
+    std::vector<std::size_t> origins;
+    origins.reserve(strings.size());
+    for (const int string : strings)
+        origins.push_back(string < 0 ? records_.size() : places.at(static_cast<std::size_t>(string)));
+    TakeFrom(table, origins);
+}
+
+void CsfWhole::TakeFrom(const CsfTable& table, const std::vector<std::size_t>& origins) {
     language_ = static_cast<quint32>(table.Language);
-    const std::vector<std::size_t> origins = OriginsOf(table);
     std::vector<std::size_t> newPlaces(records_.size()); // counted from 1; 0 for what is gone
     std::vector<Placed> placed;
     placed.reserve(origins.size());
@@ -269,9 +317,8 @@ CsfWhole::Counts CsfWhole::Counted() const {
 }
 
 QByteArray CsfWhole::Bytes() const {
-    constexpr qsizetype headerSize = 24;
     constexpr qsizetype mostAround = 24; // marks and numbers of an entry
-    qsizetype size = headerSize;
+    qsizetype size = HeaderSize;
     for (const Record& record : records_)
         size += mostAround + record.Entry.Name.size() + UnitSize * record.Entry.Value.size();
     QByteArray bytes;

@@ -12,6 +12,7 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QStringList>
 
 #include <array>
 #include <cstddef>
@@ -32,6 +33,22 @@ public:
     /// Takes a changed table over: each string goes with the name, so that it keeps what stands around it; others are
     /// new. Labels without strings stay where they stand.
     void Take(const CsfTable& table);
+
+    /// The same for who knows which string each one was: its number in the Table() of before, -1 for a new one. A
+    /// string that has another name now keeps its place.
+    void Take(const CsfTable& table, const std::vector<int>& strings);
+
+    /// Where in the file the record of each string begins, in bytes.
+    [[nodiscard]] std::vector<qsizetype> StringOffsets() const;
+
+    /// The names of the labels without strings.
+    [[nodiscard]] QStringList BareLabels() const;
+
+    [[nodiscard]] quint32 Language() const { return language_; }
+
+    /// Whether the header is one that the suite writes, whatever its counts: a version, a reserved field and a language
+    /// that come through its own reading and writing.
+    [[nodiscard]] bool HasPlainHeader() const;
 
     /// The file. Raises 6 for a text that no length of 32 bits holds.
     [[nodiscard]] QByteArray Bytes() const;
@@ -58,7 +75,9 @@ private:
         quint32 Strings = 0;
     };
 
+    [[nodiscard]] std::vector<std::size_t> PlacesOfStrings() const;
     [[nodiscard]] std::vector<std::size_t> OriginsOf(const CsfTable& table) const;
+    void TakeFrom(const CsfTable& table, const std::vector<std::size_t>& origins);
     [[nodiscard]] Record Renewed(std::size_t origin, const CsfString& entry);
     [[nodiscard]] Counts Counted() const;
 

@@ -6,11 +6,20 @@
 #include "core/LostLetters.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr QChar returnSign = u'\u240D';
+
+/// Letters that the box or this code take for something else, and what no text holds in their place.
+constexpr std::array<std::pair<QChar, QChar>, 5> standIns{{{returnSign, u'\uFDD2'},
+                                                           {QChar::LineSeparator, u'\uFDD3'},
+                                                           {QChar::ParagraphSeparator, u'\uFDD4'},
+                                                           {u'\uFDD0', u'\uFDD5'},
+                                                           {u'\uFDD1', u'\uFDD6'}}};
 
 /// Whether a character of the box is one of the value too.
 bool IsText(QChar character) {
@@ -27,6 +36,8 @@ bool HasEndlessLine(const QString& text) {
 
 void ShowValue(QPlainTextEdit& box, const QString& value) {
     QString shown = value;
+    for (const auto& [letter, standIn] : standIns)
+        shown.replace(letter, standIn);
     shown.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', returnSign);
     box.setWordWrapMode(HasEndlessLine(shown) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere);
     box.setPlainText(shown);
@@ -59,5 +70,7 @@ QString ShownValue(const QPlainTextEdit& box) {
     // The raw text: the plain one has ordinary blanks in place of no-break ones.
     QString text = box.document()->toRawText();
     text.replace(returnSign, u'\r').replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+    for (const auto& [letter, standIn] : standIns)
+        text.replace(standIn, letter);
     return text.replace(u"\n"_s, u"\r\n"_s);
 }

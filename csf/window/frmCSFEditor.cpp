@@ -6,6 +6,7 @@
 #include "core/LostLetters.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
+#include "csf/window/LabelDelegate.h"
 #include "csf/window/ValueText.h"
 #include "ui/list/RowListModel.h"
 #include "ui/text/Localisation.h"
@@ -59,8 +60,10 @@ void frmCSFEditor::OpenCSFFile(const QString& path) {
 void frmCSFEditor::Dress() {
     ui_->cmbLanguage->addItems(CsfEditor::Languages());
     ui_->cmbLanguage->setCurrentIndex(-1);
+    ui_->lvStrings2->setItemDelegate(new LabelDelegate(ui_->lvStrings2));
     ui_->lvStrings2->setAccessibleName(mTraduction::GetText(u"CSFFile"_s));
     ui_->txtFind->setAccessibleName(mTraduction::GetText(u"Find"_s));
+    ui_->StatusBar1->setAccessibleName(mTraduction::GetText(u"CSFFile"_s));
     ui_->txtName->setMaxLength(std::numeric_limits<int>::max());
     count_->setContentsMargins(6, 0, 0, 0);
     ui_->StatusBar1->addWidget(count_, 1);
@@ -80,6 +83,8 @@ std::vector<ToolCommand> frmCSFEditor::Commands() {
         {ui_->mnuOpen, ui_->Label2_3, u"open"_s, of(&CsfEditor::Open)},
         {ui_->mnuSave, ui_->Label2_4, u"save"_s, of(&CsfEditor::Save)},
         {ui_->mnuSaveAs, nullptr, u"save-as"_s, of(&CsfEditor::SaveAs)},
+        {ui_->mnuUndo, nullptr, {}, of(&CsfEditor::Undo)},
+        {ui_->mnuRedo, nullptr, {}, of(&CsfEditor::Redo)},
         {ui_->mnuAdd, ui_->Label2_0, u"add"_s, of(&CsfEditor::Add)},
         {ui_->mnuDelete, ui_->Label2_1, u"delete"_s, of(&CsfEditor::Delete)},
         {ui_->mnuFind, nullptr, u"find"_s, [this] { ShowFind(); }},
@@ -105,9 +110,19 @@ void frmCSFEditor::ConnectControls() {
     connect(ui_->cmbLanguage, &QComboBox::currentIndexChanged, this,
             [this](int entry) { editor_.LanguageChosen(entry); });
     connect(ui_->txtFind, &QLineEdit::textEdited, this, [this](const QString& text) { editor_.FindTyped(text); });
+    connect(ui_->chkFindInValues, &QCheckBox::toggled, this, [this](bool on) { editor_.FindInValues(on); });
     connect(ui_->cmdFindNext, &QPushButton::clicked, this, [this] { editor_.FindNext(); });
     ui_->txtFind->installEventFilter(this);
     ui_->lvStrings2->installEventFilter(this);
+    ui_->cmbLanguage->setFocusPolicy(Qt::StrongFocus);
+    ui_->cmbLanguage->installEventFilter(this);
+}
+
+bool frmCSFEditor::event(QEvent* event) {
+    const bool taken = ToolWindow::event(event);
+    if (event->type() == QEvent::WindowActivate)
+        editor_.CameToFront();
+    return taken;
 }
 
 bool frmCSFEditor::eventFilter(QObject* watched, QEvent* event) {
@@ -116,6 +131,11 @@ bool frmCSFEditor::eventFilter(QObject* watched, QEvent* event) {
     if (watched == ui_->lvStrings2 && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_F3) {
         editor_.FindNextByKey();
+        return true;
+    }
+    // Only who has chosen the list turns it by the wheel: it writes where everything is kept.
+    if (watched == ui_->cmbLanguage && event->type() == QEvent::Wheel && !ui_->cmbLanguage->hasFocus()) {
+        event->ignore();
         return true;
     }
     return ToolWindow::eventFilter(watched, event);
@@ -199,7 +219,10 @@ void frmCSFEditor::StateChanged() {
     ui_->lblSize->setText(state.SizeText);
     ui_->lblLanguage->setText(state.LanguageText);
     ui_->cmbLanguage->setCurrentIndex(state.LanguageShown);
+    ui_->cmbLanguage->setEnabled(state.Whole);
     ui_->mnuActions->setVisible(state.ActionsVisible);
+    ui_->mnuUndo->setEnabled(editor_.CanUndo());
+    ui_->mnuRedo->setEnabled(editor_.CanRedo());
     ui_->txtName->setEnabled(state.BoxesEnabled);
     ui_->txtValue->setEnabled(state.BoxesEnabled);
     if (ui_->txtFind->text() != state.FindText)
@@ -210,6 +233,7 @@ void frmCSFEditor::StateChanged() {
     ui_->txtFind->setPalette(colours);
     count_->setText(editor_.CountText());
     const QString tool = u"CSF Editor"_s;
-    setWindowTitle(state.FrameVisible ? state.Caption + u"[*] - "_s + tool : tool);
+    const QString mode = state.Whole ? u" ("_s + mTraduction::GetText(u"WholeTable"_s) + u')' : QString();
+    setWindowTitle(state.FrameVisible ? state.Caption + u"[*]"_s + mode + u" - "_s + tool : tool);
     setWindowModified(state.Modified);
 }

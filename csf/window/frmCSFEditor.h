@@ -28,6 +28,7 @@ public:
     void OpenCSFFile(const QString& path);
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -163,6 +163,36 @@ TEST_F(CsfEditorCommands, FindWalksThroughTheMatchesAndStopsAtTheLast) {
     EXPECT_FALSE(State().Modified);
 }
 
+TEST_F(CsfEditorCommands, FindLooksAtValuesWhereThatIsChosen) {
+    OpenTable({{"a", "1"},
+               {"b", "The GUI"},
+               {"gui:c", "3"},
+               {"d", "\xC9"
+                     "diteur"}});
+    Find(u"gui"_s);
+    Editor.FindNext();
+    EXPECT_EQ(State().NameText, u"gui:c"_s);
+    EXPECT_TRUE(Editor.CountText().startsWith(u"RowCount, MatchCount"_s));
+    Editor.ClickRow(0);
+    const int told = View.StateChanges;
+    Editor.FindInValues(true);
+    EXPECT_GT(View.StateChanges, told) << "the count is another one";
+    Editor.FindNext();
+    EXPECT_EQ(State().NameText, u"b"_s);
+    Editor.FindNext();
+    EXPECT_EQ(State().NameText, u"gui:c"_s);
+    Find(u"\u00E9diteur"_s);
+    Editor.FindNext();
+    EXPECT_EQ(State().NameText, u"d"_s);
+    EXPECT_EQ(Editor.List().Matches(u"gui"_s, true), 2);
+    EXPECT_EQ(Editor.List().Matches(u"gui"_s, false), 1);
+    Editor.FindInValues(false);
+    Editor.ClickRow(0);
+    Find(u"the gui"_s);
+    Editor.FindNext();
+    EXPECT_EQ(State().NameText, u"a"_s);
+}
+
 TEST_F(CsfEditorCommands, FindFromTheLastRowBeginsAtTheTop) {
     OpenTable({{"1 gui", ""}, {"2", ""}, {"3 gui", ""}});
     Find(u"gui"_s);

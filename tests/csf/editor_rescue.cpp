@@ -386,6 +386,9 @@ TEST_F(CsfEditorRescue, WhatACutOffRescueSaysIsNoTable) {
     RescuedTable table;
     table.LanguageText = u"20"_s;
     table.LanguageShown = 3;
+    table.Whole = true;
+    table.Behind = "file";
+    table.Indexes = {2, -1, 0};
     table.Rows = {{u"v"_s, u"n"_s}, {u"more"_s, u"n"_s, QByteArray(), true}, {u"x"_s, u"e"_s, QByteArray("a\0b", 3)}};
     const QByteArray bytes = table.Encoded();
     EXPECT_EQ(RescuedTable::Decoded(bytes), table);

@@ -5,38 +5,14 @@
 
 #include "platform/RuntimeError.h"
 #include "tests/csf/Tables.h"
-
-#include <QtEndian>
+#include "tests/csf/WholeBytes.h"
 
 #include <random>
 
 using namespace Qt::StringLiterals;
+using namespace WholeBytes;
 
 namespace {
-
-/// A header whose counts, reserved field and language are chosen.
-QByteArray Head(quint32 labels, quint32 strings, quint32 language = 0, quint32 reserved = 0, quint32 version = 3) {
-    return " FSC" + Little(version) + Little(labels) + Little(strings) + Little(reserved) + Little(language);
-}
-
-QByteArray Label(quint32 strings, const QByteArray& name, const QByteArray& mark = " LBL") {
-    return mark + Little(strings) + Little(static_cast<quint32>(name.size())) + name;
-}
-
-/// A string record with all 16 bits of its letters.
-QByteArray String(const QString& value, const QByteArray& mark = " RTS") {
-    QByteArray record = mark + Little(static_cast<quint32>(value.size()));
-    for (const QChar letter : value) {
-        const auto unit = static_cast<unsigned>(0xFFFF - letter.unicode());
-        record += static_cast<char>(unit & 0xFF);
-        record += static_cast<char>(unit >> 8U);
-    }
-    return record;
-}
-
-QByteArray WithExtra(const QString& value, const QByteArray& extra, const QByteArray& mark = "WRTS") {
-    return String(value, mark) + Little(static_cast<quint32>(extra.size())) + extra;
-}
 
 /// A little of everything.
 QByteArray Everything() {
@@ -130,6 +106,39 @@ TEST(WholeTable, LabelsWithoutStringsStayWhereTheyStand) {
                            String(u"1"_s, " rTs") + WithExtra(u"\u0416"_s, Bytes("x\0y"), "WrTs") + String(u""_s) +
                            Label(0, "bare") + Label(1, "a") + WithExtra(u"\u00E9"_s, "") + Label(0, "bare last") +
                            Label(1, "new") + String(u"n"_s));
+}
+
+TEST(WholeTable, WhoKnowsWhichStringEachOneWasMayRenameItInItsPlace) {
+    CsfWhole whole = CsfWhole::Read(Everything());
+    CsfTable table = whole.Table();
+    table.Strings[0].Name = u"other"_s;
+    table.Strings[1].Name = u"first"_s;
+    std::swap(table.Strings[4], table.Strings[5]);
+    table.Strings.push_back({u"n"_s, u"new"_s});
+    whole.Take(table, {0, 1, 2, 3, 5, 4, -1});
+    EXPECT_EQ(whole.Bytes(), Head(9, 100, 0x01020304, 0xAABBCCDD, 2) + Label(0, "bare first") + Label(1, "other") +
+                                 String(u"\uD55C\uAD6D\uC5B4"_s) + Label(1, "first", " lBl") + String(u"1"_s, " rTs") +
+                                 Label(2, "many", " lBl") + WithExtra(u"\u0416"_s, Bytes("x\0y"), "WrTs") +
+                                 String(u""_s) + Label(0, "bare") + Label(1, "a") + WithExtra(u"\u00E9"_s, "") +
+                                 Label(0, "bare last") + Label(1, "") + String(u"\U0001F5FA\n"_s) + Label(1, "new") +
+                                 String(u"n"_s));
+}
+
+TEST(WholeTable, TellsWhereItsStringsLieAndWhatIsBesideThem) {
+    const CsfWhole whole = CsfWhole::Read(Everything());
+    const QByteArray bytes = Everything();
+    std::vector<qsizetype> offsets;
+    for (const QByteArray mark : {" RTS", " rTs", "WrTs", "WRTS"})
+        for (qsizetype at = bytes.indexOf(mark); at >= 0; at = bytes.indexOf(mark, at + 1))
+            offsets.push_back(at);
+    std::ranges::sort(offsets);
+    EXPECT_EQ(whole.StringOffsets(), offsets);
+    EXPECT_EQ(whole.BareLabels(), QStringList({u"bare first"_s, u"bare"_s, u"bare last"_s}));
+    EXPECT_FALSE(whole.HasPlainHeader());
+    EXPECT_TRUE(CsfWhole::Read(Head(7, 9, 9)).HasPlainHeader());
+    EXPECT_FALSE(CsfWhole::Read(Head(0, 0, 10)).HasPlainHeader());
+    EXPECT_FALSE(CsfWhole::Read(Head(0, 0, 0, 1)).HasPlainHeader());
+    EXPECT_FALSE(CsfWhole::Read(Head(0, 0, 0, 0, 2)).HasPlainHeader());
 }
 
 TEST(WholeTable, ExtraDataComesAndGoesWithItsMark) {

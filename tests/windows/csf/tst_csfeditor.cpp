@@ -11,6 +11,7 @@
 #include <QGroupBox>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStandardItemModel>
 
 using namespace Qt::StringLiterals;
 using Answer = Host::Answer;
@@ -256,8 +257,33 @@ private Q_SLOTS:
         QCOMPARE(Told(), u"3 rows, 1 matches"_s);
     }
 
+    void namesThatDifferAtTheirEndDifferInTheList() {
+        const QString name(60, u'x');
+        Open({{u"v"_s, name + u'1'}, {u"v"_s, name + u'2'}, {u"v"_s, u"z"_s}});
+        ClickRow(2);
+        const auto picture = [&](int row) {
+            return List()->viewport()->grab(List()->visualRect(List()->model()->index(row, 0))).toImage();
+        };
+        QVERIFY(picture(0) != picture(1));
+    }
+
+    void rowsAreAsHighAsThoseWithAnIcon() {
+        OpenThree();
+        QTreeView with;
+        with.setFont(List()->font());
+        QStandardItemModel rows;
+        QPixmap icon(16, 16);
+        icon.fill(Qt::red);
+        rows.appendRow(new QStandardItem(QIcon(icon), u"alpha"_s));
+        with.setModel(&rows);
+        with.setIconSize({16, 16});
+        with.show();
+        QCOMPARE(List()->visualRect(List()->model()->index(0, 0)).height(), with.visualRect(rows.index(0, 0)).height());
+    }
+
     void theLanguageListIsOnlyADisplay() {
         OpenThree();
+        QVERIFY(!Part<QComboBox>("cmbLanguage")->isEnabled());
         Part<QComboBox>("cmbLanguage")->setCurrentIndex(8);
         Part<QAction>("mnuSave")->trigger();
         QCOMPARE(mCSF::ReadCSF(path_), 3);

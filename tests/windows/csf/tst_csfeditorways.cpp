@@ -6,6 +6,7 @@
 #include "tests/windows/EveryWay.h"
 #include "tests/windows/csf/CsfEditorWindow.h"
 
+#include <QCheckBox>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -35,6 +36,13 @@ private:
             {"mnuSaveAs", -1, [this] { host_->FileNames = {NewPath()}; },
              [this] { return Files::FileExists(NewPath()); }},
             {"mnuExit", -1, [] {}, [this] { return !window_->isVisible(); }},
+            {"mnuUndo", -1, [this] { Part<QAction>("mnuDelete")->trigger(); }, [this] { return Names().size() == 3; }},
+            {"mnuRedo", -1,
+             [this] {
+                 Part<QAction>("mnuAdd")->trigger();
+                 Part<QAction>("mnuUndo")->trigger();
+             },
+             [this] { return Names().size() == 4; }},
             {"mnuAdd", 0, [] {}, [this] { return Names().size() == 4 && window_->isWindowModified(); }},
             {"mnuDelete", 1, [] {},
              [this] {
@@ -72,6 +80,35 @@ private Q_SLOTS:
         QVERIFY(host_->FileNames.empty());
     }
 
+    void undoAndRedoAreThereWhenTheyCanBe() {
+        OpenThree();
+        auto* const undo = Part<QAction>("mnuUndo");
+        auto* const redo = Part<QAction>("mnuRedo");
+        QVERIFY(!undo->isEnabled() && !redo->isEnabled());
+        NameBox()->setFocus();
+        QTest::keyClicks(NameBox(), u"!?"_s);
+        QVERIFY(undo->isEnabled() && !redo->isEnabled());
+        undo->trigger();
+        QCOMPARE(NameBox()->text(), u"alpha"_s);
+        QVERIFY(!undo->isEnabled() && redo->isEnabled());
+        QVERIFY(!window_->isWindowModified());
+        List()->setFocus();
+        QTest::keyClick(List(), Qt::Key_Y, Qt::ControlModifier);
+        QCOMPARE(Cell(0, 0), u"alpha!?"_s);
+    }
+
+    void keysInABoxTakeBackWhatWasTypedThere() {
+        OpenThree();
+        Part<QAction>("mnuAdd")->trigger();
+        NameBox()->setFocus();
+        QTest::keyClicks(NameBox(), u"!"_s);
+        QTest::keyClick(NameBox(), Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(NameBox(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(Names(), QStringList({u"alpha"_s, u"beta"_s, u"Gamma"_s, u"Neu"_s}));
+        Part<QAction>("mnuUndo")->trigger();
+        QCOMPARE(Names().size(), 3);
+    }
+
     void theNextMatchIsFoundByButtonEnterAndF3_data() {
         QTest::addColumn<QString>("how");
         for (const char* how : {"button", "Enter", "F3", "F3 in the list", "Enter of the pad"})
@@ -93,6 +130,22 @@ private Q_SLOTS:
                                                            : Qt::Key_Enter);
         QCOMPARE(List()->currentIndex().row(), 2);
         QCOMPARE(NameBox()->text(), u"Gamma"_s);
+    }
+
+    void theCheckMarkLooksInValues() {
+        OpenThree();
+        FindBox()->setFocus();
+        QTest::keyClicks(FindBox(), u"3"_s);
+        QTest::keyClick(FindBox(), Qt::Key_Return);
+        QCOMPARE(List()->currentIndex().row(), 0);
+        QCOMPARE(Told(), u"3 rows, 0 matches"_s);
+        FindBox()->setFocus();
+        QTest::keyClick(FindBox(), Qt::Key_Tab);
+        QTest::keyClick(window_->focusWidget(), Qt::Key_Space);
+        QVERIFY(Part<QCheckBox>("chkFindInValues")->isChecked());
+        QCOMPARE(Told(), u"3 rows, 1 matches"_s);
+        QTest::mouseClick(Part<QPushButton>("cmdFindNext"), Qt::LeftButton);
+        QCOMPARE(List()->currentIndex().row(), 2);
     }
 
     void aSaveLeavesRowScrollAndSelection() {
