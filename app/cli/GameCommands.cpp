@@ -41,9 +41,9 @@ GameRow RowOf(GameIndex game) {
     return {.Index = game,
             .Prefix = SettingsPrefix(game),
             .Installed = !entry.InstallPath.isEmpty(),
-            .InstallPath = Paths::ToNative(entry.InstallPath),
-            .ReplayPath = Paths::ToNative(entry.ReplayPath),
-            .MapPath = Paths::ToNative(entry.MapPath),
+            .InstallPath = Paths::ToNative(entry.InstallFolder()),
+            .ReplayPath = Paths::ToNative(entry.ReplayFolder()),
+            .MapPath = Paths::ToNative(entry.MapFolder()),
             .FoundIn = mMain::InstallPathFoundIn(game)};
 }
 

@@ -106,19 +106,21 @@ int CheckFile(const QByteArray& path) {
 
 } // namespace
 
-QStringList Processes::CommandFor(const QString& command) {
+QStringList Processes::CommandFor(const QString& command, const QString& prefix) {
     const CommandText::Parts parts = CommandText::Split(command);
-    const QStringList words = QStringList(Paths::ToNative(parts.Program)) + CommandText::Arguments(parts.Rest);
+    const QString program = Paths::ToNative(Paths::InPrefix(prefix, parts.Program));
+    const QStringList words = QStringList(program) + CommandText::Arguments(parts.Rest);
     return IsWindowsProgram(parts.Program) ? QStringList(u"wine"_s) + words : words;
 }
 
-void Processes::StartCommand(const QString& command, FirstWindow /*window*/) {
+void Processes::StartCommand(const QString& command, FirstWindow /*window*/, const QString& prefix) {
     const QString program = CommandText::Split(command).Program;
     QByteArrayList words;
-    for (const QString& word : CommandFor(command))
+    for (const QString& word : CommandFor(command, prefix))
         words << Paths::EncodeNative(word);
-    const QByteArray prefix = Paths::EncodeNative(Paths::PrefixFor(program));
-    if (IsMissing(Paths::ToNative(program)) || Spawn(words, EnvironmentWith(prefix)) == 0)
+    const QByteArray usedPrefix = Paths::EncodeNative(prefix.isEmpty() ? Paths::PrefixFor(program) : prefix);
+    const bool isMissing = IsMissing(Paths::ToNative(Paths::InPrefix(prefix, program)));
+    if (isMissing || Spawn(words, EnvironmentWith(usedPrefix)) == 0)
         throw RuntimeError(ErrorNumber::FileNotFound, u"%1: can't be started"_s.arg(command));
 }
 

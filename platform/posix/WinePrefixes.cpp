@@ -94,6 +94,17 @@ QStringList FindOnMachine() {
 
 } // namespace
 
+QString WinePrefixes::Default() {
+    QStringList named{qEnvironmentVariable("WINEPREFIX"), qEnvironmentVariable("HOME") + u"/.wine"_s};
+    if (qEnvironmentVariableIsSet("BRINDOCK_WINE_PREFIXES"))
+        named = qEnvironmentVariable("BRINDOCK_WINE_PREFIXES").split(u':', Qt::SkipEmptyParts);
+    for (const QString& folder : std::as_const(named)) {
+        if (!folder.isEmpty() && QFileInfo(folder + u"/drive_c"_s).isDir())
+            return QDir::cleanPath(folder);
+    }
+    return {};
+}
+
 QStringList WinePrefixes::Find() {
     if (!qEnvironmentVariableIsSet("BRINDOCK_WINE_PREFIXES"))
         return FindOnMachine();

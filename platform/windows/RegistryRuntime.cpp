@@ -178,6 +178,13 @@ QString RegistryRuntime::PrefixOf(RootKey /*root*/, const QString& /*path*/, con
     return {};
 }
 
+std::vector<RegistryRuntime::Place> RegistryRuntime::Places(RootKey root, const QString& path,
+                                                            const QString& name) const {
+    if (source_->Read(root, path, name).Type != RegistryValue::Kind::Text)
+        return {};
+    return {{.Text = GetString(root, path, name), .FoundIn = FoundIn(root, path, name), .Prefix = {}}};
+}
+
 bool RegistryRuntime::WasReadable() {
     return !source_->File || source_->File->WasReadable();
 }
