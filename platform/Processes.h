@@ -48,7 +48,8 @@ void Close(Handle process);
 bool IsRunning(qint64 processId);
 
 /// The command line of this process without the executable's name, as it was typed where the system keeps that,
-/// otherwise its arguments joined by single blanks, those that name an existing file or folder as inside paths.
+/// otherwise its arguments joined by single blanks, as inside paths those that have a slash behind their beginning or
+/// name an existing file or folder.
 QString CommandLine(int argc, char** argv);
 
 /// Ends this process at once, without any further work.

@@ -69,9 +69,11 @@ bool IsWindowsProgram(const QString& program) {
     return program.endsWith(u".exe"_s, Qt::CaseInsensitive);
 }
 
-/// A program that is named with its folder must be there; a bare name is looked up by whoever starts it.
+/// A program that is named with its folder must be there; a bare name is looked up by whoever starts it. Wine would
+/// look up no game's, and would be waited for in vain.
 bool IsMissing(const QString& nativeProgram) {
-    return nativeProgram.contains(u'/') && ::access(Paths::EncodeNative(nativeProgram).constData(), F_OK) != 0;
+    const bool isLookedUp = !nativeProgram.contains(u'/') && !IsWindowsProgram(nativeProgram);
+    return !isLookedUp && ::access(Paths::EncodeNative(nativeProgram).constData(), F_OK) != 0;
 }
 
 std::optional<int> Reap(pid_t process) {
@@ -119,9 +121,12 @@ void Processes::StartCommand(const QString& command, FirstWindow /*window*/, con
     for (const QString& word : CommandFor(command, prefix))
         words << Paths::EncodeNative(word);
     const QByteArray usedPrefix = Paths::EncodeNative(prefix.isEmpty() ? Paths::PrefixFor(program) : prefix);
-    const bool isMissing = IsMissing(Paths::ToNative(Paths::InPrefix(prefix, program)));
-    if (isMissing || Spawn(words, EnvironmentWith(usedPrefix)) == 0)
-        throw RuntimeError(ErrorNumber::FileNotFound, u"%1: can't be started"_s.arg(command));
+    const QString native = Paths::ToNative(Paths::InPrefix(prefix, program));
+    if (IsMissing(native))
+        throw RuntimeError(ErrorNumber::FileNotFound, u"%1: there is no such program"_s.arg(native));
+    if (Spawn(words, EnvironmentWith(usedPrefix)) == 0)
+        throw RuntimeError(ErrorNumber::FileNotFound,
+                           u"%1: can't be started by %2"_s.arg(native, Paths::DecodeNative(words.first())));
 }
 
 Processes::Opened Processes::OpenWithAssociation(const QString& path, quintptr /*owner*/) {
@@ -161,7 +166,8 @@ QString Processes::CommandLine(int argc, char** argv) {
     for (int at = 1; at < argc; ++at) {
         // A path of the system becomes one of the program's: its slashes must not look like switches.
         const QString word = Paths::DecodeNative(argv[at]);
-        words << (::access(argv[at], F_OK) == 0 ? Paths::FromNative(word) : word);
+        const bool isPath = word.lastIndexOf(u'/') > 0 || ::access(argv[at], F_OK) == 0;
+        words << (isPath ? Paths::FromNative(word) : word);
     }
     return words.join(u' ');
 }
