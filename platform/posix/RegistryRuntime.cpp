@@ -3,7 +3,6 @@
 
 #include "platform/RegistryRuntime.h"
 
-#include "platform/AnsiCodec.h"
 #include "platform/FileRegistry.h"
 #include "platform/Paths.h"
 #include "platform/posix/OwnFolder.h"
@@ -148,8 +147,7 @@ QString RegistryRuntime::GetString(RootKey root, const QString& path, const QStr
 }
 
 void RegistryRuntime::SaveString(RootKey root, const QString& path, const QString& name, const QString& text) {
-    const QString kept = AnsiCodec::Decode(AnsiCodec::Encode(text));
-    source_->Own.Write(root, path, name, {RegistryValue::Kind::Text, kept, 0});
+    source_->Own.Write(root, path, name, {RegistryValue::Kind::Text, text, 0});
 }
 
 quint32 RegistryRuntime::GetDword(RootKey root, const QString& path, const QString& name) const {
