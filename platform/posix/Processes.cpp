@@ -7,6 +7,7 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/posix/DesktopEntries.h"
+#include "platform/posix/WineRunner.h"
 
 #include <QByteArrayList>
 
@@ -43,15 +44,25 @@ std::vector<char*> Pointers(QByteArrayList& texts) {
     return pointers;
 }
 
-QByteArrayList EnvironmentWith(const QByteArray& prefix) {
+/// The environment with variables ("NAME=value") in place of those of the same name.
+QByteArrayList EnvironmentWith(const QByteArrayList& changed) {
     QByteArrayList variables;
     for (char** variable = environ; *variable != nullptr; ++variable)
         variables << *variable;
-    if (prefix.isEmpty())
-        return variables;
-    variables.removeIf([](const QByteArray& variable) { return variable.startsWith("WINEPREFIX="); });
-    return variables << "WINEPREFIX=" + prefix;
+    for (const QByteArray& variable : changed) {
+        const QByteArray name = variable.first(variable.indexOf('=') + 1);
+        variables.removeIf([&](const QByteArray& old) { return old.startsWith(name); });
+        variables << variable;
+    }
+    return variables;
 }
+
+/// What a command text means on this system.
+struct Meant {
+    QString Program; ///< native
+    QStringList Words;
+    QByteArrayList Environment;
+};
 
 /// Starts a program of the search path in a session of its own, so that it outlives us. 0 when it can't be started.
 pid_t Spawn(QByteArrayList command, QByteArrayList environment) {
@@ -67,6 +78,22 @@ pid_t Spawn(QByteArrayList command, QByteArrayList environment) {
 
 bool IsWindowsProgram(const QString& program) {
     return program.endsWith(u".exe"_s, Qt::CaseInsensitive);
+}
+
+Meant MeantBy(const QString& command, const QString& namedPrefix) {
+    const CommandText::Parts parts = CommandText::Split(command);
+    const QString program = Paths::ToNative(Paths::InPrefix(namedPrefix, parts.Program));
+    Meant meant{
+        .Program = program, .Words = QStringList(program) + CommandText::Arguments(parts.Rest), .Environment = {}};
+    if (!IsWindowsProgram(parts.Program))
+        return meant;
+    const QString prefix = namedPrefix.isEmpty() ? Paths::PrefixFor(parts.Program) : namedPrefix;
+    const WineRunner runner = WineRunner::For(prefix);
+    meant.Words = runner.Words + meant.Words;
+    meant.Environment = runner.Environment;
+    if (!prefix.isEmpty())
+        meant.Environment << "WINEPREFIX=" + Paths::EncodeNative(prefix);
+    return meant;
 }
 
 /// A program that is named with its folder must be there; a bare name is looked up by whoever starts it. Wine would
@@ -109,24 +136,23 @@ int CheckFile(const QByteArray& path) {
 } // namespace
 
 QStringList Processes::CommandFor(const QString& command, const QString& prefix) {
-    const CommandText::Parts parts = CommandText::Split(command);
-    const QString program = Paths::ToNative(Paths::InPrefix(prefix, parts.Program));
-    const QStringList words = QStringList(program) + CommandText::Arguments(parts.Rest);
-    return IsWindowsProgram(parts.Program) ? QStringList(u"wine"_s) + words : words;
+    return MeantBy(command, prefix).Words;
+}
+
+QString Processes::RunnerFor(const QString& prefix) {
+    return WineRunner::For(prefix).Words.first();
 }
 
 void Processes::StartCommand(const QString& command, FirstWindow /*window*/, const QString& prefix) {
-    const QString program = CommandText::Split(command).Program;
+    const Meant meant = MeantBy(command, prefix);
     QByteArrayList words;
-    for (const QString& word : CommandFor(command, prefix))
+    for (const QString& word : meant.Words)
         words << Paths::EncodeNative(word);
-    const QByteArray usedPrefix = Paths::EncodeNative(prefix.isEmpty() ? Paths::PrefixFor(program) : prefix);
-    const QString native = Paths::ToNative(Paths::InPrefix(prefix, program));
-    if (IsMissing(native))
-        throw RuntimeError(ErrorNumber::FileNotFound, u"%1: there is no such program"_s.arg(native));
-    if (Spawn(words, EnvironmentWith(usedPrefix)) == 0)
+    if (IsMissing(meant.Program))
+        throw RuntimeError(ErrorNumber::FileNotFound, u"%1: there is no such program"_s.arg(meant.Program));
+    if (Spawn(words, EnvironmentWith(meant.Environment)) == 0)
         throw RuntimeError(ErrorNumber::FileNotFound,
-                           u"%1: can't be started by %2"_s.arg(native, Paths::DecodeNative(words.first())));
+                           u"%1: can't be started by %2"_s.arg(meant.Program, meant.Words.first()));
 }
 
 Processes::Opened Processes::OpenWithAssociation(const QString& path, quintptr /*owner*/) {

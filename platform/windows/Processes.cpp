@@ -31,6 +31,10 @@ QStringList Processes::CommandFor(const QString& command, const QString& /*prefi
     return QStringList(parts.Program) + CommandText::Arguments(parts.Rest);
 }
 
+QString Processes::RunnerFor(const QString& /*prefix*/) {
+    return {};
+}
+
 void Processes::StartCommand(const QString& command, FirstWindow window, const QString& /*prefix*/) {
     // The call writes into the text.
     std::wstring text = command.toStdWString();
