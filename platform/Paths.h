@@ -45,7 +45,7 @@ QString DecodeNative(const QByteArray& bytes);
 QByteArray EncodeShown(QString text);
 
 /// The absolute inside path of a system path as a person typed it: relative to the current folder, "." and ".." gone,
-/// links followed as far as the path exists.
+/// links followed as far as the path exists. A path with a drive letter is an inside path already.
 QString Absolute(const QString& nativePath);
 
 /// The absolute inside path of an inside path that may be relative to a folder (an absolute inside path), by the texts

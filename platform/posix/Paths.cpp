@@ -220,6 +220,10 @@ QString DecodeNative(const QByteArray& bytes) {
 }
 
 QString Absolute(const QString& nativePath) {
+    // A path with a drive letter, unless a file really has that name.
+    const bool isInside = HasDrive(nativePath) && nativePath.size() > 2 && nativePath[2] == u'\\';
+    if (isInside && ::access(EncodeNative(nativePath).constData(), F_OK) != 0)
+        return AbsoluteIn({}, nativePath);
     const std::filesystem::path given(EncodeNative(nativePath).toStdString());
     std::error_code error;
     std::filesystem::path resolved = std::filesystem::weakly_canonical(std::filesystem::absolute(given, error), error);

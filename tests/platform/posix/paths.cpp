@@ -109,6 +109,15 @@ TEST_F(PathsTest, ADriveWithoutARuleIsTheOneThatWineItselfWouldTake) {
     EXPECT_EQ(Paths::ToNative(u"C:\\games"_s), named + u"/drive_c/Games"_s);
 }
 
+TEST_F(PathsTest, APathWithADriveLetterCanBeTyped) {
+    EXPECT_EQ(Paths::Absolute(u"C:\\Games\\.\\x\\..\\a b.big"_s), u"C:\\Games\\a b.big"_s);
+    const QString cwd = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder_.path()));
+    ASSERT_TRUE(QFile(u"C:\\x"_s).open(QIODevice::WriteOnly));
+    EXPECT_EQ(Paths::ToNative(Paths::Absolute(u"C:\\x"_s)), folder_.path() + u"/C:\\x"_s);
+    ASSERT_TRUE(QDir::setCurrent(cwd));
+}
+
 TEST_F(PathsTest, ADriveThatNobodyKnowsIsReadAsItWasGiven) {
     const QString native = Paths::ToNative(u"C:\\Games\\x.big"_s);
     EXPECT_EQ(Paths::EncodeShown(native + u": missing"_s), "C:/Games/x.big: missing");
