@@ -139,8 +139,11 @@ FileRegistry::Document::Document(QByteArray bytes) : Bytes(std::move(bytes)) {
 }
 
 QByteArray FileRegistry::Document::Encode(const QString& text) const {
-    if (Form == Encoding::Ansi)
-        return AnsiCodec::Encode(text);
+    if (Form == Encoding::Ansi) {
+        // Bytes of the page that would be read as UTF-8 are written as such.
+        const QByteArray ansi = AnsiCodec::Encode(text);
+        return !IsAscii(ansi) && QByteArrayView(ansi).isValidUtf8() ? text.toUtf8() : ansi;
+    }
     if (Form == Encoding::UnmarkedUtf8)
         return text.toUtf8();
     if (Form == Encoding::Utf8)

@@ -100,6 +100,14 @@ TEST_F(FileRegistryTest, Utf8WithoutAMarkIsUnderstoodAndStaysWithoutOne) {
     EXPECT_EQ(Text(u"n"_s), "\xC3\xA9t\xC3\x83\xC2\xA9") << "One letter of the page, and the file is in it.";
 }
 
+TEST_F(FileRegistryTest, LettersThatLookLikeUtf8ComeBack) {
+    EXPECT_TRUE(Save(u"n"_s, u"\u00C3\u00A9"_s));
+    EXPECT_EQ(Value(u"n"_s).Text, u"\u00C3\u00A9"_s);
+    EXPECT_TRUE(Save(u"j"_s, u"\u00E9"_s));
+    EXPECT_EQ(Value(u"n"_s).Text, u"\u00C3\u00A9"_s);
+    EXPECT_EQ(Value(u"j"_s).Text, u"\u00E9"_s);
+}
+
 TEST_F(FileRegistryTest, TheLastOfSeveralValuesCountsAsAnImportWouldHaveIt) {
     Holds("[HKEY_CURRENT_USER\\A]\n\"n\"=\"1\"\n[HKEY_CURRENT_USER\\B]\n[HKEY_CURRENT_USER\\A]\n\"n\"=\"2\"\n");
     EXPECT_EQ(Text(u"n"_s), "2");
