@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Settings are short; what is longer is something else.
-constexpr qint64 LongestSettings = 4 * 1024 * 1024;
+constexpr qint64 LongestSettings = qint64{4} * 1024 * 1024;
 
 QByteArray Contents(const QString& fileName) {
     QFile file(fileName);
@@ -129,7 +129,7 @@ public:
             for (const QString& file : files) {
                 // Each game's settings stand under its name, those for all games under another.
                 const QJsonObject games = QJsonDocument::fromJson(Contents(file)).object();
-                for (const QJsonValue& game : games)
+                for (const auto& game : games)
                     Add(prefixes, game.toObject());
             }
         }
@@ -156,7 +156,7 @@ QString ProtonOf(const QString& prefix) {
     for (const QString& line : record.split(u'\n')) {
         for (const QString& below : {u"/files/"_s, u"/dist/"_s}) {
             const qsizetype end = line.indexOf(below);
-            const QString program = end > 0 ? FirstThere({line.first(end) + u"/proton"_s}) : QString();
+            QString program = end > 0 ? FirstThere({line.first(end) + u"/proton"_s}) : QString();
             if (!program.isEmpty())
                 return program;
         }
@@ -181,7 +181,7 @@ QStringList Launchers::SteamFolders(const QString& home) {
 }
 
 QString Launchers::RunnerBeside(const QString& prefix) {
-    if (const QString proton = ProtonOf(prefix); !proton.isEmpty())
+    if (QString proton = ProtonOf(prefix); !proton.isEmpty())
         return proton;
     const QString build = IndentedText(prefix + u"/bottle.yml"_s).Value({}, u"Runner"_s);
     // The bottles lie in a folder of the same name as the program's, beside that of the builds.
