@@ -10,6 +10,8 @@
 #include "core/mMain.h"
 #include "install/journal/JournalFollower.h"
 #include "personal/mShellMaps.h"
+#include "platform/Console.h"
+#include "platform/Paths.h"
 #include "platform/Processes.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
@@ -29,8 +31,11 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     mUpdater::LoadWindow = [] { frmUpdate::LoadOnce(NetworkClient::Make); };
     // A game is launched without a window, so also where there is no display.
     const mMain::Dispatched dispatched = mMain::Prepare(Processes::CommandLine(argc, argv));
-    if (dispatched.What == mMain::Dispatched::Action::LaunchGame)
-        return 0;
+    if (dispatched.What == mMain::Dispatched::Action::LaunchGame) {
+        if (!dispatched.Failure.isEmpty())
+            Console::WriteError("brindock: " + Paths::EncodeShown(dispatched.Failure) + '\n');
+        return dispatched.Failure.isEmpty() ? 0 : 1;
+    }
 
     const ScratchFolders::Claim scratch;
     Application application(argc, argv);

@@ -70,7 +70,21 @@ mMain::Dispatched Tool(const ToolSwitch& tool, const QString& commandLine) {
     return result;
 }
 
+QString WithoutQuotes(const QString& text) {
+    const bool isQuoted = text.size() > 1 && text.startsWith(u'"') && text.endsWith(u'"');
+    return isQuoted ? text.sliced(1, text.size() - 2) : text;
+}
+
 } // namespace
+
+QString mMain::WithTool(const QString& commandLine) {
+    const QString path = GivenPath(WithoutQuotes(commandLine));
+    const bool isArchive = path.endsWith(u".big"_s, Qt::CaseInsensitive);
+    const bool isTable = path.endsWith(u".csf"_s, Qt::CaseInsensitive);
+    if ((!isArchive && !isTable) || !Files::FileExists(path))
+        return commandLine;
+    return (isArchive ? u"/tbig "_s : u"/tcsf "_s) + path;
+}
 
 QString mMain::FileArgument(const QString& commandLine) {
     qsizetype count = 0;
@@ -85,7 +99,8 @@ QString mMain::FileArgument(const QString& commandLine) {
     return count > commandLine.size() ? QString() : GivenPath(commandLine.mid(count));
 }
 
-mMain::Dispatched mMain::Dispatch(const QString& commandLine) {
+mMain::Dispatched mMain::Dispatch(const QString& given) {
+    const QString commandLine = WithTool(given);
     // Every switch is looked for anywhere in the line, with regard to case. This is meant.
     if (commandLine.contains(u"/launch"_s)) {
         if (const auto game = LaunchedGame(commandLine))

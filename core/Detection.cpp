@@ -61,15 +61,45 @@ QString InstallPathName() {
     return u"InstallPath"_s;
 }
 
-QString PrefixOfGame(GameIndex game) {
-    return mMain::Registry().PrefixOf(RootKey::LocalMachine, GameKey(game), InstallPathName());
+/// How much of a game is where the registry says it is.
+enum class Presence { None, Named, Folder, Program };
+
+Presence PresenceOf(const RegistryRuntime::Place& place, GameIndex game) {
+    if (place.Text.isEmpty())
+        return Presence::None;
+    const QString folder = Paths::InPrefix(Paths::PrefixFor(place.Text, place.Prefix), place.Text);
+    if (Files::FileExists(folder + ExecutableName(game)))
+        return Presence::Program;
+    if (!Files::FolderExists(folder))
+        return Presence::Named;
+    // What the user wrote down needs no proof.
+    return place.Prefix.isEmpty() ? Presence::Program : Presence::Folder;
+}
+
+/// Takes the first of the places where most of the game is: what an uninstalled game left in one prefix does not hide
+/// the game in another.
+void FindGame(GameIndex game) {
+    GameEntry& entry = Game.at(static_cast<std::size_t>(game));
+    entry = {};
+    Presence best = Presence::None;
+    for (const auto& place : mMain::Registry().Places(RootKey::LocalMachine, GameKey(game), InstallPathName())) {
+        const Presence presence = PresenceOf(place, game);
+        if (presence <= best)
+            continue;
+        best = presence;
+        entry.InstallPath = place.Text;
+        entry.FoundIn = place.FoundIn;
+        entry.Prefix = Paths::PrefixFor(place.Text, place.Prefix);
+    }
 }
 
 /// While it lives, reads look first in the Wine prefix that the game was found in: the user's folders are that
 /// prefix's own.
 class ReadingBesideGame {
 public:
-    explicit ReadingBesideGame(GameIndex game) { mMain::Registry().LookFirstIn(PrefixOfGame(game)); }
+    explicit ReadingBesideGame(GameIndex game) {
+        mMain::Registry().LookFirstIn(Game.at(static_cast<std::size_t>(game)).Prefix);
+    }
 
     ~ReadingBesideGame() { mMain::Registry().LookFirstIn({}); }
 
@@ -88,19 +118,19 @@ QString UserDataFolder(GameIndex game) {
     return base + u'\\' + leaf;
 }
 
-/// Lets the game's folders be looked for in the Wine prefixes that the registry names them in.
-void FollowPrefixes(GameIndex game) {
-    const GameEntry& entry = Game.at(static_cast<std::size_t>(game));
-    const QString ofGame = PrefixOfGame(game);
-    if (!ofGame.isEmpty())
-        Paths::UsePrefix(entry.InstallPath, ofGame);
+/// The prefix that the registry names the user's folders in, else the game's.
+QString PrefixOfUser(GameIndex game) {
     const ReadingBesideGame reading(game);
     const QString named = mMain::Registry().PrefixOf(RootKey::CurrentUser, ShellFolders(), ShellFolderName(game));
-    const QString ofUser = named.isEmpty() ? ofGame : named;
-    if (ofUser.isEmpty())
-        return;
-    for (const QString& folder : {UserDataFolder(game), entry.ReplayPath, entry.MapPath})
-        Paths::UsePrefix(folder, ofUser);
+    return named.isEmpty() ? Game.at(static_cast<std::size_t>(game)).Prefix : named;
+}
+
+/// Lets the game's folders, where somebody names them, be looked for in the game's prefix.
+void FollowPrefixes(const GameEntry& entry) {
+    if (!entry.InstallPath.isEmpty())
+        Paths::UsePrefix(entry.InstallPath, entry.Prefix);
+    for (const QString& folder : {entry.ReplayPath, entry.MapPath})
+        Paths::UsePrefix(folder, entry.UserPrefix);
 }
 
 } // namespace
@@ -109,14 +139,15 @@ void mMain::DetectGames() {
     Paths::ForgetPrefixes();
     static_cast<void>(Registry().WasReadable());
     for (const GameIndex game : {ZeroHour, Generals, BattleForMiddleEarth, GameCount - 1})
-        Game.at(static_cast<std::size_t>(game)).InstallPath =
-            Registry().GetString(RootKey::LocalMachine, GameKey(game), InstallPathName());
+        FindGame(game);
     for (GameIndex game = 0; game < GameCount; ++game) {
         GameEntry& entry = Game.at(static_cast<std::size_t>(game));
         entry.ReplayPath = UserDataFolder(game) + u"\\Replays\\"_s;
         entry.MapPath = UserDataFolder(game) + u"\\Maps\\"_s;
-        FollowPrefixes(game);
+        entry.UserPrefix = PrefixOfUser(game);
     }
+    for (const GameEntry& entry : Game)
+        FollowPrefixes(entry);
     for (GameIndex game = 0; game < GameCount; ++game)
         Game.at(static_cast<std::size_t>(game)).GameBigFiles = OwnBigFiles(game);
     if (Registry().WasReadable())
@@ -127,23 +158,23 @@ void mMain::DetectGames() {
 }
 
 QString mMain::InstallPathFoundIn(GameIndex game) {
-    return Registry().FoundIn(RootKey::LocalMachine, GameKey(game), InstallPathName());
+    return Game.at(static_cast<std::size_t>(game)).FoundIn;
 }
 
 void mMain::MakeUserFolders() {
     const auto make = [](const QString& folder) { Ignoring([&] { Files::MakeFolder(folder); }); };
     if (const GameEntry& entry = Game[Generals]; !entry.InstallPath.isEmpty()) {
-        make(UserDataFolder(Generals) + u'\\');
-        make(entry.ReplayPath);
-        make(entry.MapPath);
+        make(Paths::InPrefix(entry.UserPrefix, UserDataFolder(Generals)) + u'\\');
+        make(entry.ReplayFolder());
+        make(entry.MapFolder());
     }
     // The Battle for Middle-earth II gets none: its folders are used only if the game made them. This is meant.
     for (const GameIndex game : {ZeroHour, BattleForMiddleEarth}) {
         const GameEntry& entry = Game.at(static_cast<std::size_t>(game));
         if (entry.InstallPath.isEmpty())
             continue;
-        make(UserDataFolder(game));
-        make(entry.MapPath);
-        make(entry.ReplayPath);
+        make(Paths::InPrefix(entry.UserPrefix, UserDataFolder(game)));
+        make(entry.MapFolder());
+        make(entry.ReplayFolder());
     }
 }

@@ -29,7 +29,7 @@ const GameEntry& EntryOf(GameIndex game) {
 }
 
 QString MapsFolder(GameIndex game) {
-    return EntryOf(game).InstallPath + u"Maps\\"_s;
+    return EntryOf(game).InstallFolder() + u"Maps\\"_s;
 }
 
 /// What the game's folder has, in order. Without a game its folder would be the current one.
@@ -59,7 +59,7 @@ bool GameFiles::IsMod(GameIndex game, const QString& fileName) {
 }
 
 QStringList GameFiles::Mods(GameIndex game) {
-    QStringList names = Listed(game, EntryOf(game).InstallPath + u"*.big"_s, false);
+    QStringList names = Listed(game, EntryOf(game).InstallFolder() + u"*.big"_s, false);
     names.removeIf([game](const QString& name) { return !IsMod(game, name); });
     return names;
 }
@@ -105,7 +105,7 @@ QString GameFiles::ShellMapFolder(GameIndex game, const QString& name) {
 
 GameFiles::RecordPlace GameFiles::ModRecord(GameIndex game, const QString& fileName) {
     const QString base = fileName.first(std::max<qsizetype>(0, fileName.size() - ExtensionLength));
-    return {.File = EntryOf(game).InstallPath + base + u".ini"_s, .Section = u"Mod"_s};
+    return {.File = EntryOf(game).InstallFolder() + base + u".ini"_s, .Section = u"Mod"_s};
 }
 
 GameFiles::RecordPlace GameFiles::ShellMapRecord(GameIndex game, const QString& name) {

@@ -7,19 +7,7 @@
 #include "core/Settings.h"
 #include "platform/Processes.h"
 
-#include <array>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString ExecutableName(GameIndex game) {
-    static const std::array<QString, GameCount> names{u"generals.exe"_s, u"generals.exe"_s, u"lotrbfme.exe"_s,
-                                                      u"lotrbfme2.exe"_s};
-    return names.at(static_cast<std::size_t>(game));
-}
-
-} // namespace
 
 QString mLaunch::LaunchCommand(GameIndex game) {
     if (game < 0 || game >= GameCount)
@@ -36,5 +24,6 @@ QString mLaunch::LaunchCommand(GameIndex game) {
 void mLaunch::LaunchGame(GameIndex game) {
     const QString command = LaunchCommand(game);
     if (!command.isEmpty())
-        Processes::StartCommand(command);
+        Processes::StartCommand(command, Processes::FirstWindow::Normal,
+                                Game.at(static_cast<std::size_t>(game)).Prefix);
 }

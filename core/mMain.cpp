@@ -44,12 +44,18 @@ void CheckForUpdatesIfWanted() {
         Navigator::Current().CheckForUpdates(true);
 }
 
-void Launch(GameIndex game) {
+/// Why the game could not be started, in one line; empty when it was.
+QString Launch(GameIndex game) {
     Ignoring([&] {
         if (GameFiles::ActivateShellMap)
             GameFiles::ActivateShellMap(game);
     });
-    Ignoring([&] { mLaunch::LaunchGame(game); });
+    try {
+        mLaunch::LaunchGame(game);
+    } catch (const RuntimeError& error) {
+        return QString(error.Description()).replace(u'\r', u' ').replace(u'\n', u' ');
+    }
+    return {};
 }
 
 void ShowToolsMenu() {
@@ -128,13 +134,13 @@ mMain::Dispatched mMain::Prepare(const QString& commandLine, const std::function
     if (!detected)
         return normalStart;
     Ignoring([] { MakeUserFolders(); });
-    CommandLine = commandLine;
+    CommandLine = WithTool(commandLine);
     if (CommandLine.isEmpty())
         return normalStart;
     CommandFileArgument = FileArgument(CommandLine);
     Dispatched dispatched = Dispatch(CommandLine);
     if (dispatched.What == Dispatched::Action::LaunchGame)
-        Launch(dispatched.Launched);
+        dispatched.Failure = Launch(dispatched.Launched);
     return dispatched;
 }
 

@@ -51,6 +51,10 @@ void MakeUserFolders();
 /// What stands behind the leading switches of a command line; empty when there are only switches.
 QString FileArgument(const QString& commandLine);
 
+/// An archive or a table on its own means its editor: the line with the switch before the path. Any other line as it
+/// is.
+QString WithTool(const QString& commandLine);
+
 /// What a command line asks for. The first match of the table wins.
 struct Dispatched {
     enum class Action {
@@ -68,9 +72,10 @@ struct Dispatched {
     GameIndex Launched = -1;
     QString Path = {};
     int UpdateChecks = 0; ///< how often the automatic update check is tested on the way
+    QString Failure = {}; ///< why the game could not be started; empty when it was
 };
 
-Dispatched Dispatch(const QString& commandLine);
+Dispatched Dispatch(const QString& given);
 
 /// Whether the automatic update check runs: the setting's whole number is 1, or it is no number at all.
 bool AutomaticCheckWanted();

@@ -46,8 +46,10 @@ void LogMiss(const QString& key) {
 
 QString mTraduction::GetText(const QString& key) {
     QString text;
-    Ignoring(
-        [&] { text = mMain::INI().ReadINI(u"LNG"_s, key, mMain::ProgramFolder + u'\\' + mMain::LanguageFileName); });
+    Ignoring([&] {
+        const QString file = mMain::ProgramFolder + u'\\' + mMain::LanguageFileName;
+        text = mMain::INI().ReadTexts(u"LNG"_s, {key}, file).first();
+    });
     text.replace(u"\\n"_s, u"\r\n"_s);
     if (!text.isEmpty())
         return text;

@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 
 MapsFolder::MapsFolder(GameIndex game) {
-    const QString& install = Game.at(static_cast<std::size_t>(game)).InstallPath;
+    const QString install = Game.at(static_cast<std::size_t>(game)).InstallFolder();
     game_ = Paths::Real(install); // none without a game: the current folder is not meant
     const QString maps = Paths::Real(install + u"Maps"_s);
     if (!Holds(maps) || !Files::FolderExists(maps))

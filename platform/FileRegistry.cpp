@@ -60,13 +60,17 @@ QString FullKey(RootKey root, const QString& path) {
     return key;
 }
 
-/// The names under which a key may stand. The key as it is named comes first, since that is where writes go.
+/// The names under which a key may stand: the 32-bit programs' first, as the games are; last the key as it is named.
 QStringList Spellings(RootKey root, const QString& path) {
     const QString software = u"Software\\"_s;
     QStringList spellings{FullKey(root, path)};
     if (root == RootKey::LocalMachine && path.startsWith(software, Qt::CaseInsensitive))
-        spellings << FullKey(root, software + u"Wow6432Node\\"_s + path.sliced(software.size()));
+        spellings.prepend(FullKey(root, software + u"Wow6432Node\\"_s + path.sliced(software.size())));
     return spellings;
+}
+
+bool IsAscii(QByteArrayView bytes) {
+    return std::ranges::all_of(bytes, [](char byte) { return static_cast<uchar>(byte) < 0x80; });
 }
 
 } // namespace
@@ -103,7 +107,7 @@ struct FileRegistry::Document {
         return QStringView(start).trimmed().endsWith(u'\\') ? start + LineEnd : start;
     }
 
-    enum class Encoding { Ansi, Utf8, Utf16 };
+    enum class Encoding { Ansi, Utf8, UnmarkedUtf8, Utf16 };
 
     QByteArray Bytes;
     Encoding Form = Encoding::Ansi;
@@ -121,6 +125,10 @@ FileRegistry::Document::Document(QByteArray bytes) : Bytes(std::move(bytes)) {
     } else if (Bytes.startsWith(Utf8Mark)) {
         Form = Encoding::Utf8;
         Text = QString::fromUtf8(QByteArrayView(Bytes).sliced(Utf8Mark.size()));
+    } else if (!IsAscii(Bytes) && QByteArrayView(Bytes).isValidUtf8()) {
+        // What is no UTF-8 is mostly seen by its first letter beyond ASCII.
+        Form = Encoding::UnmarkedUtf8;
+        Text = QString::fromUtf8(Bytes);
     } else {
         Text = AnsiCodec::Decode(Bytes);
     }
@@ -131,8 +139,13 @@ FileRegistry::Document::Document(QByteArray bytes) : Bytes(std::move(bytes)) {
 }
 
 QByteArray FileRegistry::Document::Encode(const QString& text) const {
-    if (Form == Encoding::Ansi)
-        return AnsiCodec::Encode(text);
+    if (Form == Encoding::Ansi) {
+        // Bytes of the page that would be read as UTF-8 are written as such.
+        const QByteArray ansi = AnsiCodec::Encode(text);
+        return !IsAscii(ansi) && QByteArrayView(ansi).isValidUtf8() ? text.toUtf8() : ansi;
+    }
+    if (Form == Encoding::UnmarkedUtf8)
+        return text.toUtf8();
     if (Form == Encoding::Utf8)
         return Utf8Mark.toByteArray() + text.toUtf8();
     QByteArray bytes = Utf16Mark.toByteArray();
@@ -210,8 +223,12 @@ RegistryValue FileRegistry::Read(RootKey root, const QString& path, const QStrin
 
 bool FileRegistry::Write(RootKey root, const QString& path, const QString& name, const RegistryValue& value) {
     const auto lock = Lock();
-    return lock && Load() &&
-           Store(now_->WithValue(FullKey(root, path), name, RegistryText::Format(name, value, now_->Flavour)));
+    if (!lock || !Load())
+        return false;
+    const QStringList keys = Spellings(root, path);
+    const auto standing = std::ranges::find_if(keys, [&](const QString& key) { return now_->Find(key, name); });
+    const QString key = standing == keys.end() ? keys.last() : *standing;
+    return Store(now_->WithValue(key, name, RegistryText::Format(name, value, now_->Flavour)));
 }
 
 bool FileRegistry::AddKey(RootKey root, const QString& path) {

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// A registry in a text file, as an export writes it: "REGEDIT4" in the ANSI code page, or version 5.00 in UTF-16 or
-/// UTF-8 with a byte order mark. What isn't understood stays in the file.
+/// UTF-8 with a byte order mark. Either may be UTF-8 without a mark, as editors of other systems write it. What isn't
+/// understood stays in the file.
 ///
 /// Every read sees the file as it is now. Writes of several processes follow each other, so that none loses another's
 /// value. Every write puts the whole new text aside and renames it over the old one;
@@ -33,11 +34,12 @@ public:
     /// missing then need not be.
     [[nodiscard]] bool WasReadable() { return !std::exchange(refused_, false); }
 
-    /// The value under the key; for machine-wide software also where an export of a 64-bit system keeps the 32-bit
+    /// The value under the key; machine-wide software first where an export of a 64-bit system keeps the 32-bit
     /// programs' keys.
     [[nodiscard]] RegistryValue Read(RootKey root, const QString& path, const QString& name) const;
 
-    /// Makes file, folder and key where they are missing.
+    /// Makes file, folder and key where they are missing; a value that is read from the 32-bit programs' keys changes
+    /// there.
     bool Write(RootKey root, const QString& path, const QString& name, const RegistryValue& value);
     bool AddKey(RootKey root, const QString& path);
 

@@ -19,6 +19,10 @@ public:
     /// The same for several keys of one section, which need the file once only.
     [[nodiscard]] QStringList ReadValues(const QString& section, const QStringList& keys, const QString& file) const;
 
+    /// The same from a file that names the code page of its texts as `CodePage` in section Infos; where it names none,
+    /// or one that the system lacks, the texts are in the ANSI code page as ever.
+    [[nodiscard]] QStringList ReadTexts(const QString& section, const QStringList& keys, const QString& file) const;
+
     /// Makes the file, section or key when missing. Returns "1" for done and "0" for failed.
     QString WriteINI(const QString& section, const QString& key, const QString& value, const QString& file) const;
 };

@@ -6,7 +6,8 @@
 /// Inside, a path is a text with backslashes, joined by concatenation. On Windows the two conversions change nothing.
 /// On Linux they swap the separators, follow drive letters through the Wine prefixes, and find each existing component
 /// without regard to case. Bytes of a file name that are no UTF-8 travel as the surrogates U+DC80 to U+DCFF, and a
-/// backslash inside a file name as U+F05C, so that every name on disk has a path and comes back.
+/// backslash inside a file name as U+F05C, so that every name on disk has a path and comes back. A drive that nobody
+/// knows has no place: its native path begins with the invisible U+2060, reads as it was given, and never exists.
 #pragma once
 
 #include <QByteArray>
@@ -40,8 +41,11 @@ QString NameFromNative(const QString& name);
 QByteArray EncodeNative(const QString& nativePath);
 QString DecodeNative(const QByteArray& bytes);
 
+/// The bytes of a text that a person reads, native paths anywhere in it.
+QByteArray EncodeShown(QString text);
+
 /// The absolute inside path of a system path as a person typed it: relative to the current folder, "." and ".." gone,
-/// links followed as far as the path exists.
+/// links followed as far as the path exists. A path with a drive letter is an inside path already.
 QString Absolute(const QString& nativePath);
 
 /// The absolute inside path of an inside path that may be relative to a folder (an absolute inside path), by the texts
@@ -52,11 +56,17 @@ QString AbsoluteIn(const QString& folder, const QString& path);
 QString Real(const QString& path);
 
 /// Folders below `folder` (an inside path with a drive letter) belong to the Wine prefix `prefix` (a native folder).
-/// The longest folder that fits decides; the first prefix named serves every other path. Does nothing on Windows.
+/// The longest folder that fits decides; the first prefix named serves every other path, and without any the one that
+/// Wine itself would take. Does nothing on Windows.
 void UsePrefix(const QString& folder, const QString& prefix);
 
-/// The Wine prefix (native folder) that a path belongs to; empty when there is none. Always empty on Windows.
-QString PrefixFor(const QString& path);
+/// The inside path of what a path means in a Wine prefix (a native folder), whatever prefix the same text belongs to
+/// otherwise. Unchanged without a drive letter, without a prefix, and for a drive that the prefix lacks.
+QString InPrefix(const QString& prefix, const QString& path);
+
+/// The Wine prefix (native folder) that a path belongs to when it was read in the prefix `readIn`, or on its own: the
+/// one that it leads into, else the one in which it was read. Empty when there is none; always on Windows.
+QString PrefixFor(const QString& path, const QString& readIn = {});
 
 /// Forgets every prefix.
 void ForgetPrefixes();

@@ -20,12 +20,16 @@ enum class FirstWindow {
 };
 
 /// Starts a command text: a program, quoted or up to the first blank, and its arguments, which reach it unchanged.
-/// On Linux a Windows program (.exe) runs through `wine` in the prefix that its path belongs to; the path is looked up
-/// without regard to case. Does not wait. Raises 53 when the program can't be started.
-void StartCommand(const QString& command, FirstWindow window = FirstWindow::Normal);
+/// On Linux a Windows program (.exe) runs through Wine in the prefix named, or else in the one that its path belongs
+/// to; the path is looked up there without regard to case. Does not wait. Raises 53 when the program can't be started.
+void StartCommand(const QString& command, FirstWindow window = FirstWindow::Normal, const QString& prefix = {});
 
 /// The program and arguments that StartCommand would run on this system, for show.
-QStringList CommandFor(const QString& command);
+QStringList CommandFor(const QString& command, const QString& prefix = {});
+
+/// What runs Windows programs in a Wine prefix: a Wine's or a Proton's program. BRINDOCK_WINE names it, else the
+/// launcher that the prefix belongs to, else it is the system's `wine`. Empty on Windows.
+QString RunnerFor(const QString& prefix);
 
 struct Opened {
     Handle Process = 0; ///< to be waited for, 0 when there is none
@@ -48,7 +52,8 @@ void Close(Handle process);
 bool IsRunning(qint64 processId);
 
 /// The command line of this process without the executable's name, as it was typed where the system keeps that,
-/// otherwise its arguments joined by single blanks, those that name an existing file or folder as inside paths.
+/// otherwise its arguments joined by single blanks, as inside paths those that have a slash behind their beginning or
+/// name an existing file or folder.
 QString CommandLine(int argc, char** argv);
 
 /// Ends this process at once, without any further work.

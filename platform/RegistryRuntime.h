@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 /// Root keys by the platform's 32-bit handles.
 enum class RootKey : quint32 {
@@ -54,6 +55,16 @@ public:
 
     /// The Wine prefix (native folder) that holds the value; empty when it comes from anywhere else.
     [[nodiscard]] QString PrefixOf(RootKey root, const QString& path, const QString& name) const;
+
+    /// A place that holds a text under the name.
+    struct Place {
+        QString Text;
+        QString FoundIn; ///< as FoundIn says it
+        QString Prefix;  ///< as PrefixOf says it
+    };
+
+    /// All of them, in the order in which they are looked at.
+    [[nodiscard]] std::vector<Place> Places(RootKey root, const QString& path, const QString& name) const;
 
     /// The next reads look in this Wine prefix before the others (the suite's own file stays first). Empty for none.
     void LookFirstIn(const QString& prefix);

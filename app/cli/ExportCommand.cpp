@@ -82,7 +82,7 @@ QString ReplayFile(const QStringList& files, const QString& name, const QString&
 void TakeReplays(GameIndex game, const QStringList& names, std::vector<ExportRecord>& records) {
     if (names.isEmpty())
         return;
-    const QString& folder = Game.at(static_cast<std::size_t>(game)).ReplayPath;
+    const QString folder = Game.at(static_cast<std::size_t>(game)).ReplayFolder();
     const QString extension = Replays::Extension(game);
     const QStringList files = folder.isEmpty() ? QStringList() : Files::ListFolder(folder + u'*' + extension);
     for (const QString& name : names) {

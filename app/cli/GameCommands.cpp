@@ -13,6 +13,7 @@
 #include "core/mTraduction.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Paths.h"
+#include "platform/Processes.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -34,6 +35,8 @@ struct GameRow {
     QString ReplayPath;
     QString MapPath;
     QString FoundIn;
+    QString WinePrefix;
+    QString Runner;
 };
 
 GameRow RowOf(GameIndex game) {
@@ -41,10 +44,12 @@ GameRow RowOf(GameIndex game) {
     return {.Index = game,
             .Prefix = SettingsPrefix(game),
             .Installed = !entry.InstallPath.isEmpty(),
-            .InstallPath = Paths::ToNative(entry.InstallPath),
-            .ReplayPath = Paths::ToNative(entry.ReplayPath),
-            .MapPath = Paths::ToNative(entry.MapPath),
-            .FoundIn = mMain::InstallPathFoundIn(game)};
+            .InstallPath = Paths::ToNative(entry.InstallFolder()),
+            .ReplayPath = Paths::ToNative(entry.ReplayFolder()),
+            .MapPath = Paths::ToNative(entry.MapFolder()),
+            .FoundIn = mMain::InstallPathFoundIn(game),
+            .WinePrefix = entry.Prefix,
+            .Runner = entry.InstallPath.isEmpty() ? QString() : Processes::RunnerFor(entry.Prefix)};
 }
 
 QString Line(const GameRow& row) {
@@ -62,7 +67,8 @@ QJsonObject Object(const GameRow& row) {
     return {{u"index"_s, row.Index},           {u"prefix"_s, row.Prefix},
             {u"installed"_s, row.Installed},   {u"InstallPath"_s, row.InstallPath},
             {u"ReplayPath"_s, row.ReplayPath}, {u"MapPath"_s, row.MapPath},
-            {u"foundIn"_s, row.FoundIn}};
+            {u"foundIn"_s, row.FoundIn},       {u"winePrefix"_s, row.WinePrefix},
+            {u"runner"_s, row.Runner}};
 }
 
 void PrintGames(bool asJson) {
@@ -151,7 +157,7 @@ CommandGroup Alone() {
             {{"games",
               "Lists the games, a line each: index, prefix, installed (yes or no), InstallPath, ReplayPath, "
               "MapPath, where it was found; separated by tabs",
-              {{Kind::Flag, "--json", "Prints a JSON array"}},
+              {{Kind::Flag, "--json", "Prints a JSON array, with each game's Wine prefix and what runs it there"}},
               [](const Arguments& given) { PrintGames(given.Has("--json")); }},
              {"launch-command",
               "Prints the command text that starts a game, and starts nothing",

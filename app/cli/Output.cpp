@@ -36,7 +36,7 @@ void Append(QByteArray& bytes, QStringView text) {
     for (const QChar unit : text)
         seen = static_cast<char16_t>(seen | unit.unicode());
     if (seen >= 0x80) {
-        bytes += Paths::EncodeNative(text.toString());
+        bytes += Paths::EncodeShown(text.toString());
         return;
     }
     const qsizetype before = bytes.size();
@@ -133,7 +133,7 @@ void Fail(const QString& file, const QString& reason) {
 int Report(const RuntimeError& error) {
     QString line = error.Description();
     line.replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ');
-    const QByteArray told = "brindock-cli: " + Paths::EncodeNative(InLine(line)) + '\n';
+    const QByteArray told = "brindock-cli: " + Paths::EncodeShown(InLine(line)) + '\n';
     Told() += told;
     Console::WriteError(told);
     return 1;
@@ -142,7 +142,7 @@ int Report(const RuntimeError& error) {
 bool ReportRefusals() {
     const QStringList refusals = Refusals::All();
     for (const QString& refusal : refusals) {
-        if (!Told().contains(Paths::EncodeNative(refusal)))
+        if (!Told().contains(Paths::EncodeShown(refusal)))
             Report({ErrorNumber::DeviceError, refusal});
     }
     return !refusals.isEmpty();

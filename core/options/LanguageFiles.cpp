@@ -63,7 +63,7 @@ void AddTo(std::vector<LanguageFile>& found, const QString& name) {
     const QString path = mMain::ProgramFolder + u'\\' + name;
     if (!MayNameLanguage(path))
         return;
-    const QStringList infos = mMain::INI().ReadValues(u"Infos"_s, {u"Language"_s, u"Version"_s, u"Translator"_s}, path);
+    const QStringList infos = mMain::INI().ReadTexts(u"Infos"_s, {u"Language"_s, u"Version"_s, u"Translator"_s}, path);
     if (!infos[0].isEmpty() && infos[1] == u"2005")
         found.push_back({.FileName = name, .Shown = infos[0] + u" \\ "_s + infos[2]});
 }

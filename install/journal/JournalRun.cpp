@@ -24,7 +24,8 @@ bool IsGamesOwn(const QString& folder, GameIndex game) {
     const auto is = [&](const QString& own) {
         return own.size() == folder.size() + 1 && own.startsWith(folder, Qt::CaseInsensitive) && own.endsWith(u'\\');
     };
-    return is(entry.InstallPath) || is(entry.InstallPath + u"Maps\\"_s) || is(entry.MapPath) || is(entry.ReplayPath);
+    return is(entry.InstallFolder()) || is(entry.InstallFolder() + u"Maps\\"_s) || is(entry.MapFolder()) ||
+           is(entry.ReplayFolder());
 }
 
 QString ParentOf(const QString& folder) {

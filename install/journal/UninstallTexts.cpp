@@ -40,7 +40,7 @@ QString AboveOf(const QString& folder) {
 
 QString UninstallTexts::Shown(const QString& path, GameIndex game) {
     const GameEntry& entry = Game.at(static_cast<std::size_t>(game));
-    for (const QString& base : {entry.InstallPath, AboveOf(entry.MapPath), AboveOf(entry.ReplayPath)}) {
+    for (const QString& base : {entry.InstallFolder(), AboveOf(entry.MapFolder()), AboveOf(entry.ReplayFolder())}) {
         if (!base.isEmpty() && path.size() > base.size() && path.startsWith(base, Qt::CaseInsensitive))
             return Paths::ToNativeAsGiven(path.sliced(base.size()));
     }

@@ -68,16 +68,16 @@ private:
     void AddFiles(PlannedItem& item, const InstallRecord& record, const QString& base) {
         if (record.Kind == FileKind::Map) {
             item.Refusal = FolderGateway::RefusalOfFolder(base);
-            item.Folder = FolderIn(place_.MapPath, base);
+            item.Folder = FolderIn(place_.MapFolder(), base);
         } else if (record.Kind == FileKind::ShellMap) {
             item.Folder = NextShellMapFolder();
             item.IniFile = item.Folder + u"QvInfos.ini"_s;
         } else if (record.Kind == FileKind::Mod) {
-            item.Folder = place_.InstallPath;
+            item.Folder = place_.InstallFolder();
             item.IsOwnArchive = GameFiles::IsOwnArchive(game_, EntryNames::LastPart(record.FileName));
             item.IniFile = item.Folder + EntryNames::LastPart(base) + u".ini"_s;
         } else {
-            item.Folder = place_.ReplayPath;
+            item.Folder = place_.ReplayFolder();
         }
         if (item.Refusal.isEmpty() && record.Kind != FileKind::None) {
             for (const SourceFile& file : files_.Of(record))
@@ -145,7 +145,7 @@ private:
     QString CaseOf(const QString& folder, const QString& name) { return Known(folder).Spelt(CaseFolded(name), name); }
 
     QString NextShellMapFolder() {
-        const QString maps = place_.InstallPath + u"Maps\\"_s;
+        const QString maps = place_.InstallFolder() + u"Maps\\"_s;
         if (!shellMapsListed_) {
             for (const auto& [key, name] : Known(maps).Names)
                 shellMaps_.append(name);

@@ -139,7 +139,7 @@ void InstallRun::Install(const InstallRecord& record, const PlannedItem& plan) {
 }
 
 void InstallRun::InstallMap(const Item& item) {
-    TargetFolder& maps = FolderAt(place_.MapPath);
+    TargetFolder& maps = FolderAt(place_.MapFolder());
     maps.AddFolder(item.Base);
     const std::vector<SourceFile> files = FilesOf(item);
     for (const SourceFile& file : files)
@@ -149,7 +149,7 @@ void InstallRun::InstallMap(const Item& item) {
 }
 
 void InstallRun::InstallMod(const Item& item) {
-    TargetFolder& game = FolderAt(place_.InstallPath);
+    TargetFolder& game = FolderAt(place_.InstallFolder());
     const std::vector<SourceFile> files = FilesOf(item);
     bool isKept = false; // the INI file: what was read out of it may have been cut
     for (const SourceFile& file : files) {
@@ -163,7 +163,7 @@ void InstallRun::InstallMod(const Item& item) {
 }
 
 void InstallRun::InstallReplay(const Item& item) {
-    TargetFolder& replays = FolderAt(place_.ReplayPath);
+    TargetFolder& replays = FolderAt(place_.ReplayFolder());
     for (const SourceFile& file : FilesOf(item))
         Put(replays, file, file.Name);
 }
@@ -194,7 +194,7 @@ void InstallRun::InstallShellMap(const Item& item) {
 
 /// All that lies in a folder becomes the game's next shell map.
 void InstallRun::FillShellMap(const Item& item, const QString& sourceFolder) {
-    TargetFolder& game = FolderAt(place_.InstallPath);
+    TargetFolder& game = FolderAt(place_.InstallFolder());
     Ignoring([&] { game.AddFolder(u"Maps"_s); });
     const QString name = NextShellMap();
     game.AddFolder(name);
@@ -207,7 +207,7 @@ void InstallRun::FillShellMap(const Item& item, const QString& sourceFolder) {
 
 /// Raises 5 behind number 999.
 QString InstallRun::NextShellMap() const {
-    const QStringList names = Files::ListFolder(place_.InstallPath + u"Maps\\"_s, true);
+    const QStringList names = Files::ListFolder(place_.InstallFolder() + u"Maps\\"_s, true);
     return u"Maps\\"_s + GameFiles::ShellMapName(QString::number(InstallPlans::NextShellMapNumber(names)));
 }
 

@@ -41,9 +41,9 @@ MapList::MapList() : GameList({{.Caption = mTraduction::GetText(u"Name"_s), .Fra
 qint16 MapList::ListMaps(qint32& game, bool countOnly) {
     if (!countOnly) {
         Begin(game);
-        SetFolder(EntryOf(game).MapPath);
+        SetFolder(EntryOf(game).MapFolder());
     }
-    const QString& folder = EntryOf(game).MapPath;
+    const QString folder = EntryOf(game).MapFolder();
     if (folder.isEmpty()) // would be the current folder
         return 0;
     QStringList names = FoldersWithNamesake(folder, Ending());

@@ -40,9 +40,9 @@ ModList::ModList() : GameList(ModColumns()) {}
 qint16 ModList::ListMods(qint32& game, bool countOnly) {
     if (!countOnly) {
         Begin(game);
-        SetFolder(EntryOf(game).InstallPath);
+        SetFolder(EntryOf(game).InstallFolder());
     }
-    const QString& folder = EntryOf(game).InstallPath;
+    const QString folder = EntryOf(game).InstallFolder();
     qint16 count = 0;
     for (const QString& name : GameFiles::Mods(game)) {
         if (!countOnly)

@@ -99,9 +99,9 @@ ReplayList::ReplayList() : GameList(Columns(), RowList::Edits::Yes) {}
 qint16 ReplayList::ListReplays(qint32& game, bool countOnly) {
     if (!countOnly) {
         Begin(game);
-        SetFolder(EntryOf(game).ReplayPath);
+        SetFolder(EntryOf(game).ReplayFolder());
     }
-    const QString folder = EntryOf(game).ReplayPath;
+    const QString folder = EntryOf(game).ReplayFolder();
     std::optional<Reading> reading;
     Ignoring([&] { reading.emplace(folder); }); // a folder that is not there has no replays
     if (reading && !countOnly)

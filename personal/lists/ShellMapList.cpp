@@ -43,7 +43,7 @@ ShellMapList::ShellMapList() : GameList(ShellMapColumns()) {}
 qint16 ShellMapList::ListShellmaps(qint32& game, bool countOnly) {
     if (!countOnly) {
         Begin(game);
-        SetFolder(EntryOf(game).InstallPath);
+        SetFolder(EntryOf(game).InstallFolder());
     }
     EntryOf(game);
     qint16 count = 0;

@@ -4,10 +4,14 @@
 #include "platform/Paths.h"
 
 #include "platform/posix/Errors.h"
+#include "platform/posix/WinePrefixes.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <dirent.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -15,6 +19,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -22,6 +27,7 @@ namespace {
 constexpr char16_t BackslashInName = 0xF05C;
 constexpr char16_t FirstRawByte = 0xDC80;
 constexpr char16_t LastRawByte = 0xDCFF;
+constexpr char16_t NoPlace = 0x2060;
 
 struct PrefixRule {
     QString Folder;
@@ -37,20 +43,57 @@ bool HasDrive(QStringView path) {
     return path.size() >= 2 && path[1] == u':' && path[0].isLetter() && path[0].unicode() < 128;
 }
 
-/// The native folder that a drive letter stands for. A drive that nobody knows leads to a place that can't exist.
-QString DriveFolder(const QString& path) {
-    const QString prefix = Paths::PrefixFor(path);
-    const QChar letter = path[0].toLower();
-    if (!prefix.isEmpty()) {
-        QString device = prefix + QStringLiteral("/dosdevices/") + letter + u':';
-        if (::access(Paths::EncodeNative(device).constData(), F_OK) == 0)
-            return device;
-        if (letter == u'c')
-            return prefix + QStringLiteral("/drive_c");
+bool AreTheSame(const QString& first, const QString& second) {
+    struct stat one {};
+
+    struct stat other {};
+
+    return ::stat(Paths::EncodeNative(first).constData(), &one) == 0 &&
+           ::stat(Paths::EncodeNative(second).constData(), &other) == 0 && one.st_dev == other.st_dev &&
+           one.st_ino == other.st_ino;
+}
+
+QString DeviceFolder(const QString& prefix, QChar letter) {
+    return prefix + QStringLiteral("/dosdevices/") + letter.toLower() + u':';
+}
+
+/// The native folder that a drive letter stands for; nothing for a drive that nobody knows.
+std::optional<QString> DriveFolder(const QString& prefix, QChar letter) {
+    const bool isRoot = letter.toLower() == u'z';
+    const bool isUsual = letter.toLower() == u'c' && !prefix.isEmpty();
+    const QString usual = isUsual ? prefix + QStringLiteral("/drive_c") : QString();
+    const QString device = DeviceFolder(prefix, letter);
+    if (!prefix.isEmpty() && ::access(Paths::EncodeNative(device).constData(), F_OK) == 0) {
+        const bool leadsThere = (isRoot || isUsual) && AreTheSame(device, isRoot ? QStringLiteral("/") : usual);
+        return leadsThere ? usual : device;
     }
-    if (letter == u'z')
+    return isRoot || isUsual ? std::optional(usual) : std::nullopt;
+}
+
+/// The prefix that the rules give a path.
+QString RuledPrefix(const QString& path) {
+    const PrefixRule* best = nullptr;
+    for (const PrefixRule& rule : Rules()) {
+        const bool fits = path.startsWith(rule.Folder, Qt::CaseInsensitive);
+        if (fits && (best == nullptr || rule.Folder.size() > best->Folder.size()))
+            best = &rule;
+    }
+    if (best != nullptr)
+        return best->Prefix;
+    if (!HasDrive(path))
         return {};
-    return QStringLiteral("/dev/null/") + path.first(2);
+    return Rules().empty() ? WinePrefixes::Default() : Rules().front().Prefix;
+}
+
+/// The prefix that a native path leads into, by the path's own folders.
+QString PrefixAround(const QString& nativePath) {
+    const QString path = QDir::cleanPath(nativePath);
+    for (qsizetype end = path.lastIndexOf(u'/'); end > 0; end = path.lastIndexOf(u'/', end - 1)) {
+        QString folder = path.first(end);
+        if (QFileInfo(folder + QStringLiteral("/system.reg")).isFile())
+            return folder;
+    }
+    return {};
 }
 
 bool Exists(const QString& nativePath) {
@@ -117,7 +160,11 @@ QString DecodeWithRawBytes(const QByteArray& bytes) {
 namespace Paths {
 
 QString ToNativeAsGiven(const QString& path) {
-    QString native = HasDrive(path) ? DriveFolder(path) + path.sliced(2) : path;
+    QString native = path;
+    if (HasDrive(path)) {
+        const std::optional<QString> folder = DriveFolder(RuledPrefix(path), path[0]);
+        native = folder ? *folder + path.sliced(2) : QChar(NoPlace) + path;
+    }
     std::replace(native.begin(), native.end(), QChar(u'\\'), QChar(u'/'));
     return NameToNative(native);
 }
@@ -130,7 +177,7 @@ QString ToNative(const QString& path) {
 }
 
 QString FromNative(const QString& path) {
-    return NameFromNative(path).replace(u'/', u'\\');
+    return NameFromNative(path.startsWith(QChar(NoPlace)) ? path.sliced(1) : path).replace(u'/', u'\\');
 }
 
 QString NameToNative(const QString& name) {
@@ -144,6 +191,9 @@ QString NameFromNative(const QString& name) {
 }
 
 QByteArray EncodeNative(const QString& nativePath) {
+    // Nothing can ever stand below a device.
+    if (nativePath.startsWith(QChar(NoPlace)))
+        return "/dev/null/" + EncodeNative(nativePath.sliced(1));
     const auto isRaw = [](QChar unit) { return unit.unicode() >= FirstRawByte && unit.unicode() <= LastRawByte; };
     if (std::none_of(nativePath.begin(), nativePath.end(), isRaw))
         return nativePath.toUtf8();
@@ -160,12 +210,20 @@ QByteArray EncodeNative(const QString& nativePath) {
     return bytes + QStringView(nativePath).sliced(from).toUtf8();
 }
 
+QByteArray EncodeShown(QString text) {
+    return EncodeNative(text.remove(QChar(NoPlace)));
+}
+
 QString DecodeNative(const QByteArray& bytes) {
     const QString text = QString::fromUtf8(bytes);
     return text.contains(QChar::ReplacementCharacter) ? DecodeWithRawBytes(bytes) : text;
 }
 
 QString Absolute(const QString& nativePath) {
+    // A path with a drive letter, unless a file really has that name.
+    const bool isInside = HasDrive(nativePath) && nativePath.size() > 2 && nativePath[2] == u'\\';
+    if (isInside && ::access(EncodeNative(nativePath).constData(), F_OK) != 0)
+        return AbsoluteIn({}, nativePath);
     const std::filesystem::path given(EncodeNative(nativePath).toStdString());
     std::error_code error;
     std::filesystem::path resolved = std::filesystem::weakly_canonical(std::filesystem::absolute(given, error), error);
@@ -206,16 +264,22 @@ void ForgetPrefixes() {
     Rules().clear();
 }
 
-QString PrefixFor(const QString& path) {
-    const PrefixRule* best = nullptr;
-    for (const PrefixRule& rule : Rules()) {
-        const bool fits = path.startsWith(rule.Folder, Qt::CaseInsensitive);
-        if (fits && (best == nullptr || rule.Folder.size() > best->Folder.size()))
-            best = &rule;
-    }
-    if (best == nullptr && !Rules().empty() && HasDrive(path))
-        best = &Rules().front();
-    return best == nullptr ? QString() : best->Prefix;
+QString InPrefix(const QString& prefix, const QString& path) {
+    if (prefix.isEmpty() || !HasDrive(path))
+        return path;
+    const std::optional<QString> folder = DriveFolder(prefix, path[0]);
+    return folder ? FromNative(*folder) + path.sliced(2) : path;
+}
+
+QString PrefixFor(const QString& path, const QString& readIn) {
+    const QString prefix = readIn.isEmpty() ? RuledPrefix(path) : readIn;
+    QString native = ToNative(InPrefix(prefix, path));
+    // A drive of the prefix may lead into another one.
+    const QString device = HasDrive(path) ? DeviceFolder(prefix, path[0]) : QString();
+    if (!device.isEmpty() && native.startsWith(device))
+        native = QFileInfo(device).canonicalFilePath() + native.sliced(device.size());
+    const QString around = native.startsWith(u'/') ? PrefixAround(native) : QString();
+    return around.isEmpty() ? prefix : around;
 }
 
 QString Executable() {

@@ -7,6 +7,7 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/posix/DesktopEntries.h"
+#include "platform/posix/WineRunner.h"
 
 #include <QByteArrayList>
 
@@ -43,15 +44,25 @@ std::vector<char*> Pointers(QByteArrayList& texts) {
     return pointers;
 }
 
-QByteArrayList EnvironmentWith(const QByteArray& prefix) {
+/// The environment with variables ("NAME=value") in place of those of the same name.
+QByteArrayList EnvironmentWith(const QByteArrayList& changed) {
     QByteArrayList variables;
     for (char** variable = environ; *variable != nullptr; ++variable)
         variables << *variable;
-    if (prefix.isEmpty())
-        return variables;
-    variables.removeIf([](const QByteArray& variable) { return variable.startsWith("WINEPREFIX="); });
-    return variables << "WINEPREFIX=" + prefix;
+    for (const QByteArray& variable : changed) {
+        const QByteArray name = variable.first(variable.indexOf('=') + 1);
+        variables.removeIf([&](const QByteArray& old) { return old.startsWith(name); });
+        variables << variable;
+    }
+    return variables;
 }
+
+/// What a command text means on this system.
+struct Meant {
+    QString Program; ///< native
+    QStringList Words;
+    QByteArrayList Environment;
+};
 
 /// Starts a program of the search path in a session of its own, so that it outlives us. 0 when it can't be started.
 pid_t Spawn(QByteArrayList command, QByteArrayList environment) {
@@ -69,9 +80,27 @@ bool IsWindowsProgram(const QString& program) {
     return program.endsWith(u".exe"_s, Qt::CaseInsensitive);
 }
 
-/// A program that is named with its folder must be there; a bare name is looked up by whoever starts it.
+Meant MeantBy(const QString& command, const QString& namedPrefix) {
+    const CommandText::Parts parts = CommandText::Split(command);
+    const QString program = Paths::ToNative(Paths::InPrefix(namedPrefix, parts.Program));
+    Meant meant{
+        .Program = program, .Words = QStringList(program) + CommandText::Arguments(parts.Rest), .Environment = {}};
+    if (!IsWindowsProgram(parts.Program))
+        return meant;
+    const QString prefix = namedPrefix.isEmpty() ? Paths::PrefixFor(parts.Program) : namedPrefix;
+    const WineRunner runner = WineRunner::For(prefix);
+    meant.Words = runner.Words + meant.Words;
+    meant.Environment = runner.Environment;
+    if (!prefix.isEmpty())
+        meant.Environment << "WINEPREFIX=" + Paths::EncodeNative(prefix);
+    return meant;
+}
+
+/// A program that is named with its folder must be there; a bare name is looked up by whoever starts it. Wine would
+/// look up no game's, and would be waited for in vain.
 bool IsMissing(const QString& nativeProgram) {
-    return nativeProgram.contains(u'/') && ::access(Paths::EncodeNative(nativeProgram).constData(), F_OK) != 0;
+    const bool isLookedUp = !nativeProgram.contains(u'/') && !IsWindowsProgram(nativeProgram);
+    return !isLookedUp && ::access(Paths::EncodeNative(nativeProgram).constData(), F_OK) != 0;
 }
 
 std::optional<int> Reap(pid_t process) {
@@ -106,20 +135,24 @@ int CheckFile(const QByteArray& path) {
 
 } // namespace
 
-QStringList Processes::CommandFor(const QString& command) {
-    const CommandText::Parts parts = CommandText::Split(command);
-    const QStringList words = QStringList(Paths::ToNative(parts.Program)) + CommandText::Arguments(parts.Rest);
-    return IsWindowsProgram(parts.Program) ? QStringList(u"wine"_s) + words : words;
+QStringList Processes::CommandFor(const QString& command, const QString& prefix) {
+    return MeantBy(command, prefix).Words;
 }
 
-void Processes::StartCommand(const QString& command, FirstWindow /*window*/) {
-    const QString program = CommandText::Split(command).Program;
+QString Processes::RunnerFor(const QString& prefix) {
+    return WineRunner::For(prefix).Words.first();
+}
+
+void Processes::StartCommand(const QString& command, FirstWindow /*window*/, const QString& prefix) {
+    const Meant meant = MeantBy(command, prefix);
     QByteArrayList words;
-    for (const QString& word : CommandFor(command))
+    for (const QString& word : meant.Words)
         words << Paths::EncodeNative(word);
-    const QByteArray prefix = Paths::EncodeNative(Paths::PrefixFor(program));
-    if (IsMissing(Paths::ToNative(program)) || Spawn(words, EnvironmentWith(prefix)) == 0)
-        throw RuntimeError(ErrorNumber::FileNotFound, u"%1: can't be started"_s.arg(command));
+    if (IsMissing(meant.Program))
+        throw RuntimeError(ErrorNumber::FileNotFound, u"%1: there is no such program"_s.arg(meant.Program));
+    if (Spawn(words, EnvironmentWith(meant.Environment)) == 0)
+        throw RuntimeError(ErrorNumber::FileNotFound,
+                           u"%1: can't be started by %2"_s.arg(meant.Program, meant.Words.first()));
 }
 
 Processes::Opened Processes::OpenWithAssociation(const QString& path, quintptr /*owner*/) {
@@ -159,7 +192,8 @@ QString Processes::CommandLine(int argc, char** argv) {
     for (int at = 1; at < argc; ++at) {
         // A path of the system becomes one of the program's: its slashes must not look like switches.
         const QString word = Paths::DecodeNative(argv[at]);
-        words << (::access(argv[at], F_OK) == 0 ? Paths::FromNative(word) : word);
+        const bool isPath = word.lastIndexOf(u'/') > 0 || ::access(argv[at], F_OK) == 0;
+        words << (isPath ? Paths::FromNative(word) : word);
     }
     return words.join(u' ');
 }

@@ -3,7 +3,6 @@
 
 #include "platform/RegistryRuntime.h"
 
-#include "platform/AnsiCodec.h"
 #include "platform/FileRegistry.h"
 #include "platform/Paths.h"
 #include "platform/posix/OwnFolder.h"
@@ -90,12 +89,24 @@ public:
         return {};
     }
 
-    [[nodiscard]] QString TextOf(const Found& found) const {
+    [[nodiscard]] std::vector<Found> FindAll(RootKey root, const QString& keyPath, const QString& name) const {
+        const QString path = WithoutEndSeparators(keyPath);
+        std::vector<Found> found{{Own.Read(root, path, name), nullptr}};
+        for (const WinePrefix* prefix : InOrder())
+            found.push_back({prefix->Read(root, path, name), prefix});
+        std::erase_if(found, [](const Found& one) { return one.Value.Type != RegistryValue::Kind::Text; });
+        return found;
+    }
+
+    [[nodiscard]] static QString TextOf(const Found& found) {
         if (found.Value.Type != RegistryValue::Kind::Text)
             return {};
         const qsizetype zero = found.Value.Text.indexOf(QChar(0));
-        const QString text = zero < 0 ? found.Value.Text : found.Value.Text.first(zero);
-        return AnsiCodec::Decode(AnsiCodec::Encode(text));
+        return zero < 0 ? found.Value.Text : found.Value.Text.first(zero);
+    }
+
+    [[nodiscard]] QString PlaceOf(const Found& found) const {
+        return found.Prefix == nullptr ? Own.Path() : found.Prefix->Folder();
     }
 
     void PutFirst(const QString& folder) { first_ = folder.isEmpty() ? folder : QDir::cleanPath(folder); }
@@ -132,12 +143,11 @@ void RegistryRuntime::SaveKey(RootKey root, const QString& path) {
 }
 
 QString RegistryRuntime::GetString(RootKey root, const QString& path, const QString& name) const {
-    return source_->TextOf(source_->Find(root, path, name));
+    return Source::TextOf(source_->Find(root, path, name));
 }
 
 void RegistryRuntime::SaveString(RootKey root, const QString& path, const QString& name, const QString& text) {
-    const QString kept = AnsiCodec::Decode(AnsiCodec::Encode(text));
-    source_->Own.Write(root, path, name, {RegistryValue::Kind::Text, kept, 0});
+    source_->Own.Write(root, path, name, {RegistryValue::Kind::Text, text, 0});
 }
 
 quint32 RegistryRuntime::GetDword(RootKey root, const QString& path, const QString& name) const {
@@ -160,12 +170,22 @@ QString RegistryRuntime::FoundIn(RootKey root, const QString& path, const QStrin
     const Source::Found found = source_->Find(root, path, name);
     if (found.Value.Type == RegistryValue::Kind::Missing)
         return {};
-    return found.Prefix == nullptr ? source_->Own.Path() : found.Prefix->Folder();
+    return source_->PlaceOf(found);
 }
 
 QString RegistryRuntime::PrefixOf(RootKey root, const QString& path, const QString& name) const {
     const Source::Found found = source_->Find(root, path, name);
     return found.Prefix == nullptr ? QString() : found.Prefix->Folder();
+}
+
+std::vector<RegistryRuntime::Place> RegistryRuntime::Places(RootKey root, const QString& path,
+                                                            const QString& name) const {
+    std::vector<Place> places;
+    for (const Source::Found& found : source_->FindAll(root, path, name))
+        places.push_back({.Text = Source::TextOf(found),
+                          .FoundIn = source_->PlaceOf(found),
+                          .Prefix = found.Prefix == nullptr ? QString() : found.Prefix->Folder()});
+    return places;
 }
 
 bool RegistryRuntime::WasReadable() {

@@ -49,12 +49,18 @@ std::size_t HashOfKey(const QString& key) {
     return hash.Result();
 }
 
+/// Wine writes escapes for letters beyond ASCII. Whoever edited a hive by hand left letters of UTF-8, or of an old
+/// page.
+QString Decode(QByteArrayView bytes) {
+    return bytes.isValidUtf8() ? QString::fromUtf8(bytes) : AnsiCodec::Decode(bytes);
+}
+
 /// The same hash for a key as a hive writes it. Nearly all escapes are doubled backslashes.
 std::size_t HashOfWritten(QByteArrayView key) {
     KeyHash hash;
     for (qsizetype at = 0; at < key.size(); ++at) {
         if (key[at] == '\\' && at + 1 < key.size() && key[++at] != '\\')
-            return HashOfKey(RegistryText::UnescapedKey(AnsiCodec::Decode(key)));
+            return HashOfKey(RegistryText::UnescapedKey(Decode(key)));
         if (static_cast<uchar>(key[at]) < 0x80)
             hash.Add(key[at]);
     }
@@ -117,7 +123,7 @@ void WineHive::Index(const QByteArray& bytes) const {
 RegistryValue WineHive::ReadSection(const Section& section, const QString& key, const QString& name) const {
     QByteArray bytes;
     Ignoring([&] { bytes = File::Open(path_, File::Access::Read).Read(section.Start, section.End - section.Start); });
-    const QString text = AnsiCodec::Decode(bytes);
+    const QString text = Decode(bytes);
     for (const RegistryText::Line& line : RegistryText::Parse(text, RegistryText::Flavour::WineHive)) {
         const bool ours =
             line.Type == RegistryText::Line::Kind::Value && line.Key.compare(key, Qt::CaseInsensitive) == 0;

@@ -3,6 +3,8 @@
 
 #include "platform/posix/WinePrefixes.h"
 
+#include "platform/posix/Launchers.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -60,31 +62,17 @@ void AddSteam(Prefixes& prefixes, const QString& steam) {
         prefixes.AddEach(library + u"/steamapps/compatdata"_s, u"/pfx"_s);
 }
 
-void AddLutris(Prefixes& prefixes, const QString& home) {
-    const QString prefixLine = u"^\\s*prefix:\\s*['\"]?([^'\"\\r\\n]+?)['\"]?\\s*$"_s;
-    for (const QString& data :
-         {u"/.local/share/lutris"_s, u"/.config/lutris"_s, u"/.var/app/net.lutris.Lutris/data/lutris"_s,
-          u"/.var/app/net.lutris.Lutris/config/lutris"_s}) {
-        const QDir games(home + data + u"/games"_s);
-        for (const QString& game : games.entryList({u"*.yml"_s}, QDir::Files, QDir::Name)) {
-            for (const QString& prefix : Caught(games.filePath(game), prefixLine))
-                prefixes.Add(prefix.startsWith(u"~/"_s) ? home + prefix.sliced(1) : prefix);
-        }
-    }
-    prefixes.AddEach(home + u"/Games"_s);
-}
-
 QStringList FindOnMachine() {
     const QString home = qEnvironmentVariable("HOME");
     Prefixes prefixes;
     if (const QString named = qEnvironmentVariable("WINEPREFIX"); !named.isEmpty())
         prefixes.Add(named);
     prefixes.Add(home + u"/.wine"_s);
-    for (const QString& steam :
-         {u"/.steam/steam"_s, u"/.local/share/Steam"_s, u"/.var/app/com.valvesoftware.Steam/.local/share/Steam"_s,
-          u"/.var/app/com.valvesoftware.Steam/data/Steam"_s})
-        AddSteam(prefixes, home + steam);
-    AddLutris(prefixes, home);
+    for (const QString& steam : Launchers::SteamFolders(home))
+        AddSteam(prefixes, steam);
+    for (const Launchers::Prefix& named : Launchers::NamedPrefixes(home))
+        prefixes.Add(named.Folder);
+    prefixes.AddEach(home + u"/Games"_s);
     prefixes.AddEach(home + u"/Games/Heroic/Prefixes"_s);
     prefixes.AddEach(home + u"/Games/Heroic/Prefixes/default"_s);
     prefixes.AddEach(home + u"/.local/share/bottles/bottles"_s);
@@ -93,6 +81,17 @@ QStringList FindOnMachine() {
 }
 
 } // namespace
+
+QString WinePrefixes::Default() {
+    QStringList named{qEnvironmentVariable("WINEPREFIX"), qEnvironmentVariable("HOME") + u"/.wine"_s};
+    if (qEnvironmentVariableIsSet("BRINDOCK_WINE_PREFIXES"))
+        named = qEnvironmentVariable("BRINDOCK_WINE_PREFIXES").split(u':', Qt::SkipEmptyParts);
+    for (const QString& folder : std::as_const(named)) {
+        if (!folder.isEmpty() && QFileInfo(folder + u"/drive_c"_s).isDir())
+            return QDir::cleanPath(folder);
+    }
+    return {};
+}
 
 QStringList WinePrefixes::Find() {
     if (!qEnvironmentVariableIsSet("BRINDOCK_WINE_PREFIXES"))

@@ -12,4 +12,8 @@ namespace WinePrefixes {
 /// when it is empty), or where it isn't set WINEPREFIX, ~/.wine, and those of Steam, Lutris, Heroic and Bottles.
 QStringList Find();
 
+/// The prefix that Wine itself would take: the first that BRINDOCK_WINE_PREFIXES names (none when it is empty), or
+/// where it isn't set WINEPREFIX, else ~/.wine. Empty when there is no such folder.
+QString Default();
+
 } // namespace WinePrefixes

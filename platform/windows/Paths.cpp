@@ -33,6 +33,10 @@ QByteArray EncodeNative(const QString& nativePath) {
     return nativePath.toUtf8();
 }
 
+QByteArray EncodeShown(QString text) {
+    return text.toUtf8();
+}
+
 QString DecodeNative(const QByteArray& bytes) {
     return QString::fromUtf8(bytes);
 }
@@ -74,7 +78,11 @@ QString Real(const QString& path) {
 
 void UsePrefix(const QString& /*folder*/, const QString& /*prefix*/) {}
 
-QString PrefixFor(const QString& /*path*/) {
+QString InPrefix(const QString& /*prefix*/, const QString& path) {
+    return path;
+}
+
+QString PrefixFor(const QString& /*path*/, const QString& /*readIn*/) {
     return {};
 }
 

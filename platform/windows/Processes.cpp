@@ -26,12 +26,16 @@ HANDLE SystemHandle(Processes::Handle process) {
 
 } // namespace
 
-QStringList Processes::CommandFor(const QString& command) {
+QStringList Processes::CommandFor(const QString& command, const QString& /*prefix*/) {
     const CommandText::Parts parts = CommandText::Split(command);
     return QStringList(parts.Program) + CommandText::Arguments(parts.Rest);
 }
 
-void Processes::StartCommand(const QString& command, FirstWindow window) {
+QString Processes::RunnerFor(const QString& /*prefix*/) {
+    return {};
+}
+
+void Processes::StartCommand(const QString& command, FirstWindow window, const QString& /*prefix*/) {
     // The call writes into the text.
     std::wstring text = command.toStdWString();
     STARTUPINFOW startup{};

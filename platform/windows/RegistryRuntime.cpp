@@ -3,7 +3,6 @@
 
 #include "platform/RegistryRuntime.h"
 
-#include "platform/AnsiCodec.h"
 #include "platform/FileRegistry.h"
 #include "platform/windows/System.h"
 
@@ -15,11 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The page that all texts cross.
-QString ThroughPage(const QString& text) {
-    return AnsiCodec::Decode(AnsiCodec::Encode(text));
-}
 
 const wchar_t* Wide(const QString& text) {
     return reinterpret_cast<const wchar_t*>(text.utf16());
@@ -41,12 +35,11 @@ public:
     enum class Making { Existing, New };
 
     OpenKey(RootKey root, const QString& path, REGSAM access, Making making) {
-        const QString name = ThroughPage(path);
         if (making == Making::New)
-            ::RegCreateKeyExW(HandleOf(root), Wide(name), 0, nullptr, 0, access | ViewOf(root), nullptr, &key_,
+            ::RegCreateKeyExW(HandleOf(root), Wide(path), 0, nullptr, 0, access | ViewOf(root), nullptr, &key_,
                               nullptr);
         else
-            ::RegOpenKeyExW(HandleOf(root), Wide(name), 0, access | ViewOf(root), &key_);
+            ::RegOpenKeyExW(HandleOf(root), Wide(path), 0, access | ViewOf(root), &key_);
     }
 
     ~OpenKey() {
@@ -70,10 +63,9 @@ RegistryValue TextOf(HKEY key, const QString& name, DWORD size) {
     return {RegistryValue::Kind::Text, status == ERROR_SUCCESS ? buffer : QString(), 0};
 }
 
-RegistryValue ReadSystem(RootKey root, const QString& path, const QString& valueName) {
+RegistryValue ReadSystem(RootKey root, const QString& path, const QString& name) {
     // Whether the key opened is not looked at: the query fails on the key that there isn't.
     const OpenKey open(root, path, KEY_QUERY_VALUE, OpenKey::Making::Existing);
-    const QString name = ThroughPage(valueName);
     DWORD type = 0;
     DWORD size = 0;
     if (::RegQueryValueExW(open.Key(), Wide(name), nullptr, &type, nullptr, &size) != ERROR_SUCCESS)
@@ -88,9 +80,8 @@ RegistryValue ReadSystem(RootKey root, const QString& path, const QString& value
     return {isNumber ? RegistryValue::Kind::Number : RegistryValue::Kind::Other, {}, number};
 }
 
-void SaveSystem(RootKey root, const QString& path, const QString& valueName, DWORD type, const void* data, DWORD size) {
+void SaveSystem(RootKey root, const QString& path, const QString& name, DWORD type, const void* data, DWORD size) {
     const OpenKey made(root, path, KEY_SET_VALUE, OpenKey::Making::New);
-    const QString name = ThroughPage(valueName);
     ::RegSetValueExW(made.Key(), Wide(name), 0, type, static_cast<const BYTE*>(data), size);
 }
 
@@ -126,19 +117,18 @@ void RegistryRuntime::SaveKey(RootKey root, const QString& path) {
 QString RegistryRuntime::GetString(RootKey root, const QString& path, const QString& name) const {
     const RegistryValue value = source_->Read(root, path, name);
     const qsizetype zero = value.Text.indexOf(QChar(0));
-    return ThroughPage(zero < 0 ? value.Text : value.Text.first(zero));
+    return zero < 0 ? value.Text : value.Text.first(zero);
 }
 
 void RegistryRuntime::SaveString(RootKey root, const QString& path, const QString& name, const QString& text) {
-    const QString kept = ThroughPage(text);
     if (source_->File) {
-        source_->File->Write(root, path, name, {RegistryValue::Kind::Text, kept, 0});
+        source_->File->Write(root, path, name, {RegistryValue::Kind::Text, text, 0});
         return;
     }
     // The length is that of the characters alone, so that no zero is stored behind them. The system would add a zero
     // that it sees there, so it sees a blank. This is meant.
-    const QString seen = kept + u' ';
-    SaveSystem(root, path, name, REG_SZ, seen.utf16(), static_cast<DWORD>(kept.size() * sizeof(wchar_t)));
+    const QString seen = text + u' ';
+    SaveSystem(root, path, name, REG_SZ, seen.utf16(), static_cast<DWORD>(text.size() * sizeof(wchar_t)));
 }
 
 quint32 RegistryRuntime::GetDword(RootKey root, const QString& path, const QString& name) const {
@@ -156,7 +146,7 @@ void RegistryRuntime::DeleteKey(RootKey root, const QString& path) {
     if (source_->File)
         source_->File->RemoveKey(root, path);
     else
-        ::RegDeleteKeyExW(HandleOf(root), Wide(ThroughPage(path)), ViewOf(root), 0);
+        ::RegDeleteKeyExW(HandleOf(root), Wide(path), ViewOf(root), 0);
 }
 
 void RegistryRuntime::DeleteValue(RootKey root, const QString& path, const QString& name) {
@@ -165,7 +155,7 @@ void RegistryRuntime::DeleteValue(RootKey root, const QString& path, const QStri
         return;
     }
     const OpenKey open(root, path, KEY_SET_VALUE, OpenKey::Making::Existing);
-    ::RegDeleteValueW(open.Key(), Wide(ThroughPage(name)));
+    ::RegDeleteValueW(open.Key(), Wide(name));
 }
 
 QString RegistryRuntime::FoundIn(RootKey root, const QString& path, const QString& name) const {
@@ -176,6 +166,13 @@ QString RegistryRuntime::FoundIn(RootKey root, const QString& path, const QStrin
 
 QString RegistryRuntime::PrefixOf(RootKey /*root*/, const QString& /*path*/, const QString& /*name*/) const {
     return {};
+}
+
+std::vector<RegistryRuntime::Place> RegistryRuntime::Places(RootKey root, const QString& path,
+                                                            const QString& name) const {
+    if (source_->Read(root, path, name).Type != RegistryValue::Kind::Text)
+        return {};
+    return {{.Text = GetString(root, path, name), .FoundIn = FoundIn(root, path, name), .Prefix = {}}};
 }
 
 bool RegistryRuntime::WasReadable() {

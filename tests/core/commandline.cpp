@@ -108,6 +108,22 @@ TEST_F(CommandLine, APathAsTheSystemWritesItBecomesAnInsidePath) {
     EXPECT_EQ(Dispatch(u"/tbig "_s + native).Path, path);
 }
 
+TEST_F(CommandLine, AFileOnItsOwnOpensItsEditor) {
+    const QString archive = world_.WriteFile(u"my mods\\a b.BIG"_s, {});
+    const QString table = world_.WriteFile(u"generals.csf"_s, {});
+    for (const QString& line : {archive, Paths::ToNative(archive), u'"' + archive + u'"'}) {
+        EXPECT_EQ(Dispatch(line).What, Action::OpenBigFile) << line.toStdString();
+        EXPECT_EQ(Dispatch(line).Path, archive);
+        EXPECT_EQ(Dispatch(line).UpdateChecks, 1);
+    }
+    EXPECT_EQ(Dispatch(table).What, Action::OpenCSFFile);
+    EXPECT_EQ(Dispatch(world_.WriteFile(u"a.zip"_s, {})).What, Action::NormalStart);
+    EXPECT_EQ(Dispatch(world_.Root() + u"\\missing.big"_s).What, Action::NormalStart);
+    EXPECT_EQ(Dispatch(world_.Root() + u"\\missing.big"_s).UpdateChecks, 2);
+    mMain::Prepare(table);
+    EXPECT_EQ(mMain::CommandLine, u"/tcsf "_s + table) << "The editor's end is the program's.";
+}
+
 TEST_F(CommandLine, TheOtherToolsTakeNoPath) {
     EXPECT_EQ(Dispatch(u"/tpfiles"_s).What, Action::ShowPersonalFiles);
     EXPECT_EQ(Dispatch(u"/addfile C:\\a.zip"_s).What, Action::ShowAddFiles);

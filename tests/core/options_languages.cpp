@@ -40,6 +40,11 @@ TEST_F(LanguageLists, ALanguageIsListedWithItsTranslator) {
     EXPECT_EQ(Shown(), (QStringList{u"Deutsch.LNG: Deutsch \\ Jürgen"_s, u"Test.lng: Test \\ Nobody"_s}));
 }
 
+TEST_F(LanguageLists, ALanguageIsNamedInThePageOfItsFile) {
+    Add(u"Russian.lng"_s, "[Infos]\r\nLanguage=\xD0\xF3\xF1\r\nVersion=2005\r\nTranslator=\xC8\r\nCodePage=1251\r\n");
+    EXPECT_EQ(Shown().first(), u"Russian.lng: \u0420\u0443\u0441 \\ \u0418"_s);
+}
+
 TEST_F(LanguageLists, ALanguageWithoutATranslatorIsListedToo) {
     Add(u"A.lng"_s, "[Infos]\r\nLanguage=A\r\nVersion=2005\r\n");
     EXPECT_EQ(Shown().first(), u"A.lng: A \\ "_s);

@@ -154,6 +154,17 @@ TEST_F(Start, LaunchingPreparesTheShellMapAndShowsNothing) {
     EXPECT_TRUE(host_.Messages.empty());
 }
 
+TEST_F(Start, AGameThatCanNotBeStartedIsToldInOneLineAndShowsNothing) {
+    world_.InstallGame(0);
+    world_.Start();
+    const mMain::Dispatched failed = mMain::Prepare(u"/launch /gen"_s);
+    EXPECT_TRUE(failed.Failure.contains(u"generals.exe"_s)) << failed.Failure.toStdString();
+    EXPECT_FALSE(failed.Failure.contains(u'\n'));
+    mMain::Show(failed);
+    EXPECT_TRUE(navigator_.Calls.isEmpty());
+    EXPECT_TRUE(host_.Messages.empty());
+}
+
 TEST_F(Start, LaunchingNeedsNoWindows) {
     world_.InstallGame(0);
     Navigator::Use(nullptr);

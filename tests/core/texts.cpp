@@ -44,6 +44,32 @@ TEST_F(Texts, BytesOfTheFileAreTheAnsiCodePage) {
     EXPECT_EQ(GetText(u"Details"_s), u"Détails €"_s);
 }
 
+TEST_F(Texts, AFileThatNamesItsPageIsReadInIt) {
+    const auto text = [&](const QByteArray& page, const QByteArray& bytes) {
+        Use("[Infos]\r\nVersion=2005\r\nCodePage=" + page + "\r\n[LNG]\r\nA=" + bytes + "\r\n");
+        return GetText(u"A"_s);
+    };
+    EXPECT_EQ(text("1252", "D\xE9tails \x80"), u"Détails €"_s);
+    EXPECT_EQ(text("1250", "Za\xBF\xF3\xB3\xE6"), u"Za\u017C\u00F3\u0142\u0107"_s);
+    EXPECT_EQ(text("1251", "\xC8\xE3\xF0\xFB\\n!"), u"\u0418\u0433\u0440\u044B\r\n!"_s);
+    EXPECT_EQ(text("932", "\x83\x51\x81\x5B\x83\x80"), u"\u30B2\u30FC\u30E0"_s);
+    EXPECT_EQ(text("936", "\xD3\xCE\xCF\xB7"), u"\u6E38\u620F"_s);
+    EXPECT_EQ(text("949", "\xB0\xD4\xC0\xD3"), u"\uAC8C\uC784"_s);
+    EXPECT_EQ(text("950", "\xB9\x43\xC0\xB8"), u"\u904A\u6232"_s);
+    EXPECT_EQ(text("874", "\xE0\xA1\xC1"), u"\u0E40\u0E01\u0E21"_s);
+    EXPECT_EQ(text("65001", "\xE6\xB8\xB8\xD0\x98"), u"\u6E38\u0418"_s);
+    EXPECT_EQ(text("65001", QByteArray("\xE6\xB8\xB8").repeated(300)), QString(254, QChar(0x6E38)));
+}
+
+TEST_F(Texts, AFileWhosePageNobodyKnowsIsInTheAnsiCodePage) {
+    for (const QByteArray page : {"", "1", "0", "-1", "99999", "UTF-8"}) {
+        Use("[Infos]\r\nCodePage=" + page + "\r\n[LNG]\r\nA=\xE9\x80\r\n");
+        EXPECT_EQ(GetText(u"A"_s), u"é€"_s) << page.constData();
+    }
+    Use("[LNG]\r\nA=\xE9\r\n[Infos]\r\nCodePage=1251\r\n");
+    EXPECT_EQ(GetText(u"A"_s), u"\u0439"_s) << "wherever the section stands";
+}
+
 TEST_F(Texts, BackslashNStandsForALineBreak) {
     Use("[LNG]\r\nA=one\\ntwo\r\n");
     EXPECT_EQ(GetText(u"A"_s), u"one\r\ntwo"_s);

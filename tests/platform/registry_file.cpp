@@ -78,6 +78,36 @@ TEST_F(FileRegistryTest, AnExportOf64BitWindowsServesTheMachinesSoftware) {
     EXPECT_EQ(Value(u"n"_s, u"Software\\C"_s).Type, Kind::Missing);
 }
 
+TEST_F(FileRegistryTest, OfBothViewsThatOf32BitProgramsComesFirstAndIsTheOneThatChanges) {
+    const QByteArray plain = "[HKEY_LOCAL_MACHINE\\SOFTWARE\\A]\n\"n\"=\"plain\"\n";
+    Holds(plain + "[HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\A]\n\"n\"=\"32\"\n");
+    EXPECT_EQ(registry_.Read(Machine, u"Software\\A"_s, u"n"_s).Text, u"32"_s);
+    EXPECT_TRUE(registry_.Write(Machine, u"Software\\A"_s, u"n"_s, {Kind::Text, u"new"_s, 0}));
+    EXPECT_EQ(registry_.Read(Machine, u"Software\\A"_s, u"n"_s).Text, u"new"_s);
+    EXPECT_EQ(Bytes(), plain + "[HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\A]\n\"n\"=\"new\"\n");
+    Holds(plain);
+    EXPECT_TRUE(registry_.Write(Machine, u"Software\\A"_s, u"n"_s, {Kind::Text, u"new"_s, 0}));
+    EXPECT_EQ(Bytes(), "[HKEY_LOCAL_MACHINE\\SOFTWARE\\A]\n\"n\"=\"new\"\n");
+}
+
+TEST_F(FileRegistryTest, Utf8WithoutAMarkIsUnderstoodAndStaysWithoutOne) {
+    const QByteArray text = "REGEDIT4\n[HKEY_CURRENT_USER\\A]\n\"n\"=\"C:\\\\\xD0\x98\xD0\xB3\xD1\x80\xD1\x8B\"\n";
+    Holds(text);
+    EXPECT_EQ(Text(u"n"_s), "C:\\\xD0\x98\xD0\xB3\xD1\x80\xD1\x8B");
+    EXPECT_TRUE(Save(u"j"_s, u"\u6E38"_s));
+    EXPECT_EQ(Bytes(), text + "\"j\"=\"\xE6\xB8\xB8\"\n");
+    Holds("REGEDIT4\n[HKEY_CURRENT_USER\\A]\n\"n\"=\"\xE9t\xC3\xA9\"\n");
+    EXPECT_EQ(Text(u"n"_s), "\xC3\xA9t\xC3\x83\xC2\xA9") << "One letter of the page, and the file is in it.";
+}
+
+TEST_F(FileRegistryTest, LettersThatLookLikeUtf8ComeBack) {
+    EXPECT_TRUE(Save(u"n"_s, u"\u00C3\u00A9"_s));
+    EXPECT_EQ(Value(u"n"_s).Text, u"\u00C3\u00A9"_s);
+    EXPECT_TRUE(Save(u"j"_s, u"\u00E9"_s));
+    EXPECT_EQ(Value(u"n"_s).Text, u"\u00C3\u00A9"_s);
+    EXPECT_EQ(Value(u"j"_s).Text, u"\u00E9"_s);
+}
+
 TEST_F(FileRegistryTest, TheLastOfSeveralValuesCountsAsAnImportWouldHaveIt) {
     Holds("[HKEY_CURRENT_USER\\A]\n\"n\"=\"1\"\n[HKEY_CURRENT_USER\\B]\n[HKEY_CURRENT_USER\\A]\n\"n\"=\"2\"\n");
     EXPECT_EQ(Text(u"n"_s), "2");

@@ -52,11 +52,11 @@ protected:
         return World::ReadFile(path);
     }
 
-private:
     [[nodiscard]] QByteArray Native(const QString& path) const {
         return Paths::EncodeNative(Paths::ToNative(world_.Root() + u'\\' + path));
     }
 
+private:
     QString maps_;
 };
 
@@ -66,6 +66,16 @@ TEST_F(Launch, TheChosenShellMapStandsInItsPlaceBeforeTheGameStarts) {
     Install(0, u"Generals"_s, u"ShellMap1"_s);
     EXPECT_EQ(Launched(u"/gen"_s), QByteArray("./QvShellMap001\n./QvShellMap001/new.map\n./ShellMap1\n"
                                               "./ShellMap1/new.map\n"));
+}
+
+TEST_F(Launch, AGameThatIsGoneIsToldInOneLine) {
+    world_.InstallGame(0);
+    QProcess program;
+    program.start(QString::fromUtf8(Places::Suite), {u"/launch"_s, u"/gen"_s});
+    EXPECT_TRUE(program.waitForFinished());
+    EXPECT_EQ(program.exitCode(), 1);
+    const QByteArray told = program.readAllStandardError();
+    EXPECT_EQ(told, "brindock: " + Native(u"games\\Generals\\generals.exe"_s) + ": there is no such program\n");
 }
 
 TEST_F(Launch, ZeroHourFindsAnEmptyFolder) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "platform/INIRuntime.h"
-#include "platform/posix/ProfileText.h"
+#include "platform/ProfileText.h"
 
 #include "tests/platform/Scratch.h"
 

@@ -13,6 +13,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -122,6 +123,11 @@ TEST_F(ProcessesTest, WithoutWineAGameRaisesFileNotFound) {
     const Variable noWine("PATH", "/nowhere");
     const QString program = scratch_.Write(u"x.exe"_s, "x");
     EXPECT_THROW(Processes::StartCommand(program), RuntimeError);
+}
+
+TEST_F(ProcessesTest, AGameWithoutAFolderIsNotStarted) {
+    EXPECT_THROW(Processes::StartCommand(u"\"generals.exe\" "_s), RuntimeError);
+    EXPECT_FALSE(QFile::exists(scratch_.Native(u"record"_s)));
 }
 
 TEST_F(ProcessesTest, AFileIsOpenedByItsTypesApplicationWhoseEndCanBeWaitedFor) {
@@ -254,6 +260,15 @@ TEST_F(ProcessesTest, APathOnTheCommandLineIsAnInsidePath) {
     std::array<QByteArray, 2> words{"brindock", "/tbig"};
     std::array<char*, 3> arguments{words[0].data(), words[1].data(), word.data()};
     EXPECT_EQ(Processes::CommandLine(3, arguments.data()), u"/tbig "_s + inside);
+}
+
+TEST_F(ProcessesTest, AWordWithASlashInItIsAPathEvenWhereNothingIsThere) {
+    std::array<QByteArray, 7> words{"brindock", "/tbig",   "/home/me/launcher/gen/typo.big", "mods/launch", "/gen",
+                                    "./zh",     "//launch"};
+    std::array<char*, 7> arguments{};
+    std::ranges::transform(words, arguments.begin(), [](QByteArray& word) { return word.data(); });
+    EXPECT_EQ(Processes::CommandLine(7, arguments.data()),
+              u"/tbig \\home\\me\\launcher\\gen\\typo.big mods\\launch /gen .\\zh \\\\launch"_s);
 }
 
 TEST_F(ProcessesTest, TheProcessEndsWithItsExitCodeAtOnce) {

@@ -60,6 +60,14 @@ TEST_F(WineHiveTest, EscapesAreUndone) {
     EXPECT_EQ(Text(u"b]"_s), "[[]");
 }
 
+TEST_F(WineHiveTest, LettersOfNoEightBitPageAreRead) {
+    Holds("[Software\\\\A] 1\n\"cyrillic\"=\"C:\\\\\\x0418\\x0433\\x0440\\x044b\\\\\"\n\"chinese\"=\"\\x6e38\\x620f\"\n"
+          "\"typed\"=\"\xD0\x98\"\n");
+    EXPECT_EQ(Value(u"cyrillic"_s).Text, u"C:\\\u0418\u0433\u0440\u044B\\"_s);
+    EXPECT_EQ(Value(u"chinese"_s).Text, u"\u6E38\u620F"_s);
+    EXPECT_EQ(Value(u"typed"_s).Text, u"\u0418"_s);
+}
+
 TEST_F(WineHiveTest, BracketsInAKeysNameAreFound) {
     Holds("[Software\\\\A \\[1\\]] 1\n\"n\"=\"x\"\n[Software\\\\A [2]] 1\n\"n\"=\"y\"\n");
     EXPECT_EQ(Text(u"n"_s, u"Software\\A [1]"_s), "x");

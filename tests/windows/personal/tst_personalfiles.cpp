@@ -55,7 +55,7 @@ private Q_SLOTS:
         Open();
         QCOMPARE(Nodes()->rowCount(), 0);
         QCOMPARE(Enabled(), u"---"_s);
-        QVERIFY(Part<HintPane>("picHint")->Shown().Text.startsWith(u"None of the supported games"_s));
+        QVERIFY(Part<HintPane>("picHint")->Shown().Text.startsWith(u"None of Generals"_s));
     }
 
     void aClickOnAKindShowsItsListAlone_data() {

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/posix/ProfileText.h"
+#include "platform/ProfileText.h"
 
 #include "platform/AnsiCodec.h"
+#include "platform/CodePage.h"
 
 #include <QStringDecoder>
 
@@ -202,6 +203,12 @@ QByteArray ProfileText::Encode(const QString& text) const {
 }
 
 QString ProfileText::Decode(QByteArrayView bytes) const {
+    if (page_ && encoding_ != Encoding::Ansi)
+        return QString::fromUtf8(bytes);
+    if (page_) {
+        if (const auto text = CodePage::Decode(*page_, bytes))
+            return *text;
+    }
     return encoding_ == Encoding::Ansi ? AnsiCodec::Decode(bytes)
                                        : AnsiCodec::Decode(AnsiCodec::Encode(QString::fromUtf8(bytes)));
 }

@@ -22,6 +22,9 @@ public:
     /// The same for the beginning of a longer file; nothing when it is for the rest to decide.
     [[nodiscard]] std::optional<QString> ReadFromBeginning(const QString& section, const QString& key) const;
 
+    /// Reads from now on in a code page, and letters beyond the system's page as they are.
+    void UsePage(int page) { page_ = page; }
+
     /// The file's new bytes, in which all but the value's place stays as it was; the old bytes when the value stands
     /// there already.
     [[nodiscard]] QByteArray Write(const QString& section, const QString& key, const QString& value) const;
@@ -48,5 +51,6 @@ private:
     [[nodiscard]] QByteArray WithMark(const QByteArray& bytes) const;
 
     Encoding encoding_ = Encoding::Ansi;
+    std::optional<int> page_;
     QByteArray bytes_; ///< without the mark; UTF-16 is kept as UTF-8
 };

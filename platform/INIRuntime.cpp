@@ -6,11 +6,12 @@
 #include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/FolderLock.h"
+#include "platform/ProfileText.h"
 #include "platform/RuntimeError.h"
 #include "platform/WriteAside.h"
-#include "platform/posix/ProfileText.h"
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -40,8 +41,19 @@ public:
                 return *value;
             text_ = ProfileText(file_.Read(0, file_.Length()));
             isWhole_ = true;
+            if (page_)
+                text_.UsePage(*page_);
         }
         return text_.Read(section, key);
+    }
+
+    void UseItsPage() {
+        bool isNumber = false;
+        const int page = Read(u"Infos"_s, u"CodePage"_s).toInt(&isNumber);
+        if (!isNumber)
+            return;
+        page_ = page;
+        text_.UsePage(page);
     }
 
 private:
@@ -49,7 +61,23 @@ private:
     QByteArray beginning_;
     ProfileText text_;
     bool isWhole_;
+    std::optional<int> page_;
 };
+
+enum class Page { System, Named };
+
+QStringList Values(const QString& section, const QStringList& keys, const QString& file, Page page) {
+    QStringList values(keys.size());
+    Ignoring([&] {
+        const File opened = File::Open(file, File::Access::Read);
+        LongText text(opened);
+        if (page == Page::Named)
+            text.UseItsPage();
+        for (qsizetype at = 0; at < keys.size(); ++at)
+            values[at] = text.Read(section, keys[at]).left(LongestValue);
+    });
+    return values;
+}
 
 } // namespace
 
@@ -58,14 +86,11 @@ QString INIRuntime::ReadINI(const QString& section, const QString& key, const QS
 }
 
 QStringList INIRuntime::ReadValues(const QString& section, const QStringList& keys, const QString& file) const {
-    QStringList values(keys.size());
-    Ignoring([&] {
-        const File opened = File::Open(file, File::Access::Read);
-        LongText text(opened);
-        for (qsizetype at = 0; at < keys.size(); ++at)
-            values[at] = text.Read(section, keys[at]).left(LongestValue);
-    });
-    return values;
+    return Values(section, keys, file, Page::System);
+}
+
+QStringList INIRuntime::ReadTexts(const QString& section, const QStringList& keys, const QString& file) const {
+    return Values(section, keys, file, Page::Named);
 }
 
 QString INIRuntime::WriteINI(const QString& section, const QString& key, const QString& value,
