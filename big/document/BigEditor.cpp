@@ -121,6 +121,23 @@ void BigEditor::OfferRow(int place) {
     panes_.View.StateChanged();
 }
 
+bool BigEditor::GoToEntry(int index, const QString& name) {
+    const auto isEntry = [&](int at) {
+        if (at < 0 || static_cast<std::size_t>(at) >= mBIG::BigEntries.size())
+            return false;
+        const BigEntry& entry = mBIG::BigEntries[static_cast<std::size_t>(at)];
+        return !entry.Deleted && entry.Name.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    const int found = isEntry(index) ? index : mBIG::FindEntry(name);
+    if (!isEntry(found)) {
+        Host::Current().Beep();
+        return false;
+    }
+    if (const int place = panes_.ShowEntry(found); place >= 0)
+        details_.Show(place);
+    return true;
+}
+
 bool BigEditor::RenameNode(int node, const QString& text) {
     const bool renamed = changes_.RenameNode(node, text);
     details_.NamesChanged();

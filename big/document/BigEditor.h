@@ -116,6 +116,9 @@ public:
     void FollowSelection();
     /// The menu is asked for on a row, which is the selected one then.
     void OfferRow(int place);
+    /// Leads to an entry that had this index and name when it was found: its folder is shown, and its row clicked.
+    /// False when there is none of that name any more.
+    bool GoToEntry(int index, const QString& name);
     /// A double click on a row, or the Enter key: a folder row opens its folder, a file row is modified.
     void ActivateRow(int place);
 

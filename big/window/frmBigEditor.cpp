@@ -7,6 +7,7 @@
 #include "big/window/FolderTreeModel.h"
 #include "big/window/RowDrag.h"
 #include "big/window/frmBrowseForFolder.h"
+#include "big/window/frmSearch.h"
 #include "big/window/frmVersion.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
@@ -122,6 +123,7 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
         {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
         {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, [this] { Delete(); }},
         {ui_->mnuNewFolder, ui_->Label2_6, u"new-folder"_s, of(&BigEditor::NewFolder)},
+        {ui_->mnuFind, nullptr, u"find"_s, [this] { Find(); }},
         {ui_->mnuLvView_0, nullptr, {}, [this] { ChooseView(ViewMode::LargeIcons); }},
         {ui_->mnuLvView_1, nullptr, {}, [this] { ChooseView(ViewMode::Details); }},
         {ui_->mnuLvView_2, nullptr, {}, [this] { ChooseView(ViewMode::SmallIcons); }},
@@ -211,6 +213,15 @@ void frmBigEditor::Delete() {
     editor_.Delete();
 }
 
+void frmBigEditor::Find() {
+    if (search_ == nullptr) {
+        search_ = new frmSearch(this);
+        connect(search_, &frmSearch::EntryWanted, this,
+                [this](int index, const QString& name) { editor_.GoToEntry(index, name); });
+    }
+    search_->Begin();
+}
+
 void frmBigEditor::RenameNodes() {
     for (const auto& [node, text] : std::exchange(renames_, {}))
         editor_.RenameNode(node, text);
@@ -269,7 +280,7 @@ void frmBigEditor::StateChanged() {
     const EditorState& state = editor_.State();
     SelectNode();
     for (QAction* action : {ui_->mnuSave, ui_->mnuSaveAs, ui_->mnuFileVersion, ui_->mnuAdd, ui_->mnuDelete,
-                            ui_->mnuExtract, ui_->mnuNewFolder})
+                            ui_->mnuExtract, ui_->mnuNewFolder, ui_->mnuFind})
         action->setEnabled(state.ArchiveOpen);
     ui_->mnuModify->setEnabled(state.ModifyEnabled);
     ui_->mnuEdit->setEnabled(state.ArchiveOpen);
@@ -284,6 +295,8 @@ void frmBigEditor::StateChanged() {
     const QString tool = u"BIG Editor"_s;
     setWindowTitle(state.ArchiveOpen ? Paths::LastPart(mBIG::BigFileName) + u"[*] - "_s + tool : tool);
     setWindowModified(state.Modified);
+    if (search_ != nullptr)
+        search_->Follow();
 }
 
 void frmBigEditor::SelectNode() {
@@ -319,6 +332,13 @@ void frmBigEditor::GoTo(const ViewPlace& place) {
     Scroll(*ui_->tvDirs, place.TreeScroll);
 }
 
+void frmBigEditor::Reveal(int place) {
+    ui_->lvFiles->Select({place}, place);
+    QAbstractItemView& list = *ui_->lvFiles->Current();
+    list.doItemsLayout();
+    list.scrollTo(ui_->lvFiles->Selection()->currentIndex());
+}
+
 void frmBigEditor::EditNode(int node) {
     const QModelIndex index = treeModel_->IndexOf(node);
     ui_->tvDirs->setFocus();
@@ -327,6 +347,9 @@ void frmBigEditor::EditNode(int node) {
 }
 
 void frmBigEditor::CommitEdit() {
+    // A command begins, and may put another file in the place of the one that a search has open.
+    if (search_ != nullptr)
+        search_->Stop();
     for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(ui_->tvDirs), ui_->lvFiles->Current()}) {
         const QPointer<QLineEdit> field = view->viewport()->findChild<QLineEdit*>();
         if (field == nullptr)

@@ -18,6 +18,7 @@
 class FileListModel;
 class FolderTreeModel;
 class QLabel;
+class frmSearch;
 
 namespace Ui {
 class frmBigEditor;
@@ -64,6 +65,7 @@ private:
     [[nodiscard]] std::vector<int> SelectedRows() const override;
     [[nodiscard]] ViewPlace Where() const override;
     void GoTo(const ViewPlace& place) override;
+    void Reveal(int place) override;
     void EditNode(int node) override;
     void CommitEdit() override;
     ExtractionTarget AskForFolder() override;
@@ -77,6 +79,7 @@ private:
     void ShowMenu(int place, QPoint globalPlace);
     void DragOut();
     void Delete();
+    void Find();
     void RenameNodes();
     void TellSelection();
     void Later(const std::function<void()>& command);
@@ -89,6 +92,7 @@ private:
     BigEditor editor_;
     FolderTreeModel* treeModel_;
     FileListModel* listModel_;
+    frmSearch* search_ = nullptr;                  ///< made when it is first wanted
     QLabel* status_;                               ///< the status bar's text
     QLabel* selection_;                            ///< how many rows there are and are selected
     std::vector<std::pair<int, QString>> renames_; ///< nodes and their new texts, as soon as their edit has ended

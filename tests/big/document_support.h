@@ -117,6 +117,13 @@ public:
         Selected = place.Selected;
     }
 
+    int Revealed = -1; ///< the last row that was brought into view
+
+    void Reveal(int place) override {
+        Revealed = place;
+        Selected = {place};
+    }
+
     void EditNode(int node) override { Edited = node; }
 
     ExtractionTarget AskForFolder() override {

@@ -88,6 +88,7 @@ private:
             {"mnuDelete", 2, [this] { SelectFile(), host_->Answers = {Answer::Yes}; },
              [this] { return Rows() == QStringList{u"data"_s}; }},
             {"mnuNewFolder", 6, [] {}, [this] { return Tree()->currentIndex().data() == u"New Folder1"_s; }},
+            {"mnuFind", -1, [] {}, [this] { return window_->findChild<QWidget*>(u"frmSearch"_s)->isVisible(); }},
             View("mnuLvView_0", ViewMode::LargeIcons),
             View("mnuLvView_1", ViewMode::Details),
             View("mnuLvView_2", ViewMode::SmallIcons),
