@@ -54,6 +54,8 @@ public:
 
     void New();
     void Open();
+    /// Opens another archive (inside path) in place of the open one, with the same questions.
+    void OpenInstead(const QString& path);
 
     void Save() { saves_.Save(); }
 
@@ -107,6 +109,9 @@ public:
     /// A click on a node of the tree.
     void ClickNode(int node);
 
+    /// A click on the folder above, with the row of the one that was shown selected; nothing at the root.
+    void GoUp();
+
     /// A click on a row of the list, or its selection by a key.
     void ClickRow(int place) { details_.Show(place); }
 
@@ -140,6 +145,8 @@ public:
 private:
     bool MayLeaveArchive();
     void LoadOrBeep(const QString& path);
+    /// Why a file was not opened, for a person.
+    static QString RefusalOf(const QString& path);
     void ResetAfterOpen();
     void ArchiveOpened();
     void TakeNewArchive();

@@ -63,7 +63,7 @@ int EditorPanes::ShowEntry(int index) {
     ShowAgain(name.first(name.lastIndexOf(u'\\') + 1));
     const int place = PlaceOf(index);
     if (place >= 0)
-        View.Reveal(place);
+        View.Reveal({place});
     return place;
 }
 

@@ -10,11 +10,14 @@
 
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,6 +35,29 @@ public:
     }
 };
 
+/// The text that an edit begins with is the name without its ending: that seldom changes.
+void SelectStem(const QAbstractItemView& view, const FileListModel& model, int place) {
+    auto* const field = view.viewport()->findChild<QLineEdit*>();
+    if (field == nullptr || model.List().Row(place).IsFolder)
+        return;
+    if (const auto stop = static_cast<int>(field->text().lastIndexOf(u'.')); stop > 0)
+        field->setSelection(0, stop);
+}
+
+/// The list with columns.
+class DetailsView : public RowListView {
+public:
+    using RowListView::RowListView;
+
+protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override {
+        const bool begun = RowListView::edit(index, trigger, event);
+        if (begun && state() == EditingState)
+            SelectStem(*this, *static_cast<FileListModel*>(model()), index.row());
+        return begun;
+    }
+};
+
 /// Icons with their text beside or below them. The list mode of the toolkit lays tens of thousands of rows out at once
 /// where its icon mode takes each by itself, so large icons are list rows whose text stands below.
 class IconView : public QListView {
@@ -46,6 +72,13 @@ public:
     }
 
 protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override {
+        const bool begun = QListView::edit(index, trigger, event);
+        if (begun && state() == EditingState)
+            SelectStem(*this, *static_cast<FileListModel*>(model()), index.row());
+        return begun;
+    }
+
     void initViewItemOption(QStyleOptionViewItem* option) const override {
         QListView::initViewItemOption(option);
         if (large_) {
@@ -75,9 +108,10 @@ QListView* MakeIcons(FileListView* parent) {
 
 FileListView::FileListView(QWidget* parent)
     : QStackedWidget(parent),
-      details_(new RowListView(this)),
+      details_(new DetailsView(this)),
       icons_(MakeIcons(this)),
       iconGestures_(new RowGestures(icons_)) {
+    details_->setObjectName(u"lvDetails"_s);
     addWidget(details_);
     addWidget(icons_);
     Follow(details_, details_->Gestures());

@@ -13,6 +13,7 @@
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
 #include "ui/text/Localisation.h"
+#include "ui/window/WindowPlace.h"
 #include "ui_frmBigEditor.h"
 
 #include <QActionGroup>
@@ -70,6 +71,7 @@ frmBigEditor::frmBigEditor(QWidget* parent)
     ui_->mnuView->actions().at(static_cast<int>(mode))->setChecked(true);
     StateChanged();
     editor_.TellLeft();
+    WindowPlace::Remember(*this);
     KeepFromTimeToTime([this] { return editor_.KeepRescue(); });
 }
 
@@ -99,12 +101,18 @@ void frmBigEditor::Dress() {
     selection_->setTextFormat(Qt::PlainText);
     ui_->StatusBar1->addPermanentWidget(selection_);
     // The Delete key belongs to the tree and the list; elsewhere it would remove what the user is not looking at.
-    ui_->mnuDelete->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    ui_->tvDirs->addAction(ui_->mnuDelete);
-    ui_->lvFiles->AddAction(ui_->mnuDelete);
+    // Likewise the keys that lead to the folder above and into a name.
+    ui_->mnuUp->setShortcuts({QKeySequence(Qt::Key_Backspace), QKeySequence(Qt::ALT | Qt::Key_Up)});
+    for (QAction* action : {ui_->mnuDelete, ui_->mnuRename, ui_->mnuUp}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        ui_->tvDirs->addAction(action);
+        ui_->lvFiles->AddAction(action);
+    }
     auto* views = new QActionGroup(this);
-    for (QAction* action : ui_->mnuView->actions())
+    for (QAction* action : {ui_->mnuLvView_0, ui_->mnuLvView_1, ui_->mnuLvView_2, ui_->mnuLvView_3})
         views->addAction(action);
+    connect(ui_->mnuRecent, &QMenu::aboutToShow, this, &frmBigEditor::ShowRecent);
+    setAcceptDrops(true);
     UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4,
                                         ui_->Label2_5, ui_->Label2_6, ui_->Label2_7});
     ui_->tvDirs->setFocus();
@@ -123,6 +131,8 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
         {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
         {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, [this] { Delete(); }},
         {ui_->mnuNewFolder, ui_->Label2_6, u"new-folder"_s, of(&BigEditor::NewFolder)},
+        {ui_->mnuRename, nullptr, {}, [this] { Rename(); }},
+        {ui_->mnuUp, nullptr, {}, [this] { GoUp(); }},
         {ui_->mnuFind, nullptr, u"find"_s, [this] { Find(); }},
         {ui_->mnuLvView_0, nullptr, {}, [this] { ChooseView(ViewMode::LargeIcons); }},
         {ui_->mnuLvView_1, nullptr, {}, [this] { ChooseView(ViewMode::Details); }},
@@ -213,15 +223,6 @@ void frmBigEditor::Delete() {
     editor_.Delete();
 }
 
-void frmBigEditor::Find() {
-    if (search_ == nullptr) {
-        search_ = new frmSearch(this);
-        connect(search_, &frmSearch::EntryWanted, this,
-                [this](int index, const QString& name) { editor_.GoToEntry(index, name); });
-    }
-    search_->Begin();
-}
-
 void frmBigEditor::RenameNodes() {
     for (const auto& [node, text] : std::exchange(renames_, {}))
         editor_.RenameNode(node, text);
@@ -280,7 +281,7 @@ void frmBigEditor::StateChanged() {
     const EditorState& state = editor_.State();
     SelectNode();
     for (QAction* action : {ui_->mnuSave, ui_->mnuSaveAs, ui_->mnuFileVersion, ui_->mnuAdd, ui_->mnuDelete,
-                            ui_->mnuExtract, ui_->mnuNewFolder, ui_->mnuFind})
+                            ui_->mnuExtract, ui_->mnuNewFolder, ui_->mnuFind, ui_->mnuRename, ui_->mnuUp})
         action->setEnabled(state.ArchiveOpen);
     ui_->mnuModify->setEnabled(state.ModifyEnabled);
     ui_->mnuEdit->setEnabled(state.ArchiveOpen);
@@ -297,6 +298,7 @@ void frmBigEditor::StateChanged() {
     setWindowModified(state.Modified);
     if (search_ != nullptr)
         search_->Follow();
+    NoteRecent();
 }
 
 void frmBigEditor::SelectNode() {
@@ -332,8 +334,8 @@ void frmBigEditor::GoTo(const ViewPlace& place) {
     Scroll(*ui_->tvDirs, place.TreeScroll);
 }
 
-void frmBigEditor::Reveal(int place) {
-    ui_->lvFiles->Select({place}, place);
+void frmBigEditor::Reveal(const std::vector<int>& places) {
+    ui_->lvFiles->Select(places, places.back());
     QAbstractItemView& list = *ui_->lvFiles->Current();
     list.doItemsLayout();
     list.scrollTo(ui_->lvFiles->Selection()->currentIndex());

@@ -42,6 +42,8 @@ public:
     bool MayEnd() override { return editor_.MayEnd(); }
 
 protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -65,7 +67,7 @@ private:
     [[nodiscard]] std::vector<int> SelectedRows() const override;
     [[nodiscard]] ViewPlace Where() const override;
     void GoTo(const ViewPlace& place) override;
-    void Reveal(int place) override;
+    void Reveal(const std::vector<int>& places) override;
     void EditNode(int node) override;
     void CommitEdit() override;
     ExtractionTarget AskForFolder() override;
@@ -80,6 +82,10 @@ private:
     void DragOut();
     void Delete();
     void Find();
+    void GoUp();
+    void Rename();
+    void ShowRecent();
+    void NoteRecent();
     void RenameNodes();
     void TellSelection();
     void Later(const std::function<void()>& command);
@@ -92,6 +98,7 @@ private:
     BigEditor editor_;
     FolderTreeModel* treeModel_;
     FileListModel* listModel_;
+    mBIG::Identity noted_;                         ///< the archive that stands first among the recent files
     frmSearch* search_ = nullptr;                  ///< made when it is first wanted
     QLabel* status_;                               ///< the status bar's text
     QLabel* selection_;                            ///< how many rows there are and are selected

@@ -9,6 +9,7 @@
 #include "core/Sizes.h"
 #include "core/mTraduction.h"
 #include "ui/text/Localisation.h"
+#include "ui/window/WindowPlace.h"
 #include "ui_frmSearch.h"
 
 using namespace Qt::StringLiterals;
@@ -43,6 +44,7 @@ frmSearch::frmSearch(QWidget* parent)
     if (parent != nullptr)
         parent->installEventFilter(this);
     TellState();
+    WindowPlace::Remember(*this);
 }
 
 frmSearch::~frmSearch() = default;

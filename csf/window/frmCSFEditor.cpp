@@ -10,6 +10,7 @@
 #include "ui/list/RowListModel.h"
 #include "ui/text/Localisation.h"
 #include "ui/window/SideMenu.h"
+#include "ui/window/WindowPlace.h"
 #include "ui_frmCSFEditor.h"
 
 #include <QItemSelection>
@@ -44,6 +45,7 @@ frmCSFEditor::frmCSFEditor(QWidget* parent)
     ConnectControls();
     StateChanged();
     editor_.TellLeft();
+    WindowPlace::Remember(*this);
     KeepFromTimeToTime([this] { return editor_.KeepRescue(); });
 }
 

@@ -119,9 +119,9 @@ public:
 
     int Revealed = -1; ///< the last row that was brought into view
 
-    void Reveal(int place) override {
-        Revealed = place;
-        Selected = {place};
+    void Reveal(const std::vector<int>& places) override {
+        Revealed = places.back();
+        Selected = places;
     }
 
     void EditNode(int node) override { Edited = node; }

@@ -190,6 +190,10 @@ std::optional<QString> WindowHost::OpenFileName(const FileDialog& dialog) {
     return FileChooser::FileToOpen(Owner(), dialog);
 }
 
+QStringList WindowHost::OpenFileNames(const FileDialog& dialog) {
+    return FileChooser::FilesToOpen(Owner(), dialog);
+}
+
 std::optional<QString> WindowHost::SaveFileName(const FileDialog& dialog) {
     return FileChooser::FileToSave(Owner(), dialog);
 }
