@@ -6,6 +6,7 @@
 #include "big/window/FileListModel.h"
 #include "ui/list/RowGestures.h"
 #include "ui/list/RowListView.h"
+#include "ui/look/Style.h"
 #include "ui/window/DroppedFiles.h"
 
 #include <QDropEvent>
@@ -13,6 +14,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -94,6 +96,24 @@ private:
     bool large_ = false;
 };
 
+/// A line around the list, over it and out of the pointer's way.
+class DropFrame : public QWidget {
+public:
+    explicit DropFrame(QWidget* parent) : QWidget(parent) {
+        setObjectName(u"dropFrame"_s);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        constexpr int width = 3;
+        QPainter painter(this);
+        painter.setPen(QPen(Style::Colour::Focus, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    }
+};
+
 QListView* MakeIcons(FileListView* parent) {
     auto* view = new IconView(parent);
     view->setWrapping(true);
@@ -110,7 +130,8 @@ FileListView::FileListView(QWidget* parent)
     : QStackedWidget(parent),
       details_(new DetailsView(this)),
       icons_(MakeIcons(this)),
-      iconGestures_(new RowGestures(icons_)) {
+      iconGestures_(new RowGestures(icons_)),
+      dropFrame_(new DropFrame(this)) {
     details_->setObjectName(u"lvDetails"_s);
     addWidget(details_);
     addWidget(icons_);
@@ -219,7 +240,14 @@ void FileListView::AddAction(QAction* action) {
     icons_->addAction(action);
 }
 
+void FileListView::ShowDropFrame(bool show) {
+    dropFrame_->setGeometry(rect());
+    dropFrame_->raise();
+    dropFrame_->setVisible(show);
+}
+
 bool FileListView::DropEvent(QDropEvent& event) {
+    ShowDropFrame(false);
     // Rows of this list that come back to it change nothing. Only other programs' drags have no source.
     if (!event.mimeData()->hasUrls() || event.source() != nullptr) {
         event.ignore();
@@ -227,6 +255,7 @@ bool FileListView::DropEvent(QDropEvent& event) {
     }
     event.setDropAction(Qt::CopyAction);
     event.accept();
+    ShowDropFrame(event.type() != QEvent::Drop);
     if (event.type() != QEvent::Drop)
         return true;
     Q_EMIT FilesDropped(DroppedFiles::In(*event.mimeData()));
@@ -239,6 +268,10 @@ bool FileListView::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::DragMove:
     case QEvent::Drop:
         return watched == Current()->viewport() && DropEvent(*static_cast<QDropEvent*>(event));
+    case QEvent::DragLeave:
+        if (watched == Current()->viewport())
+            ShowDropFrame(false);
+        return false;
     default:
         return QStackedWidget::eventFilter(watched, event);
     }

@@ -111,6 +111,29 @@ private Q_SLOTS:
         QVERIFY(!Drop(archive_)); // now it would be added
     }
 
+    void aFrameStandsAroundTheListWhileFilesAreDraggedOverIt() {
+        OpenArchive();
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(u"/some/file.txt"_s)});
+        auto* const frame = Part<QWidget>("dropFrame");
+        QWidget* const viewport = Files()->Current()->viewport();
+        for (const bool drops : {false, true}) {
+            QVERIFY(!frame->isVisible());
+            QDragEnterEvent enter({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(viewport, &enter);
+            QVERIFY(frame->isVisible());
+            QCOMPARE(frame->size(), Files()->size());
+            QDragLeaveEvent leave;
+            QDropEvent drop({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QApplication::sendEvent(viewport, drops ? static_cast<QEvent*>(&drop) : &leave);
+        }
+        QVERIFY(!frame->isVisible());
+        data.clear();
+        QDragEnterEvent text({20, 20}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(viewport, &text);
+        QVERIFY(!frame->isVisible());
+    }
+
     void backspaceAndAltUpLeadToTheFolderAbove() {
         OpenArchive();
         Select(u"data\\ini\\"_s);
