@@ -130,6 +130,9 @@ public:
     /// What decodes pictures and plays sounds for the preview; both outlive the editor.
     void UsePreview(PictureDecoder* decoder, SoundPlayer* player) { details_.Use(decoder, player); }
 
+    /// The index of the entry that the details tell; -1 while they are hidden.
+    [[nodiscard]] int DetailedEntry() const { return details_.Shown(); }
+
     [[nodiscard]] QString SelectionText() const { return details_.SelectionText(); }
 
     /// At the editor's start: what is to be offered back.

@@ -9,6 +9,7 @@
 #include "big/window/frmBrowseForFolder.h"
 #include "big/window/frmSearch.h"
 #include "big/window/frmVersion.h"
+#include "core/LastTime.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
@@ -66,6 +67,7 @@ frmBigEditor::frmBigEditor(QWidget* parent)
     ui_->picDetails->Use(&player_);
     ConnectTree();
     ConnectList();
+    ui_->mnuText->setChecked(LastTime::Of(u"big text"_s).toBool());
     const ViewMode mode = BigEditor::View();
     ui_->lvFiles->SetMode(mode);
     ui_->mnuView->actions().at(static_cast<int>(mode))->setChecked(true);
@@ -92,6 +94,7 @@ void frmBigEditor::Dress() {
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
     ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
     ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
+    ui_->txtText->setAccessibleName(mTraduction::GetText(u"Text"_s));
     status_->setTextFormat(Qt::PlainText);
     status_->setContentsMargins(6, 0, 0, 0);
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
@@ -131,6 +134,7 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
         {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
         {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, [this] { Delete(); }},
         {ui_->mnuNewFolder, ui_->Label2_6, u"new-folder"_s, of(&BigEditor::NewFolder)},
+        {ui_->mnuText, nullptr, {}, [this] { FollowText(); }},
         {ui_->mnuRename, nullptr, {}, [this] { Rename(); }},
         {ui_->mnuUp, nullptr, {}, [this] { GoUp(); }},
         {ui_->mnuFind, nullptr, u"find"_s, [this] { Find(); }},
@@ -299,6 +303,7 @@ void frmBigEditor::StateChanged() {
     if (search_ != nullptr)
         search_->Follow();
     NoteRecent();
+    FollowText();
 }
 
 void frmBigEditor::SelectNode() {

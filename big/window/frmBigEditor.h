@@ -86,6 +86,7 @@ private:
     void Rename();
     void ShowRecent();
     void NoteRecent();
+    void FollowText();
     void RenameNodes();
     void TellSelection();
     void Later(const std::function<void()>& command);
@@ -98,6 +99,8 @@ private:
     BigEditor editor_;
     FolderTreeModel* treeModel_;
     FileListModel* listModel_;
+    BigEntry texted_;                              ///< the entry whose text stands in the text pane
+    mBIG::Identity textedIn_;                      ///< its archive
     mBIG::Identity noted_;                         ///< the archive that stands first among the recent files
     frmSearch* search_ = nullptr;                  ///< made when it is first wanted
     QLabel* status_;                               ///< the status bar's text

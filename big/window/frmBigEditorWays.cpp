@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// The ways to an archive and through it: recent files, files dropped on the window, the search, the folder above, the
-/// edit of a name.
+/// edit of a name, the text of an entry.
 #include "big/window/frmBigEditor.h"
 
+#include "big/document/TextPreview.h"
 #include "big/window/frmSearch.h"
 #include "core/LastTime.h"
 #include "platform/Files.h"
@@ -47,6 +48,21 @@ void frmBigEditor::ShowRecent() {
     }
     if (ui_->mnuRecent->isEmpty())
         ui_->mnuRecent->addAction(u"-"_s)->setEnabled(false);
+}
+
+void frmBigEditor::FollowText() {
+    const bool shows = ui_->mnuText->isChecked();
+    LastTime::Keep(u"big text"_s, shows);
+    ui_->txtText->setVisible(shows);
+    const int index = editor_.DetailedEntry();
+    const bool isEntry = shows && index >= 0 && static_cast<std::size_t>(index) < mBIG::BigEntries.size();
+    const BigEntry entry = isEntry ? mBIG::BigEntries[static_cast<std::size_t>(index)] : BigEntry();
+    const mBIG::Identity archive = mBIG::CurrentIdentity();
+    if (entry == texted_ && archive == textedIn_)
+        return;
+    texted_ = entry;
+    textedIn_ = archive;
+    ui_->txtText->ShowText(TextPreview::Of(entry));
 }
 
 void frmBigEditor::Find() {

@@ -93,6 +93,7 @@ private:
              [this] { return Files()->Current()->viewport()->findChild<QLineEdit*>() != nullptr; }},
             {"mnuUp", -1, [this] { Select(u"data\\"_s); },
              [this] { return Tree()->currentIndex().data() == u"b.big"_s; }},
+            {"mnuText", -1, [] {}, [this] { return Part<QWidget>("txtText")->isVisible(); }},
             {"mnuFind", -1, [] {}, [this] { return window_->findChild<QWidget*>(u"frmSearch"_s)->isVisible(); }},
             View("mnuLvView_0", ViewMode::LargeIcons),
             View("mnuLvView_1", ViewMode::Details),
