@@ -89,6 +89,13 @@ TEST_F(WayToAnEntry, FindsTheRowBehindTheFolders) {
     EXPECT_EQ(View.Revealed, 1);
 }
 
+TEST_F(WayToAnEntry, TakesNoFolderOfTheSameNumberForIt) {
+    OpenArchive({{u"data\\a"_s, "a"}, {u"b"_s, "b"}, {u"c"_s, "c"}});
+    ASSERT_EQ(NodeOf(u"data\\"_s), 2);
+    EXPECT_TRUE(Editor.GoToEntry(2, u"c"_s));
+    EXPECT_EQ(View.Revealed, 2);
+}
+
 TEST_F(WayToAnEntry, GoesByTheNameWhenTheIndexIsAnothers) {
     OpenSample();
     EXPECT_TRUE(Editor.GoToEntry(0, u"data\\MAP.tga"_s));

@@ -70,6 +70,7 @@ TEST_F(EditorWays, AnAddedRowIsSelectedAndInView) {
     OpenSample();
     Speaker.FileNames = {File(u"new.txt"_s)};
     Editor.Add();
+    ASSERT_GE(View.Revealed, 0);
     EXPECT_EQ(Editor.List().Text(View.Revealed), u"new.txt"_s);
     EXPECT_EQ(View.Selected, std::vector<int>{View.Revealed});
 }
