@@ -18,6 +18,11 @@ Host* inUse = nullptr;
 
 } // namespace
 
+QStringList Host::OpenFileNames(const FileDialog& dialog) {
+    const auto path = OpenFileName(dialog);
+    return path ? QStringList{*path} : QStringList();
+}
+
 void Host::MessageWithList(const QString& text, const QStringList& lines) {
     Message(text + "\r\n"_L1 + lines.join("\r\n"_L1), Icon::Exclamation);
 }

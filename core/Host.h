@@ -71,6 +71,8 @@ public:
 
     /// The chosen file as an inside path; nothing when cancelled.
     virtual std::optional<QString> OpenFileName(const FileDialog& dialog) = 0;
+    /// Several at once; none when cancelled. A host that has no such dialog asks for one.
+    virtual QStringList OpenFileNames(const FileDialog& dialog);
     virtual std::optional<QString> SaveFileName(const FileDialog& dialog) = 0;
 
     /// A folder that exists, chosen as an inside path without a trailing backslash but a drive's own; nothing when

@@ -6,8 +6,9 @@
 
 #include "app/cli/Command.h"
 
-/// list and extract; save and create; rename and delete; preview; verify and repair.
+/// list and extract; search; save and create; rename and delete; preview; verify and repair.
 std::vector<Command> BigReadingCommands();
+std::vector<Command> SearchCommands();
 std::vector<Command> BigSavingCommands();
 std::vector<Command> BigEditCommands();
 std::vector<Command> PreviewCommands();

@@ -33,8 +33,8 @@ CommandGroup Csf() {
 
 CommandGroup Big() {
     CommandGroup group{"big", "BIG archives", {}};
-    for (const auto& commands :
-         {BigReadingCommands(), BigSavingCommands(), BigEditCommands(), VerifyCommands(), PreviewCommands()})
+    for (const auto& commands : {BigReadingCommands(), SearchCommands(), BigSavingCommands(), BigEditCommands(),
+                                 VerifyCommands(), PreviewCommands()})
         group.Commands.insert(group.Commands.end(), commands.begin(), commands.end());
     return group;
 }

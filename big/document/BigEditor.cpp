@@ -5,10 +5,13 @@
 
 #include "big/document/OffsetNotices.h"
 #include "core/Host.h"
+#include "core/LastTime.h"
 #include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "core/mTraduction.h"
+#include "platform/File.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
 #include <algorithm>
@@ -42,11 +45,25 @@ void BigEditor::OpenBigFile(const QString& path) {
 }
 
 void BigEditor::LoadOrBeep(const QString& path) {
-    if (LoadBig(path))
+    if (LoadBig(path)) {
         ResetAfterOpen();
-    else
+    } else {
         Host::Current().Beep();
+        panes_.View.ShowNotice({.Text = GetText(u"NotOpened"_s).replace("%1"_L1, RefusalOf(path))});
+    }
     offers_.TellBeside(path);
+}
+
+QString BigEditor::RefusalOf(const QString& path) {
+    const QString name = Paths::ToNative(path);
+    if (!SaveCommand::IsArchiveName(path))
+        return GetText(u"NoBigName"_s).replace("%1"_L1, name);
+    try {
+        static_cast<void>(File::Open(path, File::Access::Read));
+    } catch (const RuntimeError& error) {
+        return error.Description();
+    }
+    return GetText(u"NotABigFile"_s).replace("%1"_L1, name);
 }
 
 bool BigEditor::LoadBig(const QString& path) {
@@ -119,6 +136,23 @@ void BigEditor::OfferRow(int place) {
     details_.Follow(place);
     panes_.State.ModifyEnabled = !panes_.List.Row(place).IsFolder;
     panes_.View.StateChanged();
+}
+
+bool BigEditor::GoToEntry(int index, const QString& name) {
+    const auto isEntry = [&](int at) {
+        if (at < 0 || static_cast<std::size_t>(at) >= mBIG::BigEntries.size())
+            return false;
+        const BigEntry& entry = mBIG::BigEntries[static_cast<std::size_t>(at)];
+        return !entry.Deleted && entry.Name.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    const int found = isEntry(index) ? index : mBIG::FindEntry(name);
+    if (!isEntry(found)) {
+        Host::Current().Beep();
+        return false;
+    }
+    if (const int place = panes_.ShowEntry(found); place >= 0)
+        details_.Show(place);
+    return true;
 }
 
 bool BigEditor::RenameNode(int node, const QString& text) {
@@ -202,10 +236,29 @@ void BigEditor::Open() {
     const EditorPanes::Command command(panes_);
     if (!MayLeaveArchive())
         return;
-    const auto path = Host::Current().OpenFileName(SaveCommand::ArchiveDialog());
+    const auto path = Host::Current().OpenFileName(SaveCommand::OpenDialog());
     if (!path)
         return;
+    LastTime::NoteFolder(u"big"_s, Paths::Folder(*path));
     LoadOrBeep(*path);
+}
+
+void BigEditor::OpenInstead(const QString& path) {
+    if (EditorPanes::Locked())
+        return;
+    const EditorPanes::Command command(panes_);
+    if (MayLeaveArchive())
+        LoadOrBeep(path);
+}
+
+void BigEditor::GoUp() {
+    const int node = panes_.State.SelectedNode;
+    if (!panes_.Tree.Has(node) || panes_.Tree.Node(node).Parent == FolderTree::None)
+        return;
+    ClickNode(panes_.Tree.Node(node).Parent);
+    for (int place = 0; place < panes_.List.Count(); ++place)
+        if (panes_.List.Row(place).IsFolder && panes_.List.Row(place).Index == node)
+            panes_.View.Reveal({place});
 }
 
 bool BigEditor::ExtractBigFile(const QString& path) {

@@ -54,6 +54,8 @@ public:
 
     void New();
     void Open();
+    /// Opens another archive (inside path) in place of the open one, with the same questions.
+    void OpenInstead(const QString& path);
 
     void Save() { saves_.Save(); }
 
@@ -107,6 +109,9 @@ public:
     /// A click on a node of the tree.
     void ClickNode(int node);
 
+    /// A click on the folder above, with the row of the one that was shown selected; nothing at the root.
+    void GoUp();
+
     /// A click on a row of the list, or its selection by a key.
     void ClickRow(int place) { details_.Show(place); }
 
@@ -116,11 +121,17 @@ public:
     void FollowSelection();
     /// The menu is asked for on a row, which is the selected one then.
     void OfferRow(int place);
+    /// Leads to an entry that had this index and name when it was found: its folder is shown, and its row clicked.
+    /// False when there is none of that name any more.
+    bool GoToEntry(int index, const QString& name);
     /// A double click on a row, or the Enter key: a folder row opens its folder, a file row is modified.
     void ActivateRow(int place);
 
     /// What decodes pictures and plays sounds for the preview; both outlive the editor.
     void UsePreview(PictureDecoder* decoder, SoundPlayer* player) { details_.Use(decoder, player); }
+
+    /// The index of the entry that the details tell; -1 while they are hidden.
+    [[nodiscard]] int DetailedEntry() const { return details_.Shown(); }
 
     [[nodiscard]] QString SelectionText() const { return details_.SelectionText(); }
 
@@ -137,6 +148,8 @@ public:
 private:
     bool MayLeaveArchive();
     void LoadOrBeep(const QString& path);
+    /// Why a file was not opened, for a person.
+    static QString RefusalOf(const QString& path);
     void ResetAfterOpen();
     void ArchiveOpened();
     void TakeNewArchive();

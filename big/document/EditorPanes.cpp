@@ -51,6 +51,22 @@ void EditorPanes::ShowAgain(const QString& folderKey) {
     ShowFolder({});
 }
 
+int EditorPanes::PlaceOf(int index) const {
+    for (int place = 0; place < List.Count(); ++place)
+        if (!List.Row(place).IsFolder && List.Row(place).Index == index)
+            return place;
+    return -1;
+}
+
+int EditorPanes::ShowEntry(int index) {
+    const QString name = mBIG::BigEntries[static_cast<std::size_t>(index)].Name;
+    ShowAgain(name.first(name.lastIndexOf(u'\\') + 1));
+    const int place = PlaceOf(index);
+    if (place >= 0)
+        View.Reveal({place});
+    return place;
+}
+
 QString EditorPanes::SelectedKey() const {
     return Tree.Has(State.SelectedNode) ? Tree.Node(State.SelectedNode).Key : QString();
 }

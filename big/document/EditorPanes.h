@@ -42,6 +42,13 @@ public:
     /// has gone.
     void ShowAgain(const QString& folderKey);
 
+    /// The row of an entry in the list, -1 when it is not shown.
+    [[nodiscard]] int PlaceOf(int index) const;
+
+    /// Shows an entry's folder, or of it what there is, and the entry's row as the selected one. Its place, -1 without
+    /// one.
+    int ShowEntry(int index);
+
     /// The selected node's key; empty without one.
     [[nodiscard]] QString SelectedKey() const;
 

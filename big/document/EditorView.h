@@ -35,6 +35,8 @@ public:
     [[nodiscard]] virtual ViewPlace Where() const = 0;
     /// Selects rows and scrolls; that is no click on any of them.
     virtual void GoTo(const ViewPlace& place) = 0;
+    /// Selects rows and brings the last of them into view; that is no click on any.
+    virtual void Reveal(const std::vector<int>& places) = 0;
     /// Shows a node and starts the edit of its label.
     virtual void EditNode(int node) = 0;
     /// Ends the edit of a name as the Enter key does: what was typed counts.

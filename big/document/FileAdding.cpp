@@ -6,6 +6,7 @@
 #include "big/document/KeptRows.h"
 #include "big/document/ScratchFolders.h"
 #include "core/Host.h"
+#include "core/LastTime.h"
 #include "core/LostLetters.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
@@ -23,8 +24,14 @@ using mTraduction::GetText;
 
 namespace {
 
+constexpr auto lastFolder = u"big add";
+
 Host::FileDialog AnyFileDialog() {
-    return {.Title = {}, .Filter = u"Tous les fichiers (*.*)|*.*"_s, .DefaultExtension = {}, .DefaultName = {}};
+    return {.Title = GetText(u"Add"_s),
+            .Filter = u"Tous les fichiers (*.*)|*.*"_s,
+            .DefaultExtension = {},
+            .DefaultName = {},
+            .Folder = LastTime::Folder(QString::fromUtf16(lastFolder))};
 }
 
 QString WithoutTrailingBackslash(const QString& path) {
@@ -69,20 +76,48 @@ void FileAdding::Add() {
     if (EditorPanes::Locked())
         return;
     const EditorPanes::Command command(panes_);
-    if (const auto path = Host::Current().OpenFileName(AnyFileDialog()))
-        Ignoring([&] { AddFile(*path); });
+    const QStringList paths = Host::Current().OpenFileNames(AnyFileDialog());
+    if (paths.isEmpty())
+        return;
+    LastTime::NoteFolder(QString::fromUtf16(lastFolder), Paths::Folder(paths.first()));
+    ArchiveEdits::DropResult result;
+    std::vector<int> added;
+    for (const QString& path : paths)
+        Ignoring([&] {
+            if (const auto index = AddFile(path, result))
+                added.push_back(*index);
+        });
+    if (!added.empty())
+        Ignoring([&] { ShowAdded(added); });
+    TellDrop(result);
 }
 
-void FileAdding::AddFile(const QString& path) {
+std::optional<int> FileAdding::AddFile(const QString& path, ArchiveEdits::DropResult& result) {
     const QString name = panes_.Names.Take(panes_.SelectedKey() + Paths::LastPart(path));
     const int found = mBIG::FindEntry(name);
     if (found >= 0 && !MayReplace(panes_.Names, name))
-        return panes_.TellNames();
-    const bool replaces = found >= 0 && !mBIG::BigEntries[static_cast<std::size_t>(found)].Deleted;
+        return {};
+    if (found >= 0 && !mBIG::BigEntries[static_cast<std::size_t>(found)].Deleted)
+        result.Replaced += name;
     ArchiveEdits::Add(mBIG::Open(), name, SourceOf(path));
     panes_.State.Modified = true;
+    ++result.Taken;
+    return found >= 0 ? found : mBIG::HighestIndex();
+}
+
+void FileAdding::ShowAdded(const std::vector<int>& indices) {
     panes_.ShowSelected();
-    TellDrop({.Taken = 1, .Replaced = replaces ? QStringList{name} : QStringList(), .Lost = {}, .Hidden = {}});
+    std::vector<int> places;
+    for (const int index : indices)
+        if (const int place = panes_.PlaceOf(index); place >= 0)
+            places.push_back(place);
+    if (places.empty())
+        return;
+    std::ranges::sort(places);
+    places.erase(std::ranges::unique(places).begin(), places.end());
+    panes_.View.Reveal(places);
+    if (panes_.Selected)
+        panes_.Selected(places.back());
 }
 
 QStringList FileAdding::AdoptDragged(QStringList paths) {

@@ -10,6 +10,8 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 class FileAdding {
 public:
@@ -28,7 +30,9 @@ public:
     void Drop(const QStringList& paths);
 
 private:
-    void AddFile(const QString& path);
+    /// The index of the entry; nothing for a file that is not to replace one.
+    std::optional<int> AddFile(const QString& path, ArchiveEdits::DropResult& result);
+    void ShowAdded(const std::vector<int>& indices);
     /// Returns what did not come in.
     QStringList DropPaths(const QStringList& paths, ArchiveEdits::Drop& drop);
     void TellDrop(const ArchiveEdits::DropResult& result);

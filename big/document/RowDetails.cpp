@@ -122,9 +122,12 @@ QString RowDetails::SelectionText() const {
     if (places.empty())
         return GetText(u"RowCount"_s).replace("%1"_L1, Sizes::Grouped(panes_.List.Count()));
     qint64 bytes = 0;
-    for (const int place : places)
+    bool areFolders = true;
+    for (const int place : places) {
         bytes += panes_.List.Row(place).Size;
-    return GetText(u"RowsSelected"_s)
+        areFolders = areFolders && panes_.List.Row(place).IsFolder;
+    }
+    return GetText(areFolders ? u"FoldersSelected"_s : u"RowsSelected"_s)
         .replace("%1"_L1, Sizes::Grouped(static_cast<qint64>(places.size())))
         .replace("%2"_L1, Sizes::KiloBytes(bytes));
 }

@@ -36,6 +36,9 @@ public:
     void Clear() { preview_.Clear(); }
 
     /// How many rows the list has, or how many are selected and how much they hold; empty without an archive.
+    /// The index of the entry that the details tell; -1 while they are hidden.
+    [[nodiscard]] int Shown() const { return panes_.State.DetailsVisible ? shown_ : -1; }
+
     [[nodiscard]] QString SelectionText() const;
 
 private:

@@ -6,7 +6,10 @@
 #include "big/document/FileAdding.h"
 #include "big/document/KeptRows.h"
 #include "big/document/OffsetNotices.h"
+#include "core/Game.h"
+#include "core/LastTime.h"
 #include "core/mTraduction.h"
+#include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
@@ -50,6 +53,16 @@ Host::FileDialog SaveCommand::ArchiveDialog() {
             .DefaultExtension = u"big"_s,
             .DefaultName = u"*.big"_s,
             .Folder = Document::FolderForDialogs(mBIG::BigFileName)};
+}
+
+Host::FileDialog SaveCommand::OpenDialog() {
+    Host::FileDialog dialog = ArchiveDialog();
+    if (dialog.Folder.isEmpty())
+        dialog.Folder = LastTime::Folder(u"big"_s);
+    for (const GameEntry& game : Game)
+        if (dialog.Folder.isEmpty() && !game.InstallPath.isEmpty() && Files::FolderExists(game.InstallPath))
+            dialog.Folder = game.InstallPath;
+    return dialog;
 }
 
 void SaveCommand::Save() {

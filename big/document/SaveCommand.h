@@ -45,6 +45,8 @@ public:
 
     /// What the dialogs for archives show.
     [[nodiscard]] static Host::FileDialog ArchiveDialog();
+    /// The same for opening: without an archive it begins where one was chosen last, or with the first game.
+    [[nodiscard]] static Host::FileDialog OpenDialog();
 
 private:
     /// Where the bytes of entries come from that the directory leads beside.

@@ -6,15 +6,20 @@
 #include "big/window/FileListModel.h"
 #include "ui/list/RowGestures.h"
 #include "ui/list/RowListView.h"
+#include "ui/look/Style.h"
 #include "ui/window/DroppedFiles.h"
 
 #include <QDropEvent>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QListView>
 #include <QMimeData>
+#include <QPainter>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,6 +37,29 @@ public:
     }
 };
 
+/// The text that an edit begins with is the name without its ending: that seldom changes.
+void SelectStem(const QAbstractItemView& view, const FileListModel& model, int place) {
+    auto* const field = view.viewport()->findChild<QLineEdit*>();
+    if (field == nullptr || model.List().Row(place).IsFolder)
+        return;
+    if (const auto stop = static_cast<int>(field->text().lastIndexOf(u'.')); stop > 0)
+        field->setSelection(0, stop);
+}
+
+/// The list with columns.
+class DetailsView : public RowListView {
+public:
+    using RowListView::RowListView;
+
+protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override {
+        const bool begun = RowListView::edit(index, trigger, event);
+        if (begun && state() == EditingState)
+            SelectStem(*this, *static_cast<FileListModel*>(model()), index.row());
+        return begun;
+    }
+};
+
 /// Icons with their text beside or below them. The list mode of the toolkit lays tens of thousands of rows out at once
 /// where its icon mode takes each by itself, so large icons are list rows whose text stands below.
 class IconView : public QListView {
@@ -46,6 +74,13 @@ public:
     }
 
 protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override {
+        const bool begun = QListView::edit(index, trigger, event);
+        if (begun && state() == EditingState)
+            SelectStem(*this, *static_cast<FileListModel*>(model()), index.row());
+        return begun;
+    }
+
     void initViewItemOption(QStyleOptionViewItem* option) const override {
         QListView::initViewItemOption(option);
         if (large_) {
@@ -59,6 +94,24 @@ protected:
 private:
     FileListView* list_;
     bool large_ = false;
+};
+
+/// A line around the list, over it and out of the pointer's way.
+class DropFrame : public QWidget {
+public:
+    explicit DropFrame(QWidget* parent) : QWidget(parent) {
+        setObjectName(u"dropFrame"_s);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        constexpr int width = 3;
+        QPainter painter(this);
+        painter.setPen(QPen(Style::Colour::Focus, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    }
 };
 
 QListView* MakeIcons(FileListView* parent) {
@@ -75,9 +128,11 @@ QListView* MakeIcons(FileListView* parent) {
 
 FileListView::FileListView(QWidget* parent)
     : QStackedWidget(parent),
-      details_(new RowListView(this)),
+      details_(new DetailsView(this)),
       icons_(MakeIcons(this)),
-      iconGestures_(new RowGestures(icons_)) {
+      iconGestures_(new RowGestures(icons_)),
+      dropFrame_(new DropFrame(this)) {
+    details_->setObjectName(u"lvDetails"_s);
     addWidget(details_);
     addWidget(icons_);
     Follow(details_, details_->Gestures());
@@ -185,7 +240,14 @@ void FileListView::AddAction(QAction* action) {
     icons_->addAction(action);
 }
 
+void FileListView::ShowDropFrame(bool show) {
+    dropFrame_->setGeometry(rect());
+    dropFrame_->raise();
+    dropFrame_->setVisible(show);
+}
+
 bool FileListView::DropEvent(QDropEvent& event) {
+    ShowDropFrame(false);
     // Rows of this list that come back to it change nothing. Only other programs' drags have no source.
     if (!event.mimeData()->hasUrls() || event.source() != nullptr) {
         event.ignore();
@@ -193,6 +255,7 @@ bool FileListView::DropEvent(QDropEvent& event) {
     }
     event.setDropAction(Qt::CopyAction);
     event.accept();
+    ShowDropFrame(event.type() != QEvent::Drop);
     if (event.type() != QEvent::Drop)
         return true;
     Q_EMIT FilesDropped(DroppedFiles::In(*event.mimeData()));
@@ -205,6 +268,10 @@ bool FileListView::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::DragMove:
     case QEvent::Drop:
         return watched == Current()->viewport() && DropEvent(*static_cast<QDropEvent*>(event));
+    case QEvent::DragLeave:
+        if (watched == Current()->viewport())
+            ShowDropFrame(false);
+        return false;
     default:
         return QStackedWidget::eventFilter(watched, event);
     }

@@ -74,10 +74,12 @@ private:
     void Follow(QAbstractItemView* view, RowGestures* gestures);
     bool DropEvent(QDropEvent& event);
     void SizeCells();
+    void ShowDropFrame(bool show);
 
     FileListModel* model_ = nullptr;
     RowListView* details_;
     QListView* icons_;
     RowGestures* iconGestures_;
+    QWidget* dropFrame_; ///< around the list while files are dragged over it
     ViewMode mode_ = ViewMode::SmallIcons;
 };

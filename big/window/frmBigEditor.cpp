@@ -7,11 +7,14 @@
 #include "big/window/FolderTreeModel.h"
 #include "big/window/RowDrag.h"
 #include "big/window/frmBrowseForFolder.h"
+#include "big/window/frmSearch.h"
 #include "big/window/frmVersion.h"
+#include "core/LastTime.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
 #include "ui/text/Localisation.h"
+#include "ui/window/WindowPlace.h"
 #include "ui_frmBigEditor.h"
 
 #include <QActionGroup>
@@ -64,11 +67,13 @@ frmBigEditor::frmBigEditor(QWidget* parent)
     ui_->picDetails->Use(&player_);
     ConnectTree();
     ConnectList();
+    ui_->mnuText->setChecked(LastTime::Of(u"big text"_s).toBool());
     const ViewMode mode = BigEditor::View();
     ui_->lvFiles->SetMode(mode);
     ui_->mnuView->actions().at(static_cast<int>(mode))->setChecked(true);
     StateChanged();
     editor_.TellLeft();
+    WindowPlace::Remember(*this);
     KeepFromTimeToTime([this] { return editor_.KeepRescue(); });
 }
 
@@ -89,6 +94,7 @@ void frmBigEditor::Dress() {
     ui_->tvDirs->setAccessibleName(mTraduction::GetText(u"Folder"_s));
     ui_->lvFiles->SetAccessibleNames(mTraduction::GetText(u"Files"_s));
     ui_->lvFiles->FollowInTabOrder(ui_->tvDirs);
+    ui_->txtText->setAccessibleName(mTraduction::GetText(u"Text"_s));
     status_->setTextFormat(Qt::PlainText);
     status_->setContentsMargins(6, 0, 0, 0);
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
@@ -98,12 +104,18 @@ void frmBigEditor::Dress() {
     selection_->setTextFormat(Qt::PlainText);
     ui_->StatusBar1->addPermanentWidget(selection_);
     // The Delete key belongs to the tree and the list; elsewhere it would remove what the user is not looking at.
-    ui_->mnuDelete->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    ui_->tvDirs->addAction(ui_->mnuDelete);
-    ui_->lvFiles->AddAction(ui_->mnuDelete);
+    // Likewise the keys that lead to the folder above and into a name.
+    ui_->mnuUp->setShortcuts({QKeySequence(Qt::Key_Backspace), QKeySequence(Qt::ALT | Qt::Key_Up)});
+    for (QAction* action : {ui_->mnuDelete, ui_->mnuRename, ui_->mnuUp}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        ui_->tvDirs->addAction(action);
+        ui_->lvFiles->AddAction(action);
+    }
     auto* views = new QActionGroup(this);
-    for (QAction* action : ui_->mnuView->actions())
+    for (QAction* action : {ui_->mnuLvView_0, ui_->mnuLvView_1, ui_->mnuLvView_2, ui_->mnuLvView_3})
         views->addAction(action);
+    connect(ui_->mnuRecent, &QMenu::aboutToShow, this, &frmBigEditor::ShowRecent);
+    setAcceptDrops(true);
     UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4,
                                         ui_->Label2_5, ui_->Label2_6, ui_->Label2_7});
     ui_->tvDirs->setFocus();
@@ -122,6 +134,10 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
         {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
         {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, [this] { Delete(); }},
         {ui_->mnuNewFolder, ui_->Label2_6, u"new-folder"_s, of(&BigEditor::NewFolder)},
+        {ui_->mnuText, nullptr, {}, [this] { FollowText(); }},
+        {ui_->mnuRename, nullptr, {}, [this] { Rename(); }},
+        {ui_->mnuUp, nullptr, {}, [this] { GoUp(); }},
+        {ui_->mnuFind, nullptr, u"find"_s, [this] { Find(); }},
         {ui_->mnuLvView_0, nullptr, {}, [this] { ChooseView(ViewMode::LargeIcons); }},
         {ui_->mnuLvView_1, nullptr, {}, [this] { ChooseView(ViewMode::Details); }},
         {ui_->mnuLvView_2, nullptr, {}, [this] { ChooseView(ViewMode::SmallIcons); }},
@@ -269,7 +285,7 @@ void frmBigEditor::StateChanged() {
     const EditorState& state = editor_.State();
     SelectNode();
     for (QAction* action : {ui_->mnuSave, ui_->mnuSaveAs, ui_->mnuFileVersion, ui_->mnuAdd, ui_->mnuDelete,
-                            ui_->mnuExtract, ui_->mnuNewFolder})
+                            ui_->mnuExtract, ui_->mnuNewFolder, ui_->mnuFind, ui_->mnuRename, ui_->mnuUp})
         action->setEnabled(state.ArchiveOpen);
     ui_->mnuModify->setEnabled(state.ModifyEnabled);
     ui_->mnuEdit->setEnabled(state.ArchiveOpen);
@@ -284,6 +300,10 @@ void frmBigEditor::StateChanged() {
     const QString tool = u"BIG Editor"_s;
     setWindowTitle(state.ArchiveOpen ? Paths::LastPart(mBIG::BigFileName) + u"[*] - "_s + tool : tool);
     setWindowModified(state.Modified);
+    if (search_ != nullptr)
+        search_->Follow();
+    NoteRecent();
+    FollowText();
 }
 
 void frmBigEditor::SelectNode() {
@@ -319,6 +339,13 @@ void frmBigEditor::GoTo(const ViewPlace& place) {
     Scroll(*ui_->tvDirs, place.TreeScroll);
 }
 
+void frmBigEditor::Reveal(const std::vector<int>& places) {
+    ui_->lvFiles->Select(places, places.back());
+    QAbstractItemView& list = *ui_->lvFiles->Current();
+    list.doItemsLayout();
+    list.scrollTo(ui_->lvFiles->Selection()->currentIndex());
+}
+
 void frmBigEditor::EditNode(int node) {
     const QModelIndex index = treeModel_->IndexOf(node);
     ui_->tvDirs->setFocus();
@@ -327,6 +354,9 @@ void frmBigEditor::EditNode(int node) {
 }
 
 void frmBigEditor::CommitEdit() {
+    // A command begins, and may put another file in the place of the one that a search has open.
+    if (search_ != nullptr)
+        search_->Stop();
     for (QAbstractItemView* view : {static_cast<QAbstractItemView*>(ui_->tvDirs), ui_->lvFiles->Current()}) {
         const QPointer<QLineEdit> field = view->viewport()->findChild<QLineEdit*>();
         if (field == nullptr)

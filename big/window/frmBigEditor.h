@@ -18,6 +18,7 @@
 class FileListModel;
 class FolderTreeModel;
 class QLabel;
+class frmSearch;
 
 namespace Ui {
 class frmBigEditor;
@@ -41,6 +42,8 @@ public:
     bool MayEnd() override { return editor_.MayEnd(); }
 
 protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -64,6 +67,7 @@ private:
     [[nodiscard]] std::vector<int> SelectedRows() const override;
     [[nodiscard]] ViewPlace Where() const override;
     void GoTo(const ViewPlace& place) override;
+    void Reveal(const std::vector<int>& places) override;
     void EditNode(int node) override;
     void CommitEdit() override;
     ExtractionTarget AskForFolder() override;
@@ -77,6 +81,12 @@ private:
     void ShowMenu(int place, QPoint globalPlace);
     void DragOut();
     void Delete();
+    void Find();
+    void GoUp();
+    void Rename();
+    void ShowRecent();
+    void NoteRecent();
+    void FollowText();
     void RenameNodes();
     void TellSelection();
     void Later(const std::function<void()>& command);
@@ -89,6 +99,10 @@ private:
     BigEditor editor_;
     FolderTreeModel* treeModel_;
     FileListModel* listModel_;
+    BigEntry texted_;                              ///< the entry whose text stands in the text pane
+    mBIG::Identity textedIn_;                      ///< its archive
+    mBIG::Identity noted_;                         ///< the archive that stands first among the recent files
+    frmSearch* search_ = nullptr;                  ///< made when it is first wanted
     QLabel* status_;                               ///< the status bar's text
     QLabel* selection_;                            ///< how many rows there are and are selected
     std::vector<std::pair<int, QString>> renames_; ///< nodes and their new texts, as soon as their edit has ended

@@ -5,6 +5,7 @@
 
 #include "core/FolderGateway.h"
 #include "core/Host.h"
+#include "core/LastTime.h"
 #include "core/mTraduction.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -12,7 +13,9 @@
 #include "ui/text/Localisation.h"
 #include "ui_frmBrowseForFolder.h"
 
+#include <QDir>
 #include <QTreeView>
+#include <QUrl>
 
 #include <utility>
 
@@ -34,12 +37,40 @@ frmBrowseForFolder::frmBrowseForFolder(QWidget* parent, std::unique_ptr<FileBoxS
     connect(ui_->cmdNewFolder, &QPushButton::clicked, this, &frmBrowseForFolder::MakeNewFolder);
     ui_->cfbFolders->Refresh();
     ui_->cfbFolders->SelectDocuments();
+    connect(ui_->txtPath, &QLineEdit::textEdited, this, &frmBrowseForFolder::TakeTyped);
+    // A click on the folder that is selected already brings the tree back into play.
+    connect(ui_->cfbFolders->View(), &QTreeView::clicked, this, &frmBrowseForFolder::ShowPath);
+    if (const QString last = LastTime::Folder(u"extract"_s); !last.isEmpty()) {
+        ui_->txtPath->setText(Paths::ToNative(last));
+        TakeTyped(ui_->txtPath->text());
+    }
     ui_->cfbFolders->setFocus();
 }
 
 frmBrowseForFolder::~frmBrowseForFolder() = default;
 
+void frmBrowseForFolder::TakeTyped(const QString& text) {
+    typed_ = true;
+    ui_->cmdOK->setEnabled(!text.trimmed().isEmpty());
+}
+
+QString frmBrowseForFolder::TypedFolder() const {
+    QString text = ui_->txtPath->text().trimmed();
+    // As programs that show folders put them on the clipboard.
+    if (text.size() > 1 && text.startsWith(u'"') && text.endsWith(u'"'))
+        text = text.sliced(1).chopped(1);
+    if (text.startsWith("file:"_L1))
+        text = QUrl(text).toLocalFile();
+    if (!QDir::isAbsolutePath(text))
+        return {};
+    QString folder = Paths::FromNative(QDir::toNativeSeparators(text));
+    if (!folder.endsWith(u'\\'))
+        folder += u'\\';
+    return Files::FileExists(folder.chopped(1)) && !Files::FolderExists(folder) ? QString() : folder;
+}
+
 void frmBrowseForFolder::ShowPath() {
+    typed_ = false;
     const QString path = ui_->cfbFolders->Path();
     // The top of the tree is no folder, and neither are network places that the machine does not have.
     ui_->cmdOK->setEnabled(!path.isEmpty());
@@ -48,9 +79,13 @@ void frmBrowseForFolder::ShowPath() {
 }
 
 void frmBrowseForFolder::Choose() {
-    target_.ExtractFolder = ui_->cfbFolders->Path();
+    target_.ExtractFolder = typed_ ? TypedFolder() : ui_->cfbFolders->Path();
+    if (target_.ExtractFolder.isEmpty() && typed_)
+        Host::Current().Message(GetText(u"NoFolderToWriteTo"_s).replace("%1"_L1, ui_->txtPath->text()),
+                                Host::Icon::Critical);
     if (target_.ExtractFolder.isEmpty())
         return;
+    LastTime::NoteFolder(u"extract"_s, target_.ExtractFolder);
     target_.ExtractCancelled = false;
     target_.RecreateFolders = ui_->ckCreateDirs->isChecked();
     accept();
@@ -70,7 +105,9 @@ void frmBrowseForFolder::MakeNewFolder() {
         return;
     try {
         const bool several = name->contains(u'\\') || name->contains(u'/');
-        const QString refusal = several ? u"is more than one name"_s : FolderGateway::RefusalOf(*name);
+        const QString refusal = FolderGateway::RefusalOf(*name);
+        if (several)
+            throw RuntimeError(ErrorNumber::PathFileAccess, GetText(u"MoreThanOneName"_s).replace("%1"_L1, *name));
         if (!refusal.isEmpty())
             throw RuntimeError(ErrorNumber::PathFileAccess, *name + u": "_s + refusal);
         Files::MakeFolder(ui_->cfbFolders->Path() + *name);

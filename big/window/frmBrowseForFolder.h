@@ -33,7 +33,11 @@ private:
     void Choose();
     void MakeNewFolder();
     void ShowPath();
+    void TakeTyped(const QString& text);
+    /// The folder that was typed or pasted, with its trailing backslash; empty for what can be none.
+    [[nodiscard]] QString TypedFolder() const;
 
     std::unique_ptr<Ui::frmBrowseForFolder> ui_;
     ExtractionTarget target_;
+    bool typed_ = false; ///< the path is the text's and not the tree's
 };

@@ -11,6 +11,7 @@
 #include "ui/list/RowListModel.h"
 #include "ui/text/Localisation.h"
 #include "ui/window/SideMenu.h"
+#include "ui/window/WindowPlace.h"
 #include "ui_frmCSFEditor.h"
 
 #include <QItemSelection>
@@ -45,6 +46,7 @@ frmCSFEditor::frmCSFEditor(QWidget* parent)
     ConnectControls();
     StateChanged();
     editor_.TellLeft();
+    WindowPlace::Remember(*this);
     KeepFromTimeToTime([this] { return editor_.KeepRescue(); });
 }
 

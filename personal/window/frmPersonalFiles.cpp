@@ -12,6 +12,7 @@
 #include "ui/text/Localisation.h"
 #include "ui/text/Mnemonics.h"
 #include "ui/window/DroppedFiles.h"
+#include "ui/window/WindowPlace.h"
 #include "ui_frmPersonalFiles.h"
 
 #include <QApplication>
@@ -64,6 +65,7 @@ frmPersonalFiles::frmPersonalFiles(QWidget* parent)
     ConnectBoxes();
     Dress();
     setAcceptDrops(true);
+    WindowPlace::Remember(*this);
     files_.UseDecoder(&decoder_);
     files_.RebuildTree();
     StateChanged();

@@ -117,6 +117,13 @@ public:
         Selected = place.Selected;
     }
 
+    int Revealed = -1; ///< the last row that was brought into view
+
+    void Reveal(const std::vector<int>& places) override {
+        Revealed = places.back();
+        Selected = places;
+    }
+
     void EditNode(int node) override { Edited = node; }
 
     ExtractionTarget AskForFolder() override {

@@ -50,21 +50,19 @@ protected:
         Editor.Delete();
     }
 
-    void Add(const QString& name) {
-        Speaker.FileNames = {Place.WriteFile(name, "added")};
-        Editor.Add();
-    }
+    /// A file comes in, and the list is made anew.
+    void Drop(const QString& name) { Editor.DropFiles({Place.WriteFile(name, "added")}); }
 
     [[nodiscard]] QString Detailed() const { return State().DetailsVisible ? State().DetailsName : QString(); }
 };
 
 } // namespace
 
-TEST_F(KeptPlace, AddLeavesTheUserWhereHeIs) {
+TEST_F(KeptPlace, ADropLeavesTheUserWhereHeIs) {
     OpenData();
     Click(2);
     Be(2, {2, 3});
-    Add(u"new.txt"_s);
+    Drop(u"new.txt"_s);
     ExpectAt(2, {2, 3});
     EXPECT_EQ(Detailed(), u"b.csf"_s);
 }
@@ -135,7 +133,7 @@ TEST_F(KeptPlace, DetailsGoWithTheFolderAndWithTheOnlyRow) {
 
 TEST_F(KeptPlace, ANeighbourWhoseFileHasGoneIsNotShownAndStays) {
     OpenData();
-    Add(u"x.txt"_s);
+    Drop(u"x.txt"_s);
     Files::Delete(mBIG::BigEntries.back().SourcePath);
     Click(4);
     Delete();
@@ -149,13 +147,13 @@ TEST_F(KeptPlace, TheCurrentRowNeedNotBeASelectedOne) {
     OpenData();
     Click(2);
     Be(4, {1, 2});
-    Add(u"new.txt"_s);
+    Drop(u"new.txt"_s);
     ExpectAt(4, {1, 2});
     Be(3, {});
-    Add(u"newer.txt"_s);
+    Drop(u"newer.txt"_s);
     ExpectAt(3, {});
     Be(-1, {});
-    Add(u"newest.txt"_s);
+    Drop(u"newest.txt"_s);
     ExpectAt(-1, {});
 }
 
@@ -175,7 +173,7 @@ TEST_F(KeptPlace, AFolderThatIsDeletedInTheTreeLeavesNoRowSelected) {
 TEST_F(KeptPlace, OfEqualNamesEachStaysItself) {
     OpenArchive({{u"same"_s, "1"}, {u"SAME"_s, "2"}, {u"same"_s, "3"}, {u"last"_s, "4"}});
     Be(2, {1, 2});
-    Add(u"new.txt"_s);
+    Drop(u"new.txt"_s);
     EXPECT_EQ(View.Selected, Places({1, 2}));
     EXPECT_EQ(View.Place.Current, 2);
 }
@@ -184,7 +182,7 @@ TEST_F(KeptPlace, AFolderAndAFileOfOneNameAreTwo) {
     OpenArchive({{u"x\\in"_s, "1"}, {u"x"_s, "2"}, {u"y"_s, "3"}});
     ASSERT_EQ(Shown(), QStringList({u"x"_s, u"x"_s, u"y"_s}));
     Be(1, {1});
-    Add(u"new.txt"_s);
+    Drop(u"new.txt"_s);
     EXPECT_EQ(View.Selected, Places({1}));
 }
 
@@ -193,7 +191,7 @@ TEST_F(KeptPlace, SaveKeepsThePlaceAndHidesTheDetails) {
     Be(1, {1});
     Editor.ClickRow(1);
     Delete();
-    Add(u"z.txt"_s);
+    Drop(u"z.txt"_s);
     Click(3);
     Be(3, {0, 3});
     const QString status = State().StatusText;
@@ -317,8 +315,7 @@ TEST_F(KeptPlace, ARowThatASortPutsElsewhereStaysTheSelectedOne) {
     ASSERT_EQ(Shown(), QStringList({u"sub"_s, u"a.csf"_s, u"b.csf"_s, u"c.csf"_s, u"d.csf"_s}));
     Be(1, {1, 2});
     Speaker.Answers = {Answer::Yes};
-    Speaker.FileNames = {Place.WriteFile(u"a.csf"_s, "much more")};
-    Editor.Add();
+    Editor.DropFiles({Place.WriteFile(u"a.csf"_s, "much more")});
     ASSERT_EQ(Shown(), QStringList({u"sub"_s, u"b.csf"_s, u"c.csf"_s, u"d.csf"_s, u"a.csf"_s}));
     ExpectAt(4, {1, 4});
 }
@@ -341,7 +338,7 @@ TEST_F(KeptPlace, DroppedFilesAndFoldersLeaveTheUserWhereHeIs) {
 
 TEST_F(KeptPlace, ARowWhoseFileHasGoneLeavesTheSelectionToItsNeighbour) {
     OpenData();
-    Add(u"x.txt"_s);
+    Drop(u"x.txt"_s);
     Files::Delete(mBIG::BigEntries.back().SourcePath);
     Click(1);
     Click(5);

@@ -54,7 +54,7 @@ TEST_F(BigCommands, WrongUsageEndsWithTwo) {
 
 TEST_F(BigCommands, EachCommandHasItsHelp) {
     for (const QString& command : {u"list"_s, u"extract"_s, u"save"_s, u"create"_s, u"rename"_s, u"delete"_s,
-                                   u"verify"_s, u"repair"_s, u"preview"_s})
+                                   u"verify"_s, u"repair"_s, u"preview"_s, u"search"_s})
         EXPECT_TRUE(Output({u"big"_s, command, u"--help"_s}).contains("Usage")) << command.toStdString();
 }
 
@@ -94,6 +94,20 @@ TEST_F(BigCommands, ExtractTakesNamesAndPatterns) {
     EXPECT_FALSE(Files::FileExists(At(u"out\\a.ini"_s)));
     EXPECT_EQ(World::ReadFile(At(u"out\\Data\\b.t"_s)), "hi");
     EXPECT_TRUE(Failure({u"big"_s, u"extract"_s, Native(u"two.big"_s), Native(u"out"_s), u"none"_s}).contains("none"));
+}
+
+TEST_F(BigCommands, SearchPrintsNamesThatHoldTheTextOrFitThePattern) {
+    TwoEntries();
+    EXPECT_EQ(Output({u"big"_s, u"search"_s, Native(u"two.big"_s), u"A\\B"_s}), "Data\\b.t\n");
+    EXPECT_EQ(Output({u"big"_s, u"search"_s, Native(u"two.big"_s), u"*.i?i"_s}), "a.ini\n");
+    EXPECT_EQ(Output({u"big"_s, u"search"_s, Native(u"two.big"_s), u"hello"_s}), QByteArray());
+}
+
+TEST_F(BigCommands, SearchLooksIntoTextsWhenItIsAskedTo) {
+    TwoEntries();
+    EXPECT_EQ(Output({u"big"_s, u"search"_s, Native(u"two.big"_s), u"ELL"_s, u"--text"_s}), "a.ini\n");
+    EXPECT_EQ(Output({u"big"_s, u"search"_s, Native(u"two.big"_s), u"hi"_s, u"--text"_s}), QByteArray());
+    EXPECT_TRUE(Failure({u"big"_s, u"search"_s, Native(u"none.big"_s), u"x"_s}).contains("none.big"));
 }
 
 TEST_F(BigCommands, ExtractNeverLeavesTheFolderAndGoesOnWithTheRest) {

@@ -81,6 +81,15 @@ std::optional<QString> ScriptedHost::OpenFileName(const FileDialog& dialog) {
     return Next(FileNames, dialog.Title);
 }
 
+QStringList ScriptedHost::OpenFileNames(const FileDialog& dialog) {
+    if (FileLists.empty())
+        return Host::OpenFileNames(dialog);
+    Dialogs.push_back(dialog);
+    QStringList paths = FileLists.front();
+    FileLists.pop_front();
+    return paths;
+}
+
 std::optional<QString> ScriptedHost::SaveFileName(const FileDialog& dialog) {
     Dialogs.push_back(dialog);
     return Next(FileNames, dialog.Title);

@@ -30,6 +30,7 @@ public:
     std::deque<Answer> Answers;                    ///< for Message with more than one button
     std::deque<std::optional<QString>> InputTexts; ///< for InputBox
     std::deque<std::optional<QString>> FileNames;  ///< for OpenFileName and SaveFileName
+    std::deque<QStringList> FileLists;             ///< for OpenFileNames; without one it asks for one file
     std::deque<std::optional<QString>> Folders;    ///< for ChooseFolder
     std::vector<Shown> Messages;                   ///< every message box, in order
     QStringList Listed;                            ///< the text of the last list that can be copied, and its lines
@@ -57,6 +58,7 @@ public:
     std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& text) override;
     void Beep() override;
     std::optional<QString> OpenFileName(const FileDialog& dialog) override;
+    QStringList OpenFileNames(const FileDialog& dialog) override;
     std::optional<QString> SaveFileName(const FileDialog& dialog) override;
     std::optional<QString> ChooseFolder(const QString& title, const QString& folder) override;
     [[nodiscard]] std::unique_ptr<Progress> ShowProgress() override;

@@ -46,6 +46,21 @@ void RowListView::SetHint(const Hint& hint) {
     viewport()->update();
 }
 
+std::vector<int> RowListView::UserWidths() const {
+    std::vector<int> widths;
+    for (int column = 0; userSized_ && column < header()->count() - 1; ++column)
+        widths.push_back(header()->sectionSize(column));
+    return widths;
+}
+
+void RowListView::SetUserWidths(const std::vector<int>& widths) {
+    if (widths.empty() || static_cast<int>(widths.size()) != header()->count() - 1)
+        return;
+    for (int column = 0; column < header()->count() - 1; ++column)
+        header()->resizeSection(column, widths[static_cast<std::size_t>(column)]);
+    userSized_ = true;
+}
+
 void RowListView::SelectRow(int place) {
     setCurrentIndex(rows_->index(place, 0));
 }

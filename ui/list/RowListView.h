@@ -11,6 +11,7 @@
 #include <QTreeView>
 
 #include <functional>
+#include <vector>
 
 class RowListModel;
 
@@ -27,6 +28,11 @@ public:
 
     /// What stands in the list's place while it has no rows.
     void SetHint(const Hint& hint);
+
+    /// The columns' widths but the last one's, where the user has sized them; none otherwise.
+    [[nodiscard]] std::vector<int> UserWidths() const;
+    /// Takes them as the user's; none, or another number of them, leaves the columns as they are.
+    void SetUserWidths(const std::vector<int>& widths);
 
     /// Makes a row the only selected one, and scrolls to it. None for a place that is none.
     void SelectRow(int place);

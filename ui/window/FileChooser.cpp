@@ -48,16 +48,20 @@ QString Chosen(const QFileDialog& dialog) {
     return QDir::toNativeSeparators(dialog.selectedFiles().value(0));
 }
 
-std::optional<QString> Ask(QWidget* owner, const Host::FileDialog& wanted, QFileDialog::AcceptMode mode) {
-    Chooser dialog(owner, wanted.Title);
+void SetUp(Chooser& dialog, const Host::FileDialog& wanted, QFileDialog::AcceptMode mode, QFileDialog::FileMode files) {
     dialog.setAcceptMode(mode);
-    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setFileMode(files);
     dialog.setNameFilters(ToNameFilters(wanted.Filter));
     dialog.setDefaultSuffix(wanted.DefaultExtension);
     if (!wanted.Folder.isEmpty())
         dialog.setDirectory(Paths::ToNative(wanted.Folder));
     if (!wanted.DefaultName.isEmpty())
         dialog.selectFile(Paths::ToNative(wanted.DefaultName));
+}
+
+std::optional<QString> Ask(QWidget* owner, const Host::FileDialog& wanted, QFileDialog::AcceptMode mode) {
+    Chooser dialog(owner, wanted.Title);
+    SetUp(dialog, wanted, mode, mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     while (dialog.exec() == QDialog::Accepted) {
         const QString chosen = Chosen(dialog);
         if (chosen.isEmpty())
@@ -75,6 +79,16 @@ std::optional<QString> Ask(QWidget* owner, const Host::FileDialog& wanted, QFile
 
 std::optional<QString> FileChooser::FileToOpen(QWidget* owner, const Host::FileDialog& wanted) {
     return Ask(owner, wanted, QFileDialog::AcceptOpen);
+}
+
+QStringList FileChooser::FilesToOpen(QWidget* owner, const Host::FileDialog& wanted) {
+    Chooser dialog(owner, wanted.Title);
+    SetUp(dialog, wanted, QFileDialog::AcceptOpen, QFileDialog::ExistingFiles);
+    QStringList paths;
+    if (dialog.exec() == QDialog::Accepted)
+        for (const QString& chosen : dialog.selectedFiles())
+            paths += Paths::FromNative(QDir::toNativeSeparators(chosen));
+    return paths;
 }
 
 std::optional<QString> FileChooser::FileToSave(QWidget* owner, const Host::FileDialog& wanted) {

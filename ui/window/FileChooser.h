@@ -12,6 +12,7 @@ namespace FileChooser {
 
 /// Inside paths; nothing when cancelled.
 std::optional<QString> FileToOpen(QWidget* owner, const Host::FileDialog& wanted);
+QStringList FilesToOpen(QWidget* owner, const Host::FileDialog& wanted);
 std::optional<QString> FileToSave(QWidget* owner, const Host::FileDialog& wanted);
 
 /// As Host::ChooseFolder.

@@ -5,6 +5,7 @@
 
 #include "core/mTraduction.h"
 #include "ui/text/Localisation.h"
+#include "ui/text/Mnemonics.h"
 #include "ui/window/FileChooser.h"
 #include "ui/window/frmLeftOut.h"
 #include "ui/window/frmProgress.h"
@@ -129,8 +130,10 @@ public:
     void Release() override { released_ = true; }
 
     ~WindowProgress() override {
-        if (released_)
-            left_ = std::move(window_);
+        if (!released_)
+            return;
+        window_->LetGo();
+        left_ = std::move(window_);
     }
 
 private:
@@ -153,8 +156,13 @@ Host::Answer WindowHost::Message(const QString& text, Icon icon, Buttons buttons
     box.setText(mTraduction::DisplayText(text));
     box.setIcon(SignOf(icon));
     const QList<Choice> choices = ChoicesOf(buttons);
+    QStringList texts;
+    for (const Choice& choice : choices)
+        texts += mTraduction::GetText(choice.Key);
+    if (texts.size() > 1)
+        texts = Mnemonics::Spread(texts); // a box takes the letter without the Alt key, too
     for (const Choice& choice : choices) {
-        box.addButton(choice.Button)->setText(mTraduction::GetText(choice.Key));
+        box.addButton(choice.Button)->setText(texts.takeFirst());
         if (choice.Means == defaultAnswer.value_or(choices.constFirst().Means))
             box.setDefaultButton(choice.Button);
     }
@@ -188,6 +196,10 @@ void WindowHost::Beep() {
 
 std::optional<QString> WindowHost::OpenFileName(const FileDialog& dialog) {
     return FileChooser::FileToOpen(Owner(), dialog);
+}
+
+QStringList WindowHost::OpenFileNames(const FileDialog& dialog) {
+    return FileChooser::FilesToOpen(Owner(), dialog);
 }
 
 std::optional<QString> WindowHost::SaveFileName(const FileDialog& dialog) {

@@ -21,6 +21,7 @@ public:
     std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& text) override;
     void Beep() override;
     std::optional<QString> OpenFileName(const FileDialog& dialog) override;
+    QStringList OpenFileNames(const FileDialog& dialog) override;
     std::optional<QString> SaveFileName(const FileDialog& dialog) override;
     std::optional<QString> ChooseFolder(const QString& title, const QString& folder) override;
     [[nodiscard]] std::unique_ptr<Progress> ShowProgress() override;

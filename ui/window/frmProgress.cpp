@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QShowEvent>
 
@@ -27,7 +28,7 @@ frmProgress::frmProgress(QWidget* parent) : QWidget(parent, Qt::Dialog), ui_(std
     timer_.setObjectName(u"Timer1"_s);
     timer_.setParent(this);
     connect(&timer_, &QTimer::timeout, this, &QWidget::raise);
-    connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmProgress::Cancel);
+    connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmProgress::PressCancel);
 }
 
 frmProgress::~frmProgress() = default;
@@ -43,6 +44,19 @@ void frmProgress::SetValue(int percent) {
 void frmProgress::Cancel() {
     timer_.stop();
     cancelled_ = true;
+}
+
+void frmProgress::PressCancel() {
+    Cancel();
+    if (letGo_)
+        close();
+}
+
+void frmProgress::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel))
+        PressCancel();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void frmProgress::StopTimer() {

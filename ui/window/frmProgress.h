@@ -32,12 +32,19 @@ public:
     /// The window comes to the front by itself no longer.
     void StopTimer();
 
+    /// Nobody works behind the window any more: what cancels it closes it.
+    void LetGo() { letGo_ = true; }
+
 protected:
     void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void PressCancel();
+
     std::unique_ptr<Ui::frmProgress> ui_;
     QTimer timer_; ///< brings the window to the front at each tick
     bool cancelled_ = false;
+    bool letGo_ = false;
 };

@@ -280,13 +280,16 @@ private Q_SLOTS:
     }
 
     void theStatusBarCountsRowsAndSelection() {
-        world_->UseLanguage("[LNG]\r\nRowCount=%1 rows\r\nRowsSelected=%1 chosen, %2\r\nKiloBytes=KB\r\n");
+        world_->UseLanguage(
+            "[LNG]\r\nRowCount=%1 rows\r\nRowsSelected=%1 chosen, %2\r\nFoldersSelected=%1 chosen\r\nKiloBytes=KB\r\n");
         world_->Start();
         Open();
         const auto told = [this] { return Part<QLabel>("lblSelection")->text(); };
         QCOMPARE(told(), QString());
         Work();
         QCOMPARE(told(), u"2 rows"_s);
+        ClickRow(0);
+        QCOMPARE(told(), u"1 chosen"_s); // a folder has no size
         Select(u"data\\"_s);
         List()->selectAll();
         QCOMPARE(told(), u"2 chosen, 2 KB"_s);

@@ -6,6 +6,7 @@
 #include "tests/windows/EveryWay.h"
 #include "tests/windows/big/BigEditorWindow.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -88,6 +89,12 @@ private:
             {"mnuDelete", 2, [this] { SelectFile(), host_->Answers = {Answer::Yes}; },
              [this] { return Rows() == QStringList{u"data"_s}; }},
             {"mnuNewFolder", 6, [] {}, [this] { return Tree()->currentIndex().data() == u"New Folder1"_s; }},
+            {"mnuRename", -1, [this] { SelectFile(); },
+             [this] { return Files()->Current()->viewport()->findChild<QLineEdit*>() != nullptr; }},
+            {"mnuUp", -1, [this] { Select(u"data\\"_s); },
+             [this] { return Tree()->currentIndex().data() == u"b.big"_s; }},
+            {"mnuText", -1, [] {}, [this] { return Part<QWidget>("txtText")->isVisible(); }},
+            {"mnuFind", -1, [] {}, [this] { return window_->findChild<QWidget*>(u"frmSearch"_s)->isVisible(); }},
             View("mnuLvView_0", ViewMode::LargeIcons),
             View("mnuLvView_1", ViewMode::Details),
             View("mnuLvView_2", ViewMode::SmallIcons),

@@ -113,6 +113,56 @@ private Q_SLOTS:
         QVERIFY(window_->Target().RecreateFolders);
     }
 
+    void aPathCanBeTypedOrPasted_data() {
+        QTest::addColumn<QString>("form");
+        QTest::newRow("plain") << u"%1"_s;
+        QTest::newRow("with a separator and blanks") << u"  %1/ "_s;
+        QTest::newRow("in quotes") << u"\"%1\""_s;
+        QTest::newRow("address") << u"file://%1"_s;
+    }
+
+    void aPathCanBeTypedOrPasted() {
+        QFETCH(QString, form);
+        if (form.startsWith("file:"_L1) && !Paths::ToNative(world_->Root()).startsWith(u'/'))
+            form = u"file:///%1"_s;
+        Type(form.arg(Paths::ToNative(world_->Root() + u"\\new one"_s)));
+        QTest::keyClick(Part<QLineEdit>("txtPath"), Qt::Key_Return);
+        QCOMPARE(window_->result(), int{QDialog::Accepted});
+        QCOMPARE(window_->Target().ExtractFolder, world_->Root() + u"\\new one\\"_s);
+    }
+
+    void whatCanBeNoFolderIsNotTaken() {
+        for (const QString& path : {u"relative"_s, Paths::ToNative(world_->WriteFile(u"file.txt"_s, "x"))}) {
+            host_->Messages.clear();
+            Type(path);
+            Part<QPushButton>("cmdOK")->click();
+            QVERIFY(window_->isVisible());
+            QVERIFY(window_->Target().ExtractCancelled);
+            QCOMPARE(host_->Messages.size(), 1U);
+        }
+        Type(u" "_s);
+        QVERIFY(!Part<QPushButton>("cmdOK")->isEnabled());
+    }
+
+    void aClickInTheTreeTakesThePlaceOfWhatWasTyped() {
+        Type(Paths::ToNative(world_->Root() + u"\\new one"_s));
+        QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, View()->visualRect(View()->currentIndex()).center());
+        QCOMPARE(Part<QLineEdit>("txtPath")->text(), Paths::ToNative(world_->Root() + u'\\'));
+        Part<QPushButton>("cmdOK")->click();
+        QCOMPARE(window_->Target().ExtractFolder, world_->Root() + u'\\');
+    }
+
+    void theLastPlaceIsOfferedFirst() {
+        const QString place = Paths::Folder(world_->WriteFile(u"last\\x"_s, "x"));
+        Type(Paths::ToNative(place));
+        Part<QPushButton>("cmdOK")->click();
+        window_ = std::make_unique<frmBrowseForFolder>(nullptr, std::make_unique<ScriptedMachine>());
+        window_->show();
+        QCOMPARE(Part<QLineEdit>("txtPath")->text(), Paths::ToNative(place));
+        Part<QPushButton>("cmdOK")->click();
+        QCOMPARE(window_->Target().ExtractFolder, place);
+    }
+
     void theTopOfTheTreeAndAMissingNetworkCantBeChosen() {
         for (const QModelIndex& node : {View()->model()->index(0, 0), Below(View()->model()->index(0, 0), 1)}) {
             Select(node);
@@ -134,11 +184,12 @@ private Q_SLOTS:
 
     void theTabKeyGoesFromTheTreeToTheButtons() {
         QStringList order;
-        for (int press = 0; press < 5; ++press) {
+        for (int press = 0; press < 6; ++press) {
             order += window_->focusWidget()->objectName();
             QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
         }
-        QCOMPARE(order, QStringList({u"trv_File"_s, u"ckCreateDirs"_s, u"cmdNewFolder"_s, u"cmdOK"_s, u"cmdCancel"_s}));
+        QCOMPARE(order, QStringList({u"trv_File"_s, u"txtPath"_s, u"ckCreateDirs"_s, u"cmdNewFolder"_s, u"cmdOK"_s,
+                                     u"cmdCancel"_s}));
     }
 
     void aNewFolderIsMadeOnDiskAndSelected() {
@@ -181,6 +232,12 @@ private:
     template <typename Control>
     Control* Part(const char* name) {
         return window_->findChild<Control*>(QString::fromLatin1(name));
+    }
+
+    void Type(const QString& path) {
+        Part<QLineEdit>("txtPath")->setFocus();
+        Part<QLineEdit>("txtPath")->selectAll();
+        QTest::keyClicks(Part<QLineEdit>("txtPath"), path);
     }
 
     CoolFileBox* Box() { return Part<CoolFileBox>("cfbFolders"); }

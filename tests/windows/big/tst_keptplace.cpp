@@ -96,8 +96,8 @@ private:
     }
 
     void AddFile() {
-        host_->FileNames = {world_->WriteFile(u"zz new.txt"_s, "new")};
-        QTest::keyClick(List(), Qt::Key_Insert);
+        Q_EMIT Files()->FilesDropped({world_->WriteFile(u"zz new.txt"_s, "new")});
+        QTRY_VERIFY(Row(u"zz new.txt"_s).isValid());
     }
 
     static QString CloseMenu() {

@@ -102,6 +102,25 @@ private Q_SLOTS:
         QVERIFY(window_->isVisible());
     }
 
+    void escapeCancelsToo() {
+        Open();
+        QTest::keyClick(Part<QPushButton>("cmdCancel"), Qt::Key_Escape);
+        QVERIFY(window_->Cancelled());
+        QVERIFY(window_->isVisible());
+    }
+
+    void aWindowThatWasLeftIsClosedByItsButtonAndByEscape() {
+        for (const bool byKey : {false, true}) {
+            Open();
+            window_->LetGo();
+            if (byKey)
+                QTest::keyClick(Part<QPushButton>("cmdCancel"), Qt::Key_Escape);
+            else
+                Part<QPushButton>("cmdCancel")->click();
+            QVERIFY(!window_->isVisible());
+        }
+    }
+
     void closingTheWindowCancelsToo() {
         Open();
         window_->close();

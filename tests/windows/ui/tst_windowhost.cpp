@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "platform/RuntimeError.h"
+#include "tests/support/OwnLanguages.h"
 #include "tests/support/World.h"
 #include "tests/windows/WindowTests.h"
 #include "ui/look/Drawing.h"
@@ -91,7 +92,7 @@ private Q_SLOTS:
         QFETCH(Host::Answer, answer);
         WhenUp<QMessageBox>([&](QMessageBox* box) {
             for (QAbstractButton* choice : box->buttons())
-                if (choice->text() == button)
+                if (choice->text().remove(u'&') == button)
                     return choice->click();
             QFAIL("no such button");
         });
@@ -104,7 +105,7 @@ private Q_SLOTS:
             QStringList texts;
             WhenUp<QMessageBox>([&, button = button](QMessageBox* box) {
                 for (const QAbstractButton* choice : box->buttons())
-                    texts += choice->text();
+                    texts += choice->text().remove(u'&');
                 box->button(button)->click();
             });
             QCOMPARE(host_->Message(u"?"_s, Host::Icon::Exclamation, Host::Buttons::SaveCancel, u"t"_s), answer);
@@ -126,6 +127,29 @@ private Q_SLOTS:
         QFETCH(Host::Answer, answer);
         WhenUp<QMessageBox>([](QMessageBox* box) { QTest::keyClick(box, Qt::Key_Escape); });
         QCOMPARE(host_->Message(u"?"_s, Host::Icon::None, buttons, u"t"_s), answer);
+    }
+
+    void aLetterAloneAnswers_data() {
+        QTest::addColumn<QString>("language");
+        for (const QString& language : OwnLanguages::Names())
+            QTest::newRow(qPrintable(language)) << language;
+    }
+
+    void aLetterAloneAnswers() {
+        QFETCH(QString, language);
+        world_->UseOwnLanguage(language);
+        world_->Start();
+        for (const auto& [button, answer] :
+             {std::pair(QMessageBox::Yes, Host::Answer::Yes), std::pair(QMessageBox::No, Host::Answer::No),
+              std::pair(QMessageBox::Cancel, Host::Answer::Cancel)}) {
+            WhenUp<QMessageBox>([button = button](QMessageBox* box) {
+                const QKeySequence keys = box->button(button)->shortcut();
+                if (keys.isEmpty())
+                    return box->close(), QTest::qFail("no letter", __FILE__, __LINE__);
+                QTest::keyClick(box, static_cast<Qt::Key>(keys[0].key()));
+            });
+            QCOMPARE(host_->Message(u"?"_s, Host::Icon::Question, Host::Buttons::YesNoCancel, u"t"_s), answer);
+        }
     }
 
     void aQuestionOfYesOrNoWaitsForOneOfTheTwo() {
