@@ -222,6 +222,7 @@ Command DiffCommand() {
              {Kind::Place, "B"},
              {Kind::Flag, "--ignore-order", "Another order is no difference"},
              {Kind::Flag, "--json", "Print JSON"},
+             CodePageOption(),
              EightBit()},
             Comparing(Diff)};
 }

@@ -52,7 +52,8 @@ void Export(const Arguments& given) {
     const CsfTable table = ReadTableFile(given, "FILE").Table;
     const CsfExchange::Format format = FormatOfPlace(given, "OUT");
     CsfTable source;
-    CsfExchange::Wishes wishes{.Separator = SeparatorArgument(given)};
+    CsfExchange::Wishes wishes = WishesOf(given);
+    wishes.Separator = SeparatorArgument(given);
     if (given.Has("--source")) {
         if (format != CsfExchange::Format::Po)
             Fail(ShownPlace(given, "OUT"), u"only PO has a source"_s);
@@ -61,7 +62,7 @@ void Export(const Arguments& given) {
     }
     const QByteArray bytes = CsfExchange::Export(table, format, wishes);
     WritePlace(given, "OUT", bytes);
-    WarnOfMissing(table, CsfExchange::Import(bytes, format));
+    WarnOfMissing(table, CsfExchange::Import(bytes, format, nullptr, wishes));
 }
 
 /// Gives the entries of a table what another one holds of them, by name without regard to case and by how often that
@@ -92,7 +93,8 @@ CsfTable ReadForm(const Arguments& given, const std::string& place) {
     const QString shown = ShownPlace(given, place);
     QStringList notes;
     try {
-        CsfTable table = CsfExchange::Import(ReadPlace(given, place), FormatOfPlace(given, place), &notes);
+        CsfTable table =
+            CsfExchange::Import(ReadPlace(given, place), FormatOfPlace(given, place), &notes, WishesOf(given));
         for (const QString& note : notes)
             Console::WriteError(Paths::EncodeNative(shown + u": "_s + note + u'\n'));
         return table;
@@ -142,6 +144,7 @@ Command ExportCommand() {
               .Name = "--separator",
               .Description = "Between the fields of a CSV",
               .Members = {"comma", "semicolon", "tab"}},
+             CodePageOption(),
              Format(),
              EightBit()},
             Export};
@@ -154,6 +157,7 @@ Command ImportCommand() {
              {Kind::Place, "TARGET"},
              {Kind::Option, "--into", "Change only what IN holds of this table, which TARGET may be", "BASE"},
              CsfLanguage(),
+             CodePageOption(),
              Format(),
              EightBit()},
             Import};

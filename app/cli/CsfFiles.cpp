@@ -5,7 +5,6 @@
 
 #include "app/cli/Output.h"
 #include "app/cli/StreamPlaces.h"
-#include "csf/exchange/CsfExchange.h"
 #include "platform/AnsiCodec.h"
 #include "platform/Console.h"
 #include "platform/Device.h"
@@ -26,7 +25,7 @@ bool FitsEightBits(const QString& text) {
 TableFile TableOf(const Arguments& given, const std::string& place, const QByteArray& bytes) {
     try {
         if (const auto format = CsfExchange::FormatOf(given.Text(place)))
-            return {.Table = CsfExchange::Import(bytes, *format),
+            return {.Table = CsfExchange::Import(bytes, *format, nullptr, WishesOf(given)),
                     .Whole = std::nullopt,
                     .HasLanguage = *format != CsfExchange::Format::Str};
         if (given.Has(EightBit().Name))
@@ -47,6 +46,20 @@ Parameter CsfLanguage() {
             .Description = "0 English, 2 German, 3 French, 8 Korean; a byte is stored",
             .Least = 0,
             .Most = 255};
+}
+
+Parameter CodePageOption() {
+    return {.What = Parameter::Kind::Number,
+            .Name = "--page",
+            .Description = "The code page of the games' own text where it is not UTF-8; 1252 without it",
+            .TypeName = "PAGE",
+            .Least = 1};
+}
+
+CsfExchange::Wishes WishesOf(const Arguments& given) {
+    CsfExchange::Wishes wishes;
+    wishes.Page = given.Number("--page").value_or(wishes.Page);
+    return wishes;
 }
 
 Parameter EightBit() {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "app/cli/Command.h"
+#include "csf/exchange/CsfExchange.h"
 #include "csf/format/CsfTable.h"
 #include "csf/format/CsfWhole.h"
 
@@ -25,6 +26,10 @@ Parameter EightBit();
 
 /// The option for the language's number.
 Parameter CsfLanguage();
+
+/// The option for the page of the games' own text, and what it says.
+Parameter CodePageOption();
+CsfExchange::Wishes WishesOf(const Arguments& given);
 
 /// Reads the file or stream that a place of the command line names: a table, or by its ending a form of one.
 TableFile ReadTableFile(const Arguments& given, const std::string& place);

@@ -157,21 +157,21 @@ QByteArray Export(const CsfTable& table, Format format, const Wishes& wishes) {
     case Format::Csv:
         return CsfFormats::ToCsv(table, wishes.Separator);
     case Format::Str:
-        return CsfFormats::ToStr(table);
+        return CsfFormats::ToStr(table, wishes.Page);
     case Format::Po:
         break;
     }
     return CsfFormats::ToPo(table, wishes.Source);
 }
 
-CsfTable Import(const QByteArray& bytes, Format format, QStringList* notes) {
+CsfTable Import(const QByteArray& bytes, Format format, QStringList* notes, const Wishes& wishes) {
     switch (format) {
     case Format::Json:
         return CsfFormats::FromJson(bytes);
     case Format::Csv:
         return CsfFormats::FromCsv(DecodeMarked(bytes), notes);
     case Format::Str:
-        return CsfFormats::FromStr(bytes);
+        return CsfFormats::FromStr(bytes, wishes.Page);
     case Format::Po:
         break;
     }

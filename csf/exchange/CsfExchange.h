@@ -28,6 +28,7 @@ enum class Format {
 std::optional<Format> FormatOf(const QString& path);
 
 struct Wishes {
+    int Page = 1252;                  ///< of the games' own text where it is not UTF-8
     QChar Separator = u',';           ///< between the fields of a CSV
     const CsfTable* Source = nullptr; ///< of a PO: what was translated. Its texts are the source texts then, and those
                                       ///< of the table the translations; what only one of the two has is marked
@@ -35,9 +36,9 @@ struct Wishes {
 
 QByteArray Export(const CsfTable& table, Format format, const Wishes& wishes = {});
 
-/// Raises 13 with the reason, and the line where there is one. What is passed over is told in `notes`, where there are
-/// any.
-CsfTable Import(const QByteArray& bytes, Format format, QStringList* notes = nullptr);
+/// Raises 13 with the reason, and the line where there is one; 5 for a page that the system lacks, as Export does. What
+/// is passed over is told in `notes`, where there are any.
+CsfTable Import(const QByteArray& bytes, Format format, QStringList* notes = nullptr, const Wishes& wishes = {});
 
 /// Line feed, tab, carriage return and backslash as `\n`, `\t`, `\r` and `\\`, other control characters as `\x1b`, for
 /// texts on one line.

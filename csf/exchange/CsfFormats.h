@@ -14,12 +14,12 @@ QByteArray ToJson(const CsfTable& table);
 QByteArray ToCsv(const CsfTable& table, QChar separator);
 /// `source` is the table that was translated, where there is one.
 QByteArray ToPo(const CsfTable& table, const CsfTable* source = nullptr);
-QByteArray ToStr(const CsfTable& table);
+QByteArray ToStr(const CsfTable& table, int page);
 
 CsfTable FromJson(const QByteArray& bytes);
 CsfTable FromCsv(const QString& text, QStringList* notes);
 CsfTable FromPo(const QByteArray& bytes, QStringList* notes = nullptr);
-CsfTable FromStr(const QByteArray& bytes);
+CsfTable FromStr(const QByteArray& bytes, int page);
 
 /// Raises 13 for a line, counted from 1.
 [[noreturn]] void Refuse(qsizetype line, const QString& reason);

@@ -5,7 +5,8 @@
 // may go over several lines, which are its line breaks then.
 
 #include "csf/exchange/CsfFormats.h"
-#include "platform/AnsiCodec.h"
+#include "platform/CodePage.h"
+#include "platform/RuntimeError.h"
 
 #include <utility>
 
@@ -14,6 +15,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QByteArrayView Utf8Mark("\xEF\xBB\xBF");
+constexpr int Utf8Page = 65001;
+
+void RequirePage(int page) {
+    if (!CodePage::Decode(page, {}))
+        throw RuntimeError(ErrorNumber::InvalidCall, u"the system has no code page %1"_s.arg(page));
+}
 
 bool IsBlank(QChar letter) {
     return letter == u' ' || letter == u'\t' || letter == u'\r' || letter == u'\n';
@@ -95,7 +102,8 @@ QString Quoted(const QString& value) {
 
 namespace CsfFormats {
 
-QByteArray ToStr(const CsfTable& table) {
+QByteArray ToStr(const CsfTable& table, int page) {
+    RequirePage(page);
     QString text;
     for (auto entry = table.Strings.begin(); entry != table.Strings.end(); ++entry) {
         if (!entry->IsMore)
@@ -105,13 +113,15 @@ QByteArray ToStr(const CsfTable& table) {
         if (next == table.Strings.end() || !next->IsMore)
             text += u"END\r\n\r\n"_s;
     }
-    const bool fits = AnsiCodec::Decode(AnsiCodec::Encode(text)) == text;
-    return fits ? AnsiCodec::Encode(text) : Utf8Mark.toByteArray() + text.toUtf8();
+    const auto bytes = CodePage::Encode(page, text);
+    return bytes && page != Utf8Page ? *bytes : Utf8Mark.toByteArray() + text.toUtf8();
 }
 
-CsfTable FromStr(const QByteArray& bytes) {
+CsfTable FromStr(const QByteArray& bytes, int page) {
+    RequirePage(page);
     const bool isUtf8 = bytes.startsWith(Utf8Mark);
-    const QString text = isUtf8 ? QString::fromUtf8(bytes.sliced(Utf8Mark.size())) : AnsiCodec::Decode(bytes);
+    const QString text =
+        isUtf8 ? QString::fromUtf8(bytes.sliced(Utf8Mark.size())) : CodePage::Decode(page, bytes).value_or(QString());
     Scanner scanner(text);
     CsfTable table;
     while (scanner.FindNext()) {

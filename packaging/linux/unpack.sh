@@ -13,7 +13,7 @@ here=$(cd "$(dirname "$0")" && pwd)
 start=
 if [ $# -gt 0 ]; then
   target=$1
-elif [ "$(basename "$here")" = TempUpdater ] && [ -x "$(dirname "$here")/brindock" ]; then
+elif [ "$(basename "$here")" = TempUpdater ] && [ -f "$(dirname "$here")/brindock" ]; then
   target=$(dirname "$here")
   start=yes
 else

@@ -9,16 +9,22 @@
 
 #include <array>
 #include <memory>
+#include <utility>
 
 namespace {
 
 constexpr int Windows1252 = 1252;
 constexpr int Utf8 = 65001;
+constexpr const char* Utf16 = "UTF-16LE";
 
-/// The system's converter from a page.
+QByteArray NameOf(int page) {
+    return "CP" + QByteArray::number(page);
+}
+
+/// The system's converter between a page and text.
 class Converter {
 public:
-    explicit Converter(int page) : system_(::iconv_open("UTF-16LE", ("CP" + QByteArray::number(page)).constData())) {}
+    Converter(const QByteArray& to, const QByteArray& from) : system_(::iconv_open(to.constData(), from.constData())) {}
 
     ~Converter() {
         if (IsOpen())
@@ -54,6 +60,20 @@ public:
         return text;
     }
 
+    /// Nothing where the page lacks a letter.
+    std::optional<QByteArray> Encode(QStringView text) {
+        QByteArray given(reinterpret_cast<const char*>(text.utf16()), text.size() * qsizetype{sizeof(char16_t)});
+        constexpr qsizetype mostOfALetter = 4;
+        QByteArray bytes(text.size() * mostOfALetter, Qt::Uninitialized);
+        char* from = given.data();
+        std::size_t left = static_cast<std::size_t>(given.size());
+        char* to = bytes.data();
+        std::size_t room = static_cast<std::size_t>(bytes.size());
+        if (::iconv(system_, &from, &left, &to, &room) != 0)
+            return std::nullopt;
+        return bytes.first(to - bytes.data());
+    }
+
 private:
     iconv_t system_;
 };
@@ -65,6 +85,17 @@ std::optional<QString> CodePage::Decode(int page, QByteArrayView bytes) {
         return AnsiCodec::Decode(bytes);
     if (page == Utf8)
         return QString::fromUtf8(bytes);
-    Converter converter(page);
+    Converter converter(Utf16, NameOf(page));
     return converter.IsOpen() ? std::optional(converter.Decode(bytes)) : std::nullopt;
+}
+
+std::optional<QByteArray> CodePage::Encode(int page, QStringView text) {
+    if (page == Utf8)
+        return text.toUtf8();
+    if (page == Windows1252) {
+        QByteArray bytes = AnsiCodec::Encode(text);
+        return AnsiCodec::Decode(bytes) == text ? std::optional(std::move(bytes)) : std::nullopt;
+    }
+    Converter converter(NameOf(page), Utf16);
+    return converter.IsOpen() ? converter.Encode(text) : std::nullopt;
 }

@@ -92,3 +92,18 @@ TEST_F(CsfStreams, ATranslationIsACatalogueThatGettextTakes) {
     EXPECT_EQ(Contents(u"back.csf"_s), Contents(u"FR.csf"_s));
     EXPECT_TRUE(Failure({u"export"_s, french, Native(u"fr.json"_s), u"--source"_s, english}).contains("only PO"));
 }
+
+TEST_F(CsfStreams, TheGamesOwnTextIsReadAndWrittenInThePageThatIsNamed) {
+    // The Cyrillic capital letter Zhe, U+0416, is 0xC6 in Windows-1251.
+    Output({u"import"_s, Put(u"ru.str"_s, "a\n\"\xC6\"\nEND\n"), Native(u"ru.csf"_s), u"--page"_s, u"1251"_s});
+    EXPECT_EQ(Output({u"list"_s, Native(u"ru.csf"_s)}), "language 0\na\t\xD0\x96\n");
+    Output({u"export"_s, Native(u"ru.csf"_s), Native(u"back.str"_s), u"--page"_s, u"1251"_s});
+    EXPECT_EQ(Contents(u"back.str"_s), "a\r\n\"\xC6\"\r\nEND\r\n\r\n");
+    Output({u"export"_s, Native(u"ru.csf"_s), Native(u"utf.str"_s)});
+    EXPECT_EQ(Contents(u"utf.str"_s), "\xEF\xBB\xBF"
+                                      "a\r\n\"\xD0\x96\"\r\nEND\r\n\r\n")
+        << "1252 lacks the letter";
+    Output({u"diff"_s, Native(u"ru.csf"_s), Native(u"back.str"_s), u"--page"_s, u"1251"_s});
+    EXPECT_TRUE(Failure({u"export"_s, Native(u"ru.csf"_s), Native(u"no.str"_s), u"--page"_s, u"12"_s})
+                    .contains("no code page 12"));
+}
