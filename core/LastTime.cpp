@@ -50,7 +50,7 @@ void LastTime::Keep(const QString& key, const QJsonValue& value) {
 
 QStringList LastTime::Files(const QString& kind) {
     QStringList paths;
-    for (const QJsonValue& path : Of(u"files "_s + kind).toArray())
+    for (const auto& path : Of(u"files "_s + kind).toArray())
         if (path.isString() && paths.size() < MostFiles)
             paths += path.toString();
     return paths;

@@ -36,8 +36,19 @@ windows_picture() {
   wait "$program" 2>/dev/null || true
 }
 
+# in_locale LOCALE PAGE: the platform's tests on a system of another language, whose code page they hold against theirs.
+in_locale() {
+  wineserver -k || true
+  wineserver -w
+  LC_ALL=$1 BRINDOCK_TEST_ACP=$2 $wine64 "$windows_bin/platform_tests.exe" --gtest_brief=1
+  local code=$?
+  wineserver -k || true
+  wineserver -w
+  return $code
+}
+
 begin "Windows leg: packages"
-need_packages "${build_packages[@]}" g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest wine wine64
+need_packages "${build_packages[@]}" g++-mingw-w64-x86-64-posix libz-mingw-w64-dev googletest wine wine64 locales-all
 
 begin "Windows leg: build"
 BRINDOCK_WINDOWS_SDK=$(packaging/windows/sdk --where)
@@ -49,6 +60,8 @@ fresh_prefix
 
 begin "Windows leg: tests under Wine"
 run_tests windows
+check "Windows leg: a Japanese system" in_locale ja_JP.UTF-8 932
+check "Windows leg: a Polish system" in_locale pl_PL.UTF-8 1250
 
 start_display
 check "Windows leg: brindock.exe starts" windows_picture
