@@ -141,6 +141,7 @@ void Preview::ShowPicture(int index, const QString& rowText) {
     state_.GroupHeight = PictureHeight;
     state_.PictureShown = true;
     state_.PictureName = rowText;
+    state_.WholeSize = {};
     state_.Facts = {};
     state_.PictureUnread = false;
     constexpr int extension = 3;
@@ -181,6 +182,7 @@ void Preview::TakePicture() {
         return;
     state_.Bitmap = bitmap;
     state_.PictureSize = size;
+    state_.WholeSize = SizeOf(bitmap);
     state_.PictureUnread = false;
     Ignoring([&] {
         const QByteArray head = File::Open(source_, File::Access::Read).Read(0, PictureFacts::HeadLength);

@@ -24,6 +24,7 @@ struct PreviewState {
     QSize PictureSize;          ///< of Image8, pixels
     QString PictureName;        ///< of the row whose picture was asked for last
     bool PictureUnread = false; ///< that one can't be read: Image8 shows the one before
+    QSize WholeSize;            ///< of that one, empty until it has come
     PictureFacts Facts;         ///< of Image8, as long as it is that row's
     QString SoundFile;          ///< PreviewSoundFile: inside path of the temporary file, empty when there is none
 };
