@@ -5,8 +5,11 @@
 
 #include "app/cli/Output.h"
 #include "media/MediaProcess.h"
+#include "media/PngPicture.h"
+#include "platform/File.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "platform/WriteAside.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -44,6 +47,9 @@ bool DecodeToBitmap(const QString& picture, const QString& target) {
     const QString bitmap = Paths::FromNative(QDir::toNativeSeparators(folder.path())) + u"\\preview.out"_s;
     if (!Decode(picture, bitmap))
         return false;
-    Files::Copy(bitmap, target);
+    if (target.endsWith(".png"_L1, Qt::CaseInsensitive))
+        WriteWhole(target, PngPicture::FromBitmap(ReadWhole(bitmap)));
+    else
+        Files::Copy(bitmap, target);
     return true;
 }

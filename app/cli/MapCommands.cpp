@@ -48,7 +48,7 @@ void Preview(const Arguments& given) {
     const QString picture = MapFiles::Preview(map.Key, map.Text);
     if (picture.isEmpty())
         Fail(ListRows::PathOf(map), u"The map has no preview."_s);
-    if (!DecodeToBitmap(picture, given.Path("OUT.bmp")))
+    if (!DecodeToBitmap(picture, given.Path("OUT")))
         Fail(Paths::ToNative(picture), u"no picture that can be read"_s);
 }
 
@@ -63,7 +63,7 @@ std::vector<Command> MapCommands() {
               ListRows::Yes()},
              Delete},
             {"preview",
-             "Write the preview of a map as a bitmap of 32 bits a pixel",
-             {GameArgument::Word(), {Kind::Place, "NAME"}, {Kind::Place, "OUT.bmp"}},
+             "Write the preview of a map as a bitmap of 32 bits a pixel, or as a PNG where OUT ends in .png",
+             {GameArgument::Word(), {Kind::Place, "NAME"}, {Kind::Place, "OUT"}},
              Preview}};
 }

@@ -33,7 +33,7 @@ void SavePreview(const Arguments& given) {
     const QString inside = Paths::FromNative(QDir::toNativeSeparators(folder.path()));
     const QString source = u"picture."_s + Kind(name);
     ArchiveExtractor(archive.FileName, inside).Extract(entry, source);
-    if (!DecodeToBitmap(inside + u'\\' + source, given.Path("OUT.bmp")))
+    if (!DecodeToBitmap(inside + u'\\' + source, given.Path("OUT")))
         Fail(archive.FileName, u"%1 is no picture that can be read"_s.arg(name));
 }
 
@@ -42,7 +42,7 @@ void SavePreview(const Arguments& given) {
 std::vector<Command> PreviewCommands() {
     using enum Parameter::Kind;
     return {{"preview",
-             "Write the picture of an entry as a bitmap of 32 bits a pixel",
-             {{Place, "ARCHIVE"}, {Place, "NAME"}, {Place, "OUT.bmp"}},
+             "Write the picture of an entry as a bitmap of 32 bits a pixel, or as a PNG where OUT ends in .png",
+             {{Place, "ARCHIVE"}, {Place, "NAME"}, {Place, "OUT"}},
              SavePreview}};
 }

@@ -28,10 +28,6 @@ bool IsListed(QLatin1String list, const QString& name) {
     return list.contains(name.last(std::min<qsizetype>(name.size(), 4)).toLower() + u'/');
 }
 
-bool IsPicture(const QString& name) {
-    return IsListed(".bmp/.dds/.dib/.hdr/.jpg/.pfm/.png/.tga/.jpeg/.gif/"_L1, name);
-}
-
 bool IsSound(const QString& name) {
     return IsListed(".mp3/.wav/"_L1, name);
 }
@@ -116,6 +112,10 @@ void Preview::Clear() {
     HidePlayer();
 }
 
+bool Preview::IsPicture(const QString& rowText) {
+    return IsListed(".bmp/.dds/.dib/.hdr/.jpg/.pfm/.png/.tga/.jpeg/.gif/"_L1, rowText);
+}
+
 QSize Preview::Fit(QSize picture) {
     const int width = picture.width();
     const int height = picture.height();
@@ -140,6 +140,10 @@ void Preview::ShowPicture(int index, const QString& rowText) {
     HidePlayer();
     state_.GroupHeight = PictureHeight;
     state_.PictureShown = true;
+    state_.PictureName = rowText;
+    state_.WholeSize = {};
+    state_.Facts = {};
+    state_.PictureUnread = false;
     constexpr int extension = 3;
     if (decoder_ == nullptr || rowText.size() < extension)
         return;
@@ -153,38 +157,52 @@ void Preview::ShowPicture(int index, const QString& rowText) {
     });
     if (!allowed) {
         bitmap_.clear();
+        state_.PictureUnread = true;
         return;
     }
+    source_ = source;
     if (!entry.IsNew)
         ExtractTo(index, source);
     decoder_->Decode(source, bitmap_, [this](bool decoded) { PictureCame(decoded); });
 }
 
 void Preview::PictureCame(bool decoded) {
-    if (decoded) {
-        Ignoring([&] {
-            const QByteArray bitmap = ReadWhole(bitmap_);
-            const QSize size = Fit(SizeOf(bitmap));
-            if (size.isEmpty())
-                return; // what can't be loaded leaves the old picture
-            state_.Bitmap = bitmap;
-            state_.PictureSize = size;
-        });
-    }
+    state_.PictureUnread = true;
+    if (decoded)
+        Ignoring([&] { TakePicture(); });
+    DeletePictureFiles();
+    changed_();
+}
+
+// What can't be loaded leaves the old picture.
+void Preview::TakePicture() {
+    const QByteArray bitmap = ReadWhole(bitmap_);
+    const QSize size = Fit(SizeOf(bitmap));
+    if (size.isEmpty())
+        return;
+    state_.Bitmap = bitmap;
+    state_.PictureSize = size;
+    state_.WholeSize = SizeOf(bitmap);
+    state_.PictureUnread = false;
+    Ignoring([&] {
+        const QByteArray head = File::Open(source_, File::Access::Read).Read(0, PictureFacts::HeadLength);
+        state_.Facts = PictureFacts::Of(head, state_.PictureName);
+    });
+}
+
+void Preview::DeletePictureFiles() {
     const QString bitmap = std::exchange(bitmap_, {});
     const QString extracted = std::exchange(extracted_, {});
     Ignoring([&] { Files::DeleteForced(bitmap); });
     if (!extracted.isEmpty())
         Ignoring([&] { Files::DeleteForced(extracted); });
-    if (decoded)
-        changed_();
 }
 
 void Preview::AbandonPicture() {
     if (bitmap_.isEmpty())
         return;
     decoder_->Abandon();
-    PictureCame(false);
+    DeletePictureFiles();
 }
 
 bool Preview::ShowSound(int index, const QString& rowText) {

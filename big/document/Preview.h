@@ -7,6 +7,7 @@
 
 #include "big/format/mBIG.h"
 #include "media/PictureDecoder.h"
+#include "media/PictureFacts.h"
 #include "media/SoundPlayer.h"
 
 #include <QByteArray>
@@ -16,12 +17,16 @@
 #include <functional>
 
 struct PreviewState {
-    int GroupHeight = 80;      ///< of mnuDetails, which decides what is seen
-    bool PictureShown = false; ///< Picture1
-    bool PlayerShown = false;  ///< MediaPlayer1, shown and enabled
-    QByteArray Bitmap;         ///< of Image8; empty before the first picture
-    QSize PictureSize;         ///< of Image8, pixels
-    QString SoundFile;         ///< PreviewSoundFile: inside path of the temporary file, empty when there is none
+    int GroupHeight = 80;       ///< of mnuDetails, which decides what is seen
+    bool PictureShown = false;  ///< Picture1
+    bool PlayerShown = false;   ///< MediaPlayer1, shown and enabled
+    QByteArray Bitmap;          ///< of Image8; empty before the first picture
+    QSize PictureSize;          ///< of Image8, pixels
+    QString PictureName;        ///< of the row whose picture was asked for last
+    bool PictureUnread = false; ///< that one can't be read: Image8 shows the one before
+    QSize WholeSize;            ///< of that one, empty until it has come
+    PictureFacts Facts;         ///< of Image8, as long as it is that row's
+    QString SoundFile;          ///< PreviewSoundFile: inside path of the temporary file, empty when there is none
 };
 
 class Preview {
@@ -47,6 +52,8 @@ public:
     /// No row is shown any more.
     void Clear();
 
+    /// Whether a row of that text has a picture.
+    static bool IsPicture(const QString& rowText);
     /// Fits a picture into a square of 105 on its longer side, a small picture too.
     static QSize Fit(QSize picture);
     /// The size that a bitmap's bytes tell; empty when they are none.
@@ -56,6 +63,8 @@ private:
     void ShowPicture(int index, const QString& rowText);
     bool ShowSound(int index, const QString& rowText);
     void PictureCame(bool decoded);
+    void TakePicture();
+    void DeletePictureFiles();
     void AbandonPicture();
     void DeleteSoundFile() const;
     void HidePlayer();
@@ -66,5 +75,6 @@ private:
     PreviewState state_;
     qint16 soundFileNumber_ = 0;
     QString extracted_; ///< temporary file of the decoding under way, empty when there is none
+    QString source_;    ///< what it reads
     QString bitmap_;    ///< the file that the decoding under way writes
 };

@@ -14,14 +14,22 @@ class PreviewPane : public QWidget {
 public:
     using QWidget::QWidget;
 
+    /// Makes the small picture one that can be clicked. To be called once, behind setupUi and ApplyLanguage.
+    void Dress();
+
     /// The player outlives the pane.
     void Use(SoundPlayer* player);
 
     /// Shows the state; a bitmap that can't be loaded leaves the old picture.
     void Follow(const PreviewState& state);
 
+Q_SIGNALS:
+    /// The small picture was clicked.
+    void PictureWanted();
+
 private:
     void ShowPicture(const PreviewState& state);
+    void TellPicture(const PreviewState& state);
 
     QByteArray shown_; ///< the bitmap of the picture that stands there
 };

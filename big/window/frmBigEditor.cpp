@@ -65,6 +65,8 @@ frmBigEditor::frmBigEditor(QWidget* parent)
     ui_->lvFiles->SetModel(listModel_);
     editor_.UsePreview(&decoder_, &player_);
     ui_->picDetails->Use(&player_);
+    ui_->picDetails->Dress();
+    connect(ui_->picDetails, &PreviewPane::PictureWanted, this, &frmBigEditor::ShowPicture);
     ConnectTree();
     ConnectList();
     ui_->mnuText->setChecked(LastTime::Of(u"big text"_s).toBool());
@@ -302,6 +304,7 @@ void frmBigEditor::StateChanged() {
     setWindowModified(state.Modified);
     if (search_ != nullptr)
         search_->Follow();
+    FollowPicture();
     NoteRecent();
     FollowText();
 }

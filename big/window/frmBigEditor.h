@@ -18,6 +18,7 @@
 class FileListModel;
 class FolderTreeModel;
 class QLabel;
+class frmPicture;
 class frmSearch;
 
 namespace Ui {
@@ -82,6 +83,9 @@ private:
     void DragOut();
     void Delete();
     void Find();
+    void ShowPicture();
+    void GoToPicture(int row);
+    void FollowPicture();
     void GoUp();
     void Rename();
     void ShowRecent();
@@ -103,6 +107,7 @@ private:
     mBIG::Identity textedIn_;                      ///< its archive
     mBIG::Identity noted_;                         ///< the archive that stands first among the recent files
     frmSearch* search_ = nullptr;                  ///< made when it is first wanted
+    frmPicture* picture_ = nullptr;                ///< likewise
     QLabel* status_;                               ///< the status bar's text
     QLabel* selection_;                            ///< how many rows there are and are selected
     std::vector<std::pair<int, QString>> renames_; ///< nodes and their new texts, as soon as their edit has ended

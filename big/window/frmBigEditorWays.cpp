@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// The ways to an archive and through it: recent files, files dropped on the window, the search, the folder above, the
-/// edit of a name, the text of an entry.
+/// edit of a name, the text of an entry, its picture in a window of its own.
 #include "big/window/frmBigEditor.h"
 
 #include "big/document/TextPreview.h"
+#include "big/window/frmPicture.h"
 #include "big/window/frmSearch.h"
 #include "core/LastTime.h"
 #include "platform/Files.h"
@@ -72,6 +73,29 @@ void frmBigEditor::Find() {
                 [this](int index, const QString& name) { editor_.GoToEntry(index, name); });
     }
     search_->Begin();
+}
+
+void frmBigEditor::ShowPicture() {
+    if (picture_ == nullptr) {
+        picture_ = new frmPicture(this);
+        connect(picture_, &frmPicture::RowWanted, this, &frmBigEditor::GoToPicture);
+    }
+    FollowPicture();
+    picture_->Begin();
+}
+
+// A row whose details can't be shown now is not selected either.
+void frmBigEditor::GoToPicture(int row) {
+    if (mBIG::ArchiveLock::IsHeld())
+        return;
+    CommitEdit();
+    Reveal({row});
+    editor_.ClickRow(row);
+}
+
+void frmBigEditor::FollowPicture() {
+    if (picture_ != nullptr)
+        picture_->Follow(editor_.Previewed(), PictureRows::PlaceOf(editor_.List(), editor_.DetailedEntry()));
 }
 
 // The commands act on what has the keyboard before and behind it.

@@ -45,6 +45,16 @@ TEST_F(PreviewCommand, WritesTheEntrysPictureAsABitmap) {
     EXPECT_TRUE(outcome.Output.isEmpty());
 }
 
+TEST_F(PreviewCommand, WritesAPngWhereTheTargetSaysSo) {
+    const Outcome outcome =
+        RunCommand({u"big"_s, u"preview"_s, Native(u"a.big"_s), u"art\\b.pfm"_s, Native(u"o.PNG"_s)});
+    EXPECT_EQ(outcome.Code, 0) << outcome.Error.constData();
+    const QByteArray png = World::ReadFile(world_.Root() + u"\\o.PNG"_s);
+    EXPECT_TRUE(png.startsWith("\x89PNG\r\n")) << png.size();
+    EXPECT_TRUE(png.contains(QByteArray("IHDR\0\0\0\1\0\0\0\1\x08\x06", 14)));
+    EXPECT_FALSE(Files::FileExists(world_.Root() + u"\\out.bmp"_s));
+}
+
 TEST_F(PreviewCommand, FailsInOneLineForWhatIsNoPictureOrNotThere) {
     for (const QString& name : {u"t.png"_s, u"e.tga"_s, u"none.tga"_s}) {
         const Outcome outcome = Run(name);
