@@ -24,14 +24,14 @@ using mTraduction::GetText;
 
 namespace {
 
-constexpr auto lastFolder = u"big add";
+constexpr auto addFolder = u"big add";
 
 Host::FileDialog AnyFileDialog() {
     return {.Title = GetText(u"Add"_s),
             .Filter = u"Tous les fichiers (*.*)|*.*"_s,
             .DefaultExtension = {},
             .DefaultName = {},
-            .Folder = LastTime::Folder(QString::fromUtf16(lastFolder))};
+            .Folder = LastTime::Folder(QString::fromUtf16(addFolder))};
 }
 
 QString WithoutTrailingBackslash(const QString& path) {
@@ -79,7 +79,7 @@ void FileAdding::Add() {
     const QStringList paths = Host::Current().OpenFileNames(AnyFileDialog());
     if (paths.isEmpty())
         return;
-    LastTime::NoteFolder(QString::fromUtf16(lastFolder), Paths::Folder(paths.first()));
+    LastTime::NoteFolder(QString::fromUtf16(addFolder), Paths::Folder(paths.first()));
     ArchiveEdits::DropResult result;
     std::vector<int> added;
     for (const QString& path : paths)
@@ -114,7 +114,7 @@ void FileAdding::ShowAdded(const std::vector<int>& indices) {
     if (places.empty())
         return;
     std::ranges::sort(places);
-    places.erase(std::ranges::unique(places).begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
     panes_.View.Reveal(places);
     if (panes_.Selected)
         panes_.Selected(places.back());

@@ -62,7 +62,7 @@ QString LanguageCode(int language) {
 
 std::optional<int> LanguageOf(QStringView code) {
     const auto isLetter = [](QChar letter) { return letter.isLetter(); };
-    const auto end = std::ranges::find_if_not(code, isLetter);
+    const auto* const end = std::ranges::find_if_not(code, isLetter);
     const QStringView plain = code.first(end - code.begin());
     const auto* const found =
         std::ranges::find_if(Languages, [&](const Language& language) { return plain == language.Code; });

@@ -71,7 +71,7 @@ void WindowPlace::Restore() {
     const QJsonObject columns = here.value("columns"_L1).toObject();
     for (RowListView* list : window_.findChildren<RowListView*>()) {
         std::vector<int> widths;
-        for (const QJsonValue& width : columns.value(list->objectName()).toArray())
+        for (const auto& width : columns.value(list->objectName()).toArray())
             widths.push_back(width.toInt());
         list->SetUserWidths(widths);
     }
