@@ -65,6 +65,7 @@ TEST_F(SearchBeside, CountsTextsThatCannotBeRead) {
 
 TEST_F(SearchBeside, CanBeGivenUpWhileItRuns) {
     std::vector<NamedBytes> entries;
+    entries.reserve(100);
     for (int i = 0; i < 100; ++i)
         entries.emplace_back(u"%1.ini"_s.arg(i), QByteArray(200000, 'x'));
     OpenArchive(entries);

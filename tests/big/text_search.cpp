@@ -131,7 +131,7 @@ TEST_F(TextSearching, FindsNoTextAcrossTwoEntries) {
 }
 
 TEST_F(TextSearching, FindsATextAcrossTheBlocksThatAreRead) {
-    constexpr qsizetype block = 256 * 1024;
+    constexpr qsizetype block = qsizetype{256} * 1024;
     std::vector<NamedBytes> entries;
     for (qsizetype at = block - 7; at <= block + 1; ++at)
         entries.emplace_back(u"%1.txt"_s.arg(at), QByteArray(at, 'x') + "needle" + QByteArray(block, 'y'));
@@ -168,6 +168,7 @@ TEST_F(TextSearching, LooksAtWhatIsThereOfACutEntry) {
 
 TEST_F(TextSearching, EndsWhenItIsAskedTo) {
     std::vector<NamedBytes> entries;
+    entries.reserve(50);
     for (int i = 0; i < 50; ++i)
         entries.emplace_back(u"%1.ini"_s.arg(i), QByteArray(500000, 'x'));
     const Archive archive = Read(entries);

@@ -108,6 +108,7 @@ private Q_SLOTS:
 
     void theButtonEndsASearchThatRuns() {
         std::vector<NamedBytes> entries;
+        entries.reserve(400);
         for (int i = 0; i < 400; ++i)
             entries.emplace_back(u"%1.ini"_s.arg(i), QByteArray(100000, 'x'));
         archive_ = world_->WriteFile(u"b.big"_s, ArchiveOf(entries));
@@ -122,6 +123,7 @@ private Q_SLOTS:
 
     void aCommandEndsASearchThatRuns() {
         std::vector<NamedBytes> entries;
+        entries.reserve(400);
         for (int i = 0; i < 400; ++i)
             entries.emplace_back(u"%1.ini"_s.arg(i), QByteArray(100000, 'x'));
         archive_ = world_->WriteFile(u"b.big"_s, ArchiveOf(entries));
