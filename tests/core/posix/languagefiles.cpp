@@ -4,6 +4,8 @@
 // The language files against the keys that code, forms and data use.
 
 #include "Places.h"
+#include "core/FirstLanguage.h"
+#include "core/Settings.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
 #include "platform/AnsiCodec.h"
@@ -247,6 +249,14 @@ TEST_P(LanguageFiles, AreEachChosenForALocale) {
     ASSERT_TRUE(locales.contains(language_)) << "no locale is known for " << At({});
     for (const QString& rest : {u""_s, u"_BR"_s, u".UTF-8"_s, u"_DE@euro"_s})
         EXPECT_EQ(ChosenLanguage(locales[language_] + rest), language_ + u".lng"_s);
+    // The packages' own table says the same.
+    const World world;
+    QFile table(QString::fromUtf8(Places::Sources) + u"/packaging/setup.cfg"_s);
+    ASSERT_TRUE(table.open(QIODevice::ReadOnly));
+    world.WriteFile(u"program\\setup.cfg"_s, table.readAll());
+    world.WriteFile(u"program\\%1.lng"_s.arg(language_), OwnLanguages::Bytes(language_));
+    FirstLanguage::Choose({locales[language_] + u"-XX"_s});
+    EXPECT_EQ(ReadSetting(u"TradFileName"_s), language_ + u".lng"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, LanguageFiles, testing::ValuesIn(OwnLanguages::Names()),

@@ -23,6 +23,16 @@ private:
         QVERIFY(QTest::qWaitForWindowActive(Search()));
     }
 
+    /// A search of this archive does not end before events are handled.
+    void OpenSearchThatTakesLong() {
+        std::vector<NamedBytes> entries;
+        entries.reserve(400);
+        for (int i = 0; i < 400; ++i)
+            entries.emplace_back(u"%1.ini"_s.arg(i), QByteArray(100000, 'x'));
+        archive_ = world_->WriteFile(u"b.big"_s, ArchiveOf(entries));
+        OpenSearch();
+    }
+
     frmSearch* Search() { return window_->findChild<frmSearch*>(); }
 
     QLineEdit* Field() { return Part<QLineEdit>("txtFind"); }
@@ -107,12 +117,7 @@ private Q_SLOTS:
     }
 
     void theButtonEndsASearchThatRuns() {
-        std::vector<NamedBytes> entries;
-        entries.reserve(400);
-        for (int i = 0; i < 400; ++i)
-            entries.emplace_back(u"%1.ini"_s.arg(i), QByteArray(100000, 'x'));
-        archive_ = world_->WriteFile(u"b.big"_s, ArchiveOf(entries));
-        OpenSearch();
+        OpenSearchThatTakesLong();
         LookFor(u"needle"_s, true);
         QCOMPARE(Button()->text(), u"Abbruch"_s);
         QVERIFY(Told().endsWith(u"%, 0 da"_s));
@@ -122,12 +127,7 @@ private Q_SLOTS:
     }
 
     void aCommandEndsASearchThatRuns() {
-        std::vector<NamedBytes> entries;
-        entries.reserve(400);
-        for (int i = 0; i < 400; ++i)
-            entries.emplace_back(u"%1.ini"_s.arg(i), QByteArray(100000, 'x'));
-        archive_ = world_->WriteFile(u"b.big"_s, ArchiveOf(entries));
-        OpenSearch();
+        OpenSearchThatTakesLong();
         LookFor(u"needle"_s, true);
         Part<QAction>("mnuNewFolder")->trigger();
         QCOMPARE(Button()->text(), u"Suchen"_s);
