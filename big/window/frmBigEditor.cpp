@@ -100,6 +100,7 @@ void frmBigEditor::Dress() {
     status_->setTextFormat(Qt::PlainText);
     status_->setContentsMargins(6, 0, 0, 0);
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name never widens the window
+    ui_->StatusBar1->setAccessibleName(mTraduction::GetText(u"BIGFile"_s));
     ui_->StatusBar1->addWidget(status_, 1);
     status_->setObjectName(u"lblStatus"_s);
     selection_->setObjectName(u"lblSelection"_s);

@@ -85,6 +85,7 @@ void frmPersonalFiles::Dress() {
     status_->setObjectName(u"lblStatus"_s);
     status_->setTextFormat(Qt::PlainText);
     status_->setContentsMargins(6, 0, 0, 0);
+    ui_->StatusBar1->setAccessibleName(mTraduction::GetText(u"PersonalFiles"_s));
     ui_->StatusBar1->addWidget(status_, 1);
     UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2});
     ShareActions();

@@ -5,6 +5,7 @@
 #include "tests/windows/big/BigEditorWindow.h"
 
 #include <QMenuBar>
+#include <QStatusBar>
 
 using namespace Qt::StringLiterals;
 
@@ -224,6 +225,7 @@ private Q_SLOTS:
         Open();
         QVERIFY(!Tree()->accessibleName().isEmpty());
         QVERIFY(!Files()->Current()->accessibleName().isEmpty());
+        QVERIFY(!Part<QStatusBar>("StatusBar1")->accessibleName().isEmpty());
     }
 };
 

@@ -157,7 +157,7 @@ private Q_SLOTS:
         Begin();
         Open();
         for (const char* const name :
-             {"tvFiles", "lstReplays", "lstMaps", "lstMods", "lstShellMaps", "tvPlayers", "Image2"})
+             {"tvFiles", "lstReplays", "lstMaps", "lstMods", "lstShellMaps", "tvPlayers", "Image2", "StatusBar1"})
             QVERIFY2(!Part<QWidget>(name)->accessibleName().isEmpty(), name);
         for (const char* const name :
              {"tvFiles", "tvPlayers", "txtMName", "txtMComments", "Label2_0", "Label2_1", "Label2_2"})
