@@ -19,7 +19,7 @@ if(BRINDOCK_FUZZ)
   target_compile_options(house INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(WIN32)
-  target_link_options(house INTERFACE -static -s -Wl,--gc-sections)
+  target_link_options(house INTERFACE -static -s -Wl,--gc-sections -Wl,--no-insert-timestamp)
 endif()
 
 # room_logic(name sources...): plain logic, Qt Core only.
