@@ -297,8 +297,11 @@ void CsfWhole::TakeFrom(const CsfTable& table, const std::vector<std::size_t>& o
         else if (newPlaces[place] > 0)
             last = newPlaces[place];
     }
-    std::ranges::stable_sort(placed, {}, &Placed::Order);
+    // Few tables have such labels, and moving all records costs more than a look.
+    if (!std::ranges::is_sorted(placed, {}, &Placed::Order))
+        std::ranges::stable_sort(placed, {}, &Placed::Order);
     records_.clear();
+    records_.reserve(placed.size());
     for (Placed& next : placed) {
         CsfString& entry = next.Is.Entry;
         entry.IsMore =
