@@ -64,6 +64,19 @@ need_packages() {
     fail "apt-get could not install them; its words are in ${TMPDIR:-/tmp}/brindock-apt.log"
 }
 
+# debian_places deb|deb-src: the places that the system's own sources name for Debian's packages, as lines for apt; the main
+# one first, as not every mirror holds the sources of the others.
+debian_places() {
+  local keys=/usr/share/keyrings/debian-archive-keyring.gpg
+  places() {
+    apt-get indextargets --format "$1 [signed-by=$keys] \$(REPO_URI) \$(CODENAME) \$(COMPONENT)" \
+      'Created-By: Packages' 'Origin: Debian' | sort -ru
+  }
+  # A new system has no lists yet, and apt tells of no place without them.
+  [ -n "$(places "$1")" ] || as_root apt-get update -qq || fail "apt-get update failed: is the network there?"
+  places "$1" | grep . || fail "the system's apt sources name no place of Debian's packages"
+}
+
 # build PRESET [TARGET...]: configures and builds.
 build() {
   local preset=$1 log=$root/build/$1-configure.log
