@@ -6,16 +6,16 @@
 #include "app/cli/Output.h"
 #include "app/cli/StreamPlaces.h"
 #include "csf/exchange/CsfExchange.h"
+#include "csf/exchange/KeyedEntries.h"
 #include "platform/Console.h"
 #include "platform/Paths.h"
 #include "platform/Streams.h"
 
-#include <QHash>
 #include <QStringList>
 
+#include <cstddef>
 #include <optional>
 #include <string>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 using CsfExchange::Escaped;
@@ -68,21 +68,16 @@ void Export(const Arguments& given) {
 /// Gives the entries of a table what another one holds of them, by name without regard to case and by how often that
 /// has come; the others of that one are appended.
 void PutInto(CsfTable& table, const CsfTable& changes) {
-    QHash<std::pair<QString, int>, std::size_t> places;
-    QHash<QString, int> seen;
-    for (std::size_t i = 0; i < table.Strings.size(); ++i) {
-        const QString name = table.Strings[i].Name.toCaseFolded();
-        places.insert({name, seen[name]++}, i);
-    }
-    seen.clear();
-    for (const CsfString& change : changes.Strings) {
-        const QString name = change.Name.toCaseFolded();
-        const std::size_t place = places.value({name, seen[name]++}, table.Strings.size());
-        if (place == table.Strings.size()) {
+    const KeyedEntries entries(table, Qt::CaseInsensitive);
+    const KeyedEntries changed(changes, Qt::CaseInsensitive);
+    for (std::size_t i = 0; i < changes.Strings.size(); ++i) {
+        const CsfString& change = changes.Strings[i];
+        const auto place = entries.PlaceOf(changed.Keys()[i]);
+        if (!place) {
             table.Strings.push_back(change);
             continue;
         }
-        CsfString& entry = table.Strings[place];
+        CsfString& entry = table.Strings[*place];
         entry.Value = change.Value;
         if (change.Extra)
             entry.Extra = change.Extra;

@@ -3,6 +3,7 @@
 
 #include "csf/exchange/CsfCompare.h"
 
+#include "csf/exchange/KeyedEntries.h"
 #include "platform/AnsiCodec.h"
 
 #include <QHash>
@@ -14,29 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A name and how often it has come before.
-using Key = std::pair<QString, int>;
-
-/// The entries of a table by their keys.
-class Keyed {
-public:
-    explicit Keyed(const CsfTable& table, Qt::CaseSensitivity names = Qt::CaseSensitive) {
-        QHash<QString, int> occurrences;
-        for (const CsfString& entry : table.Strings) {
-            const QString name = names == Qt::CaseSensitive ? entry.Name : entry.Name.toCaseFolded();
-            keys_.emplace_back(name, occurrences[name]++);
-            entries_.insert(keys_.back(), &entry);
-        }
-    }
-
-    [[nodiscard]] const std::vector<Key>& Keys() const { return keys_; }
-
-    /// Null when there is no such entry.
-    [[nodiscard]] const CsfString* Find(const Key& key) const { return entries_.value(key); }
-
-private:
-    std::vector<Key> keys_;
-    QHash<Key, const CsfString*> entries_;
-};
+using Key = KeyedEntries::Key;
 
 bool Same(const CsfString* left, const CsfString* right) {
     if (left == nullptr || right == nullptr)
@@ -81,7 +60,7 @@ struct Sides {
 const Key NoKey{{}, -1};
 
 /// The entries that only theirs has, by the entry of ours that they stand behind there.
-QHash<Key, std::vector<Key>> AddedBehind(const Keyed& ours, const Keyed& theirs) {
+QHash<Key, std::vector<Key>> AddedBehind(const KeyedEntries& ours, const KeyedEntries& theirs) {
     QHash<Key, std::vector<Key>> added;
     Key last = NoKey;
     for (const Key& key : theirs.Keys()) {
@@ -99,8 +78,8 @@ namespace CsfCompare {
 
 std::vector<CsfDifference> Diff(const CsfTable& before, const CsfTable& after) {
     using Kind = CsfDifference::Kind;
-    const Keyed old(before);
-    const Keyed now(after);
+    const KeyedEntries old(before);
+    const KeyedEntries now(after);
     std::vector<CsfDifference> differences;
     for (const Key& key : old.Keys()) {
         const CsfString* const was = old.Find(key);
@@ -120,9 +99,9 @@ std::vector<CsfDifference> Diff(const CsfTable& before, const CsfTable& after) {
 }
 
 bool HaveSameOrder(const CsfTable& before, const CsfTable& after) {
-    const Keyed old(before);
-    const Keyed now(after);
-    const auto common = [](const Keyed& keyed, const Keyed& other) {
+    const KeyedEntries old(before);
+    const KeyedEntries now(after);
+    const auto common = [](const KeyedEntries& keyed, const KeyedEntries& other) {
         std::vector<Key> keys;
         std::ranges::copy_if(keyed.Keys(), std::back_inserter(keys),
                              [&](const Key& key) { return other.Find(key) != nullptr; });
@@ -132,9 +111,9 @@ bool HaveSameOrder(const CsfTable& before, const CsfTable& after) {
 }
 
 CsfMerged Merge(const CsfTable& base, const CsfTable& ours, const CsfTable& theirs, Side preferred) {
-    const Keyed baseKeys(base, Qt::CaseInsensitive);
-    const Keyed ourKeys(ours, Qt::CaseInsensitive);
-    const Keyed theirKeys(theirs, Qt::CaseInsensitive);
+    const KeyedEntries baseKeys(base, Qt::CaseInsensitive);
+    const KeyedEntries ourKeys(ours, Qt::CaseInsensitive);
+    const KeyedEntries theirKeys(theirs, Qt::CaseInsensitive);
     CsfMerged merged;
     const auto take = [&](const Key& key) {
         const Sides sides{baseKeys.Find(key), ourKeys.Find(key), theirKeys.Find(key)};

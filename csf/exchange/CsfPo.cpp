@@ -3,13 +3,12 @@
 
 #include "csf/exchange/CsfFormats.h"
 #include "csf/exchange/CsfPoText.h"
+#include "csf/exchange/KeyedEntries.h"
 #include "platform/AnsiCodec.h"
 
 #include <QHash>
-#include <QSet>
 
 #include <algorithm>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -51,36 +50,6 @@ void AppendQuoted(QString& po, QLatin1StringView comment, const QString& plain) 
         AppendLetter(po, letter);
     po += u"\"\n"_s;
 }
-
-/// The entries of the source by name without regard to case and by how often that has come.
-class Sources {
-public:
-    explicit Sources(const CsfTable& source) : source_(source) {
-        QHash<QString, int> seen;
-        for (std::size_t i = 0; i < source.Strings.size(); ++i) {
-            const QString name = source.Strings[i].Name.toCaseFolded();
-            places_.insert({name, seen[name]++}, i);
-        }
-    }
-
-    /// The one for the next entry of that name; null where there is none.
-    const CsfString* Take(const QString& name) {
-        const QString folded = name.toCaseFolded();
-        const auto found = places_.constFind({folded, seen_[folded]++});
-        if (found == places_.constEnd())
-            return nullptr;
-        taken_.insert(*found);
-        return &source_.Strings[*found];
-    }
-
-    [[nodiscard]] bool IsTaken(std::size_t place) const { return taken_.contains(place); }
-
-private:
-    const CsfTable& source_;
-    QHash<std::pair<QString, int>, std::size_t> places_;
-    QHash<QString, int> seen_;
-    QSet<std::size_t> taken_;
-};
 
 /// Builds a catalogue entry by entry.
 class Catalogue {
@@ -160,12 +129,13 @@ QByteArray ToPo(const CsfTable& table, const CsfTable* source) {
             catalogue.Add(entry);
         return catalogue.Bytes();
     }
-    Sources sources(*source);
-    for (const CsfString& entry : table.Strings)
-        catalogue.AddTranslation(entry, sources.Take(entry.Name));
-    for (std::size_t place = 0; place < source->Strings.size(); ++place)
-        if (!sources.IsTaken(place))
-            catalogue.AddSource(source->Strings[place]);
+    const KeyedEntries entries(table, Qt::CaseInsensitive);
+    const KeyedEntries sources(*source, Qt::CaseInsensitive);
+    for (std::size_t place = 0; place < table.Strings.size(); ++place)
+        catalogue.AddTranslation(table.Strings[place], sources.Find(entries.Keys()[place]));
+    for (const KeyedEntries::Key& key : sources.Keys())
+        if (!entries.PlaceOf(key))
+            catalogue.AddSource(*sources.Find(key));
     return catalogue.Bytes();
 }
 
