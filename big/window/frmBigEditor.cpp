@@ -137,7 +137,7 @@ std::vector<ToolCommand> frmBigEditor::Commands() {
         {ui_->mnuAdd, ui_->Label2_1, u"add"_s, of(&BigEditor::Add)},
         {ui_->mnuDelete, ui_->Label2_2, u"delete"_s, [this] { Delete(); }},
         {ui_->mnuNewFolder, ui_->Label2_6, u"new-folder"_s, of(&BigEditor::NewFolder)},
-        {ui_->mnuText, nullptr, {}, [this] { FollowText(); }},
+        {ui_->mnuText, nullptr, {}, [this] { ToggleText(); }},
         {ui_->mnuRename, nullptr, {}, [this] { Rename(); }},
         {ui_->mnuUp, nullptr, {}, [this] { GoUp(); }},
         {ui_->mnuFind, nullptr, u"find"_s, [this] { Find(); }},

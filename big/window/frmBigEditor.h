@@ -90,6 +90,7 @@ private:
     void Rename();
     void ShowRecent();
     void NoteRecent();
+    void ToggleText();
     void FollowText();
     void RenameNodes();
     void TellSelection();

@@ -51,9 +51,13 @@ void frmBigEditor::ShowRecent() {
         ui_->mnuRecent->addAction(u"-"_s)->setEnabled(false);
 }
 
+void frmBigEditor::ToggleText() {
+    LastTime::Keep(u"big text"_s, ui_->mnuText->isChecked());
+    FollowText();
+}
+
 void frmBigEditor::FollowText() {
     const bool shows = ui_->mnuText->isChecked();
-    LastTime::Keep(u"big text"_s, shows);
     ui_->txtText->setVisible(shows);
     const int index = editor_.DetailedEntry();
     const bool isEntry = shows && index >= 0 && static_cast<std::size_t>(index) < mBIG::BigEntries.size();
