@@ -60,8 +60,8 @@ Host::FileDialog SaveCommand::OpenDialog() {
     if (dialog.Folder.isEmpty())
         dialog.Folder = LastTime::Folder(u"big"_s);
     for (const GameEntry& game : Game)
-        if (dialog.Folder.isEmpty() && !game.InstallPath.isEmpty() && Files::FolderExists(game.InstallPath))
-            dialog.Folder = game.InstallPath;
+        if (dialog.Folder.isEmpty() && !game.InstallPath.isEmpty() && Files::FolderExists(game.InstallFolder()))
+            dialog.Folder = game.InstallFolder();
     return dialog;
 }
 
