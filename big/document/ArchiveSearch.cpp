@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <system_error>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -22,10 +23,6 @@ constexpr qint64 jobSize = qint64{4} * 1024 * 1024;
 /// What lies between two texts is read with them where it is less than that.
 constexpr qint64 largestGap = qint64{16} * 1024;
 constexpr unsigned mostThreads = 4;
-
-QString LastPart(const QString& name) {
-    return name.sliced(name.lastIndexOf(u'\\') + 1);
-}
 
 /// A file read in blocks, so that small texts that are neighbours take one look at the disk.
 class Blocks {
@@ -79,7 +76,8 @@ std::vector<int> ArchiveSearch::InNames(const Archive& archive, const QString& t
     std::vector<int> found;
     for (int index = 0; !text.isEmpty() && index < static_cast<int>(archive.Entries.size()); ++index) {
         const BigEntry& entry = archive.Entries[static_cast<std::size_t>(index)];
-        const bool fits = entry.Name.contains(text, Qt::CaseInsensitive) || FitsPattern(LastPart(entry.Name), text);
+        const bool fits =
+            entry.Name.contains(text, Qt::CaseInsensitive) || FitsPattern(Paths::LastPart(entry.Name), text);
         if (fits && !entry.Deleted && !entry.Name.isEmpty())
             found.push_back(index);
     }
@@ -101,10 +99,12 @@ TextSearch::TextSearch(const Archive& archive, const QString& text)
                          .Offset = entry.IsNew ? 0 : entry.Offset,
                          .Size = std::max(entry.Size, 0),
                          .IsTable = entry.Name.endsWith(".csf"_L1, Qt::CaseInsensitive)};
+        if (!entry.IsNew && (place.Size == 0 || place.Offset < 0))
+            continue;
         total_ += 1 + place.Size;
         if (entry.IsNew)
             jobs_.push_back({.Texts = {place}, .Path = Paths::FromNative(Paths::ToNative(entry.SourcePath))});
-        else if (place.Size > 0 && place.Offset >= 0)
+        else
             old.push_back(place);
     }
     if (!old.empty())
@@ -130,8 +130,11 @@ void TextSearch::MakeJobs(std::vector<Text> old) {
 int TextSearch::Run(const std::stop_token& stop, const Watch& watch) {
     const unsigned wanted = std::clamp(std::thread::hardware_concurrency(), 1U, mostThreads);
     std::vector<std::jthread> helpers;
-    for (std::size_t i = 1; i < std::min<std::size_t>(wanted, jobs_.size()); ++i)
-        helpers.emplace_back([&] { Work(stop, watch); });
+    try {
+        for (std::size_t i = 1; i < std::min<std::size_t>(wanted, jobs_.size()); ++i)
+            helpers.emplace_back([&] { Work(stop, watch); });
+    } catch (const std::system_error&) { // those that there are do the work
+    }
     Work(stop, watch);
     helpers.clear();
     return unread_;
