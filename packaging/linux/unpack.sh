@@ -39,16 +39,6 @@ can_take() {
   mkdir -p "$(dirname "$target/$1")" && [ -w "$(dirname "$target/$1")" ] && [ ! -d "$target/$1" ]
 }
 
-user_language() {
-@USER_LANGUAGE@
-}
-
-# choose_language: where the user has chosen none yet.
-choose_language() {
-  chosen=$("$target/brindock-cli" setting get TradFileName 2>/dev/null) || return 0
-  [ -n "$chosen" ] || "$target/brindock-cli" setting set TradFileName "$(user_language)" || true
-}
-
 sed '1,/^exit$/d' "$0" | tar -xz -C "$new" || give_up "what it should hold is damaged"
 # The address of the server is set where the suite is installed.
 [ ! -e "$target/updater.cfg" ] || rm -f "$new/updater.cfg"
@@ -62,7 +52,6 @@ echo "$files" | while IFS= read -r file; do
 done
 rm -rf "$new"
 trap - EXIT
-choose_language
 [ -z "$start" ] || exec "$target/brindock"
 echo "Brindock 2005 @VERSION@ is in $target"
 exit

@@ -42,7 +42,8 @@ TEST_F(FirstLanguageTest, TheFirstOneThatIsKnownIsStored) {
     EXPECT_EQ(ChosenFor({u"FR_fr.UTF-8"_s}), u"French.lng"_s);
     EXPECT_EQ(ChosenFor({u"ja"_s}), u"English.lng"_s);
     EXPECT_EQ(ChosenFor({}), u"English.lng"_s);
-    EXPECT_EQ(ChosenFor({u"C"_s}), u"English.lng"_s);
+    for (const QString& unknown : {u"C"_s, u"C.UTF-8"_s, u"fur-IT"_s, u"d"_s, u""_s})
+        EXPECT_EQ(ChosenFor({unknown}), u"English.lng"_s) << unknown.toStdString();
 }
 
 TEST_F(FirstLanguageTest, AFileThatIsNotThereIsNotStored) {

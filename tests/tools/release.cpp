@@ -128,21 +128,6 @@ TEST_F(Release, PackedForLinuxGoesIntoAFolderWithoutStartingAnything) {
     EXPECT_FALSE(QFile::exists(Path(u"here too/mark"_s)));
 }
 
-TEST_F(Release, PackedForLinuxChoosesTheUsersLanguageWhereNoneIsChosen) {
-    Write(u"tree/brindock-cli"_s,
-          "#!/bin/sh\nplace=$(dirname \"$0\")/setting\n"
-          "if [ \"$2\" = get ]; then cat \"$place\" 2>/dev/null || echo; else echo \"$4\" >\"$place\"; fi\n");
-    QFile::setPermissions(Path(u"tree/brindock-cli"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    ASSERT_EQ(MakePacked().Code, 0);
-    qputenv("LC_ALL", "nl_NL.UTF-8");
-    EXPECT_EQ(RunProgram(Packed(), {Path(u"suite"_s)}).Code, 0);
-    EXPECT_EQ(Read(u"suite/setting"_s), "Dutch.lng\n");
-    qputenv("LC_ALL", "de_DE.UTF-8");
-    EXPECT_EQ(RunProgram(Packed(), {Path(u"suite"_s)}).Code, 0);
-    EXPECT_EQ(Read(u"suite/setting"_s), "Dutch.lng\n");
-    qunsetenv("LC_ALL");
-}
-
 TEST_F(Release, PackedForLinuxAndCutShortChangesNothing) {
     ASSERT_EQ(MakePacked().Code, 0);
     Write(u"suite/brindock"_s, "old");

@@ -68,7 +68,8 @@ int main(int argc, char* argv[]) {
     parser.setApplicationDescription(u"Makes a world to try the suite in, or something to measure it with."_s);
     parser.addHelpOption();
     parser.addPositionalArgument(u"folder"_s, u"where the world goes: an empty folder, or an earlier world"_s);
-    const QCommandLineOption language(u"language"_s, u"language file that the settings name"_s, u"file"_s,
+    const QCommandLineOption language(u"language"_s,
+                                      u"language file that the settings name; with \"\" the suite chooses"_s, u"file"_s,
                                       u"English.lng"_s);
     const QCommandLineOption small(u"small"_s, u"a small world, for tests"_s);
     const QCommandLineOption again(u"again"_s, u"leave a complete world of the same options alone (as always)"_s);

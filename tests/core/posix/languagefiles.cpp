@@ -19,7 +19,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QMap>
-#include <QProcess>
 #include <QRegularExpression>
 
 #include <set>
@@ -114,19 +113,6 @@ QStringList EndsOf(const QString& text) {
         if (text.endsWith(end))
             ends += end;
     return ends;
-}
-
-/// What set-up chooses for a locale that stands in the given variable.
-QString ChosenLanguage(const QString& locale, const QString& variable = u"LANG"_s) {
-    QProcess script;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    for (const QString& name : {u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LANG"_s})
-        environment.remove(name);
-    environment.insert(variable, locale);
-    script.setProcessEnvironment(environment);
-    script.start(SourceFolder() + u"/tools/user-language"_s, QStringList());
-    EXPECT_TRUE(script.waitForFinished());
-    return QString::fromUtf8(script.readAllStandardOutput()).trimmed();
 }
 
 class LanguageFiles : public testing::TestWithParam<QString> {
@@ -247,13 +233,8 @@ TEST_P(LanguageFiles, AreEachChosenForALocale) {
         {u"Dutch"_s, u"nl"_s},   {u"English"_s, u"en"_s},    {u"French"_s, u"fr"_s}, {u"German"_s, u"de"_s},
         {u"Italian"_s, u"it"_s}, {u"Portuguese"_s, u"pt"_s}, {u"Spanish"_s, u"es"_s}};
     ASSERT_TRUE(locales.contains(language_)) << "no locale is known for " << At({});
-    for (const QString& rest : {u""_s, u"_BR"_s, u".UTF-8"_s, u"_DE@euro"_s})
-        EXPECT_EQ(ChosenLanguage(locales[language_] + rest), language_ + u".lng"_s);
-    // The packages' own table says the same.
     const World world;
-    QFile table(QString::fromUtf8(Places::Sources) + u"/packaging/setup.cfg"_s);
-    ASSERT_TRUE(table.open(QIODevice::ReadOnly));
-    world.WriteFile(u"program\\setup.cfg"_s, table.readAll());
+    world.WriteFile(u"program\\setup.cfg"_s, BytesOf(SourceFolder() + u"/data/setup.cfg"_s));
     world.WriteFile(u"program\\%1.lng"_s.arg(language_), OwnLanguages::Bytes(language_));
     FirstLanguage::Choose({locales[language_] + u"-XX"_s});
     EXPECT_EQ(ReadSetting(u"TradFileName"_s), language_ + u".lng"_s);
@@ -273,14 +254,4 @@ TEST(LanguageNames, AreAllDifferent) {
     EXPECT_GE(languages.size(), 7);
     EXPECT_EQ(static_cast<qsizetype>(names.size()), languages.size());
     EXPECT_TRUE(names.contains(u"Fran\u00E7ais"_s));
-}
-
-TEST(ChoiceOfALanguage, IsEnglishWhereThereIsNoOther) {
-    for (const QString& locale : {u""_s, u"C"_s, u"C.UTF-8"_s, u"pl_PL.UTF-8"_s, u"fur_IT"_s, u"est"_s, u"d"_s})
-        EXPECT_EQ(ChosenLanguage(locale), u"English.lng"_s) << locale.toStdString();
-}
-
-TEST(ChoiceOfALanguage, FollowsEachVariable) {
-    for (const QString& variable : {u"LC_ALL"_s, u"LC_MESSAGES"_s, u"LANG"_s})
-        EXPECT_EQ(ChosenLanguage(u"nl_BE.UTF-8"_s, variable), u"Dutch.lng"_s) << variable.toStdString();
 }
