@@ -14,6 +14,9 @@ namespace {
 /// Places that are tried in one go: a fixed number, so that the compiler can take many of them in one step.
 constexpr qsizetype stride = 64;
 
+/// From so many bytes on, looking at the last one and going on by what it allows beats looking at each place.
+constexpr qsizetype longText = 32;
+
 QByteArray InAnsi(const QString& letter) {
     const QByteArray bytes = AnsiCodec::Encode(letter);
     return AnsiCodec::Decode(bytes) == letter ? bytes : QByteArray();
@@ -58,9 +61,13 @@ std::vector<TextPattern> TextPattern::OfPlainText(const QString& text) {
     if (!isPlain)
         patterns.push_back(TextPattern(Letters(text, [](const QString& letter) { return letter.toUtf8(); })));
     std::erase_if(patterns, [](const TextPattern& pattern) { return pattern.Length() == 0; });
+    for (TextPattern& pattern : patterns)
+        if (pattern.Length() >= longText)
+            pattern.MakeSkips();
     return patterns;
 }
 
+// Every second byte of a table is the same there, so that nothing would be skipped.
 TextPattern TextPattern::OfTableValue(const QString& text) {
     return TextPattern(Letters(text, InTable));
 }
@@ -79,6 +86,26 @@ TextPattern::TextPattern(std::vector<Letter> letters) : letters_(std::move(lette
         return Probe{at, static_cast<uchar>(one.at(at)), static_cast<uchar>(other.at(at))};
     };
     probes_ = {probe(0), probe(length_ / 2), probe(length_ - 1)};
+}
+
+/// After Horspool, with both cases of each letter.
+void TextPattern::MakeSkips() {
+    skips_.assign(256, length_);
+    qsizetype left = length_ - 1;
+    for (const Letter& letter : letters_) {
+        for (qsizetype i = 0; i < letter.first.size() && left > 0; ++i, --left) {
+            skips_[static_cast<uchar>(letter.first.at(i))] = left;
+            skips_[static_cast<uchar>(letter.second.at(i))] = left;
+        }
+    }
+}
+
+qsizetype TextPattern::IndexBySkips(QByteArrayView bytes) const {
+    const auto* const from = reinterpret_cast<const uchar*>(bytes.data());
+    for (qsizetype place = 0; place <= bytes.size() - length_; place += skips_[from[place + length_ - 1]])
+        if (StartsAt(from + place))
+            return place;
+    return -1;
 }
 
 bool TextPattern::MayStartIn(const uchar* bytes) const {
@@ -112,6 +139,8 @@ bool TextPattern::StartsAt(const uchar* bytes) const {
 }
 
 qsizetype TextPattern::IndexIn(QByteArrayView bytes) const {
+    if (!skips_.empty())
+        return IndexBySkips(bytes);
     const auto* const from = reinterpret_cast<const uchar*>(bytes.data());
     const qsizetype places = length_ == 0 ? 0 : bytes.size() - length_ + 1;
     for (qsizetype place = 0; place < places; place += stride) {

@@ -39,10 +39,14 @@ private:
 
     explicit TextPattern(std::vector<Letter> letters);
 
+    void MakeSkips();
+    [[nodiscard]] qsizetype IndexBySkips(QByteArrayView bytes) const;
     [[nodiscard]] bool MayStartIn(const uchar* bytes) const;
     [[nodiscard]] bool StartsAt(const uchar* bytes) const;
 
     std::vector<Letter> letters_;
     qsizetype length_ = 0;
     std::array<Probe, 3> probes_{};
+    /// For a long text, by the byte that stands under its last one: how far on it may begin at the earliest.
+    std::vector<qsizetype> skips_;
 };

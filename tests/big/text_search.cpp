@@ -76,6 +76,28 @@ TEST(TextPatterns, FindATextThatEndsWithTheBytes) {
     EXPECT_EQ(PlainIndex(u"end"_s, {}), -1);
 }
 
+// Long ones are looked for in another way; each of these has a part of itself before its place and again inside.
+TEST(TextPatterns, FindALongTextBehindPartsOfItself) {
+    for (const int length : {31, 32, 33, 99}) {
+        QByteArray text = QByteArray("aB").repeated(length).first(length - 3) + "xab";
+        for (qsizetype shown = 0; shown < length; ++shown) {
+            const QByteArray bytes = text.first(shown) + text.last(shown) + text.toLower() + text;
+            const qsizetype place = bytes.toLower().indexOf(text.toLower());
+            EXPECT_EQ(PlainIndex(QString::fromLatin1(text), bytes), place) << length << ' ' << shown;
+            EXPECT_EQ(PlainIndex(QString::fromLatin1(text), bytes.first(place + length - 1)), -1)
+                << length << ' ' << shown;
+        }
+    }
+}
+
+TEST(TextPatterns, FindALongTextWithAccentsInEitherCase) {
+    const QString text = u"L'\u00E9t\u00E9 \u00C9t\u00E9 d'un char qui a \u00E9t\u00E9 d\u00E9truit"_s;
+    const QString other = text.toUpper();
+    EXPECT_EQ(PlainIndex(text, QByteArray(70, 'e') + other.toLatin1()), 70);
+    EXPECT_EQ(PlainIndex(other, QByteArray(71, 't') + text.toUtf8()), 71);
+    EXPECT_EQ(PlainIndex(other, text.toUtf8().chopped(1)), -1);
+}
+
 TEST(TextPatterns, FindOneLetterAndNothingInNoText) {
     EXPECT_EQ(PlainIndex(u"Q"_s, QByteArray(100, 'x') + 'q'), 100);
     EXPECT_EQ(PlainIndex({}, "text"), -1);
