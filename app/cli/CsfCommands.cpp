@@ -99,7 +99,7 @@ void SaveTable(const Arguments& given) {
         DeleteName(table, ShownPlace(given, "FILE"), name);
     for (const std::string& set : given.Raws("--set"))
         SetValue(given, table, set);
-    WriteTableFile(given, file);
+    WriteTableFile(given, std::move(file));
 }
 
 std::string ComplaintAboutSet(const std::string& given) {

@@ -142,7 +142,7 @@ void Merge(const Arguments& given) {
     const auto side = given.Has("--theirs") ? CsfCompare::Side::Theirs : CsfCompare::Side::Ours;
     CsfMerged merged = CsfCompare::Merge(base, ours.Table, theirs, side);
     ours.Table = merged.Table;
-    WriteTableFile(given, ours);
+    WriteTableFile(given, std::move(ours));
     TellConflicts(merged, given.Has("--json"));
     const bool isChosen = given.Has("--theirs") || given.Has("--ours");
     if (!isChosen && (merged.LanguageConflict || !merged.Conflicts.empty()))

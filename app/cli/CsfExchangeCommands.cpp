@@ -16,6 +16,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using CsfExchange::Escaped;
@@ -104,12 +105,12 @@ void Import(const Arguments& given) {
     for (const CsfString& entry : made.Table.Strings)
         WarnOfLostLetters(given, entry);
     if (!given.Has("--into"))
-        return WriteTableFile(given, made);
+        return WriteTableFile(given, std::move(made));
     const PlaceLock lock(given, "TARGET");
     TableFile base = ReadTableFile(given, "--into");
     PutInto(base.Table, made.Table);
     base.Table.Language = given.Number("--language").value_or(base.Table.Language);
-    WriteTableFile(given, base);
+    WriteTableFile(given, std::move(base));
 }
 
 /// A place for a file whose ending tells the format, or for a stream.

@@ -77,13 +77,13 @@ TableFile ReadTableOrNothing(const Arguments& given, const std::string& place) {
     return bytes.isEmpty() ? TableFile() : TableOf(given, place, bytes);
 }
 
-void WriteTableFile(const Arguments& given, const TableFile& file) {
+void WriteTableFile(const Arguments& given, TableFile file) {
     const QString shown = ShownPlace(given, "TARGET");
     const CsfTable& table = file.Table;
     if (table.Strings.empty())
         Fail(shown, u"a table without strings can't be saved"_s);
     if (!given.Has(EightBit().Name)) {
-        CsfWhole whole = file.Whole.value_or(CsfWhole());
+        CsfWhole whole = std::move(file.Whole).value_or(CsfWhole());
         whole.Take(table);
         return WritePlace(given, "TARGET", whole.Bytes());
     }

@@ -39,7 +39,7 @@ TableFile ReadTableOrNothing(const Arguments& given, const std::string& place);
 
 /// Writes a table: with all that its file had besides, or as 8-bit editors do where the flag is given. What no reader
 /// would take back is refused before any file is touched.
-void WriteTableFile(const Arguments& given, const TableFile& file);
+void WriteTableFile(const Arguments& given, TableFile file);
 
 /// Tells on standard error when an entry loses a letter: names are of eight bits, and texts too where that was asked.
 void WarnOfLostLetters(const Arguments& given, const CsfString& entry);

@@ -257,13 +257,10 @@ std::vector<std::size_t> CsfWhole::OriginsOf(const CsfTable& table) const {
     return origins;
 }
 
-/// What was read, with the string that it has now. Its place has none any more.
-CsfWhole::Record CsfWhole::Renewed(std::size_t origin, const CsfString& entry) {
-    Record record = origin < records_.size() ? std::move(records_[origin]) : Record();
-    record.Entry = entry;
-    if (entry.Extra.has_value() != IsMark(record.StringMark, "wrts"))
-        record.StringMark = entry.Extra ? MarkWithExtra : Record().StringMark;
-    return record;
+void CsfWhole::Record::Take(const CsfString& entry) {
+    Entry = entry;
+    if (entry.Extra.has_value() != IsMark(StringMark, "wrts"))
+        StringMark = entry.Extra ? MarkWithExtra : Record().StringMark;
 }
 
 void CsfWhole::Take(const CsfTable& table) {
@@ -281,13 +278,29 @@ void CsfWhole::Take(const CsfTable& table, const std::vector<int>& strings) {
 
 void CsfWhole::TakeFrom(const CsfTable& table, const std::vector<std::size_t>& origins) {
     language_ = static_cast<quint32>(table.Language);
+    // Most changes are of values alone, and moving all records costs more than a look.
+    if (origins != PlacesOfStrings())
+        Arrange(origins);
+    std::size_t place = 0;
+    for (const CsfString& entry : table.Strings) {
+        while (!records_[place].HasString)
+            ++place;
+        records_[place].Take(entry);
+        bool& isMore = records_[place].Entry.IsMore;
+        isMore = isMore && place > 0 && records_[place - 1].HasString && records_[place - 1].Entry.Name == entry.Name;
+        ++place;
+    }
+}
+
+void CsfWhole::Arrange(const std::vector<std::size_t>& origins) {
     std::vector<std::size_t> newPlaces(records_.size()); // counted from 1; 0 for what is gone
     std::vector<Placed> placed;
     placed.reserve(origins.size());
     for (std::size_t i = 0; i < origins.size(); ++i) {
-        if (origins[i] < records_.size())
+        const bool isOld = origins[i] < records_.size();
+        if (isOld)
             newPlaces[origins[i]] = i + 1;
-        placed.push_back({2 * (i + 1), Renewed(origins[i], table.Strings[i])});
+        placed.push_back({2 * (i + 1), isOld ? std::move(records_[origins[i]]) : Record()});
     }
     // A label without a string follows the last string before it that is still there.
     std::size_t last = 0;
@@ -297,17 +310,11 @@ void CsfWhole::TakeFrom(const CsfTable& table, const std::vector<std::size_t>& o
         else if (newPlaces[place] > 0)
             last = newPlaces[place];
     }
-    // Few tables have such labels, and moving all records costs more than a look.
-    if (!std::ranges::is_sorted(placed, {}, &Placed::Order))
-        std::ranges::stable_sort(placed, {}, &Placed::Order);
+    std::ranges::stable_sort(placed, {}, &Placed::Order);
     records_.clear();
     records_.reserve(placed.size());
-    for (Placed& next : placed) {
-        CsfString& entry = next.Is.Entry;
-        entry.IsMore =
-            entry.IsMore && !records_.empty() && records_.back().HasString && records_.back().Entry.Name == entry.Name;
+    for (Placed& next : placed)
         records_.push_back(std::move(next.Is));
-    }
 }
 
 CsfWhole::Counts CsfWhole::Counted() const {

@@ -63,6 +63,9 @@ private:
         Mark LabelMark{' ', 'L', 'B', 'L'};
         Mark StringMark{' ', 'R', 'T', 'S'};
         bool HasString = true;
+
+        /// What was read, with the string that it has now.
+        void Take(const CsfString& entry);
     };
 
     struct Placed {
@@ -78,7 +81,7 @@ private:
     [[nodiscard]] std::vector<std::size_t> PlacesOfStrings() const;
     [[nodiscard]] std::vector<std::size_t> OriginsOf(const CsfTable& table) const;
     void TakeFrom(const CsfTable& table, const std::vector<std::size_t>& origins);
-    [[nodiscard]] Record Renewed(std::size_t origin, const CsfString& entry);
+    void Arrange(const std::vector<std::size_t>& origins);
     [[nodiscard]] Counts Counted() const;
 
     Mark mark_{' ', 'F', 'S', 'C'};
