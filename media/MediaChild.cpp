@@ -15,7 +15,6 @@
 
 #include <cstring>
 #include <iostream>
-#include <sstream>
 #include <string>
 
 namespace {
@@ -24,13 +23,6 @@ constexpr qint64 MemoryLimit = qint64{512} * 1024 * 1024;
 constexpr qint64 LongestFile = qint64{128} * 1024 * 1024;
 constexpr int PictureSeconds = 2;
 constexpr int SoundSeconds = 10;
-
-QString Path(const std::string& word) {
-    const QByteArray bytes = QByteArray::fromBase64(QByteArray::fromStdString(word));
-    QString path(bytes.size() / static_cast<qsizetype>(sizeof(QChar)), Qt::Uninitialized);
-    std::memcpy(path.data(), bytes.constData(), static_cast<std::size_t>(path.size()) * sizeof(QChar));
-    return path;
-}
 
 QByteArray DecodedPicture(const QString& source) {
     Limits::BoundProcessorTime(PictureSeconds);
@@ -45,16 +37,13 @@ QByteArray DecodedSound(const QString& source) {
 
 /// One line: whether its file was decoded.
 bool Serve(const std::string& line) {
-    std::istringstream words(line);
-    std::string kind;
-    std::string source;
-    std::string target;
-    words >> kind >> source >> target;
+    const MediaJob job = MediaJob::OfLine(QByteArray::fromStdString(line));
     bool decoded = false;
     Ignoring([&] {
-        const QByteArray bytes = kind == "sound" ? DecodedSound(Path(source)) : DecodedPicture(Path(source));
+        const QByteArray bytes =
+            job.What == MediaJob::Kind::Sound ? DecodedSound(job.Source) : DecodedPicture(job.Source);
         if (!bytes.isEmpty())
-            MediaFiles::Write(Path(target), bytes);
+            MediaFiles::Write(job.Target, bytes);
         decoded = !bytes.isEmpty();
     });
     return decoded;

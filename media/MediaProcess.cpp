@@ -16,18 +16,6 @@ namespace {
 /// Before a child is started ahead, so that what the user waits for comes first, milliseconds.
 constexpr int PreparationDelay = 400;
 
-/// A path as one word of a line. The child knows no drives of ours: it gets the path that the system sees.
-QByteArray Word(const QString& path) {
-    const QString seen = Paths::FromNative(Paths::ToNative(path));
-    const auto* bytes = reinterpret_cast<const char*>(seen.utf16());
-    return QByteArray(bytes, seen.size() * static_cast<qsizetype>(sizeof(QChar))).toBase64();
-}
-
-QByteArray LineFor(const MediaJob& job) {
-    const QByteArray kind = job.What == MediaJob::Kind::Sound ? "sound" : "picture";
-    return kind + ' ' + Word(job.Source) + ' ' + Word(job.Target) + '\n';
-}
-
 } // namespace
 
 MediaProcess::MediaProcess(MediaLimits limits) : limits_(limits) {
@@ -61,7 +49,7 @@ void MediaProcess::Prepare() {
 void MediaProcess::Ask(const MediaClient* client, const MediaJob& job, Done done) {
     Abandon(client);
     const int limit = job.What == MediaJob::Kind::Sound ? limits_.Sound : limits_.Picture;
-    requests_.push_back({client, LineFor(job), limit, std::move(done)});
+    requests_.push_back({client, job.Line(), limit, std::move(done)});
     Proceed();
 }
 

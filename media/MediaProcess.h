@@ -5,6 +5,8 @@
 /// nothing but itself. One child serves all who ask, one after the other, and an idle one is kept ready.
 #pragma once
 
+#include "media/MediaJob.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QString>
@@ -15,16 +17,6 @@
 #include <memory>
 
 class QProcess;
-
-/// A file to decode and the file that is written (inside paths): a bitmap of 32 bits a pixel, or samples as media/Pcm.h
-/// tells.
-struct MediaJob {
-    enum class Kind { Picture, Sound };
-
-    Kind What = Kind::Picture;
-    QString Source;
-    QString Target;
-};
 
 /// What takes longer is given up, milliseconds.
 struct MediaLimits {
