@@ -157,7 +157,9 @@ std::vector<QByteArrayList> InTerminals(const QByteArrayList& command) {
 std::vector<QByteArrayList> CommandsOf(const QString& file, const QString& nativePath) {
     const auto textOf = [&](const QString& key) { return TextOf(file, u"Desktop Entry"_s, key); };
     const QString exec = textOf(u"Exec"_s);
-    if (exec.isEmpty() || textOf(u"Hidden"_s) == u"true"_s)
+    // A word ends at its first zero for the system, and what begins with a file's place runs that file.
+    const bool hasProgram = !exec.isEmpty() && !exec.startsWith(u'%') && !exec.contains(QChar(u'\0'));
+    if (!hasProgram || textOf(u"Hidden"_s) == u"true"_s)
         return {};
     const QByteArrayList command = DesktopEntries::ExpandExec(exec, nativePath);
     if (textOf(u"Terminal"_s) == u"true"_s)

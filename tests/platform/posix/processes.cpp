@@ -236,6 +236,18 @@ TEST_F(ProcessesTest, AnEntryThatWasTakenOutOfUseIsPassedOver) {
     EXPECT_EQ(Waited(Processes::OpenWithAssociation(file, 0).Process), 0);
 }
 
+// The file itself must not be run in a program's place.
+TEST_F(ProcessesTest, AnEntryWithoutAProgramIsPassedOver) {
+    const Variable noData("XDG_DATA_DIRS", scratch_.Native(u"none/x"_s).toUtf8());
+    const QString file = scratch_.Write(u"a.txt"_s, "#!/bin/sh\nexit 0\n");
+    QFile::setPermissions(scratch_.Native(u"a.txt"_s), QFile::ReadOwner | QFile::ExeOwner);
+    const QByteArray app = Script(u"bin/app"_s, "exit 0").toUtf8();
+    for (const QByteArray& exec : {QByteArray("%f"), QByteArray("%i"), app + QByteArray(" \0", 2)}) {
+        Associate("text/plain", exec);
+        EXPECT_EQ(Processes::OpenWithAssociation(file, 0).InstApp, 31) << exec.toStdString();
+    }
+}
+
 TEST_F(ProcessesTest, AMissingFileAndAMissingPathAreTold) {
     EXPECT_EQ(Processes::OpenWithAssociation(scratch_.Inside(u"missing.txt"_s), 0).InstApp, 2);
     const QString file = scratch_.Write(u"a.txt"_s, "text");
