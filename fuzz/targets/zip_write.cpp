@@ -24,7 +24,7 @@ constexpr qsizetype Few = 8;
 
 /// What names one file in the folder.
 bool IsFileName(const QString& name) {
-    const auto isSign = [](QChar letter) { return letter.unicode() < 32 || u"/\\*?"_s.contains(letter); };
+    const auto isSign = [](QChar letter) { return letter.unicode() < 32 || u"/\\*?:"_s.contains(letter); };
     return !name.isEmpty() && name.size() <= 60 && name != u"."_s && name != u".."_s &&
            std::ranges::none_of(name, isSign) && QString::fromUtf8(name.toUtf8()) == name;
 }
