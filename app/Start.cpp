@@ -6,6 +6,7 @@
 #include "app/Application.h"
 #include "app/Suite.h"
 #include "big/document/ScratchFolders.h"
+#include "core/CrashOffer.h"
 #include "core/GameFiles.h"
 #include "core/mMain.h"
 #include "install/journal/JournalFollower.h"
@@ -13,6 +14,7 @@
 #include "platform/Console.h"
 #include "platform/Paths.h"
 #include "platform/Processes.h"
+#include "platform/RuntimeError.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/text/ControlTexts.h"
@@ -25,6 +27,7 @@
 #include <QTimer>
 
 int RunSuite(int argc, char** argv, QObject* watcher) {
+    CrashOffer::Begin();
     Suite suite;
     Navigator::Use(&suite);
     GameFiles::ActivateShellMap = mShellMaps::ActivateShellMap;
@@ -50,6 +53,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     constexpr int untilTheWindowStands = 100;
     QTimer::singleShot(untilTheWindowStands, &application, [] { Application::setWindowIcon(Picture::ProgramIcon()); });
     QTimer::singleShot(untilTheWindowStands, &application, [] { ScratchFolders::RemoveAbandoned(); });
+    QTimer::singleShot(untilTheWindowStands, &application, [] { Ignoring(CrashOffer::Offer); });
     WindowHost host;
     Host::Use(&host);
     const JournalFollower follower;

@@ -3,6 +3,7 @@
 
 #include "ui/window/ToolCommands.h"
 
+#include "platform/CrashReport.h"
 #include "ui/look/DrawnIcon.h"
 #include "ui/window/SideMenu.h"
 
@@ -12,7 +13,10 @@ void ConnectCommands(QObject* window, const std::vector<ToolCommand>& commands) 
     for (const ToolCommand& command : commands) {
         if (!command.Picture.isEmpty())
             command.Action->setIcon(DrawnIcon::Named(command.Picture));
-        QObject::connect(command.Action, &QAction::triggered, window, command.Run);
+        QObject::connect(command.Action, &QAction::triggered, window, [window, command] {
+            CrashReport::Note((window->objectName() + u'.' + command.Action->objectName()).toUtf8());
+            command.Run();
+        });
         if (command.Link == nullptr)
             continue;
         command.Link->setIcon(command.Action->icon());
