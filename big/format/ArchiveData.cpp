@@ -99,8 +99,9 @@ void ArchiveData::Put(qint64 position) {
 /// The bytes between two entries: part of a run that goes on behind them, else zeros of their own.
 void ArchiveData::PutGap(qint64 length) {
     const Piece& next = buffer_.front();
-    const bool runGoesOn =
-        run_.Length > 0 && next.From == Piece::Place::OldArchive && next.Offset == run_.Source + run_.Length + length;
+    // A piece of no bytes may lie anywhere, behind the archive's end too.
+    const bool runGoesOn = run_.Length > 0 && next.From == Piece::Place::OldArchive && next.Length > 0 &&
+                           next.Offset == run_.Source + run_.Length + length;
     if (!runGoesOn) {
         PutZeros(length);
     } else if (length > 0) {

@@ -221,6 +221,17 @@ TEST_F(Writer, BytesBehindTheEndOfTheOldArchiveAreZeros) {
     EXPECT_EQ(SavedAs(2).sliced(36), Bytes("L219\0\0\0xyEND\0\0\0"));
 }
 
+// As many bytes lie between the two in the file as will lie between them, but the file ends before the second one.
+TEST_F(Writer, AnEntryOfSizeZeroBehindTheEndOfTheOldArchiveEndsNoSave) {
+    Open(HeaderOf("BIGF", 2, 40) + Record(40, 2, "a") + Record(44, 0, "b") + Bytes("L225hi"));
+    EXPECT_EQ(SavedAs(0), Bytes("BIGF\x32\0\0\0\0\0\0\x02\0\0\0\x2C"
+                                "\0\0\0\x2C\0\0\0\x02"
+                                "a\0"
+                                "\0\0\0\x30\0\0\0\0"
+                                "b\0"
+                                "L225\0\0\0\0hi\0\0hi"));
+}
+
 TEST_F(Writer, SavingOverTheOpenArchiveLeavesNoCopyBehind) {
     Open(TwoEntries());
     AddNew(u"new"_s, "123");
