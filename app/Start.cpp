@@ -27,7 +27,6 @@
 #include <QTimer>
 
 int RunSuite(int argc, char** argv, QObject* watcher) {
-    CrashOffer::Begin();
     Suite suite;
     Navigator::Use(&suite);
     GameFiles::ActivateShellMap = mShellMaps::ActivateShellMap;
@@ -43,6 +42,7 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     const ScratchFolders::Claim scratch;
     Application application(argc, argv);
     Application::setApplicationName(QStringLiteral("Brindock 2005"));
+    CrashOffer::Begin(); // not before: where there is no display, the toolkit aborts
     if (watcher != nullptr)
         application.installEventFilter(watcher);
     Style::Apply(application);
