@@ -4,6 +4,7 @@
 #include "big/document/FileAdding.h"
 
 #include "big/document/KeptRows.h"
+#include "big/document/OffsetNotices.h"
 #include "big/document/ScratchFolders.h"
 #include "core/Host.h"
 #include "core/LastTime.h"
@@ -209,4 +210,6 @@ void FileAdding::TellDrop(const ArchiveEdits::DropResult& result) {
     tell(GetText(u"DropReplaced"_s), result.Replaced);
     if (!told.isEmpty())
         panes_.View.ShowNotice({.Text = told.join(u' ')});
+    else
+        OffsetNotices::TellOnlyEntry(panes_);
 }

@@ -85,6 +85,11 @@ void TellNotSaved(EditorPanes& panes, const std::function<void()>& saveExactly) 
     Tell(panes, {.Text = GetText(u"OneEntryNotSaved"_s), .Links = {{GetText(u"SaveExactly"_s), saveExactly}}});
 }
 
+void TellOnlyEntry(EditorPanes& panes) {
+    if (HidesOnlyEntry(panes))
+        TellWithOnlyEntry(panes, {}, {});
+}
+
 void TellOpened(EditorPanes& panes, const OffsetShift::Shift& shift, const std::function<bool()>& readBack) {
     if (shift.IsNone())
         return TellWithOnlyEntry(panes, {}, {});

@@ -31,4 +31,8 @@ void TellNotSaved(EditorPanes& panes, const std::function<void()>& saveExactly);
 /// entry with the link that shows it.
 void TellOpened(EditorPanes& panes, const OffsetShift::Shift& shift, const std::function<bool()>& readBack);
 
+/// Behind what may have left one entry only: that it is not shown, with the link that shows it. With more of them, or
+/// where it is shown, the strip stays as it is.
+void TellOnlyEntry(EditorPanes& panes);
+
 } // namespace OffsetNotices

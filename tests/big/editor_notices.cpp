@@ -158,6 +158,19 @@ TEST_F(EditorNotices, ASaveThatLeavesOneEntryTellsThatItIsNotShown) {
     EXPECT_EQ(View.Told.Text, QString()) << "It is shown.";
 }
 
+TEST_F(EditorNotices, ADropThatMakesAnOnlyEntryTellsThatItIsNotShown) {
+    MakeNew();
+    Editor.DropFiles({Place.WriteFile(u"readme.txt"_s, "1")});
+    EXPECT_EQ(Shown(), QStringList());
+    EXPECT_EQ(View.Told.Text, u"OneEntryNotShown"_s);
+    ClickLink(0);
+    EXPECT_EQ(Shown(), QStringList{u"readme.txt"_s});
+    EXPECT_EQ(View.Told.Text, QString());
+    Editor.DropFiles({Place.WriteFile(u"second.txt"_s, "2")});
+    EXPECT_EQ(Shown(), (QStringList{u"readme.txt"_s, u"second.txt"_s}));
+    EXPECT_EQ(View.Told.Text, QString());
+}
+
 TEST_F(EditorNotices, AFreshArchiveHidesNothing) {
     OpenArchive({{u"only.txt"_s, "x"}});
     MakeNew();
