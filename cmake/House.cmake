@@ -19,7 +19,9 @@ if(BRINDOCK_FUZZ)
   target_compile_options(house INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(WIN32)
-  target_link_options(house INTERFACE -static -s -Wl,--gc-sections -Wl,--no-insert-timestamp)
+  # Symbols are kept where packaging/symbols takes them aside.
+  target_link_options(house INTERFACE -static -Wl,--gc-sections -Wl,--no-insert-timestamp
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:KEEPS_SYMBOLS>>>:-s>)
 endif()
 
 # room_logic(name sources...): plain logic, Qt Core only.

@@ -10,6 +10,7 @@ endif()
 
 # install_program(target): a program of the suite, with a link where programs are looked for.
 function(install_program target)
+  set_target_properties(${target} PROPERTIES KEEPS_SYMBOLS ON)
   install(TARGETS ${target} RUNTIME DESTINATION ${BRINDOCK_FOLDER})
   if(NOT WIN32)
     install(CODE "

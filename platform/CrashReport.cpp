@@ -17,7 +17,7 @@ constexpr std::size_t LongestCommand = 64;
 using Command = std::array<char, LongestCommand>;
 
 // All of it stands ready before there is a crash.
-std::array<char, MostFacts> facts{};
+std::array<char, MostFacts> firstLines{};
 std::array<Command, MostCommands> commands{};
 std::atomic<std::size_t> noted = 0;
 
@@ -30,8 +30,8 @@ void Keep(std::array<char, Size>& place, const QByteArray& text) {
 
 } // namespace
 
-void CrashReport::Leave(const QString& path, const QByteArray& told) {
-    Keep(facts, told);
+void CrashReport::Leave(const QString& path, const QByteArray& facts) {
+    Keep(firstLines, facts);
     CrashHandlers::Install(path);
 }
 
@@ -41,7 +41,7 @@ void CrashReport::Note(const QByteArray& command) {
 }
 
 void CrashNotes::Begin(CrashText& text) {
-    text.Add(facts.data());
+    text.Add(firstLines.data());
 }
 
 void CrashNotes::End(CrashText& text) {
