@@ -158,6 +158,18 @@ TEST_F(Release, PackedForLinuxChangesNothingWhereAFileCantGoAndTheSuiteGoesOn) {
               (QStringList{u"brindock"_s, u"goes on"_s, u"pictures"_s, u"TempUpdater"_s}));
 }
 
+TEST_F(Release, PackedForWindowsIsTheInstaller) {
+    Write(u"windows/brindock.exe"_s, "MZ");
+    const Ran ran = Make(u"windows"_s, {u"--from"_s, Path(u"windows"_s)});
+    ASSERT_EQ(ran.Code, 0) << qPrintable(ran.Errors);
+    const QString name = u"brindock-%1-setup.exe"_s.arg(Version);
+    EXPECT_EQ(QDir(Path(u"out"_s)).entryList(QDir::Files), (QStringList{name, u"updates_info.inf"_s}));
+    EXPECT_TRUE(Read(u"out/updates_info.inf"_s)
+                    .startsWith("[LatestVersion]\r\nVersion=" + Version.toLatin1() + "\r\nVersionName=Brindock 2005 " +
+                                Version.toLatin1() + "\r\nURL=http://example.test/suite/" + name.toLatin1() + "\r\n"));
+    EXPECT_TRUE(Read(u"out/"_s + name).startsWith("MZ"));
+}
+
 TEST_F(Release, CanBeReadByAServerOfAnotherUser) {
     QFile::setPermissions(Path(u"setup.exe"_s), QFile::ReadOwner | QFile::WriteOwner);
     ASSERT_EQ(Make(u"windows"_s, {u"--program"_s, Path(u"setup.exe"_s)}).Code, 0);
@@ -182,7 +194,7 @@ TEST_F(Release, IsRefusedWhereTheSuitesCouldNotReadIt) {
     for (const QStringList& wrong : {QStringList{u"--program"_s, Path(u"set up.exe"_s)},
                                      {u"--program"_s, Path(u"none"_s)},
                                      {u"--program"_s},
-                                     {u"--name"_s, u"no program"_s},
+                                     {u"--from"_s, Path(u"tree"_s)},
                                      {u"--program"_s, setup, u"--name"_s, u"Zürich"_s},
                                      {u"--program"_s, setup, u"--name"_s, u"4\n[3.5.4]\nUpdateAvailable=1"_s},
                                      {u"--program"_s, setup, u"--name"_s, QString(255, u'x')},
