@@ -20,7 +20,7 @@ namespace {
 /// The class of the nearest window that has a place; empty without one.
 QString KnownWindow(const QWidget* widget) {
     for (; widget != nullptr; widget = widget->parentWidget()) {
-        const QString name = QString::fromLatin1(widget->metaObject()->className());
+        QString name = QString::fromLatin1(widget->metaObject()->className());
         if (Manual::Has(name))
             return name;
     }
