@@ -12,7 +12,11 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +41,30 @@ QStringList Forms() {
 QString Built(const QString& page) {
     QFile file(QFileInfo(QString::fromUtf8(Places::Suite)).path() + u"/manual/"_s + page);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The words that a page of the sources has in italics, which are those of menus and buttons.
+QStringList NamesIn(const QString& path) {
+    static const QRegularExpression code(u"```.*?```|`[^`]*`|\\*\\*[^*]+\\*\\*"_s,
+                                         QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression italics(u"\\*([^*]+)\\*"_s);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QString text = QString::fromUtf8(file.readAll()).replace(u"***"_s, u"*"_s).remove(code);
+    text.replace(u"\n>"_s, u"\n"_s);
+    QStringList names;
+    for (const QRegularExpressionMatch& match : italics.globalMatch(text))
+        names += match.captured(1).simplified();
+    return names;
+}
+
+/// The texts of one of the program's languages.
+QStringList TextsOf(const QString& language) {
+    QStringList texts{u"BIG Editor"_s, u"CSF Editor"_s}; // are called so in every language
+    for (const QString& line : QString::fromLatin1(OwnLanguages::Bytes(language)).split(u"\r\n"_s))
+        texts += line.section(u'=', 1);
+    return texts;
 }
 
 class Manuals : public testing::Test {
@@ -76,6 +104,22 @@ TEST(ManualPlaces, EachStandsInTheBuiltManualOfEachLanguage) {
             const QString door = Built(language + u"at/%1.%2.html"_s.arg(page, section));
             EXPECT_TRUE(door.contains(u"url=../%1.html#%2\""_s.arg(page, section))) << window.toString().toStdString();
         }
+    }
+}
+
+TEST(ManualTexts, MenusAndButtonsAreCalledAsInTheWindows) {
+    for (const auto& [folder, language] : {std::pair(u"en"_s, u"English"_s), std::pair(u"fr"_s, u"French"_s)}) {
+        const QStringList texts = TextsOf(language);
+        const QDir pages(QString::fromUtf8(Places::Sources) + u"/docs/manual/"_s + folder);
+        qsizetype names = 0;
+        for (const QString& page : pages.entryList({u"*.md"_s})) {
+            for (const QString& name : NamesIn(pages.filePath(page))) {
+                ++names;
+                const auto isOf = [&](const QString& text) { return text.startsWith(name); };
+                EXPECT_TRUE(std::ranges::any_of(texts, isOf)) << page.toStdString() << ": " << name.toStdString();
+            }
+        }
+        EXPECT_GT(names, 50);
     }
 }
 
