@@ -21,6 +21,7 @@ constexpr QByteArrayView help("usage: brindock [SWITCH] [FILE]\n"
                               "  /launch /gen           starts a game; also /zh, /bfme and /bfme2\n"
                               "  --help, --version\n"
                               "\n"
+                              "In each window F1 opens the manual.\n"
                               "brindock-cli does the same for scripts.\n");
 
 } // namespace

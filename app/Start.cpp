@@ -18,6 +18,7 @@
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/text/ControlTexts.h"
+#include "ui/window/ManualKey.h"
 #include "ui/window/ScreenKeeper.h"
 #include "ui/window/WindowHost.h"
 #include "update/NetworkClient.h"
@@ -48,6 +49,8 @@ int RunSuite(int argc, char** argv, QObject* watcher) {
     Style::Apply(application);
     ScreenKeeper screenKeeper;
     application.installEventFilter(&screenKeeper);
+    ManualKey manualKey;
+    application.installEventFilter(&manualKey);
     Application::installTranslator(new ControlTexts(&application));
     // The icon's readers take longer than the first window: it comes up without it.
     constexpr int untilTheWindowStands = 100;

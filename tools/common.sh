@@ -11,7 +11,8 @@ if [ -z "${LC_ALL:-}${LC_CTYPE:-}${LANG:-}" ]; then export LANG=C.UTF-8; fi
 
 # What the build needs; the display packages serve pictures of windows where there is no screen.
 build_packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-qpa-plugins zlib1g-dev libcli11-dev libgtest-dev
-  libbenchmark-dev librsvg2-bin imagemagick libdevil-dev libstb-dev libsdl2-mixer-dev libzip-dev libsodium-dev pkg-config)
+  libbenchmark-dev librsvg2-bin imagemagick cmark-gfm python3 libdevil-dev libstb-dev libsdl2-mixer-dev libzip-dev
+  libsodium-dev pkg-config)
 # What the tests run besides: other programs read what is written here.
 test_packages=(clang-format python3 gettext unzip p7zip-full libarchive-tools minisign nsis)
 display_packages=(xvfb xdotool openbox fonts-dejavu-core)

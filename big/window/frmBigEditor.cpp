@@ -57,6 +57,7 @@ frmBigEditor::frmBigEditor(QWidget* parent)
     mTraduction::ApplyLanguage(this);
     Equip({.Exit = ui_->mnuExit,
            .Options = ui_->mnuOptions,
+           .Manual = ui_->mnuManual,
            .CheckForUpdates = ui_->mnuCheckForUpdates,
            .About = ui_->mnuAbout},
           Commands());

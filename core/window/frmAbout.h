@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-/// The small box that names the version. A click anywhere, Esc or Enter closes it.
+/// The small box that names the version, with a button that copies what a report should tell. A click anywhere else,
+/// Esc or Enter closes it.
 #pragma once
 
 #include <QDialog>
@@ -25,6 +26,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void CopyDetails();
+
     std::unique_ptr<Ui::frmAbout> ui_;
     QPixmap picture_;
 };

@@ -39,6 +39,7 @@ frmCSFEditor::frmCSFEditor(QWidget* parent)
                              [this](int column) { editor_.ClickHeader(static_cast<LabelList::Column>(column)); });
     Equip({.Exit = ui_->mnuExit,
            .Options = ui_->mnuOptions,
+           .Manual = ui_->mnuManual,
            .CheckForUpdates = ui_->mnuCheckForUpdates,
            .About = ui_->mnuAbout},
           Commands());

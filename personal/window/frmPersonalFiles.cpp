@@ -50,11 +50,7 @@ frmPersonalFiles::frmPersonalFiles(QWidget* parent)
       status_(new QLabel) {
     ui_->setupUi(this);
     mTraduction::ApplyLanguage(this);
-    Equip({.Exit = ui_->mnuExit,
-           .Options = ui_->mnuOptions,
-           .CheckForUpdates = ui_->mnuCheckForUpdates,
-           .About = ui_->mnuAbout},
-          Commands());
+    Equip({ui_->mnuExit, ui_->mnuOptions, ui_->mnuManual, ui_->mnuCheckForUpdates, ui_->mnuAbout}, Commands());
     parts_ = {KindPart{PersonalKind::Map, ui_->MapList, ui_->lstMaps},
               KindPart{PersonalKind::Replay, ui_->ReplayList, ui_->lstReplays},
               KindPart{PersonalKind::ShellMap, ui_->ShellMapList, ui_->lstShellMaps},

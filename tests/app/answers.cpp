@@ -34,6 +34,7 @@ TEST(AnswersTest, HelpAndVersionArePrintedAndNothingIsOpened) {
     EXPECT_EQ(help.Code, 0);
     EXPECT_TRUE(help.Output.startsWith("usage: brindock [SWITCH] [FILE]\n"));
     EXPECT_TRUE(help.Output.contains("/addfile"));
+    EXPECT_TRUE(help.Output.contains("manual"));
     EXPECT_EQ(Answered({u"-h"_s}).Output, help.Output);
     const Ended version = Answered({u"--version"_s});
     EXPECT_EQ(version.Code, 0);

@@ -8,6 +8,7 @@
 #include "core/rescue/RescuedDocument.h"
 #include "platform/Paths.h"
 #include "ui/text/Mnemonics.h"
+#include "ui/window/ManualKey.h"
 #include "ui/window/NoticeStrip.h"
 
 #include <QAction>
@@ -28,6 +29,7 @@ void ToolWindow::Equip(const CommonEntries& common, std::vector<ToolCommand> com
     common.Exit->setShortcuts({common.Exit->shortcut(), QKeySequence(u"Alt+F4"_s)});
     commands.push_back({common.Exit, nullptr, u"exit"_s, [this] { close(); }});
     commands.push_back({common.Options, nullptr, u"options"_s, [this] { mMain::ShowOptions(this); }});
+    commands.push_back({common.Manual, nullptr, u"manual"_s, [this] { ManualKey::Open(this); }});
     commands.push_back(
         {common.CheckForUpdates, nullptr, u"update"_s, [] { Navigator::Current().CheckForUpdates(false); }});
     commands.push_back({common.About, nullptr, u"about"_s, [this] { Navigator::Current().ShowAbout(this); }});

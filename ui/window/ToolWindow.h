@@ -29,6 +29,7 @@ protected:
     struct CommonEntries {
         QAction* Exit;
         QAction* Options;
+        QAction* Manual;
         QAction* CheckForUpdates;
         QAction* About;
     };

@@ -7,7 +7,10 @@
 #include "tests/windows/LanguageChecks.h"
 #include "tests/windows/WindowTests.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +20,7 @@ private Q_SLOTS:
 
     void init() {
         world_ = std::make_unique<World>();
-        world_->UseLanguage("[LNG]\r\nAbout=\xC0 propos\r\n");
+        world_->UseLanguage("[LNG]\r\nAbout=\xC0 propos\r\nDetailsCopied=Copi\xE9\r\n");
         world_->Start();
         about_ = std::make_unique<frmAbout>();
         about_->show();
@@ -56,6 +59,36 @@ private Q_SLOTS:
         QVERIFY(!about_->isVisible());
     }
 
+    void theButtonCopiesTheDetailsAndTheBoxStays() {
+        QGuiApplication::clipboard()->clear();
+        QTest::mouseClick(Button(), Qt::LeftButton);
+        QVERIFY(about_->isVisible());
+        const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n');
+        QCOMPARE(lines.value(0), u"Brindock 2005 "_s + mMain::VersionText());
+        QVERIFY(lines.value(3).startsWith(u"Display: %1, scale "_s.arg(QGuiApplication::platformName())));
+        QCOMPARE(lines.size(), 10);
+        QCOMPARE(Button()->text(), u"Copi\u00E9"_s);
+    }
+
+    void theKeyboardReachesTheButton_data() {
+        QTest::addColumn<int>("key");
+        QTest::newRow("blank") << static_cast<int>(Qt::Key_Space);
+        QTest::newRow("Enter") << static_cast<int>(Qt::Key_Return);
+    }
+
+    void theKeyboardReachesTheButton() {
+        QFETCH(int, key);
+        QGuiApplication::clipboard()->clear();
+        QVERIFY(!Button()->hasFocus());
+        QTest::keyClick(about_.get(), Qt::Key_Tab);
+        QVERIFY(Button()->hasFocus());
+        QTest::keyClick(Button(), static_cast<Qt::Key>(key));
+        QVERIFY(about_->isVisible());
+        QVERIFY(QGuiApplication::clipboard()->text().startsWith(u"Brindock 2005 "_s));
+        QTest::keyClick(Button(), Qt::Key_Escape);
+        QVERIFY(!about_->isVisible());
+    }
+
     void anotherKeyDoesNot() {
         QTest::keyClick(about_.get(), Qt::Key_A);
         QVERIFY(about_->isVisible());
@@ -71,9 +104,13 @@ private Q_SLOTS:
         about.show();
         QVERIFY(QTest::qWaitForWindowExposed(&about));
         QVERIFY(AllTextsHaveRoom(about));
+        QTest::mouseClick(about.findChild<QPushButton*>(u"cmdCopyDetails"_s), Qt::LeftButton);
+        QVERIFY(AllTextsHaveRoom(about));
     }
 
 private:
+    QPushButton* Button() { return about_->findChild<QPushButton*>(u"cmdCopyDetails"_s); }
+
     std::unique_ptr<World> world_;
     std::unique_ptr<frmAbout> about_;
 };

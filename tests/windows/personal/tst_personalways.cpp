@@ -45,6 +45,7 @@ private:
             Call("mnuOptions", u"ShowOptions"_s),
             Call("mnuCheckForUpdates", u"CheckForUpdates manual"_s),
             Call("mnuAbout", u"ShowAbout"_s),
+            {"mnuManual", -1, [] {}, [this] { return host_->Messages.size() == 1; }}, // there is none in this world
             {"mnuExit", -1, [] {}, [this] { return !window_->isVisible(); }},
         };
     }

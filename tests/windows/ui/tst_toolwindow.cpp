@@ -36,7 +36,7 @@ public:
         column->addWidget(First);
         column->addWidget(Second);
         setCentralWidget(content);
-        Equip({.Exit = Exit, .Options = Options, .CheckForUpdates = CheckForUpdates, .About = About},
+        Equip({.Exit = Exit, .Options = Options, .Manual = Manual, .CheckForUpdates = CheckForUpdates, .About = About},
               {{own, nullptr, {}, [this] { ++Runs; }}});
         First->setFocus();
         own->trigger();
@@ -49,6 +49,7 @@ public:
 
     QAction* Exit = new QAction(u"Exit"_s, this);
     QAction* Options = new QAction(u"Options"_s, this);
+    QAction* Manual = new QAction(u"Manual"_s, this);
     QAction* CheckForUpdates = new QAction(u"Updates"_s, this);
     QAction* About = new QAction(u"About"_s, this);
     QLineEdit* First = new QLineEdit;
