@@ -152,6 +152,25 @@ private Q_SLOTS:
         QCOMPARE(window_->Target().ExtractFolder, world_->Root() + u'\\');
     }
 
+    void theTreeFollowsWhatIsTyped() {
+        const QString maps = world_->Root() + u"\\Maps\\"_s;
+        Type(Paths::ToNative(maps));
+        QTRY_COMPARE(Box()->Path(), maps);
+        QCOMPARE(Part<QLineEdit>("txtPath")->text(), Paths::ToNative(maps));
+        Type(Paths::ToNative(world_->Root() + u"\\new one"_s));
+        QTRY_COMPARE(Box()->Path(), world_->Root() + u'\\');
+        QCOMPARE(Part<QLineEdit>("txtPath")->text(), Paths::ToNative(world_->Root() + u"\\new one"_s));
+        Part<QPushButton>("cmdOK")->click();
+        QCOMPARE(window_->Target().ExtractFolder, world_->Root() + u"\\new one\\"_s);
+    }
+
+    void aClickInTheTreeEndsWhatIsTyped() {
+        Type(Paths::ToNative(world_->Root() + u"\\Maps"_s));
+        QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, View()->visualRect(View()->currentIndex()).center());
+        QTest::qWait(500);
+        QCOMPARE(Box()->Path(), world_->Root() + u'\\');
+    }
+
     void theLastPlaceIsOfferedFirst() {
         const QString place = Paths::Folder(world_->WriteFile(u"last\\x"_s, "x"));
         Type(Paths::ToNative(place));
