@@ -35,8 +35,7 @@ frmBrowseForFolder::frmBrowseForFolder(QWidget* parent, std::unique_ptr<FileBoxS
     mTraduction::ApplyLanguage(this);
     if (system)
         ui_->cfbFolders->UseSystem(std::move(system));
-    for (QWidget* part : {static_cast<QWidget*>(ui_->cfbFolders->View()), static_cast<QWidget*>(ui_->txtPath)})
-        part->setAccessibleName(ui_->lblFolders->text());
+    ui_->cfbFolders->View()->setAccessibleName(GetText(u"Folder"_s));
     typing_.setSingleShot(true);
     typing_.setInterval(typingPause);
     connect(&typing_, &QTimer::timeout, this, &frmBrowseForFolder::FollowTyped);

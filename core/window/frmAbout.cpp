@@ -4,6 +4,7 @@
 #include "core/window/frmAbout.h"
 
 #include "core/mMain.h"
+#include "ui/look/ForReaders.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/text/Localisation.h"
@@ -30,6 +31,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::
     Dress(ui_->lblVersion, Style::TextFont(), Style::Colour::TextOnPicture);
     Dress(ui_->Label2, Style::HeadingFont(12), Style::Colour::EntryHover);
     Dress(ui_->Label3, Style::HeadingFont(12), Style::Colour::ShadowOnPicture);
+    ForReaders::Hide(*ui_->Label3); // Label2's shadow
     mTraduction::ApplyLanguage(this);
     ui_->lblVersion->setText(mMain::VersionText());
 }

@@ -51,8 +51,8 @@ private Q_SLOTS:
         QCOMPARE(Part<QCheckBox>("ckCreateDirs")->text(), u"Baum"_s);
         QCOMPARE(Part<QPushButton>("cmdOK")->text(), u"Gut"_s);
         QCOMPARE(Part<QPushButton>("cmdCancel")->text(), u"Nein"_s);
-        QCOMPARE(View()->accessibleName(), u"Nach:"_s);
-        QCOMPARE(Part<QLineEdit>("txtPath")->accessibleName(), u"Nach:"_s);
+        QCOMPARE(View()->accessibleName(), u"Folder"_s);
+        QCOMPARE(Part<QLabel>("lblFolders")->buddy(), Part<QLineEdit>("txtPath"));
     }
 
     void itStartsAtTheDocumentsWithTheTreeInFocus() {
