@@ -280,6 +280,8 @@ void frmBigEditor::TreeChanged() {
 
 void frmBigEditor::ListChanged() {
     listModel_->Reset(editor_.State().FileIcons);
+    treeModel_->ShowSystemIcons(editor_.State().FileIcons);
+    ui_->tvDirs->viewport()->update();
     ui_->lvFiles->RowsChanged();
     ui_->lvFiles->Current()->scrollToTop();
     TellSelection();
