@@ -99,6 +99,20 @@ void frmToolsMenu::PlaceTexts() {
     ui_->lblVersion->move(right - ui_->lblVersion->width() + 1, ui_->lblVersion->y());
 }
 
+// Picture, entries and letters alike.
+void frmToolsMenu::ShrinkTo(const QSize& room) {
+    const qreal part = std::min(qreal(room.width()) / width(), qreal(room.height()) / height());
+    for (QWidget* const child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        const QRectF place(child->geometry());
+        child->setGeometry(QRectF(place.topLeft() * part, place.size() * part).toAlignedRect());
+        QFont font = child->font();
+        font.setPointSizeF(font.pointSizeF() * part);
+        child->setFont(font);
+    }
+    setFixedSize((QSizeF(size()) * part).toSize());
+    setMask(ucShadow::Area(rect()));
+}
+
 void frmToolsMenu::EntryClicked(int index) {
     static constexpr std::array<bool (Navigator::*)(), 3> tools{&Navigator::ShowBigEditor, &Navigator::ShowCSFEditor,
                                                                 &Navigator::ShowPersonalFiles};

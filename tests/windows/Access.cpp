@@ -15,7 +15,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
-#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTabBar>
@@ -91,6 +90,13 @@ bool IsReached(const QWidget& widget, const std::set<const QWidget*>& reached) {
     return false;
 }
 
+/// All of a control, or of what is large a good part.
+bool IsInSight(const QWidget& widget) {
+    constexpr QSize part(80, 32);
+    const QSize seen = widget.visibleRegion().boundingRect().size();
+    return seen.boundedTo(widget.size().boundedTo(part)) == widget.size().boundedTo(part);
+}
+
 QImage Around(QWidget& window, const QWidget& widget) {
     constexpr int border = 4;
     const QRect place(widget.mapTo(&window, QPoint()), widget.size());
@@ -148,22 +154,30 @@ bool Access::IsReachedByTab(QWidget& window) {
     return TellsNothing(amiss);
 }
 
-// 1280 x 720 at twice the size, less the frame.
-bool Access::FitsTwiceTheSize(const QWidget& window) {
-    constexpr QSize screen{640, 360};
+// 1280 x 720 at twice the size.
+bool Access::FitsTwiceTheSize(QWidget& window) {
+    constexpr QRect screen(0, 0, 640, 360);
+    ScreenKeeper::Fit(window, screen);
+    QCoreApplication::processEvents();
     const bool framed = !window.windowFlags().testFlag(Qt::FramelessWindowHint);
-    const QSize room = framed ? screen.shrunkBy(ScreenKeeper::Frame) : screen;
-    QSize least = window.minimumSize();
-    if (window.layout() != nullptr)
-        least = least.expandedTo(window.layout()->minimumSize());
-    if (least.boundedTo(room) == least)
-        return true;
-    return TellsNothing({u"Can't be smaller than %1 x %2"_s.arg(least.width()).arg(least.height())});
+    const QSize room = framed ? screen.size().shrunkBy(ScreenKeeper::Frame) : screen.size();
+    if (window.size().boundedTo(room) != window.size())
+        return TellsNothing({u"Takes %1 x %2"_s.arg(window.width()).arg(window.height())});
+    QStringList amiss;
+    std::set<const QWidget*> reached;
+    for (QWidget* focused = QApplication::focusWidget(); focused != nullptr && !reached.contains(focused);
+         focused = QApplication::focusWidget()) {
+        reached.insert(focused);
+        if (!IsInSight(*focused))
+            amiss += u"Out of sight: "_s + NameOf(*focused);
+        QTest::keyClick(focused, Qt::Key_Tab);
+    }
+    return TellsNothing(amiss);
 }
 
 bool Access::IsFor(QWidget& window, const Expected& expected) {
     const bool hasTree = HasTree(window, expected);
     const bool hasNames = HasNames(window);
     const bool isReached = IsReachedByTab(window);
-    return hasTree && hasNames && isReached;
+    return FitsTwiceTheSize(window) && hasTree && hasNames && isReached;
 }

@@ -34,6 +34,7 @@ bool IsFor(QWidget& window, const Expected& expected);
 bool HasTree(QWidget& window, const Expected& expected);
 bool HasNames(QWidget& window);
 bool IsReachedByTab(QWidget& window);
-bool FitsTwiceTheSize(const QWidget& window);
+/// Makes the window fit, and leaves it so.
+bool FitsTwiceTheSize(QWidget& window);
 
 } // namespace Access
