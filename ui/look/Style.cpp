@@ -48,6 +48,7 @@ QPalette FamilyPalette() {
     palette.setColor(QPalette::ToolTipText, Qt::black);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, Colour::DisabledText);
+    palette.setColor(QPalette::Disabled, QPalette::Base, Colour::Face);
     return palette;
 }
 

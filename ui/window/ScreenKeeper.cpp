@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -28,7 +29,7 @@ QSize LeastSize(const QWidget& window) {
 }
 
 /// The controls keep their order for the Tab key: none of them leaves the window on its way. What scrolls is never
-/// smaller than the form wants it to be.
+/// lower than the form wants it to be, and has its width as far as there is room beside the bar.
 void LetScroll(QWidget& window) {
     const QPointer<QWidget> focused = window.focusWidget();
     auto* const area = new QScrollArea(&window);
@@ -37,12 +38,12 @@ void LetScroll(QWidget& window) {
     area->setFocusPolicy(Qt::NoFocus);
     if (auto* const main = qobject_cast<QMainWindow*>(&window)) {
         QWidget* const content = main->centralWidget();
-        content->setMinimumSize(window.minimumSize().shrunkBy({0, 0, 0, window.height() - content->height()}));
+        content->setMinimumHeight(window.minimumHeight() - (window.height() - content->height()));
         area->setWidget(content);
         main->setCentralWidget(area);
     } else {
         auto* const content = new QWidget(area);
-        content->setMinimumSize(window.minimumSize());
+        content->setMinimumHeight(window.minimumHeight());
         area->setWidget(content);
         content->setLayout(window.layout());
         auto* const whole = new QVBoxLayout(&window);
@@ -51,6 +52,7 @@ void LetScroll(QWidget& window) {
     }
     area->setVisible(true);
     window.setMinimumSize(0, 0);
+    window.resize(window.width() + area->verticalScrollBar()->sizeHint().width(), window.height());
     if (focused == nullptr)
         return;
     focused->setFocus();

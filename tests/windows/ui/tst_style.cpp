@@ -20,12 +20,16 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QTextEdit>
 #include <QToolButton>
 #include <QTreeView>
 #include <QtMath>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <functional>
+#include <memory>
 
 class tst_style : public QObject {
     Q_OBJECT
@@ -52,6 +56,30 @@ private:
     }
 
 private Q_SLOTS:
+
+    void boxesThatAreDisabledLookSo_data() {
+        QTest::addColumn<int>("kind");
+        QTest::newRow("line") << 0;
+        QTest::newRow("text") << 1;
+        QTest::newRow("rich text") << 2;
+        QTest::newRow("list that opens") << 3;
+        QTest::newRow("list") << 4;
+    }
+
+    void boxesThatAreDisabledLookSo() {
+        QFETCH(const int, kind);
+        Style::Apply(*qApp);
+        const std::array<std::function<QWidget*()>, 5> makers{
+            [] { return new QLineEdit(QStringLiteral("text")); }, [] { return new QPlainTextEdit; },
+            [] { return new QTextEdit; }, [] { return new QComboBox; }, [] { return new QTreeView; }};
+        const std::unique_ptr<QWidget> box(makers.at(static_cast<std::size_t>(kind))());
+        box->resize(100, 60);
+        const QImage enabled = Shown(*box, 1);
+        box->setEnabled(false);
+        const QImage disabled = Shown(*box, 1);
+        for (const QPoint place : {QPoint(70, 45), QPoint(0, 30)})
+            QVERIFY(enabled.pixelColor(place) != disabled.pixelColor(place)); // its ground, its edge
+    }
 
     void listsAndMenusHaveTheFamilysFaceWhereTheSystemHasAnother() {
         for (const char* name : {"QMenuBar", "QAbstractItemView"})
