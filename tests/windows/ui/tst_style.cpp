@@ -23,6 +23,7 @@
 #include <QTextEdit>
 #include <QToolButton>
 #include <QTreeView>
+#include <QWindow>
 #include <QtMath>
 
 #include <algorithm>
@@ -56,6 +57,30 @@ private:
     }
 
 private Q_SLOTS:
+
+    void theFamilysColoursStayWhenTheSystemsBecomeHighContrast() {
+        Style::Apply(*qApp);
+        QMenuBar window;
+        window.show();
+        const QPalette before = window.palette();
+        QPalette contrast(Qt::black, Qt::black);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            contrast.setColor(role, Qt::white);
+        for (const char* name : {"QMenuBar", "QAbstractItemView", "QLineEdit", "QLabel", "QAbstractButton"})
+            QApplication::setPalette(contrast, name);
+        QEvent change(QEvent::ThemeChange);
+        QApplication::sendEvent(window.windowHandle(), &change);
+        QCOMPARE(window.palette().color(QPalette::Text), before.color(QPalette::Text));
+        for (const auto& [text, ground] :
+             {std::pair{QPalette::WindowText, QPalette::Window}, std::pair{QPalette::Text, QPalette::Base},
+              std::pair{QPalette::Text, QPalette::AlternateBase}, std::pair{QPalette::ButtonText, QPalette::Button},
+              std::pair{QPalette::HighlightedText, QPalette::Highlight},
+              std::pair{QPalette::ToolTipText, QPalette::ToolTipBase}, std::pair{QPalette::Link, QPalette::Window}})
+            for (const char* name : {"QMenuBar", "QAbstractItemView", "QLineEdit", "QLabel", "QAbstractButton"}) {
+                const QPalette palette = QApplication::palette(name);
+                QVERIFY2(Contrast(palette.color(text), palette.color(ground)) >= 4.5, name);
+            }
+    }
 
     void boxesThatAreDisabledLookSo_data() {
         QTest::addColumn<int>("kind");
