@@ -90,9 +90,9 @@ bool IsReached(const QWidget& widget, const std::set<const QWidget*>& reached) {
     return false;
 }
 
-/// All of a control, or of what is large a good part.
+/// All of a control, or of what is large a good part; of a list the row that has the keyboard.
 bool IsInSight(const QWidget& widget) {
-    constexpr QSize part(80, 32);
+    const QSize part(80, widget.inherits("QAbstractItemView") ? 16 : 32);
     const QSize seen = widget.visibleRegion().boundingRect().size();
     return seen.boundedTo(widget.size().boundedTo(part)) == widget.size().boundedTo(part);
 }
