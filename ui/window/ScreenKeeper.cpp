@@ -4,6 +4,7 @@
 #include "ui/window/ScreenKeeper.h"
 
 #include <QEvent>
+#include <QLayout>
 #include <QMainWindow>
 #include <QPointer>
 #include <QScreen>
