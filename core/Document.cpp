@@ -3,9 +3,12 @@
 
 #include "core/Document.h"
 
+#include "core/Game.h"
 #include "core/Host.h"
+#include "core/LastTime.h"
 #include "core/ProgramFolders.h"
 #include "core/mTraduction.h"
+#include "platform/Files.h"
 #include "platform/Paths.h"
 
 using namespace Qt::StringLiterals;
@@ -27,4 +30,19 @@ bool Document::GoOnWithoutChanges(const QString& name, const std::function<Saved
 QString Document::FolderForDialogs(const QString& path) {
     const QString folder = Paths::Folder(path);
     return folder.startsWith(ProgramFolders::SharedScratchFolder() + u'\\', Qt::CaseInsensitive) ? QString() : folder;
+}
+
+QString Document::FolderToOpenIn(const QString& kind, const QString& path) {
+    QString folder = FolderForDialogs(path);
+    if (folder.isEmpty())
+        folder = LastTime::Folder(kind);
+    for (const GameEntry& game : Game)
+        if (folder.isEmpty() && !game.InstallPath.isEmpty() && Files::FolderExists(game.InstallFolder()))
+            folder = game.InstallFolder();
+    return folder;
+}
+
+void Document::NoteRecent(const QString& kind, const QString& path) {
+    if (!FolderForDialogs(path).isEmpty())
+        LastTime::NoteFile(kind, path);
 }

@@ -64,4 +64,11 @@ bool GoOnWithoutChanges(const QString& name, const std::function<Saved()>& save)
 /// scratch folder, where nothing lasts.
 QString FolderForDialogs(const QString& path);
 
+/// Where the dialog that opens a document of a kind (see LastTime) begins: beside the one that is open, else where the
+/// last one was, else with the first game that was found.
+QString FolderToOpenIn(const QString& kind, const QString& path);
+
+/// Puts the file first among the recent ones of its kind, unless it lies where nothing lasts.
+void NoteRecent(const QString& kind, const QString& path);
+
 } // namespace Document

@@ -3,6 +3,7 @@
 
 #include "media/PictureCanvas.h"
 
+#include "ui/look/ForReaders.h"
 #include "ui/skin/SkinPainter.h"
 
 #include <QMouseEvent>
@@ -48,6 +49,7 @@ int Scrolled(double share, double length, double fixed) {
 
 PictureCanvas::PictureCanvas(QWidget* parent) : QAbstractScrollArea(parent) {
     setFocusPolicy(Qt::StrongFocus);
+    ForReaders::SetRole(*this, QAccessible::Graphic);
 }
 
 void PictureCanvas::SetPicture(const QImage& picture) {

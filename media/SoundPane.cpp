@@ -4,6 +4,7 @@
 #include "media/SoundPane.h"
 
 #include "core/mTraduction.h"
+#include "ui/look/NameTip.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -93,8 +94,7 @@ void SoundPane::Follow() {
     const QString name = plays ? GetText(u"StopSound"_s) : GetText(u"PlaySound"_s);
     if (play_->accessibleName() != name) {
         play_->setIcon(style()->standardIcon(plays ? QStyle::SP_MediaStop : QStyle::SP_MediaPlay));
-        play_->setAccessibleName(name);
-        play_->setToolTip(name);
+        NameTip::Give(*play_, name);
     }
     play_->setEnabled(playable);
     position_->setEnabled(playable && status.Length > 0);

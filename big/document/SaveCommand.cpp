@@ -6,10 +6,7 @@
 #include "big/document/FileAdding.h"
 #include "big/document/KeptRows.h"
 #include "big/document/OffsetNotices.h"
-#include "core/Game.h"
-#include "core/LastTime.h"
 #include "core/mTraduction.h"
-#include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 
@@ -57,11 +54,7 @@ Host::FileDialog SaveCommand::ArchiveDialog() {
 
 Host::FileDialog SaveCommand::OpenDialog() {
     Host::FileDialog dialog = ArchiveDialog();
-    if (dialog.Folder.isEmpty())
-        dialog.Folder = LastTime::Folder(u"big"_s);
-    for (const GameEntry& game : Game)
-        if (dialog.Folder.isEmpty() && !game.InstallPath.isEmpty() && Files::FolderExists(game.InstallFolder()))
-            dialog.Folder = game.InstallFolder();
+    dialog.Folder = Document::FolderToOpenIn(u"big"_s, mBIG::BigFileName);
     return dialog;
 }
 

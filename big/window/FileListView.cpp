@@ -169,7 +169,6 @@ void FileListView::SetMode(ViewMode mode) {
     SizeCells();
     const bool hadFocus = Current()->hasFocus();
     setCurrentWidget(mode == ViewMode::Details ? static_cast<QWidget*>(details_) : icons_);
-    setFocusProxy(currentWidget());
     if (hadFocus)
         currentWidget()->setFocus();
     Current()->scrollTo(Selection()->currentIndex());
@@ -197,7 +196,7 @@ void FileListView::RowsChanged() {
 }
 
 void FileListView::SetAccessibleNames(const QString& name) {
-    for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(details_), static_cast<QWidget*>(icons_)})
+    for (QWidget* part : {static_cast<QWidget*>(details_), static_cast<QWidget*>(icons_)})
         part->setAccessibleName(name);
 }
 
@@ -238,6 +237,11 @@ QAbstractItemView* FileListView::Current() const {
 void FileListView::AddAction(QAction* action) {
     details_->addAction(action);
     icons_->addAction(action);
+}
+
+// Not by a focus proxy: the Tab key would take it for another control, whose turn comes twice.
+void FileListView::focusInEvent(QFocusEvent* event) {
+    Current()->setFocus(event->reason());
 }
 
 void FileListView::ShowDropFrame(bool show) {

@@ -68,6 +68,8 @@ Q_SIGNALS:
     void FilesDropped(const QStringList& paths);
 
 protected:
+    /// The view that is shown has the keyboard for the whole.
+    void focusInEvent(QFocusEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -3,8 +3,6 @@
 
 #include "big/window/FolderTreeModel.h"
 
-#include "big/window/BigIcons.h"
-
 FolderTreeModel::FolderTreeModel(const FolderTree& tree, QObject* parent)
     : QAbstractItemModel(parent),
       tree_(tree),
@@ -58,7 +56,7 @@ QVariant FolderTreeModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole || role == Qt::EditRole)
         return node.Text;
     if (role == Qt::DecorationRole)
-        return node.Parent == FolderTree::None ? archiveIcon_ : folderIcon_;
+        return node.Parent == FolderTree::None ? archiveIcon_ : systemIcons_ ? icons_.Folder(true) : folderIcon_;
     return {};
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "big/document/FolderTree.h"
+#include "big/window/BigIcons.h"
 
 #include <QAbstractItemModel>
 #include <QIcon>
@@ -17,6 +18,9 @@ public:
 
     /// Takes the tree as it is now. To be called after each change of its nodes.
     void Reset();
+
+    /// Folders look as in the list: with the system's icon or with the program's own. The view is to be painted anew.
+    void ShowSystemIcons(bool show) { systemIcons_ = show; }
 
     /// The root's text is another one.
     void RootTextChanged();
@@ -42,4 +46,6 @@ private:
     const FolderTree& tree_;
     QIcon archiveIcon_;
     QIcon folderIcon_;
+    BigIcons icons_;
+    bool systemIcons_ = false;
 };

@@ -4,6 +4,7 @@
 #include "big/window/PictureLink.h"
 
 #include "core/mTraduction.h"
+#include "ui/look/NameTip.h"
 #include "ui/skin/SkinPainter.h"
 
 #include <QPainter>
@@ -17,8 +18,7 @@ PictureLink::PictureLink(QWidget* covered) : QAbstractButton(covered) {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    setAccessibleName(mTraduction::GetText(u"ShowPicture"_s));
-    setToolTip(accessibleName());
+    NameTip::Give(*this, mTraduction::GetText(u"ShowPicture"_s));
     auto* const whole = new QVBoxLayout(covered);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(this);

@@ -38,7 +38,6 @@ void PreviewPane::TellPicture(const PreviewState& state) {
     auto* const told = findChild<QLabel*>(u"lblPicture"_s);
     told->setVisible(findChild<QWidget*>(u"Picture1"_s)->isVisibleTo(this));
     told->setText(PictureRows::Facts(state));
-    told->setToolTip(told->text());
 }
 
 void PreviewPane::ShowPicture(const PreviewState& state) {

@@ -14,6 +14,7 @@
 #include "core/mTraduction.h"
 #include "platform/Paths.h"
 #include "ui/text/Localisation.h"
+#include "ui/window/RecentFiles.h"
 #include "ui/window/WindowPlace.h"
 #include "ui_frmBigEditor.h"
 
@@ -118,7 +119,7 @@ void frmBigEditor::Dress() {
     auto* views = new QActionGroup(this);
     for (QAction* action : {ui_->mnuLvView_0, ui_->mnuLvView_1, ui_->mnuLvView_2, ui_->mnuLvView_3})
         views->addAction(action);
-    connect(ui_->mnuRecent, &QMenu::aboutToShow, this, &frmBigEditor::ShowRecent);
+    RecentFiles::Lead(*ui_->mnuRecent, u"big"_s, [this](const QString& path) { editor_.OpenInstead(path); });
     setAcceptDrops(true);
     UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4,
                                         ui_->Label2_5, ui_->Label2_6, ui_->Label2_7});
@@ -280,6 +281,8 @@ void frmBigEditor::TreeChanged() {
 
 void frmBigEditor::ListChanged() {
     listModel_->Reset(editor_.State().FileIcons);
+    treeModel_->ShowSystemIcons(editor_.State().FileIcons);
+    ui_->tvDirs->viewport()->update();
     ui_->lvFiles->RowsChanged();
     ui_->lvFiles->Current()->scrollToTop();
     TellSelection();

@@ -88,7 +88,6 @@ private:
     void FollowPicture();
     void GoUp();
     void Rename();
-    void ShowRecent();
     void NoteRecent();
     void ToggleText();
     void FollowText();

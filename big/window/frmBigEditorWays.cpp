@@ -10,7 +10,6 @@
 #include "big/window/frmSearch.h"
 #include "core/LastTime.h"
 #include "platform/Files.h"
-#include "platform/Paths.h"
 #include "ui/window/DroppedFiles.h"
 #include "ui_frmBigEditor.h"
 
@@ -36,19 +35,7 @@ QString ArchiveIn(const QMimeData& data) {
 void frmBigEditor::NoteRecent() {
     const mBIG::Identity shown = editor_.State().ArchiveOpen ? mBIG::CurrentIdentity() : nullptr;
     if (std::exchange(noted_, shown) != shown && shown != nullptr && Files::FileExists(mBIG::BigFileName))
-        LastTime::NoteFile(u"big"_s, mBIG::BigFileName);
-}
-
-void frmBigEditor::ShowRecent() {
-    ui_->mnuRecent->clear();
-    int number = 0;
-    for (const QString& path : LastTime::Files(u"big"_s)) {
-        const QString name = Paths::ToNative(path).replace(u'&', u"&&"_s);
-        QAction* const entry = ui_->mnuRecent->addAction(u"&%1 %2"_s.arg(QString::number(++number % 10), name));
-        connect(entry, &QAction::triggered, this, [this, path] { editor_.OpenInstead(path); });
-    }
-    if (ui_->mnuRecent->isEmpty())
-        ui_->mnuRecent->addAction(u"-"_s)->setEnabled(false);
+        Document::NoteRecent(u"big"_s, mBIG::BigFileName);
 }
 
 void frmBigEditor::ToggleText() {

@@ -14,13 +14,19 @@
 #include "ui_frmBrowseForFolder.h"
 
 #include <QDir>
+#include <QScopedValueRollback>
 #include <QTreeView>
 #include <QUrl>
 
+#include <chrono>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 using mTraduction::GetText;
+
+namespace {
+constexpr std::chrono::milliseconds typingPause{300};
+} // namespace
 
 frmBrowseForFolder::frmBrowseForFolder(QWidget* parent, std::unique_ptr<FileBoxSystem> system)
     : QDialog(parent),
@@ -29,9 +35,14 @@ frmBrowseForFolder::frmBrowseForFolder(QWidget* parent, std::unique_ptr<FileBoxS
     mTraduction::ApplyLanguage(this);
     if (system)
         ui_->cfbFolders->UseSystem(std::move(system));
-    for (QWidget* part : {static_cast<QWidget*>(ui_->cfbFolders->View()), static_cast<QWidget*>(ui_->txtPath)})
-        part->setAccessibleName(ui_->lblFolders->text());
-    connect(ui_->cfbFolders, &CoolFileBox::PathChanged, this, &frmBrowseForFolder::ShowPath);
+    ui_->cfbFolders->View()->setAccessibleName(GetText(u"Folder"_s));
+    typing_.setSingleShot(true);
+    typing_.setInterval(typingPause);
+    connect(&typing_, &QTimer::timeout, this, &frmBrowseForFolder::FollowTyped);
+    connect(ui_->cfbFolders, &CoolFileBox::PathChanged, this, [this] {
+        if (!following_)
+            ShowPath();
+    });
     connect(ui_->cmdOK, &QPushButton::clicked, this, &frmBrowseForFolder::Choose);
     connect(ui_->cmdCancel, &QPushButton::clicked, this, &frmBrowseForFolder::reject);
     connect(ui_->cmdNewFolder, &QPushButton::clicked, this, &frmBrowseForFolder::MakeNewFolder);
@@ -52,6 +63,19 @@ frmBrowseForFolder::~frmBrowseForFolder() = default;
 void frmBrowseForFolder::TakeTyped(const QString& text) {
     typed_ = true;
     ui_->cmdOK->setEnabled(!text.trimmed().isEmpty());
+    typing_.start();
+}
+
+// What was typed stays, also where the tree shows no more than a folder above it.
+void frmBrowseForFolder::FollowTyped() {
+    const QString folder = TypedFolder();
+    if (folder.isEmpty())
+        return;
+    {
+        const QScopedValueRollback following(following_, true);
+        ui_->cfbFolders->SelectPath(folder);
+    }
+    ui_->cmdNewFolder->setEnabled(!ui_->cfbFolders->Path().isEmpty());
 }
 
 QString frmBrowseForFolder::TypedFolder() const {
@@ -71,6 +95,7 @@ QString frmBrowseForFolder::TypedFolder() const {
 
 void frmBrowseForFolder::ShowPath() {
     typed_ = false;
+    typing_.stop();
     const QString path = ui_->cfbFolders->Path();
     // The top of the tree is no folder, and neither are network places that the machine does not have.
     ui_->cmdOK->setEnabled(!path.isEmpty());

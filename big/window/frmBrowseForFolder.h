@@ -8,6 +8,7 @@
 #include "ui/folders/FileBoxSystem.h"
 
 #include <QDialog>
+#include <QTimer>
 
 #include <memory>
 
@@ -34,10 +35,13 @@ private:
     void MakeNewFolder();
     void ShowPath();
     void TakeTyped(const QString& text);
+    void FollowTyped();
     /// The folder that was typed or pasted, with its trailing backslash; empty for what can be none.
     [[nodiscard]] QString TypedFolder() const;
 
     std::unique_ptr<Ui::frmBrowseForFolder> ui_;
     ExtractionTarget target_;
-    bool typed_ = false; ///< the path is the text's and not the tree's
+    QTimer typing_;          ///< runs until what is typed has stood for a moment
+    bool typed_ = false;     ///< the path is the text's and not the tree's
+    bool following_ = false; ///< the tree follows the text, not the other way round
 };

@@ -10,6 +10,7 @@
 #include "platform/Paths.h"
 #include "platform/RuntimeError.h"
 #include "platform/WriteAside.h"
+#include "ui/look/NameTip.h"
 #include "ui/text/Localisation.h"
 #include "ui/window/WindowPlace.h"
 #include "ui_frmPicture.h"
@@ -48,10 +49,7 @@ void frmPicture::Dress() {
     for (const QString& key : {u"GroundChecks"_s, u"GroundWhite"_s, u"GroundBlack"_s, u"GroundAlpha"_s})
         ui_->cmbGround->addItem(GetText(key));
     // Signs say little to who does not see them.
-    const auto name = [](QPushButton* button, const QString& key) {
-        button->setAccessibleName(GetText(key));
-        button->setToolTip(GetText(key));
-    };
+    const auto name = [](QPushButton* button, const QString& key) { NameTip::Give(*button, GetText(key)); };
     name(ui_->cmdBefore, u"PictureBefore"_s);
     name(ui_->cmdBehind, u"PictureBehind"_s);
     name(ui_->cmdOut, u"ZoomOut"_s);

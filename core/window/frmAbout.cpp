@@ -6,6 +6,7 @@
 #include "core/ReportDetails.h"
 #include "core/mMain.h"
 #include "core/mTraduction.h"
+#include "ui/look/ForReaders.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/text/Localisation.h"
@@ -41,6 +42,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent), ui_(std::make_unique<Ui::
     ui_->cmdCopyDetails->SetTextColour(Style::Colour::TextOnPicture);
     Dress(ui_->Label2, Style::HeadingFont(12), Style::Colour::EntryHover);
     Dress(ui_->Label3, Style::HeadingFont(12), Style::Colour::ShadowOnPicture);
+    ForReaders::Hide(*ui_->Label3); // Label2's shadow
     mTraduction::ApplyLanguage(this);
     ui_->lblVersion->setText(mMain::VersionText());
     connect(ui_->cmdCopyDetails, &PictureButton::clicked, this, &frmAbout::CopyDetails);

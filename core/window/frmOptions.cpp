@@ -82,6 +82,10 @@ void frmOptions::ShowFocus() {
 // A list says nothing of itself: it is called as the control above it.
 void frmOptions::NameLists() {
     ui_->Tab1->setAccessibleName(windowTitle());
+    // Empty, it would be told under its frame's title; its room stays.
+    QSizePolicy stays = ui_->lblOption->sizePolicy();
+    stays.setRetainSizeWhenHidden(true);
+    ui_->lblOption->setSizePolicy(stays);
     ui_->lstOptions->setAccessibleName(ui_->Frame3->title());
     ui_->lstMods->setAccessibleName(ui_->checkMod->text());
     ui_->lstShellMaps->setAccessibleName(ui_->opLoadShellMap->text());
@@ -202,6 +206,7 @@ void frmOptions::EnterTab(int index) {
         ShowPage();
     ui_->picPages->setCurrentWidget(plan_.SelectedGame() >= 0 ? ui_->picTab_1 : ui_->picTab_0);
     ui_->lblOption->clear();
+    ui_->lblOption->hide();
     told_.clear();
     ui_->Notices->Close();
     ShowNotice();
@@ -249,6 +254,7 @@ void frmOptions::ShowOptions() {
 void frmOptions::ShowDescription(int option) {
     const QListWidgetItem* const item = ui_->lstOptions->item(option);
     ui_->lblOption->setText(item == nullptr ? QString() : Description(item->text()));
+    ui_->lblOption->setVisible(item != nullptr);
 }
 
 // Each is looked up once: one that is missing is a record in the log each time.

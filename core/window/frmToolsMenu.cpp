@@ -5,7 +5,9 @@
 
 #include "core/Navigator.h"
 #include "core/mMain.h"
+#include "core/mTraduction.h"
 #include "platform/RuntimeError.h"
+#include "ui/look/ForReaders.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/look/ucShadow.h"
@@ -19,6 +21,8 @@
 #include <QWindow>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 constexpr QPoint shadowOffset{7, 2}; // of the dark copies, from their entries' corners
@@ -38,6 +42,7 @@ frmToolsMenu::frmToolsMenu(QWidget* parent)
     if (mMain::NoGameOfFirstThree())
         ui_->Label1_2->setEnabled(false);
     ui_->lblVersion->setText(mMain::VersionText());
+    ui_->lblVersion->setAccessibleName(mTraduction::GetText(u"About"_s) + u", "_s + mMain::VersionText());
     PlaceTexts();
 
     for (int index = 0; index < static_cast<int>(entries_.size()); ++index) {
@@ -52,6 +57,7 @@ frmToolsMenu::frmToolsMenu(QWidget* parent)
 frmToolsMenu::~frmToolsMenu() = default;
 
 void frmToolsMenu::Dress() {
+    ForReaders::SetRole(*this, QAccessible::Window);
     setMouseTracking(true);
     setMask(ucShadow::Area(rect()));
     ui_->lblTitle->setFont(Style::HeadingFont(24));
@@ -69,6 +75,7 @@ void frmToolsMenu::Dress() {
     for (QLabel* shadow : shadows_) {
         shadow->setFont(Style::HeadingFont(15));
         shadow->setAttribute(Qt::WA_TransparentForMouseEvents);
+        ForReaders::Hide(*shadow);
         colour(shadow, Style::Colour::ShadowOnPicture);
     }
     for (QLabel* description : descriptions_) {
@@ -90,6 +97,20 @@ void frmToolsMenu::PlaceTexts() {
     const int right = ui_->lblVersion->geometry().right();
     ui_->lblVersion->resize(ui_->lblVersion->sizeHint().width(), ui_->lblVersion->height());
     ui_->lblVersion->move(right - ui_->lblVersion->width() + 1, ui_->lblVersion->y());
+}
+
+// Picture, entries and letters alike.
+void frmToolsMenu::ShrinkTo(const QSize& room) {
+    const qreal part = std::min(qreal(room.width()) / width(), qreal(room.height()) / height());
+    for (QWidget* const child : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        const QRectF place(child->geometry());
+        child->setGeometry(QRectF(place.topLeft() * part, place.size() * part).toAlignedRect());
+        QFont font = child->font();
+        font.setPointSizeF(font.pointSizeF() * part);
+        child->setFont(font);
+    }
+    setFixedSize((QSizeF(size()) * part).toSize());
+    setMask(ucShadow::Area(rect()));
 }
 
 void frmToolsMenu::EntryClicked(int index) {

@@ -4,6 +4,8 @@
 /// The program's home window: a picture with five text entries, moved by its background.
 #pragma once
 
+#include "ui/window/ScreenKeeper.h"
+
 #include <QPixmap>
 #include <QWidget>
 
@@ -17,7 +19,7 @@ namespace Ui {
 class frmToolsMenu;
 }
 
-class frmToolsMenu : public QWidget {
+class frmToolsMenu : public QWidget, public ShrinkingWindow {
     Q_OBJECT
 public:
     explicit frmToolsMenu(QWidget* parent = nullptr);
@@ -30,6 +32,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void ShrinkTo(const QSize& room) override;
     void Dress();
     void PlaceTexts();
     void EntryClicked(int index);

@@ -91,6 +91,7 @@ void CsfEditor::Load(const QString& path, qint32 language) {
     state_.Modified = false;
     history_.Begin();
     rescue_.Opened();
+    Document::NoteRecent(u"csf"_s, path);
     view_.StateChanged();
     TellLost();
     view_.ShowWindow();

@@ -87,6 +87,9 @@ public:
 
     void New();
     void Open();
+    /// Opens that file (inside path) in the document's place, after the question about changes; one that can't be
+    /// opened is told.
+    void OpenInstead(const QString& path);
     void Save();
     void SaveAs();
     void Add();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "core/Host.h"
+#include "core/LastTime.h"
 #include "core/mTraduction.h"
 #include "csf/document/CsfEditor.h"
 #include "csf/format/mCSF.h"
@@ -23,7 +24,7 @@ Host::FileDialog TableDialog(const QString& path) {
             .Filter = u"Fichiers CSF (*.csf)|*.csf"_s,
             .DefaultExtension = u"csf"_s,
             .DefaultName = u"*.csf"_s,
-            .Folder = Document::FolderForDialogs(path)};
+            .Folder = Document::FolderToOpenIn(u"csf"_s, path)};
 }
 
 } // namespace
@@ -75,8 +76,20 @@ void CsfEditor::New() {
 void CsfEditor::Open() {
     if (Locked() || !GoOnWithoutChanges(Paths::LastPart(state_.Path)))
         return;
-    if (const auto path = Host::Current().OpenFileName(TableDialog(state_.Path)))
-        OpenCSFFile(*path);
+    const auto path = Host::Current().OpenFileName(TableDialog(state_.Path));
+    if (!path)
+        return;
+    LastTime::NoteFolder(u"csf"_s, Paths::Folder(*path));
+    OpenCSFFile(*path);
+}
+
+void CsfEditor::OpenInstead(const QString& path) {
+    if (Locked() || !GoOnWithoutChanges(Paths::LastPart(state_.Path)))
+        return;
+    if (Files::FileExists(path))
+        OpenCSFFile(path);
+    else
+        TellRefused(path);
 }
 
 void CsfEditor::Save() {
@@ -105,6 +118,7 @@ Saved CsfEditor::SaveUnderName() {
     const auto path = Host::Current().SaveFileName(TableDialog(state_.Path));
     if (!path)
         return Saved::Cancelled;
+    LastTime::NoteFolder(u"csf"_s, Paths::Folder(*path));
     state_.Path = *path;
     state_.Caption = Paths::LastPart(*path);
     state_.FrameVisible = true;
@@ -125,6 +139,7 @@ Saved CsfEditor::Write() {
         if (written) {
             history_.Saved(list_);
             rescue_.Saved();
+            Document::NoteRecent(u"csf"_s, state_.Path);
         } else {
             history_.NeverAsSaved();
         }

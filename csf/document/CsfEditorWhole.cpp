@@ -148,6 +148,7 @@ void CsfEditor::LoadWhole(const QString& path) {
     history_.Begin();
     ShowWholeRows(behind_->AllRows());
     rescue_.Opened();
+    Document::NoteRecent(u"csf"_s, path);
 }
 
 bool CsfEditor::WriteWholeTable() {

@@ -10,6 +10,7 @@
 #include "csf/window/ValueText.h"
 #include "ui/list/RowListModel.h"
 #include "ui/text/Localisation.h"
+#include "ui/window/RecentFiles.h"
 #include "ui/window/SideMenu.h"
 #include "ui/window/WindowPlace.h"
 #include "ui_frmCSFEditor.h"
@@ -75,6 +76,7 @@ void frmCSFEditor::Dress() {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         ui_->lvStrings2->addAction(action);
     }
+    RecentFiles::Lead(*ui_->mnuRecent, u"csf"_s, [this](const QString& path) { editor_.OpenInstead(path); });
     UnderlinePointed(ui_->picLeftMenu, {ui_->Label2_0, ui_->Label2_1, ui_->Label2_2, ui_->Label2_3, ui_->Label2_4});
     ui_->lvStrings2->setFocus();
 }

@@ -5,11 +5,13 @@
 
 #include "core/mTraduction.h"
 #include "media/PictureView.h"
+#include "ui/look/ForReaders.h"
 
 using namespace Qt::StringLiterals;
 
 MapPreview::MapPreview(QWidget* parent) : QWidget(parent), image_(new PictureView(this)) {
     image_->setObjectName(u"Image1"_s);
+    ForReaders::SetRole(*image_, QAccessible::Graphic);
     image_->setAccessibleName(mTraduction::GetText(u"Map"_s));
     image_->hide();
 }

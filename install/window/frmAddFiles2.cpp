@@ -79,6 +79,7 @@ void frmAddFiles2::Dress() {
         part->hide();
     ui_->tvFiles->setAccessibleName(mTraduction::GetText(u"AFText22"_s));
     ui_->txtFileName->setAccessibleName(mTraduction::GetText(u"File2"_s));
+    ui_->txtFileName->setAccessibleDescription(u" "_s); // else it were the tip, with its marks
     ui_->txtName->setAccessibleName(mTraduction::GetText(u"Name2"_s));
     ui_->txtComments->setAccessibleName(mTraduction::GetText(u"Comments2"_s));
 }

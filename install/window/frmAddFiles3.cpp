@@ -16,7 +16,7 @@ frmAddFiles3::frmAddFiles3(QWidget* parent) : WizardPage(parent), ui_(std::make_
     Localise(u"AddFiles"_s, u"Close"_s);
     AddMnemonics();
     NextButton()->setEnabled(false);
-    ui_->ProgressBar1->setAccessibleName(ui_->lblText->text());
+    ui_->ProgressBar1->setAccessibleName(windowTitle());
     ShowOutcome({});
 }
 

@@ -103,7 +103,7 @@ void frmPersonalFiles::MakeRoomForTree() {
 
 void frmPersonalFiles::NameForReaders() {
     ui_->tvFiles->setAccessibleName(mTraduction::GetText(u"PersonalFiles"_s));
-    ui_->tvFiles->setAccessibleDescription(mTraduction::GetText(u"ChooseKind"_s));
+    ui_->tvFiles->setAccessibleDescription(mTraduction::GetText(u"ChooseKind"_s).section(u'\n', 1));
     ui_->lstReplays->setAccessibleName(mTraduction::GetText(u"Replays"_s));
     ui_->lstMaps->setAccessibleName(mTraduction::GetText(u"Maps"_s));
     ui_->lstMods->setAccessibleName(mTraduction::GetText(u"Mods"_s));

@@ -165,6 +165,23 @@ void CoolFileBox::SelectDocuments() {
     Select(model_->TopNode(FileBoxKey::Documents));
 }
 
+// Each reading serves the interface.
+void CoolFileBox::SelectPath(const QString& folder) {
+    const int wish = ++wished_;
+    const QPersistentModelIndex before = trv_File_->currentIndex();
+    int reached = FileBoxTree::None;
+    for (int next = model_->ChildToward(model_->Root(), folder); next != FileBoxTree::None;
+         next = model_->ChildToward(reached, folder)) {
+        reached = next;
+        if (model_->Path(reached).size() == folder.size())
+            break;
+        trv_File_->expand(model_->IndexOf(reached));
+        if (wish != wished_ || before != trv_File_->currentIndex())
+            return;
+    }
+    Select(reached);
+}
+
 void CoolFileBox::SelectNewFolder(const QString& name) {
     const QPersistentModelIndex parent = trv_File_->currentIndex();
     const int above = FileBoxTree::NodeOf(parent);

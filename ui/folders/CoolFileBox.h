@@ -41,6 +41,10 @@ public:
     /// Selects the user's documents, where a new visitor most likely wants to be.
     void SelectDocuments();
 
+    /// Selects the folder (inside path with its backslash at the end), or the nearest one above it that the tree shows;
+    /// what is on the way is read. Gives up where the user selects another meanwhile.
+    void SelectPath(const QString& folder);
+
     /// Selects a folder that has just been made in the selected one.
     void SelectNewFolder(const QString& name);
 
@@ -102,6 +106,7 @@ private:
     std::unique_ptr<Model> model_;
     QTreeView* trv_File_;
     QPixmap mouseIcon_;
+    int wished_ = 0; ///< counts the calls of SelectPath
     int borderStyle_ = 0;
     int appearance_ = 1;
     int mousePointer_ = 0;

@@ -136,6 +136,25 @@ int FileBoxTree::ChildNamed(int node, const QString& name) const {
     return found != children.end() ? *found : None;
 }
 
+int FileBoxTree::ChildToward(int node, const QString& folder) const {
+    if (!Has(node))
+        return None;
+    int best = None;
+    qsizetype length = Path(node).size(); // a link may lead up again
+    for (const auto sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+        for (const int child : nodes_.at(node).Children) {
+            const QString path = Path(child);
+            if (path.size() > length && path.endsWith(u'\\') && folder.startsWith(path, sensitivity)) {
+                best = child;
+                length = path.size();
+            }
+        }
+        if (best != None)
+            break;
+    }
+    return best;
+}
+
 void FileBoxTree::Take(Walk& walk, const ShellFolders::Entry& entry) const {
     if (entry.IsHidden && !ShowHiddenFiles)
         return;

@@ -56,6 +56,10 @@ public:
     /// The child that shows this name; None when there is none.
     [[nodiscard]] int ChildNamed(int node, const QString& name) const;
 
+    /// The child by which a folder (inside path) below the node is reached, or which is that folder; None when none is
+    /// shown.
+    [[nodiscard]] int ChildToward(int node, const QString& folder) const;
+
     [[nodiscard]] bool Has(int node) const { return nodes_.contains(node); }
 
     [[nodiscard]] QString Key(int node) const { return nodes_.at(node).Key; }

@@ -4,6 +4,7 @@
 #include "ui/look/Hint.h"
 
 #include "ui/look/DrawnIcon.h"
+#include "ui/look/ForReaders.h"
 #include "ui/look/Style.h"
 
 #include <QPainter>
@@ -58,6 +59,7 @@ void DrawHint(QPainter& painter, const QRect& area, const Hint& hint) {
 
 void HintPane::SetHint(const Hint& hint) {
     hint_ = hint;
+    ForReaders::SetRole(*this, QAccessible::StaticText);
     setAccessibleName(hint.Text);
     update();
 }

@@ -6,6 +6,7 @@
 #include "ui/skin/FamilyStyle.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPalette>
 #include <QToolTip>
 
@@ -48,8 +49,31 @@ QPalette FamilyPalette() {
     palette.setColor(QPalette::ToolTipText, Qt::black);
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, Colour::DisabledText);
+    palette.setColor(QPalette::Disabled, QPalette::Base, Colour::Face);
     return palette;
 }
+
+void DressClasses() {
+    const QPalette palette = FamilyPalette();
+    QToolTip::setPalette(palette);
+    for (const char* name : classesWithFaces)
+        QApplication::setFont(Style::TextFont(), name);
+    for (const char* name : classesWithColours)
+        QApplication::setPalette(palette, name);
+}
+
+/// A system whose colours change, as when its high contrast is turned on, gives its own to these classes again: white
+/// letters would stand on the family's white.
+class ColourKeeper : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ThemeChange && watched->isWindowType())
+            DressClasses();
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 } // namespace
 
@@ -68,15 +92,15 @@ QFont Style::LinkFont(bool underlined) {
     return font;
 }
 
-void Style::Apply(QApplication& /*application*/) {
+void Style::Apply(QApplication& application) {
     QApplication::setStyle(new FamilyStyle);
-    const QPalette palette = FamilyPalette();
-    QApplication::setPalette(palette);
-    QToolTip::setPalette(palette);
-    const QFont font = TextFont();
-    QApplication::setFont(font);
-    for (const char* name : classesWithFaces)
-        QApplication::setFont(font, name);
-    for (const char* name : classesWithColours)
-        QApplication::setPalette(palette, name);
+    QApplication::setPalette(FamilyPalette());
+    QApplication::setFont(TextFont());
+    DressClasses();
+    const QString keeper = u"colourKeeper"_s;
+    if (application.findChild<QObject*>(keeper, Qt::FindDirectChildrenOnly) != nullptr)
+        return;
+    auto* const keeps = new ColourKeeper(&application);
+    keeps->setObjectName(keeper);
+    application.installEventFilter(keeps);
 }

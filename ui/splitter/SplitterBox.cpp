@@ -5,8 +5,10 @@
 
 #include "core/mTraduction.h"
 #include "platform/RuntimeError.h"
+#include "ui/look/ForReaders.h"
 #include "ui/look/Style.h"
 
+#include <QAbstractButton>
 #include <QChildEvent>
 #include <QImage>
 #include <QKeyEvent>
@@ -44,6 +46,18 @@ protected:
             painter.drawEllipse(QRectF(rect()).center() + step * place, radius, radius);
     }
 };
+
+/// What a pane is called: itself, or the first in it that has a name.
+QString NameOf(const QWidget& pane) {
+    if (!pane.accessibleName().isEmpty())
+        return pane.accessibleName();
+    for (const auto* const part : pane.findChildren<QWidget*>())
+        if (const auto* const button = qobject_cast<const QAbstractButton*>(part); button != nullptr)
+            return button->text();
+        else if (!part->accessibleName().isEmpty())
+            return part->accessibleName();
+    return {};
+}
 
 /// The ghost bar. The screen itself can't be drawn on, so it lies over the panes, inverts what is below, and is erased
 /// by being hidden.
@@ -122,6 +136,7 @@ SplitterBox::SplitterBox(QWidget* parent)
       splitter_(u"Brindock"_s),
       space_(std::make_unique<Space>(*this)) {
     bar_ = new BarWidget(this);
+    ForReaders::SetRole(*bar_, QAccessible::Splitter);
     bar_->setObjectName(u"bar"_s);
     bar_->setFocusPolicy(Qt::TabFocus);
     bar_->setAccessibleName(mTraduction::GetText(u"PaneDivider"_s));
@@ -217,8 +232,12 @@ void SplitterBox::PlaceBar() {
 
 bool SplitterBox::event(QEvent* event) {
     // Children come and go, and the order of the keyboard is only settled when the window is shown.
-    if (event->type() == QEvent::Polish && first_ && second_)
+    if (event->type() == QEvent::Polish && first_ && second_) {
         setTabOrder(first_->Widget(), bar_);
+        bar_->stackUnder(second_->Widget()); // screen readers too find it between the panes
+        const QString what = NameOf(*first_->Widget());
+        bar_->setAccessibleName(mTraduction::GetText(u"PaneDivider"_s) + (what.isEmpty() ? what : u": "_s + what));
+    }
     return QWidget::event(event);
 }
 

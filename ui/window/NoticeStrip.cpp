@@ -4,6 +4,7 @@
 #include "ui/window/NoticeStrip.h"
 
 #include "core/mTraduction.h"
+#include "ui/look/NameTip.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/skin/EnterKey.h"
@@ -172,8 +173,7 @@ void NoticeStrip::ShowNotice(const Notice& notice) {
         links_.at(link)->setText(is ? notice.Links[link].Text : QString());
         links_.at(link)->setVisible(is);
     }
-    cross_->setAccessibleName(mTraduction::GetText(u"Close"_s));
-    cross_->setToolTip(cross_->accessibleName());
+    NameTip::Give(*cross_, mTraduction::GetText(u"Close"_s));
     setAccessibleName(notice_.Text);
     updateGeometry();
     Arrange();

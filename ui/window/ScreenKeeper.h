@@ -2,12 +2,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 /// Keeps every window on its screen: none opens larger than the room there is, or with its title or its menus outside.
+/// What needs more room than there is scrolls.
 #pragma once
 
 #include <QObject>
 #include <QRect>
 
 class QWidget;
+
+/// A window without a layout, which knows itself how it becomes smaller.
+class ShrinkingWindow {
+public:
+    virtual ~ShrinkingWindow() = default;
+
+    /// Called before the window is shown where the screen has less room.
+    virtual void ShrinkTo(const QSize& room) = 0;
+};
 
 class ScreenKeeper : public QObject {
     Q_OBJECT
@@ -20,6 +30,9 @@ public:
     /// Where a window's own area goes whose wish is `wanted`: shrunk to the room that the frame leaves of `screen`, and
     /// moved into it. What can't shrink below `least` keeps its upper left corner there.
     static QRect Placed(const QRect& wanted, const QSize& least, const QRect& screen);
+
+    /// Makes a window, shown or not, fit a screen.
+    static void Fit(QWidget& window, const QRect& screen);
 
     /// An application's filter: looks at each window as it is shown.
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -62,6 +62,18 @@ void SideGroup::SetFolded(bool folded) {
     updateGeometry();
 }
 
+// Forms order the links and know of no headings: these would come where they were made, behind all else.
+bool SideGroup::event(QEvent* event) {
+    if (event->type() == QEvent::Polish) {
+        QWidget* first = heading_->nextInFocusChain();
+        while (first != heading_ && (!isAncestorOf(first) || (first->focusPolicy() & Qt::TabFocus) == 0))
+            first = first->nextInFocusChain();
+        if (first != heading_ && first->previousInFocusChain() != heading_)
+            setTabOrder(first->previousInFocusChain(), heading_);
+    }
+    return QWidget::event(event);
+}
+
 void SideGroup::paintEvent(QPaintEvent* /*event*/) {
     if (IsFolded())
         return;

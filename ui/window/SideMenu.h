@@ -43,6 +43,7 @@ public:
     void SetFolded(bool folded);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

@@ -4,6 +4,7 @@
 #include "ui/window/WindowHost.h"
 
 #include "core/mTraduction.h"
+#include "ui/look/ForReaders.h"
 #include "ui/text/Localisation.h"
 #include "ui/text/Mnemonics.h"
 #include "ui/window/FileChooser.h"
@@ -14,6 +15,7 @@
 #include <QCloseEvent>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -155,6 +157,9 @@ Host::Answer WindowHost::Message(const QString& text, Icon icon, Buttons buttons
     box.setTextFormat(Qt::PlainText);
     box.setText(mTraduction::DisplayText(text));
     box.setIcon(SignOf(icon));
+    // That it is an alert is told already.
+    if (auto* const sign = box.findChild<QLabel*>(u"qt_msgboxex_icon_label"_s))
+        ForReaders::Hide(*sign);
     const QList<Choice> choices = ChoicesOf(buttons);
     QStringList texts;
     for (const Choice& choice : choices)

@@ -4,6 +4,7 @@
 #include "ui/window/WizardPage.h"
 
 #include "core/mMain.h"
+#include "ui/look/ForReaders.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/text/Localisation.h"
@@ -28,9 +29,11 @@ WizardPage::WizardPage(QWidget* parent) : QDialog(parent), ui_(std::make_unique<
     ui_->setupUi(this);
     ui_->Label1->setFont(Style::HeadingFont(14));
     Colour(ui_->Label1, Style::Colour::Border);
+    ForReaders::Hide(*ui_->picCompass);
     ui_->picCompass->setPixmap(Picture::ProgramIcon().pixmap(QSize(compassSize, compassSize), devicePixelRatio()));
     // One label is the other one's light edge.
     Colour(ui_->Label5, Qt::white);
+    ForReaders::Hide(*ui_->Label5);
     Colour(ui_->Label6, Style::Colour::DisabledText);
     ui_->Label5->setContentsMargins(0, 1, 0, 0);
     ui_->Label6->setContentsMargins(0, 0, 1, 1);

@@ -4,6 +4,7 @@
 #include "ui/window/frmProgress.h"
 
 #include "core/mMain.h"
+#include "ui/look/ForReaders.h"
 #include "ui/text/Localisation.h"
 #include "ui_frmProgress.h"
 
@@ -23,7 +24,8 @@ frmProgress::frmProgress(QWidget* parent) : QWidget(parent, Qt::Dialog), ui_(std
     ui_->setupUi(this);
     mTraduction::ApplyLanguage(this);
     ui_->Animation1->Load(mMain::ProgramFolder + u"\\anim.rsc"_s);
-    ui_->Animation1->setAccessibleName(windowTitle());
+    ForReaders::SetRole(*this, QAccessible::Dialog);
+    ForReaders::Hide(*ui_->Animation1);
     ui_->ProgressBar1->setAccessibleName(windowTitle());
     timer_.setObjectName(u"Timer1"_s);
     timer_.setParent(this);

@@ -5,6 +5,7 @@
 
 #include "core/ProgramFolders.h"
 #include "core/mMain.h"
+#include "ui/look/ForReaders.h"
 #include "ui/look/Picture.h"
 #include "ui/look/Style.h"
 #include "ui/text/Localisation.h"
@@ -67,11 +68,13 @@ void frmUpdate::Dress() {
     // One label is the other one's light edge.
     Colour(ui_->lblVersion2, Qt::white);
     Colour(ui_->lblVersion1, Style::Colour::DisabledText);
+    ForReaders::Hide(*ui_->lblVersion2); // the other's light edge
     ui_->lblVersion2->setContentsMargins(0, 1, 0, 0);
     ui_->lblVersion1->setContentsMargins(0, 0, 1, 1);
+    ForReaders::Hide(*ui_->imgNoUpdate);
     ui_->imgNoUpdate->setPixmap(Picture::Load(u"information"_s, devicePixelRatio()));
     ui_->lblPercent->setMinimumWidth(ui_->lblPercent->fontMetrics().horizontalAdvance(u"100%"_s));
-    ui_->Animation1->setAccessibleName(ui_->Label7->text());
+    ForReaders::Hide(*ui_->Animation1);
     ui_->ProgressBar1->setAccessibleName(ui_->Frame2->title());
     Mnemonics::AddTo({ui_->cmdDownload, ui_->cmdCancel});
     ui_->picPanels->setCurrentWidget(ui_->picSearching);

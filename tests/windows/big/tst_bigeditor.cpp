@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "core/SettingKeys.h"
 #include "core/Settings.h"
 #include "tests/windows/big/BigEditorWindow.h"
 
@@ -226,6 +227,35 @@ private Q_SLOTS:
         QVERIFY(!Tree()->accessibleName().isEmpty());
         QVERIFY(!Files()->Current()->accessibleName().isEmpty());
         QVERIFY(!Part<QStatusBar>("StatusBar1")->accessibleName().isEmpty());
+    }
+
+    void foldersLookAlikeInTreeAndList_data() {
+        QTest::addColumn<QByteArray>("systemIcons");
+        QTest::newRow("own") << QByteArray("0");
+        QTest::newRow("system's") << QByteArray("1");
+    }
+
+    void foldersLookAlikeInTreeAndList() {
+        QFETCH(QByteArray, systemIcons);
+        WriteSetting(SettingKeys::ViewFileIcons, QString::fromLatin1(systemIcons));
+        OpenArchive();
+        const auto picture = [](const QModelIndex& row) {
+            return row.data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
+        };
+        const QModelIndex data = Tree()->model()->index(0, 0, Tree()->model()->index(0, 0));
+        QVERIFY(!picture(data).isNull());
+        QCOMPARE(picture(data), picture(Files()->Current()->model()->index(0, 0)));
+    }
+
+    void rowsAreOneHeightInTreeAndList() {
+        OpenArchive();
+        ViewItem(1)->trigger();
+        const auto height = [](QAbstractItemView* view, const QModelIndex& row) {
+            return view->visualRect(row).height();
+        };
+        const int inTree = height(Tree(), Tree()->model()->index(0, 0));
+        const int inList = height(Files()->Current(), Files()->Current()->model()->index(0, 0));
+        QCOMPARE(inList, inTree);
     }
 };
 

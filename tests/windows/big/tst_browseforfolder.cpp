@@ -51,8 +51,8 @@ private Q_SLOTS:
         QCOMPARE(Part<QCheckBox>("ckCreateDirs")->text(), u"Baum"_s);
         QCOMPARE(Part<QPushButton>("cmdOK")->text(), u"Gut"_s);
         QCOMPARE(Part<QPushButton>("cmdCancel")->text(), u"Nein"_s);
-        QCOMPARE(View()->accessibleName(), u"Nach:"_s);
-        QCOMPARE(Part<QLineEdit>("txtPath")->accessibleName(), u"Nach:"_s);
+        QCOMPARE(View()->accessibleName(), u"Folder"_s);
+        QCOMPARE(Part<QLabel>("lblFolders")->buddy(), Part<QLineEdit>("txtPath"));
     }
 
     void itStartsAtTheDocumentsWithTheTreeInFocus() {
@@ -150,6 +150,25 @@ private Q_SLOTS:
         QCOMPARE(Part<QLineEdit>("txtPath")->text(), Paths::ToNative(world_->Root() + u'\\'));
         Part<QPushButton>("cmdOK")->click();
         QCOMPARE(window_->Target().ExtractFolder, world_->Root() + u'\\');
+    }
+
+    void theTreeFollowsWhatIsTyped() {
+        const QString maps = world_->Root() + u"\\Maps\\"_s;
+        Type(Paths::ToNative(maps));
+        QTRY_COMPARE(Box()->Path(), maps);
+        QCOMPARE(Part<QLineEdit>("txtPath")->text(), Paths::ToNative(maps));
+        Type(Paths::ToNative(world_->Root() + u"\\new one"_s));
+        QTRY_COMPARE(Box()->Path(), world_->Root() + u'\\');
+        QCOMPARE(Part<QLineEdit>("txtPath")->text(), Paths::ToNative(world_->Root() + u"\\new one"_s));
+        Part<QPushButton>("cmdOK")->click();
+        QCOMPARE(window_->Target().ExtractFolder, world_->Root() + u"\\new one\\"_s);
+    }
+
+    void aClickInTheTreeEndsWhatIsTyped() {
+        Type(Paths::ToNative(world_->Root() + u"\\Maps"_s));
+        QTest::mouseClick(View()->viewport(), Qt::LeftButton, {}, View()->visualRect(View()->currentIndex()).center());
+        QTest::qWait(500);
+        QCOMPARE(Box()->Path(), world_->Root() + u'\\');
     }
 
     void theLastPlaceIsOfferedFirst() {

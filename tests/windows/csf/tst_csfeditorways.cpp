@@ -7,6 +7,7 @@
 #include "tests/windows/csf/CsfEditorWindow.h"
 
 #include <QCheckBox>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -79,6 +80,18 @@ private Q_SLOTS:
         EveryWay::Use(*window_, used, way);
         QVERIFY(used.Done());
         QVERIFY(host_->FileNames.empty());
+    }
+
+    void recentFilesAreOpenedByTheirMenu() {
+        OpenThree();
+        CsfTable{0, {{u"v"_s, u"other"_s}}}.Write(NewPath());
+        window_->OpenCSFFile(NewPath());
+        auto* const menu = Part<QMenu>("mnuRecent");
+        Q_EMIT menu->aboutToShow();
+        QCOMPARE(menu->actions().size(), 2);
+        QVERIFY(menu->actions()[0]->text().endsWith("new.csf"_L1));
+        menu->actions()[1]->trigger();
+        QCOMPARE(Names().size(), 3);
     }
 
     void undoAndRedoAreThereWhenTheyCanBe() {

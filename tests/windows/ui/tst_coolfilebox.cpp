@@ -57,6 +57,32 @@ private Q_SLOTS:
         QVERIFY(machine_->Walked.isEmpty());
     }
 
+    void aPathIsFoundAsFarAsItIsShown_data() {
+        QTest::addColumn<QString>("wanted");
+        QTest::addColumn<QString>("found");
+        QTest::newRow("a folder") << u"C:\\Games\\Maps\\"_s << u"C:\\Games\\Maps\\"_s;
+        QTest::newRow("in other case") << u"c:\\games\\MAPS\\"_s << u"C:\\Games\\Maps\\"_s;
+        QTest::newRow("missing") << u"C:\\Games\\Mods\\a\\"_s << u"C:\\Games\\"_s;
+        QTest::newRow("begins alike") << u"C:\\Games2\\"_s << u"C:\\"_s;
+        QTest::newRow("hidden") << u"C:\\Hidden\\"_s << u"C:\\"_s;
+        QTest::newRow("no drive") << u"Q:\\"_s << QString();
+    }
+
+    void aPathIsFoundAsFarAsItIsShown() {
+        QFETCH(QString, wanted);
+        QFETCH(QString, found);
+        Show();
+        box_->SelectPath(wanted);
+        QCOMPARE(box_->Path(), found);
+    }
+
+    void aLinkThatLeadsUpAgainIsNotFollowed() {
+        machine_->Entries[u"C:\\Games\\"_s] = {ScriptedMachine::Link(u"up"_s, u"C:\\"_s)};
+        Show();
+        box_->SelectPath(u"C:\\Games\\Maps\\"_s);
+        QCOMPARE(box_->Path(), u"C:\\Games\\"_s);
+    }
+
     void theModelKeepsTheRules() {
         const QAbstractItemModelTester tester(View()->model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
         box_->SetShowFiles(true);

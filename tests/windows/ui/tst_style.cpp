@@ -20,12 +20,17 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QTextEdit>
 #include <QToolButton>
 #include <QTreeView>
+#include <QWindow>
 #include <QtMath>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <functional>
+#include <memory>
 
 class tst_style : public QObject {
     Q_OBJECT
@@ -52,6 +57,54 @@ private:
     }
 
 private Q_SLOTS:
+
+    void theFamilysColoursStayWhenTheSystemsBecomeHighContrast() {
+        Style::Apply(*qApp);
+        QMenuBar window;
+        window.show();
+        const QPalette before = window.palette();
+        QPalette contrast(Qt::black, Qt::black);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            contrast.setColor(role, Qt::white);
+        for (const char* name : {"QMenuBar", "QAbstractItemView", "QLineEdit", "QLabel", "QAbstractButton"})
+            QApplication::setPalette(contrast, name);
+        QEvent change(QEvent::ThemeChange);
+        QApplication::sendEvent(window.windowHandle(), &change);
+        QCOMPARE(window.palette().color(QPalette::Text), before.color(QPalette::Text));
+        for (const auto& [text, ground] :
+             {std::pair{QPalette::WindowText, QPalette::Window}, std::pair{QPalette::Text, QPalette::Base},
+              std::pair{QPalette::Text, QPalette::AlternateBase}, std::pair{QPalette::ButtonText, QPalette::Button},
+              std::pair{QPalette::HighlightedText, QPalette::Highlight},
+              std::pair{QPalette::ToolTipText, QPalette::ToolTipBase}, std::pair{QPalette::Link, QPalette::Window}})
+            for (const char* name : {"QMenuBar", "QAbstractItemView", "QLineEdit", "QLabel", "QAbstractButton"}) {
+                const QPalette palette = QApplication::palette(name);
+                QVERIFY2(Contrast(palette.color(text), palette.color(ground)) >= 4.5, name);
+            }
+    }
+
+    void boxesThatAreDisabledLookSo_data() {
+        QTest::addColumn<int>("kind");
+        QTest::newRow("line") << 0;
+        QTest::newRow("text") << 1;
+        QTest::newRow("rich text") << 2;
+        QTest::newRow("list that opens") << 3;
+        QTest::newRow("list") << 4;
+    }
+
+    void boxesThatAreDisabledLookSo() {
+        QFETCH(const int, kind);
+        Style::Apply(*qApp);
+        const std::array<std::function<QWidget*()>, 5> makers{
+            [] { return new QLineEdit(QStringLiteral("text")); }, [] { return new QPlainTextEdit; },
+            [] { return new QTextEdit; }, [] { return new QComboBox; }, [] { return new QTreeView; }};
+        const std::unique_ptr<QWidget> box(makers.at(static_cast<std::size_t>(kind))());
+        box->resize(100, 60);
+        const QImage enabled = Shown(*box, 1);
+        box->setEnabled(false);
+        const QImage disabled = Shown(*box, 1);
+        for (const QPoint place : {QPoint(70, 45), QPoint(0, 30)})
+            QVERIFY(enabled.pixelColor(place) != disabled.pixelColor(place)); // its ground, its edge
+    }
 
     void listsAndMenusHaveTheFamilysFaceWhereTheSystemHasAnother() {
         for (const char* name : {"QMenuBar", "QAbstractItemView"})

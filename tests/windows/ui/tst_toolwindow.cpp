@@ -285,6 +285,29 @@ private Q_SLOTS:
         QVERIFY(screen.contains(dialog.pos()));
     }
 
+    void aDialogThatNeedsMoreRoomScrollsAndKeepsItsOrder() {
+        QDialog dialog;
+        auto* const column = new QVBoxLayout(&dialog);
+        std::vector<QLineEdit*> fields;
+        for (int row = 0; row < 30; ++row) {
+            fields.push_back(new QLineEdit(&dialog));
+            column->addWidget(fields.back());
+        }
+        QWidget::setTabOrder(fields[0], fields[29]);
+        fields[0]->setFocus();
+        dialog.show();
+        dialog.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        ScreenKeeper::Fit(dialog, {0, 0, 640, 360});
+        QCoreApplication::processEvents();
+        QVERIFY(dialog.height() <= 360);
+        QVERIFY(fields[0]->hasFocus());
+        QVERIFY(fields[29]->visibleRegion().isEmpty());
+        QTest::keyClick(fields[0], Qt::Key_Tab);
+        QVERIFY(fields[29]->hasFocus());
+        QVERIFY(!fields[29]->visibleRegion().isEmpty());
+    }
+
 private:
     std::unique_ptr<World> world_;
     std::unique_ptr<ScriptedNavigator> navigator_;
