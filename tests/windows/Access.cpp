@@ -144,7 +144,7 @@ bool Access::IsReachedByTab(QWidget& window) {
         QCoreApplication::processEvents();
         const QImage with = Around(window, *focused);
         focused->clearFocus();
-        if (Around(window, *focused) == with)
+        if (focused != &window && Around(window, *focused) == with) // a window of its own shows it by its frame
             amiss += u"The focus does not show: "_s + NameOf(*focused);
         focused->setFocus(Qt::TabFocusReason);
         QTest::keyClick(focused, Qt::Key_Tab);

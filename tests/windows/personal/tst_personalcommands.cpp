@@ -255,7 +255,7 @@ private Q_SLOTS:
             QVERIFY2(!action->shortcut().isEmpty(), qPrintable(action->objectName()));
             keys += action->shortcut().toString();
         }
-        QCOMPARE(keys.size(), 14);
+        QCOMPARE(keys.size(), 15);
         QCOMPARE(keys.removeDuplicates(), 0);
     }
 
