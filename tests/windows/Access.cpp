@@ -22,6 +22,7 @@
 #include <QTest>
 #include <QTextEdit>
 
+#include <algorithm>
 #include <set>
 
 using namespace Qt::StringLiterals;
@@ -85,10 +86,9 @@ bool IsReached(const QWidget& widget, const std::set<const QWidget*>& reached) {
     const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
     if (button == nullptr || !button->autoExclusive())
         return false;
-    for (const auto* const other : widget.parentWidget()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly))
-        if (other->autoExclusive() && reached.contains(other))
-            return true;
-    return false;
+    const auto others = widget.parentWidget()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
+    return std::any_of(others.begin(), others.end(),
+                       [&](const QAbstractButton* other) { return other->autoExclusive() && reached.contains(other); });
 }
 
 /// All of a control, or of what is large a good part; of a list the row that has the keyboard.

@@ -156,10 +156,9 @@ QString Spoken(QAccessibleInterface& element) {
 }
 
 bool IsLabelOf(QAccessibleInterface& label, QAccessibleInterface& control) {
-    for (const auto& [other, relation] : label.relations(QAccessible::Labelled))
-        if (other->object() == control.object())
-            return true;
-    return false;
+    const auto labelled = label.relations(QAccessible::Labelled);
+    return std::any_of(labelled.begin(), labelled.end(),
+                       [&](const auto& relation) { return relation.first->object() == control.object(); });
 }
 
 QStringList FaultsBetween(QAccessibleInterface& one, QAccessibleInterface& other) {
