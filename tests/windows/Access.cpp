@@ -40,6 +40,8 @@ QStringList Masked(QStringList lines, const Access::Expected& expected) {
     for (QString& line : lines) {
         if (!mask.isEmpty())
             line.replace(Paths::ToNative(mask), u"WORLD"_s).replace(mask, u"WORLD"_s);
+        if (const qsizetype path = line.indexOf(u"WORLD"_s); path >= 0) // as every system writes it
+            line = line.first(path) + line.sliced(path).replace(u'\\', u'/');
         if (!expected.Date.isEmpty())
             line.replace(expected.Date, u"WHEN"_s);
         line.replace(mMain::VersionText(), u"VERSION"_s);
