@@ -85,6 +85,9 @@ void OnAbort(int signal) {
 void CrashHandlers::Install(const QString& path) {
     file = Paths::ToNative(path).toStdWString();
     folder = file.substr(0, file.find_last_of(L"/\\"));
+    // A stack that is full keeps so much for the filter.
+    ULONG kept = 64UL * 1024;
+    SetThreadStackGuarantee(&kept);
     SetUnhandledExceptionFilter(OnException);
     std::signal(SIGABRT, OnAbort);
 }

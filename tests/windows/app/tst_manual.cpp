@@ -22,17 +22,15 @@
 #include "tests/support/ScriptedNavigator.h"
 #include "tests/support/World.h"
 #include "tests/update/ScriptedHttp.h"
+#include "tests/windows/OpenedPages.h"
 #include "tests/windows/WindowTests.h"
-#include "ui/window/ManualKey.h"
 #include "ui/window/frmLeftOut.h"
 #include "ui/window/frmProgress.h"
 #include "update/window/frmUpdate.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QDesktopServices>
 #include <QMenu>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -78,13 +76,6 @@ QString FileOf(const Manual::Place& place) {
 
 class tst_manual : public QObject {
     Q_OBJECT
-public Q_SLOTS:
-
-    void takeUrl(const QUrl& url) { opened_ += url; }
-
-private:
-    QList<QUrl> opened_;
-
 private Q_SLOTS:
 
     void init() {
@@ -95,14 +86,11 @@ private Q_SLOTS:
         for (const Manual::Place& place : Manual::Places()) {
             world_->WriteFile(u"program\\manual\\en\\"_s + FileOf(place).replace(u'/', u'\\'), "page");
         }
-        qApp->installEventFilter(&key_);
-        QDesktopServices::setUrlHandler(u"file"_s, this, "takeUrl");
+        opened_ = std::make_unique<OpenedPages>();
     }
 
     void cleanup() {
-        QDesktopServices::unsetUrlHandler(u"file"_s);
-        qApp->removeEventFilter(&key_);
-        opened_.clear();
+        opened_.reset();
         world_.reset();
     }
 
@@ -128,21 +116,21 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(shown.get()));
         QWidget* const focus = shown->focusWidget();
         QTest::keyClick(focus != nullptr ? focus : shown.get(), Qt::Key_F1);
-        QCOMPARE(opened_.size(), 1);
-        QVERIFY2(opened_.first().toString().endsWith(file), qPrintable(opened_.first().toString()));
+        QCOMPARE(opened_->Urls.size(), 1);
+        QVERIFY2(opened_->Urls.first().toString().endsWith(file), qPrintable(opened_->Urls.first().toString()));
         QVERIFY(host_.Messages.empty());
         QVERIFY(navigator_.Calls.isEmpty());
     }
 
     void theHelpMenusOfTheToolsBeginWithIt() {
         for (const QString& tool : {u"frmBigEditor"_s, u"frmCSFEditor"_s, u"frmPersonalFiles"_s}) {
-            opened_.clear();
+            opened_->Urls.clear();
             const std::unique_ptr<QWidget> shown = Makers().value(tool)();
             QAction* const entry = shown->findChild<QMenu*>(u"mnuHelp"_s)->actions().first();
             QCOMPARE(entry->objectName(), u"mnuManual"_s);
             QCOMPARE(entry->shortcut(), QKeySequence(Qt::Key_F1));
             entry->trigger();
-            QCOMPARE(opened_.size(), 1);
+            QCOMPARE(opened_->Urls.size(), 1);
         }
     }
 
@@ -150,7 +138,7 @@ private:
     std::unique_ptr<World> world_;
     ScriptedHost host_;
     ScriptedNavigator navigator_;
-    ManualKey key_;
+    std::unique_ptr<OpenedPages> opened_;
 };
 
 WINDOW_TEST(tst_manual)

@@ -4,26 +4,26 @@
 #include "platform/Paths.h"
 #include "tests/support/ScriptedHost.h"
 #include "tests/support/World.h"
+#include "tests/windows/OpenedPages.h"
 #include "tests/windows/WindowTests.h"
-#include "ui/window/ManualKey.h"
 #include "ui/window/frmProgress.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
 class tst_manualkey : public QObject {
     Q_OBJECT
-public Q_SLOTS:
 
-    void takeUrl(const QUrl& url) { opened_ += url.toLocalFile().section(u'/', -2); }
-
-private:
-    QStringList opened_;
+    /// Each with the folder that it lies in.
+    [[nodiscard]] QStringList Opened() const {
+        QStringList pages;
+        for (const QUrl& url : opened_->Urls)
+            pages += url.toLocalFile().section(u'/', -2);
+        return pages;
+    }
 
 private Q_SLOTS:
 
@@ -33,35 +33,32 @@ private Q_SLOTS:
         world_->Start();
         world_->WriteFile(u"program\\manual\\en\\index.html"_s, "page");
         world_->WriteFile(u"program\\manual\\en\\at\\start.work.html"_s, "page");
-        qApp->installEventFilter(&key_);
-        QDesktopServices::setUrlHandler(u"file"_s, this, "takeUrl");
+        opened_ = std::make_unique<OpenedPages>();
     }
 
     void cleanup() {
-        QDesktopServices::unsetUrlHandler(u"file"_s);
-        qApp->removeEventFilter(&key_);
-        opened_.clear();
+        opened_.reset();
         world_.reset();
     }
 
     void f1AsksForTheWindowsPlace() {
         frmProgress window;
         QTest::keyClick(&window, Qt::Key_F1);
-        QCOMPARE(opened_, QStringList{u"at/start.work.html"_s});
+        QCOMPARE(Opened(), QStringList{u"at/start.work.html"_s});
     }
 
     void aBoxStandsForTheWindowBelowIt() {
         frmProgress window;
         QMessageBox box(&window);
         QTest::keyClick(&box, Qt::Key_F1);
-        QCOMPARE(opened_, QStringList{u"at/start.work.html"_s});
+        QCOMPARE(Opened(), QStringList{u"at/start.work.html"_s});
     }
 
     void whatHasNoPlaceLeadsToTheFirstPage() {
         QWidget window;
         auto* const edit = new QLineEdit(&window);
         QTest::keyClick(edit, Qt::Key_F1);
-        QCOMPARE(opened_, QStringList{u"en/index.html"_s});
+        QCOMPARE(Opened(), QStringList{u"en/index.html"_s});
         QVERIFY(edit->text().isEmpty());
     }
 
@@ -72,7 +69,7 @@ private Q_SLOTS:
         QTest::keyClick(&edit, Qt::Key_F1, Qt::ControlModifier);
         QTest::keyClick(&edit, Qt::Key_F2);
         QCOMPARE(edit.text(), u"a"_s);
-        QVERIFY(opened_.isEmpty());
+        QVERIFY(opened_->Urls.isEmpty());
     }
 
     void aKeyThatIsHeldOpensItOnce() {
@@ -81,7 +78,7 @@ private Q_SLOTS:
         QApplication::sendEvent(&window, &first);
         QKeyEvent again(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, {}, true);
         QApplication::sendEvent(&window, &again);
-        QCOMPARE(opened_.size(), 1);
+        QCOMPARE(opened_->Urls.size(), 1);
     }
 
     void withoutAManualTheUserIsTold() {
@@ -90,7 +87,7 @@ private Q_SLOTS:
         world_->Start();
         QWidget window;
         QTest::keyClick(&window, Qt::Key_F1);
-        QVERIFY(opened_.isEmpty());
+        QVERIFY(opened_->Urls.isEmpty());
         QCOMPARE(host_.Messages.size(), 1U);
         QCOMPARE(host_.Messages[0].Text,
                  u"Kein Handbuch: "_s + Paths::ToNative(world_->ProgramFolder() + u"\\manual"_s));
@@ -99,7 +96,7 @@ private Q_SLOTS:
 private:
     std::unique_ptr<World> world_;
     ScriptedHost host_;
-    ManualKey key_;
+    std::unique_ptr<OpenedPages> opened_;
 };
 
 WINDOW_TEST(tst_manualkey)
