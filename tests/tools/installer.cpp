@@ -3,48 +3,16 @@
 
 /// What can be told of the installer for Windows without running it; packaging/windows/try runs it.
 
-#include "Places.h"
-#include "tests/support/Printing.h"
+#include "tests/tools/ScriptTest.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Ran {
-    int Code = 0;
-    QString Output;
-    QString Errors;
-};
-
-Ran RunProgram(const QString& program, const QStringList& arguments, const QString& temporary = {}) {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"SOURCE_DATE_EPOCH"_s, u"1700000000"_s);
-    if (!temporary.isEmpty())
-        environment.insert(u"TMPDIR"_s, temporary);
-    process.setProcessEnvironment(environment);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.start(program, arguments);
-    if (!process.waitForFinished(120000))
-        return {-1, {}, u"it did not end"_s};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-QString Packaging(const QString& name) {
-    return QLatin1StringView(Places::Sources) + u"/packaging/windows/"_s + name;
-}
-
 /// A folder that stands for the suite.
-class Installer : public testing::Test {
+class Installer : public ScriptTest {
 protected:
     Installer() {
         Write(u"suite/brindock.exe"_s, "MZ suite");
@@ -52,26 +20,13 @@ protected:
         Write(u"suite/licences/one two.txt"_s, "licence");
     }
 
-    [[nodiscard]] QString Path(const QString& name) const { return folder_.filePath(name); }
-
-    void Write(const QString& name, const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(Path(name)).path());
-        QFile file(Path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    [[nodiscard]] QByteArray Read(const QString& name) const {
-        QFile file(Path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
-
     [[nodiscard]] Ran Make(const QString& suite, const QString& file, const QString& version = u"3.5.4"_s,
                            const QString& temporary = {}) const {
-        return RunProgram(Packaging(u"installer"_s), {Path(suite), Path(file), version}, temporary);
+        QMap<QString, QString> variables{{u"SOURCE_DATE_EPOCH"_s, u"1700000000"_s}};
+        if (!temporary.isEmpty())
+            variables.insert(u"TMPDIR"_s, temporary);
+        return RunProgram(Script(u"packaging/windows/installer"_s), {Path(suite), Path(file), version}, variables);
     }
-
-    QTemporaryDir folder_;
 };
 
 /// The text as Windows' resources and NSIS have it.
@@ -86,9 +41,10 @@ TEST_F(Installer, HoldsTheSuiteItsListAndTheIcons) {
     ASSERT_EQ(made.Code, 0) << qPrintable(made.Errors);
     const Ran listed = RunProgram(u"7z"_s, {u"l"_s, u"-slt"_s, Path(u"setup.exe"_s)});
     for (const QString& name :
-         {u".setup/brindock.exe"_s, u".setup/updater.cfg"_s, u".setup/licences/one two.txt"_s, u".setup/files.txt"_s,
-          u"icons/archive.ico"_s, u"icons/table.ico"_s, u"icons/map.ico"_s, u"icons/replay.ico"_s, u"uninstall.exe"_s})
-        EXPECT_TRUE(listed.Output.contains(u"Path = "_s + name + u'\n')) << qPrintable(name);
+         {u".brindock-setup/brindock.exe"_s, u".brindock-setup/updater.cfg"_s,
+          u".brindock-setup/licences/one two.txt"_s, u".brindock-setup/files.txt"_s, u"icons/archive.ico"_s,
+          u"icons/table.ico"_s, u"icons/map.ico"_s, u"icons/replay.ico"_s, u"uninstall.exe"_s})
+        EXPECT_TRUE(listed.Output.contains(QByteArray("Path = " + name.toUtf8() + '\n'))) << qPrintable(name);
     EXPECT_FALSE(QFile::exists(Path(u"suite/files.txt"_s))) << "The folder it was made of stays as it was.";
 }
 
@@ -138,15 +94,15 @@ TEST_F(Installer, IsRefusedWithOneLineAndMakesNothing) {
 
 TEST_F(Installer, ListsTheFilesOfAFolderInOneOrder) {
     Write(u"suite/Z.txt"_s, "x");
-    ASSERT_EQ(RunProgram(Packaging(u"list-files"_s), {Path(u"suite"_s)}).Code, 0);
+    ASSERT_EQ(RunProgram(Script(u"packaging/windows/list-files"_s), {Path(u"suite"_s)}).Code, 0);
     EXPECT_EQ(Read(u"suite/files.txt"_s),
               "Z.txt\r\nbrindock.exe\r\nfiles.txt\r\nlicences\\one two.txt\r\nupdater.cfg\r\n");
-    ASSERT_EQ(RunProgram(Packaging(u"list-files"_s), {Path(u"suite"_s)}).Code, 0);
+    ASSERT_EQ(RunProgram(Script(u"packaging/windows/list-files"_s), {Path(u"suite"_s)}).Code, 0);
     EXPECT_EQ(Read(u"suite/files.txt"_s).count("files.txt"), 1) << "Itself once, also the second time.";
 }
 
 TEST_F(Installer, SpeaksTheSuitesLanguages) {
-    QFile script(Packaging(u"setup/language.nsh"_s));
+    QFile script(Script(u"packaging/windows/setup/language.nsh"_s));
     ASSERT_TRUE(script.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(script.readAll());
     QStringList known;

@@ -1,16 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Brindock authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "Places.h"
-#include "tests/support/Printing.h"
+#include "tests/tools/ScriptTest.h"
 #include "update/Signature.h"
-
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -20,22 +12,8 @@ const QString Version =
     u"%1.%2.%3"_s.arg(BRINDOCK_VERSION_MAJOR).arg(BRINDOCK_VERSION_MINOR).arg(BRINDOCK_VERSION_REVISION);
 const QString PackedName = u"out/brindock-%1.run"_s.arg(Version);
 
-struct Ran {
-    int Code = 0;
-    QString Errors;
-};
-
-Ran RunProgram(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.start(program, arguments);
-    if (!process.waitForFinished(60000))
-        return {-1, u"it did not end"_s};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
-}
-
 /// A folder with what is to be released.
-class Release : public testing::Test {
+class Release : public ScriptTest {
 protected:
     Release() {
         Write(u"tree/brindock"_s, "#!/bin/sh\nprintf '%s' \"$0\" > \"$(dirname \"$0\")/mark\"\n");
@@ -46,30 +24,14 @@ protected:
         Write(u"patch-352.exe"_s, "patch");
     }
 
-    [[nodiscard]] QString Path(const QString& name) const { return folder_.filePath(name); }
-
-    void Write(const QString& name, const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(Path(name)).path());
-        QFile file(Path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    [[nodiscard]] QByteArray Read(const QString& name) const {
-        QFile file(Path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-    }
-
     [[nodiscard]] Ran Make(const QString& system, const QStringList& more) const {
-        return RunProgram(QLatin1StringView(Places::Sources) + u"/packaging/release"_s,
+        return RunProgram(Script(u"packaging/release"_s),
                           QStringList{system, Path(u"out"_s), u"--url"_s, u"http://example.test/suite"_s} + more);
     }
 
     [[nodiscard]] Ran MakePacked() const { return Make(u"linux"_s, {u"--from"_s, Path(u"tree"_s)}); }
 
     [[nodiscard]] QString Packed() const { return Path(PackedName); }
-
-    QTemporaryDir folder_;
 };
 
 } // namespace

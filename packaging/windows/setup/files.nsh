@@ -5,7 +5,7 @@
 
 !define LIST_NAME "files.txt"
 ; Where new files wait until all of them are there.
-!define WAITING ".setup"
+!define WAITING ".brindock-setup"
 
 Var Folder  ; the one that a walk over a list is about
 Var File    ; the file that the walk has come to, relative to it
