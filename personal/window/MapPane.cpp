@@ -5,7 +5,6 @@
 
 #include "media/PictureView.h"
 #include "personal/document/PersonalFiles.h"
-#include "ui/look/ForReaders.h"
 #include "ui/window/SideMenu.h"
 
 using namespace Qt::StringLiterals;
@@ -26,9 +25,7 @@ void MapPane::ShowPicture(const QByteArray& bitmap) {
 
 void MapPane::SetGroupHeight(int height) {
     setFixedHeight(qMax(0, height - SideGroup::HeadingHeight));
-    auto* const picture = findChild<PictureView*>(u"Image2"_s);
-    ForReaders::SetRole(*picture, QAccessible::Graphic);
-    picture->setVisible(height >= PersonalFiles::MapPaneWithPicture);
+    findChild<PictureView*>(u"Image2"_s)->setVisible(height >= PersonalFiles::MapPaneWithPicture);
 }
 
 void MapPane::resizeEvent(QResizeEvent* event) {

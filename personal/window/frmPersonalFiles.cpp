@@ -9,6 +9,7 @@
 #include "personal/window/KindListModel.h"
 #include "personal/window/PersonalPictures.h"
 #include "platform/Paths.h"
+#include "ui/look/ForReaders.h"
 #include "ui/text/Localisation.h"
 #include "ui/text/Mnemonics.h"
 #include "ui/window/DroppedFiles.h"
@@ -110,6 +111,7 @@ void frmPersonalFiles::NameForReaders() {
     ui_->lstShellMaps->setAccessibleName(mTraduction::GetText(u"ShellMaps"_s));
     ui_->tvPlayers->setAccessibleName(mTraduction::GetText(u"Players"_s));
     ui_->tvPlayers->setAccessibleDescription(mTraduction::GetText(u"PlayersHelp"_s));
+    ForReaders::SetRole(*ui_->Image2, QAccessible::Graphic);
     ui_->Image2->setAccessibleName(mTraduction::GetText(u"Map"_s));
     ui_->txtMName->setAccessibleDescription(mTraduction::GetText(u"BoxesHelp"_s));
     ui_->txtMComments->setAccessibleDescription(mTraduction::GetText(u"BoxesHelp"_s));
